@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# Installs what is missing of the Debian 12 packages for the purposes named: construir, medir, probar, revisar.
+# Does nothing, and needs neither root nor a network, when all is there.
+set -euo pipefail
+
+declare -rA paquetes=(
+    [construir]="g++ cmake ninja-build ccache libcli11-dev libtomlplusplus-dev"
+    [medir]="libbenchmark-dev"
+    [probar]="libgtest-dev librapidcheck-dev binutils locales"
+    [revisar]="clang libclang-rt-14-dev clang-format-14 clang-tidy-14"
+)
+
+como_root() {
+    if ((EUID == 0)); then "$@"; else sudo "$@"; fi
+}
+
+instalado() {
+    [[ $(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
+}
+
+# The tests of the decimal comma run under it.
+generar_es_ES() {
+    if ! locale -a | grep -qix 'es_ES\.utf-\?8'; then
+        como_root localedef -i es_ES -f UTF-8 es_ES.UTF-8
+    fi
+}
+
+faltan=()
+for proposito in "$@"; do
+    for paquete in ${paquetes[$proposito]}; do
+        instalado "$paquete" || faltan+=("$paquete")
+    done
+done
+if ((${#faltan[@]})); then
+    echo "Se instalan: ${faltan[*]}"
+    como_root apt-get -qq update
+    como_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${faltan[@]}" \
+        </dev/null
+fi
+[[ " $* " != *" probar "* ]] || generar_es_ES

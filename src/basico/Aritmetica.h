@@ -1,0 +1,28 @@
+// Checked 64-bit arithmetic: what would give an infinity or a NaN faults instead.
+#pragma once
+
+namespace varo {
+
+/// The literal that the whole program uses for pi.
+inline constexpr double Pi = 3.1415927;
+
+/// The number itself; an infinity or a NaN throws 6.
+double ExigirFinito(double numero);
+
+/// a / b. b = 0 throws 11 (0 / 0 too); leaving the range of a 64-bit float throws 6.
+double Dividir(double a, double b);
+
+/// Square root; a negative argument throws 5.
+double Raiz(double x);
+
+/// a raised to b. 0 to a negative power throws 11, a negative base with a fractional exponent 5, overflow 6.
+double Potencia(double a, double b);
+
+/// Arc sine and arc cosine in radians; an argument outside -1..1 throws 1004.
+double Asin(double x);
+double Acos(double x);
+
+/// The whole number nearest to x, halves to even.
+double RedondearPar(double x);
+
+} // namespace varo

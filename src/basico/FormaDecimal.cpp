@@ -1,0 +1,98 @@
+#include "basico/FormaDecimal.h"
+
+#include "basico/Aritmetica.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <string_view>
+
+namespace varo {
+
+namespace {
+
+// No 64-bit float has more significant digits than this: its scientific form with one digit before the point
+// and 766 behind it is exact.
+constexpr int decimalesExactos = 766;
+constexpr std::size_t largoExacto = 800;
+
+constexpr int cifrasDe64Bits = 15;
+constexpr int cifrasDe32Bits = 7;
+
+void quitarCerosFinales(std::string& cifras) {
+    cifras.erase(cifras.find_last_not_of('0') + 1);
+}
+
+/// Takes "-1.25e+03" apart.
+FormaDecimal DeCientifica(std::string_view texto) {
+    FormaDecimal forma;
+    forma.negativo = texto.front() == '-';
+    if (forma.negativo) {
+        texto.remove_prefix(1);
+    }
+    const auto e = texto.find('e');
+    std::string_view exponente = texto.substr(e + 1);
+    if (exponente.front() == '+') {
+        exponente.remove_prefix(1);
+    }
+    std::from_chars(exponente.data(), exponente.data() + exponente.size(), forma.punto);
+    ++forma.punto; // from one digit before the point to none
+    forma.cifras = texto[0];
+    forma.cifras += texto.substr(0, e).substr(std::min<std::size_t>(e, 2)); // past the decimal point
+    quitarCerosFinales(forma.cifras);
+    return forma.cifras.empty() ? FormaDecimal{} : forma;
+}
+
+FormaDecimal ConCifras(double numero, int significativas) {
+    std::array<char, largoExacto> texto{};
+    const auto escrito = std::to_chars(texto.data(), texto.data() + texto.size(), ExigirFinito(numero),
+                                       std::chars_format::scientific, decimalesExactos);
+    FormaDecimal forma = DeCientifica({texto.data(), escrito.ptr});
+    forma.redondear(significativas);
+    return forma;
+}
+
+} // namespace
+
+void FormaDecimal::redondear(int cuantas) {
+    if (cuantas >= static_cast<int>(cifras.size())) {
+        return;
+    }
+    if (cuantas < 0) {
+        cifras.clear();
+        return;
+    }
+    const auto corte = static_cast<std::size_t>(cuantas);
+    const bool sube = cifras[corte] >= '5';
+    cifras.erase(corte);
+    if (!sube) {
+        quitarCerosFinales(cifras);
+        return;
+    }
+    // The carry runs over the nines at the end; past the first digit it makes a new one.
+    cifras.erase(cifras.find_last_not_of('9') + 1);
+    if (cifras.empty()) {
+        cifras.push_back('1');
+        ++punto;
+    } else {
+        ++cifras.back();
+    }
+}
+
+FormaDecimal EnDecimal(double numero) {
+    return ConCifras(numero, cifrasDe64Bits);
+}
+
+FormaDecimal EnDecimal(float numero) {
+    return ConCifras(numero, cifrasDe32Bits);
+}
+
+FormaDecimal EnDecimalJusto(double numero) {
+    std::array<char, largoExacto> texto{};
+    const auto escrito = std::to_chars(texto.data(), texto.data() + texto.size(), ExigirFinito(numero),
+                                       std::chars_format::scientific);
+    return DeCientifica({texto.data(), escrito.ptr});
+}
+
+} // namespace varo

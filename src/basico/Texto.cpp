@@ -1,0 +1,122 @@
+#include "basico/Texto.h"
+
+#include "basico/ErrorEjecucion.h"
+
+#include <algorithm>
+
+namespace varo {
+
+namespace {
+
+/// A character begins at every byte that does not continue one.
+bool Empieza(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+/// The byte where the character number `indice` (0 is the first) begins; the end past the last one.
+std::size_t Comienzo(std::string_view texto, std::size_t indice) {
+    for (std::size_t byte = 0; byte < texto.size(); ++byte) {
+        if (!Empieza(texto[byte])) {
+            continue;
+        }
+        if (indice == 0) {
+            return byte;
+        }
+        --indice;
+    }
+    return texto.size();
+}
+
+/// The rest of the text from position `desde` on.
+std::string_view Resto(std::string_view texto, std::size_t desde) {
+    if (desde == 0) {
+        throw ErrorEjecucion{fallo::argumentoNoValido};
+    }
+    return texto.substr(Comienzo(texto, desde - 1));
+}
+
+char32_t Minuscula(char32_t c) {
+    if ((c >= U'A' && c <= U'Z') || (c >= U'À' && c <= U'Þ' && c != U'×')) {
+        return c + 0x20;
+    }
+    if (c == U'İ') {
+        return U'i';
+    }
+    if (c == U'Ÿ') {
+        return U'ÿ';
+    }
+    // Latin Extended-A pairs each capital with the letter behind it: capitals are the even ones, and the odd
+    // ones in two stretches.
+    const bool impares = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
+    const bool pares = (c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177);
+    const bool mayuscula = (impares && c % 2 == 1) || (pares && c % 2 == 0);
+    return mayuscula ? c + 1 : c;
+}
+
+} // namespace
+
+std::size_t Longitud(std::string_view texto) {
+    return static_cast<std::size_t>(std::ranges::count_if(texto, Empieza));
+}
+
+std::string Izquierda(std::string_view texto, std::size_t cuantos) {
+    return std::string{texto.substr(0, Comienzo(texto, cuantos))};
+}
+
+std::string Derecha(std::string_view texto, std::size_t cuantos) {
+    const std::size_t longitud = Longitud(texto);
+    return std::string{texto.substr(cuantos < longitud ? Comienzo(texto, longitud - cuantos) : 0)};
+}
+
+std::string Medio(std::string_view texto, std::size_t desde) {
+    return std::string{Resto(texto, desde)};
+}
+
+std::string Medio(std::string_view texto, std::size_t desde, std::size_t cuantos) {
+    return Izquierda(Resto(texto, desde), cuantos);
+}
+
+std::size_t Posicion(std::string_view texto, std::string_view buscado, std::size_t desde) {
+    const std::string_view resto = Resto(texto, desde);
+    const auto hallado = resto.find(buscado);
+    if (resto.empty() || hallado == std::string_view::npos) {
+        return 0;
+    }
+    return desde + Longitud(resto.substr(0, hallado));
+}
+
+std::string Recortar(std::string_view texto) {
+    const auto primero = texto.find_first_not_of(' ');
+    if (primero == std::string_view::npos) {
+        return {};
+    }
+    return std::string{texto.substr(primero, texto.find_last_not_of(' ') - primero + 1)};
+}
+
+std::string Reemplazar(std::string_view texto, std::string_view buscado, std::string_view nuevo) {
+    if (buscado.empty()) {
+        return std::string{texto};
+    }
+    std::string resultado;
+    for (auto hallado = texto.find(buscado); hallado != std::string_view::npos;
+         hallado = texto.find(buscado)) {
+        resultado += texto.substr(0, hallado);
+        resultado += nuevo;
+        texto.remove_prefix(hallado + buscado.size());
+    }
+    return resultado.append(texto);
+}
+
+std::string Minusculas(std::string_view texto) {
+    std::string resultado;
+    while (!texto.empty()) {
+        AnadirUtf8(resultado, Minuscula(SacarUtf8(texto)));
+    }
+    return resultado;
+}
+
+bool MismoNombre(std::string_view a, std::string_view b) {
+    return Minusculas(a) == Minusculas(b);
+}
+
+} // namespace varo

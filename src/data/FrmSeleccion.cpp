@@ -1,0 +1,163 @@
+#include "data/FrmSeleccion.h"
+
+#include "basico/Aritmetica.h"
+#include "basico/Entero16.h"
+#include "basico/Numeros.h"
+#include "basico/Saltando.h"
+#include "data/Hojadedatos.h"
+#include "formularios/Reloj.h"
+#include "shell/Programa.h"
+#include "shell/VAROMAIN.h"
+
+#include <filesystem>
+
+namespace varo {
+
+namespace {
+
+/// Removes the rows without data. The bound is taken once: after a removal the pass runs past the end of the
+/// grid, and that fault, like the one of removing the last row, ends it.
+void QuitarFilasVacias(Rejilla& rejilla) {
+    saltando([&] {
+        const int ultima = rejilla.Rows() - 1;
+        for (int fila = 1; fila <= ultima; ++fila) {
+            bool vacia = true;
+            for (int columna = 1; vacia && columna < rejilla.Cols(); ++columna) {
+                vacia = rejilla.TextMatrix(fila, columna).empty();
+            }
+            if (vacia) {
+                rejilla.RemoveItem(fila);
+                --fila;
+            }
+        }
+    });
+}
+
+/// Hides the columns without data; their header stays.
+void OcultarColumnasVacias(Rejilla& rejilla) {
+    saltando([&] {
+        for (int columna = 1; columna < rejilla.Cols(); ++columna) {
+            bool vacia = true;
+            for (int fila = 1; vacia && fila < rejilla.Rows(); ++fila) {
+                vacia = rejilla.TextMatrix(fila, columna).empty();
+            }
+            if (vacia) {
+                rejilla.ColWidth(columna, 0);
+            }
+        }
+    });
+}
+
+} // namespace
+
+FrmSeleccion::FrmSeleccion(Programa& programa)
+    : Formulario{programa, "FrmSeleccion", TipoVentana::Libre, "Localización de los datos"}, programa_{
+                                                                                                 programa} {
+    CmdAceptar.Click = [this] { CmdAceptar_Click(); };
+    CmdCancelar.Click = [this] { CmdCancelar_Click(); };
+}
+
+void FrmSeleccion::CmdAceptar_Click() {
+    const Reloj reloj{*this};
+    try {
+        abrirHoja();
+        ultimoFallo_.reset();
+    } catch (const ErrorEjecucion& error) {
+        ultimoFallo_ = error;
+        MousePointer = punteroNormal;
+        programa_.servicios().mensaje("No se ha encontrado la hoja seleccionada. Intente de nuevo",
+                                      "Hoja no encontrada", mensaje::exclamacion);
+    }
+}
+
+void FrmSeleccion::abrirHoja() {
+    RellenarGrid(CboHoja.Text);
+    auto& hoja = programa_.tocar<Hojadedatos>();
+    auto& marco = programa_.tocar<VAROMAIN>();
+    const std::filesystem::path archivo{marco.DlogoAbrir.FileName};
+    hoja.Caption = CboHoja.Text() + " " + archivo.filename().string();
+    hoja.MSFlexGrid1.Width = hoja.Width();
+    hoja.MSFlexGrid1.Height = hoja.Height();
+    hoja.MSFlexGrid1.Visible = true;
+    hoja.Show();
+    Hide();
+    MousePointer = punteroNormal;
+    marco.mnuCerrar.Enabled = true;
+    marco.mnuAbrir.Enabled = false;
+    marco.mnuMapa.Enabled = true;
+    marco.mnuOpciones.Enabled = true;
+}
+
+double FrmSeleccion::anchoConMargen(const std::string& texto) const {
+    constexpr double margen = 100;
+    return RedondearPar(static_cast<double>(programa_.servicios().anchoTexto(texto)) + margen);
+}
+
+void FrmSeleccion::RellenarGrid(const std::string& hoja) {
+    auto& ventana = programa_.tocar<Hojadedatos>();
+    auto& datos = ventana.Data1;
+    auto& rejilla = ventana.MSFlexGrid1;
+    datos.RecordSource = hoja;
+    const Entero16 campos = datos.Database().TableDefs()(hoja).Fields.Count();
+    rejilla.Cols(campos.valor() + 1);
+    datos.Refresh();
+    datos.Recordset().MoveLast();
+    rejilla.Rows(datos.Recordset().RecordCount() + 1);
+    datos.Recordset().MoveFirst();
+    escribirEncabezados(hoja);
+    copiarFilas(hoja);
+    QuitarFilasVacias(rejilla);
+    OcultarColumnasVacias(rejilla);
+    rejilla.ColSel = 0;
+}
+
+void FrmSeleccion::escribirEncabezados(const std::string& hoja) {
+    auto& ventana = programa_.tocar<Hojadedatos>();
+    auto& rejilla = ventana.MSFlexGrid1;
+    const auto& campos = ventana.Data1.Database().TableDefs()(hoja).Fields;
+    rejilla.Row(0);
+    for (int columna = rejilla.Cols() - 1; columna >= 1; --columna) {
+        rejilla.Col(columna);
+        rejilla.Text(campos(columna - 1).Name);
+        rejilla.ColWidth(columna, static_cast<int>(anchoConMargen(rejilla.Text())));
+    }
+    rejilla.TextMatrix(0, 0, "Nº de punto");
+    // The current cell is still the first field's header: column 0 is meant to take its width from that.
+    rejilla.ColWidth(0, static_cast<int>(anchoConMargen(rejilla.Text())));
+}
+
+void FrmSeleccion::copiarFilas(const std::string& hoja) {
+    auto& ventana = programa_.tocar<Hojadedatos>();
+    auto& rejilla = ventana.MSFlexGrid1;
+    auto& filas = ventana.Data1.Recordset();
+    const int campos = ventana.Data1.Database().TableDefs()(hoja).Fields.Count();
+    Entero16 contador = 1;
+    while (!filas.Eof()) {
+        rejilla.Row(rejilla.Row() + 1);
+        // The loop is meant to end one short: the last field of a table gets a header and no data.
+        for (int columna = 0; columna < campos; ++columna) {
+            rejilla.Col(columna);
+            if (columna == 0) {
+                rejilla.Text(ATexto(contador.valor()));
+                ++contador;
+                continue;
+            }
+            const Valor& valor = filas.Fields(columna - 1).Value;
+            rejilla.Text(EsNulo(valor) ? std::string{} : ATexto(valor));
+            const Entero16 ancho{anchoConMargen(rejilla.Text())};
+            if (ancho > rejilla.ColWidth(columna)) {
+                rejilla.ColWidth(columna, ancho.valor());
+            }
+        }
+        filas.MoveNext();
+    }
+}
+
+void FrmSeleccion::CmdCancelar_Click() {
+    auto& datos = programa_.tocar<Hojadedatos>().Data1;
+    datos.RecordSource.clear();
+    datos.DatabaseName("");
+    programa_.descargar(*this);
+}
+
+} // namespace varo

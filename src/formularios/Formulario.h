@@ -1,0 +1,82 @@
+// A window: its properties, its register of controls and the handlers of its life.
+#pragma once
+
+#include "formularios/Control.h"
+
+#include <string>
+#include <vector>
+
+namespace varo {
+
+class Ventanas;
+
+enum class TipoVentana {
+    Marco, ///< the main window, with the children inside it
+    Hija,  ///< a child of the main window
+    Libre  ///< a free top-level window
+};
+
+/// The state of a window. It is made hidden, in its design state, on its first touch, and is gone when it is
+/// unloaded; Ventanas keeps its life cycle. Measures are in twips.
+class Formulario : public Observable {
+public:
+    Formulario(Ventanas& ventanas, std::string nombre, TipoVentana tipo, std::string leyenda);
+
+    [[nodiscard]] const std::string& nombre() const { return nombre_; }
+    [[nodiscard]] TipoVentana tipo() const { return tipo_; }
+    [[nodiscard]] bool Visible() const { return visible_(); }
+
+    Propiedad<std::string> Caption;
+    Propiedad<int> MousePointer{*this, punteroNormal};
+    Propiedad<int> WindowState{*this, 0};
+    Propiedad<float> Left{*this};
+    Propiedad<float> Top{*this};
+    Propiedad<float> Width{*this};
+    Propiedad<float> Height{*this};
+
+    static constexpr int punteroNormal = 0;
+    static constexpr int relojDeArena = 11;
+
+    /// Makes the window visible and active.
+    void Show();
+    /// Makes it invisible; it stays loaded with its values.
+    void Hide();
+
+    /// The controls in the order in which they were made.
+    [[nodiscard]] const std::vector<Control*>& controles() const { return controles_; }
+    /// Null when there is no such control.
+    [[nodiscard]] Control* buscarControl(const std::string& nombre, int indice = Identidad::sinIndice) const;
+    /// Throws 340 when there is no such control.
+    [[nodiscard]] Control& control(const std::string& nombre, int indice = Identidad::sinIndice) const;
+
+    /// A person, or the platform, gave the window another size: sets it and runs Form_Resize.
+    void redimensionar(float ancho, float alto);
+
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_Deactivate() {}
+    virtual void Form_Resize() {}
+    /// False refuses the unloading.
+    virtual bool Form_QueryUnload() { return true; }
+    virtual void Form_Unload() {}
+    /// What the window's own close box does: it unloads the window, unless the window says otherwise.
+    virtual void pulsarCierre();
+
+protected:
+    [[nodiscard]] Ventanas& ventanas() const { return ventanas_; }
+
+private:
+    friend class Control;
+    friend class Ventanas;
+
+    void registrar(Control& control) { controles_.push_back(&control); }
+    void darFoco(Control& control);
+
+    Ventanas& ventanas_;
+    std::string nombre_;
+    TipoVentana tipo_;
+    Propiedad<bool> visible_{*this, false};
+    std::vector<Control*> controles_;
+};
+
+} // namespace varo

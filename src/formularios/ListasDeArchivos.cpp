@@ -1,0 +1,111 @@
+#include "formularios/ListasDeArchivos.h"
+
+#include "basico/ErrorEjecucion.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace varo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The names in a folder, sorted, of the entries that pass.
+template <class Condicion>
+std::vector<std::string> Nombres(const std::string& ruta, Condicion condicion) {
+    std::error_code error;
+    fs::directory_iterator entrada{fs::path{ruta}, fs::directory_options::skip_permission_denied, error};
+    if (error) {
+        throw ErrorEjecucion{fallo::dispositivoNoDisponible, "No se puede leer la carpeta «" + ruta + "»"};
+    }
+    std::vector<std::string> nombres;
+    for (; entrada != fs::directory_iterator{}; entrada.increment(error)) {
+        std::error_code sinTipo;
+        if (condicion(*entrada, sinTipo)) {
+            nombres.push_back(entrada->path().filename().string());
+        }
+        if (error) {
+            break;
+        }
+    }
+    std::sort(nombres.begin(), nombres.end());
+    return nombres;
+}
+
+void Listar(Lista& lista, const std::vector<std::string>& nombres) {
+    lista.Clear();
+    for (const auto& nombre : nombres) {
+        lista.AddItem(nombre);
+    }
+}
+
+std::vector<std::string> Archivos(const std::string& ruta) {
+    return Nombres(ruta, [](const fs::directory_entry& entrada, std::error_code& error) {
+        return entrada.is_regular_file(error);
+    });
+}
+
+std::vector<std::string> Carpetas(const std::string& ruta) {
+    return Nombres(ruta, [](const fs::directory_entry& entrada, std::error_code& error) {
+        return entrada.is_directory(error);
+    });
+}
+
+std::string CarpetaActual() {
+    std::error_code error;
+    const fs::path actual = fs::current_path(error);
+    return error ? std::string{"/"} : actual.string();
+}
+
+} // namespace
+
+ListaUnidades::ListaUnidades(Formulario& ventana, Identidad identidad)
+    : Lista{ventana, std::move(identidad)}, Drive{*this, fs::path{CarpetaActual()}.root_path().string()} {
+    AddItem(Drive);
+}
+
+void ListaUnidades::alCambiar(const void* propiedad) {
+    avisar();
+    if (propiedad == &Drive) {
+        lanzar(Change);
+    }
+}
+
+ListaCarpetas::ListaCarpetas(Formulario& ventana, Identidad identidad)
+    : Lista{ventana, std::move(identidad)} {
+    Path(CarpetaActual());
+}
+
+void ListaCarpetas::Path(const std::string& ruta) {
+    if (ruta == ruta_) {
+        return;
+    }
+    const auto carpetas = Carpetas(ruta);
+    ruta_ = ruta;
+    Listar(*this, carpetas);
+    lanzar(Change);
+}
+
+ListaArchivos::ListaArchivos(Formulario& ventana, Identidad identidad)
+    : Lista{ventana, std::move(identidad)} {
+    Path(CarpetaActual());
+}
+
+void ListaArchivos::Path(const std::string& ruta) {
+    const auto archivos = Archivos(ruta);
+    ruta_ = ruta;
+    Listar(*this, archivos);
+}
+
+std::string ListaArchivos::FileName() const {
+    for (int i = 0; i < ListCount(); ++i) {
+        if (Selected(i)) {
+            return List(i);
+        }
+    }
+    return {};
+}
+
+} // namespace varo

@@ -1,0 +1,75 @@
+// What a window asks of its platform.
+#pragma once
+
+#include "basico/ErrorEjecucion.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace varo {
+
+/// Buttons, icons and answers of a message box, as numbers that add up to its flags.
+namespace mensaje {
+inline constexpr int aceptar = 0;
+inline constexpr int siNoCancelar = 3;
+inline constexpr int siNo = 4;
+inline constexpr int reintentarCancelar = 5;
+inline constexpr int critico = 16;
+inline constexpr int pregunta = 32;
+inline constexpr int exclamacion = 48;
+inline constexpr int informacion = 64;
+
+inline constexpr int respondeAceptar = 1;
+inline constexpr int respondeCancelar = 2;
+inline constexpr int respondeReintentar = 4;
+inline constexpr int respondeSi = 6;
+inline constexpr int respondeNo = 7;
+} // namespace mensaje
+
+/// The settings of an open-file dialog.
+struct DialogoAbrir {
+    std::string DialogTitle;
+    std::string FileName; ///< the path that was chosen; empty when the person cancelled
+    std::string DefaultExt;
+    std::string Filter;
+    int Flags = 0;
+};
+
+struct Fuente {
+    std::string nombre = "MS Sans Serif";
+    float tamano = 8;
+    bool negrita = false;
+    bool cursiva = false;
+    bool tachado = false;
+    bool subrayado = false;
+
+    friend bool operator==(const Fuente&, const Fuente&) = default;
+};
+
+/// A colour in the layout 0x00BBGGRR.
+using Color = std::int32_t;
+
+/// The platform of the windows: the desktop implements it with its toolkit, tests and jobs with prepared
+/// answers.
+class Servicios {
+public:
+    Servicios() = default;
+    Servicios(const Servicios&) = delete;
+    Servicios& operator=(const Servicios&) = delete;
+    virtual ~Servicios() = default;
+
+    /// Shows a modal message box and hands back the answer.
+    virtual int mensaje(const std::string& texto, const std::string& titulo, int opciones) = 0;
+    /// Tells a person of the run-time fault that ended what they had asked for.
+    virtual void fallo(const ErrorEjecucion& error) = 0;
+    /// Lets a person choose a file: sets `FileName`, to the empty text when they cancel.
+    virtual void elegirArchivo(DialogoAbrir& dialogo) = 0;
+    /// Nothing when the person cancels.
+    virtual std::optional<Fuente> elegirFuente(const Fuente& actual) = 0;
+    virtual std::optional<Color> elegirColor(Color actual) = 0;
+    /// Width of a text in twips, in the font of the windows.
+    virtual float anchoTexto(const std::string& texto) = 0;
+};
+
+} // namespace varo

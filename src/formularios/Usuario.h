@@ -1,0 +1,76 @@
+// A person's hands without a screen.
+#pragma once
+
+#include "formularios/Control.h"
+#include "formularios/Formulario.h"
+#include "formularios/Rejilla.h"
+#include "formularios/Ventanas.h"
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace varo {
+
+/// A person could not do this: the control is disabled or invisible, or its window is not there.
+class ActoImposible : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Why a control cannot be used: the control, frame or menu that stands in the way, and what is wrong with
+/// it.
+struct Impedimento {
+    enum class Motivo { VentanaOculta, Inhabilitado, Invisible };
+
+    Motivo motivo = Motivo::VentanaOculta;
+    const Control* causa = nullptr; ///< the control itself, or a frame or menu above it
+
+    [[nodiscard]] std::string texto() const;
+};
+
+/// Does what a person does with the mouse and the keyboard, and refuses with ActoImposible what a person
+/// could not do. Each act moves the activation and the focus first, as a real one would. It is refused too
+/// when that puts its control out of reach, and it comes to nothing when the field that was left takes the
+/// focus back.
+class Usuario {
+public:
+    explicit Usuario(Ventanas& ventanas) : ventanas_{ventanas} {}
+
+    /// What keeps a person from using the control at this moment; nothing when they can.
+    [[nodiscard]] static std::optional<Impedimento> impedimento(const Control& control);
+
+    /// Clicks a button, a check, an option, a menu entry or any control with a click of its own.
+    void clic(Control& control);
+    void dobleClic(Control& control);
+
+    /// Types a whole text in place of the one that is there.
+    void escribir(CajaTexto& caja, const std::string& texto);
+    void escribir(Desplegable& caja, const std::string& texto);
+
+    /// Opens a drop-down list.
+    void desplegar(Desplegable& lista);
+    /// Picks line `linea`, from 0.
+    void elegir(Desplegable& lista, int linea);
+    /// Selects or deselects a line of a list.
+    void elegir(Lista& lista, int linea, bool seleccionada = true);
+
+    /// Clicks a column of the grid.
+    void seleccionarColumna(Rejilla& rejilla, int columna);
+
+    /// Leaves the control that has the focus, as the tabulator key does.
+    void dejarFoco();
+
+    /// Clicks on the window's title.
+    void activar(Formulario& ventana);
+    /// Closes the window with its own close box.
+    void cerrar(Formulario& ventana);
+
+private:
+    void usar(Control& control, const std::function<void()>& acto);
+    void llevarActivacion(Formulario& ventana);
+
+    Ventanas& ventanas_;
+};
+
+} // namespace varo

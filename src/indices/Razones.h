@@ -1,0 +1,40 @@
+// Size ratios: the size of each tree against a statistic of the whole table, and the area per tree under the
+// assumption of an area proportional to size. They ignore the positions of the trees.
+//
+// d is the stem size as the sheet gives it; a ratio has no unit, and the ratios of girths equal those of
+// diameters. The relative diameter and basal area follow Glover and Hool (1979); the areas proportional to
+// size are 10000 / N, in m2, times the ratio.
+#pragma once
+
+#include "indices/ResultadosIndices.h"
+#include "motor/BaseDatos.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace varo {
+
+/// The size of a tree as these families read its cell: every comma a point, then the leading number.
+double TamanoDeCelda(const std::string& celda);
+
+/// True for the families that divide a size by a statistic: all but N, AB and ABj.
+bool EsRazon(Independiente familia);
+
+/// The query for the statistic of a family; not for the dominant trees.
+std::string ConsultaEstadistico(Independiente familia, const std::string& campo, const std::string& tabla);
+
+/// The dominant trees: 100 of the thickest per hectare, `n` at the most as there are trees, ties at the last
+/// size included. The quadratic mean of their sizes, or without the root the mean of the squares. No tree
+/// with a size throws 3021; an area over 3,276,750 m2 throws 6.
+double TamanoDominante(const BaseDatos& base, const std::string& campo, const std::string& tabla,
+                       double supPoligono, int arboles, bool conRaiz);
+
+/// The ratios of one family for every tree, from their sizes. `piesHa` is the number of stems per hectare,
+/// used by the areas proportional to size. A statistic of 0, or no stems, throws 11; a statistic of nothing
+/// throws 94.
+std::vector<double> CalcularRazones(Independiente familia, const BaseDatos& base, const std::string& campo,
+                                    const std::string& tabla, std::span<const double> tamanos,
+                                    double supPoligono, double piesHa);
+
+} // namespace varo

@@ -1,0 +1,69 @@
+// The results of an index run, and the table of the columns that show them.
+#pragma once
+
+#include "basico/MatrizDinamica.h"
+
+#include <array>
+#include <string_view>
+
+namespace varo {
+
+/// One array per family, one element per tree row; the last element is spare. A family that was not active in
+/// a run keeps the array of an earlier one.
+struct ResultadosIndices {
+    using Indice = MatrizDinamica<double>;
+
+    Indice IndN, IndAB, IndABj;
+    Indice IndDmed, IndDmax, IndDdom;
+    Indice IndBmed, IndBmax, IndBdom;
+    Indice IndAPDmed, IndAPDmax, IndAPDsum;
+    Indice IndAPBmed, IndAPBmax, IndAPBsum;
+};
+
+/// The distance-independent families in the order in which a run computes them.
+enum class Independiente {
+    N,
+    AB,
+    ABj,
+    Dmed,
+    Dmax,
+    Ddom,
+    Bmed,
+    Bmax,
+    Bdom,
+    APDmed,
+    APDmax,
+    APDsum,
+    APBmed,
+    APBmax,
+    APBsum
+};
+
+/// A column of the results file: the check that asks for it, its header and the array behind it.
+struct ColumnaIndependiente {
+    Independiente familia;
+    const char* casilla;
+    const char* encabezado;
+    ResultadosIndices::Indice ResultadosIndices::*indice;
+};
+
+/// In the order of the file, where the dominant trees come before the largest one.
+inline constexpr std::array<ColumnaIndependiente, 15> columnasIndependientes{{
+    {Independiente::N, "ChN", "Pies/ha", &ResultadosIndices::IndN},
+    {Independiente::AB, "ChAB", "ABha", &ResultadosIndices::IndAB},
+    {Independiente::ABj, "ChABj", "ABha(dj>di)", &ResultadosIndices::IndABj},
+    {Independiente::Dmed, "ChDmed", "di/dmed", &ResultadosIndices::IndDmed},
+    {Independiente::Ddom, "ChDdom", "di/ddom", &ResultadosIndices::IndDdom},
+    {Independiente::Dmax, "ChDmax", "di/dmax", &ResultadosIndices::IndDmax},
+    {Independiente::Bmed, "ChBmed", "bi/bmed", &ResultadosIndices::IndBmed},
+    {Independiente::Bdom, "ChBdom", "bi/bdom", &ResultadosIndices::IndBdom},
+    {Independiente::Bmax, "ChBmax", "bi/bmax", &ResultadosIndices::IndBmax},
+    {Independiente::APDmed, "ChAPDmed", "AP(di/dmed)", &ResultadosIndices::IndAPDmed},
+    {Independiente::APDmax, "ChAPDmax", "AP(di/dmax)", &ResultadosIndices::IndAPDmax},
+    {Independiente::APDsum, "ChAPDsum", "AP(di/dsum)", &ResultadosIndices::IndAPDsum},
+    {Independiente::APBmed, "ChAPBmed", "AP(bi/bmed)", &ResultadosIndices::IndAPBmed},
+    {Independiente::APBmax, "ChAPBmax", "AP(bi/bmax)", &ResultadosIndices::IndAPBmax},
+    {Independiente::APBsum, "ChAPBsum", "AP(bi/bsum)", &ResultadosIndices::IndAPBsum},
+}};
+
+} // namespace varo

@@ -1,0 +1,49 @@
+// How a job ends, and the error that ends it before its time.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace varo {
+
+/// How a job, or the whole command, ends. The values are the exit statuses of varo-lote.
+enum class Estado {
+    Hecho = 0,
+    ErrorInterno = 1,
+    Rechazado = 2, ///< the job or the command line is wrong
+    FalloDeCalculo = 3,
+    ErrorDeArchivo = 4 ///< a file cannot be read or written
+};
+
+/// Where in a job something stands: its key ("opciones.ChN") and its line in the job file, 0 when it has
+/// none.
+struct Lugar {
+    std::string clave;
+    int linea = 0;
+};
+
+/// The text with a blank for each line end and other control character.
+std::string EnUnaLinea(std::string texto);
+
+/// "trabajo.toml: línea 3: opciones.ChN: texto", in one line whatever the parts hold.
+std::string LineaDeAviso(const std::filesystem::path& trabajo, const Lugar& lugar, const std::string& texto);
+
+/// Ends a job; `what()` is the line that a person reads.
+class ErrorTrabajo : public std::runtime_error {
+public:
+    ErrorTrabajo(const std::filesystem::path& trabajo, const Lugar& lugar, const std::string& motivo,
+                 Estado estado = Estado::Rechazado, std::optional<int> fallo = std::nullopt)
+        : std::runtime_error{LineaDeAviso(trabajo, lugar, motivo)}, estado_{estado}, fallo_{fallo} {}
+
+    [[nodiscard]] Estado estado() const { return estado_; }
+    /// The number of the run-time fault behind it, when there is one.
+    [[nodiscard]] const std::optional<int>& fallo() const { return fallo_; }
+
+private:
+    Estado estado_;
+    std::optional<int> fallo_;
+};
+
+} // namespace varo

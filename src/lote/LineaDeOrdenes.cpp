@@ -1,0 +1,136 @@
+#include "lote/LineaDeOrdenes.h"
+
+#include "lote/Version.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <charconv>
+
+namespace varo {
+
+namespace {
+
+const char* const pie =
+    R"(Un trabajo dice qué parcela se lee, qué columnas tienen qué papel, qué opciones se quieren y qué archivos se
+escriben. Para empezar uno:  varo-lote --plantilla parcela.xls > trabajo.toml
+
+Acaba con 0 si todo se ha hecho; 2 si un trabajo o una orden no es correcta; 3 si falla un cálculo; 4 si un
+archivo no se puede leer o escribir. Con varios trabajos cuenta el primero que falla.)";
+
+/// The options as they are written, before they mean anything.
+struct Escritas {
+    std::vector<std::string> trabajos;
+    std::optional<std::string> archivo;
+    std::optional<std::string> hoja;
+    std::optional<std::string> salida;
+    std::optional<std::string> aLaVez;
+    std::optional<std::string> tablas;
+    std::optional<std::string> plantilla;
+    bool ayuda = false;
+    bool version = false;
+};
+
+void Declarar(CLI::App& app, Escritas& escritas) {
+    app.set_help_flag();
+    app.add_option("TRABAJO.toml", escritas.trabajos, "Los trabajos que se corren");
+    const auto declarar = [&](const char* nombre, std::optional<std::string>& destino, const char* valor,
+                              const char* descripcion) {
+        app.add_option(nombre, destino, descripcion)->type_name(valor);
+    };
+    declarar("--archivo", escritas.archivo, "F", "La parcela, en lugar de la de cada trabajo");
+    declarar("--hoja", escritas.hoja, "H", "La hoja, en lugar de la de cada trabajo");
+    declarar("--salida", escritas.salida, "DIR", "La carpeta bajo la que van las salidas");
+    declarar("--trabajos", escritas.aLaVez, "N", "Cuántos trabajos se corren a la vez (1)");
+    declarar("--tablas", escritas.tablas, "F", "Enumera las tablas y los campos de una parcela");
+    declarar("--plantilla", escritas.plantilla, "F", "Escribe un trabajo comentado para una parcela");
+    app.add_flag("--version", escritas.version, "Dice la versión");
+    app.add_flag("-h,--help", escritas.ayuda, "Muestra esta ayuda");
+    app.footer(pie);
+    const auto formato = app.get_formatter();
+    formato->label("Usage", "Uso");
+    formato->label("OPTIONS", "OPCIONES");
+    formato->label("Positionals", "Argumentos");
+    formato->label("TEXT", "");
+    app.get_option("TRABAJO.toml")->type_name("");
+    for (CLI::Option* const opcion : app.get_options()) {
+        opcion->group(opcion->get_positional() ? "Argumentos" : "Opciones");
+    }
+}
+
+/// The library tells its errors in English; the kind of error and the option say it all.
+[[noreturn]] void Rechazar(const CLI::App& app, const CLI::ParseError& error) {
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+        throw ErrorDeOrden{"no se conoce la opción " + app.remaining().front()};
+    }
+    const std::string dicho = error.what();
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+        throw ErrorDeOrden{dicho.substr(0, dicho.find(':')) + ": lleva un valor, y uno solo"};
+    }
+    throw ErrorDeOrden{"la orden no es correcta («" + dicho + "»)"};
+}
+
+int LeerCuantos(const std::string& texto) {
+    int cuantos = 0;
+    const char* const fin = texto.data() + texto.size();
+    const auto leido = std::from_chars(texto.data(), fin, cuantos);
+    if (leido.ec != std::errc{} || leido.ptr != fin || cuantos < 1) {
+        throw ErrorDeOrden{"--trabajos: se espera un número de 1 en adelante y hay «" + texto + "»"};
+    }
+    return cuantos;
+}
+
+void ExigirNoVacio(const char* nombre, const std::optional<std::string>& valor) {
+    if (valor && valor->empty()) {
+        throw ErrorDeOrden{std::string{nombre} + ": está vacío"};
+    }
+}
+
+/// Either jobs, or one question about a plot file.
+void ExigirUnaSolaCosa(const Escritas& escritas) {
+    const int preguntas = (escritas.tablas ? 1 : 0) + (escritas.plantilla ? 1 : 0);
+    const bool deTrabajos =
+        !escritas.trabajos.empty() || escritas.archivo || escritas.hoja || escritas.salida || escritas.aLaVez;
+    if (preguntas > 1 || (preguntas == 1 && deTrabajos)) {
+        throw ErrorDeOrden{"--tablas y --plantilla van solas, sin trabajos ni otras opciones"};
+    }
+    if (preguntas == 0 && escritas.trabajos.empty()) {
+        throw ErrorDeOrden{"falta el trabajo que se corre; varo-lote --help lo explica"};
+    }
+}
+
+Ordenes Interpretar(const Escritas& escritas) {
+    ExigirNoVacio("--archivo", escritas.archivo);
+    ExigirNoVacio("--hoja", escritas.hoja);
+    ExigirNoVacio("--salida", escritas.salida);
+    ExigirUnaSolaCosa(escritas);
+    Ordenes ordenes;
+    ordenes.trabajos.assign(escritas.trabajos.begin(), escritas.trabajos.end());
+    ordenes.cambios = {escritas.archivo, escritas.hoja, escritas.salida};
+    ordenes.aLaVez = escritas.aLaVez ? LeerCuantos(*escritas.aLaVez) : 1;
+    ordenes.tablas = escritas.tablas;
+    ordenes.plantilla = escritas.plantilla;
+    return ordenes;
+}
+
+} // namespace
+
+Ordenes LeerOrdenes(const std::vector<std::string>& argumentos) {
+    CLI::App app{"Calcula los índices de competencia de parcelas forestales, sin pantalla.", "varo-lote"};
+    Escritas escritas;
+    Declarar(app, escritas);
+    std::vector<std::string> alReves{argumentos.rbegin(), argumentos.rend()}; // as the library takes them
+    try {
+        app.parse(alReves);
+    } catch (const CLI::ParseError& error) {
+        Rechazar(app, error);
+    }
+    if (escritas.ayuda || escritas.version) {
+        Ordenes ordenes;
+        ordenes.texto = escritas.ayuda ? app.help() : std::string{"varo-lote "} + version + "\n";
+        return ordenes;
+    }
+    return Interpretar(escritas);
+}
+
+} // namespace varo

@@ -1,0 +1,22 @@
+// The command varo-lote: jobs in the order of the command line, several at once when asked.
+#pragma once
+
+#include "lote/ErrorTrabajo.h"
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace varo {
+
+/// Where the command writes. Everything is UTF-8.
+struct Consola {
+    std::ostream& salida;   ///< what was asked for: a line for each job that is done
+    std::ostream& errores;  ///< errors and warnings, one line each
+    bool conAvance = false; ///< tell on `errores` how far the jobs are
+};
+
+/// Runs the command with these arguments, without the program's name.
+Estado EjecutarLote(const std::vector<std::string>& argumentos, const Consola& consola);
+
+} // namespace varo

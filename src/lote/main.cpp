@@ -1,0 +1,19 @@
+#include "lote/Lote.h"
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+int main(int cuantos, char** argumentos) {
+    try {
+        const std::vector<std::string> propios{argumentos + 1, argumentos + cuantos};
+        const bool enTerminal = isatty(STDERR_FILENO) == 1;
+        return static_cast<int>(varo::EjecutarLote(propios, {std::cout, std::cerr, enTerminal}));
+    } catch (const std::exception& error) {
+        std::cerr << "error interno: " << error.what() << '\n';
+        return static_cast<int>(varo::Estado::ErrorInterno);
+    }
+}

@@ -1,0 +1,201 @@
+#include "map/FrmFormato.h"
+
+#include "basico/Numeros.h"
+#include "basico/Saltando.h"
+#include "data/FrmSeleccion.h"
+#include "data/Hojadedatos.h"
+#include "formularios/Reloj.h"
+#include "map/FrmMapa.h"
+#include "options/OpcionesPrograma.h"
+#include "plot/ConstruirPoligono.h"
+#include "shell/Programa.h"
+#include "shell/VAROMAIN.h"
+
+#include <array>
+
+namespace varo {
+
+namespace {
+
+const char* const filaDeCodigos = "1"; // tag of the first code row and its labels
+const char* const botones = "2";       // tag of the two buttons
+
+} // namespace
+
+FrmFormato::FrmFormato(Programa& programa)
+    : Formulario{programa, "FrmFormato", TipoVentana::Hija, "Formato"}, programa_{programa} {
+    Height = 2700;
+    Width = 8000;
+    CboTitFont.Font = Fuente{.nombre = "Arial"};
+    LbCodigo.crear(0);
+    TxtCodigo.crear(0);
+    CboCodFont.crear(0);
+    CboCodColor.crear(0);
+    CboCodBackColor.crear(0);
+    const std::array<Control*, 10> primeraFila{&Label10, &LbCodigo(0),       &Label7, &TxtCodigo(0),
+                                               &Label6,  &CboCodFont(0),     &Label5, &CboCodColor(0),
+                                               &Label9,  &CboCodBackColor(0)};
+    for (Control* const control : primeraFila) {
+        control->Tag = filaDeCodigos;
+        control->Top = 1400;
+    }
+    LbCod.Tag = filaDeCodigos;
+    mostrarFilas(false);
+    for (Boton* const boton : {&CmdAceptar, &CmdCancelar}) {
+        boton->Tag = botones;
+        boton->Top = 1790;
+    }
+    CmdAceptar.Click = [this] { CmdAceptar_Click(); };
+    CmdCancelar.Click = [this] { CmdCancelar_Click(); };
+}
+
+void FrmFormato::mostrarFilas(bool visibles) {
+    for (Control* const control : controles()) {
+        if (control->Tag == filaDeCodigos) {
+            control->Visible = visibles;
+        }
+    }
+}
+
+void FrmFormato::Form_Load() {
+    const auto& sesion = programa_.sesion;
+    if (programa_.tocar<OpcionesPrograma>().ChCodigo.Value() == 1) {
+        const Entero16 columnaCodigo = sesion.Columnas(sesion.UltimaColumna.valor());
+        if (columnaCodigo != sesion.Columnas(0)) {
+            auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
+            rejilla.Col(columnaCodigo.valor());
+            rejilla.OrdenarAscendente();
+            ListaCodigos();
+            FilasCodigos();
+            rejilla.Col(1);
+            rejilla.OrdenarAscendente();
+        }
+    }
+    CboTitFont.Text = CboTitFont.Font().nombre;
+    TxtTitName.Text = "Parcela " + programa_.tocar<FrmSeleccion>().CboHoja.Text();
+}
+
+void FrmFormato::ListaCodigos() {
+    auto& sesion = programa_.sesion;
+    const auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
+    const int columna = sesion.Columnas(sesion.UltimaColumna.valor()).valor();
+    sesion.NumCodigos = 0;
+    sesion.Codigos.clear();
+    // The first data row is compared with the header: a code that is equal to it is not taken there.
+    for (int fila = 0; fila + 1 < rejilla.Rows(); ++fila) {
+        const std::string& siguiente = rejilla.TextMatrix(fila + 1, columna);
+        if (siguiente != rejilla.TextMatrix(fila, columna) && !siguiente.empty()) {
+            sesion.Codigos.push_back(siguiente);
+            ++sesion.NumCodigos;
+        }
+    }
+}
+
+void FrmFormato::FilasCodigos() {
+    constexpr float altoParaCodigos = 1290;
+    constexpr float bajadaDeFila = 600;
+    constexpr float bajadaDeBotones = 1320;
+    auto& sesion = programa_.sesion;
+    if (sesion.NumCodigos > 0) {
+        LbCodigo(0).Caption = sesion.Codigos.front();
+        mostrarFilas(true);
+    }
+    CboCodFont(0).Text = CboCodFont(0).Font().nombre;
+    if (sesion.VecesFormato == 0) {
+        if (sesion.CierresConMapa == 0) {
+            sesion.AltoFormato = Entero16{static_cast<double>(Height())};
+        } else {
+            Height = static_cast<float>(sesion.AltoFormato.valor());
+        }
+    }
+    Height = static_cast<float>(sesion.AltoFormato.valor()) + altoParaCodigos;
+    for (Control* const control : controles()) {
+        if (control->Tag == filaDeCodigos) {
+            control->Top = control->Top() + bajadaDeFila;
+        } else if (control->Tag == botones) {
+            control->Top = control->Top() + bajadaDeBotones;
+        }
+    }
+    for (int codigo = 1; codigo < sesion.NumCodigos.valor(); ++codigo) {
+        crearFila(codigo);
+    }
+}
+
+void FrmFormato::crearFila(int codigo) {
+    constexpr float altoDeFila = 630;
+    constexpr float margenDeBotones = 910;
+    LbCodigo.crear(codigo, programa_.sesion.Codigos[static_cast<std::size_t>(codigo)]);
+    TxtCodigo.crear(codigo);
+    auto& fuente = CboCodFont.crear(codigo);
+    fuente.Text = fuente.Font().nombre;
+    CboCodColor.crear(codigo);
+    CboCodBackColor.crear(codigo);
+    const auto debajo = [](Control& nuevo, const Control& anterior) {
+        nuevo.Left = anterior.Left();
+        nuevo.Top = anterior.Top() + altoDeFila;
+    };
+    debajo(LbCodigo(codigo), LbCodigo(codigo - 1));
+    debajo(TxtCodigo(codigo), TxtCodigo(codigo - 1));
+    debajo(CboCodFont(codigo), CboCodFont(codigo - 1));
+    debajo(CboCodColor(codigo), CboCodColor(codigo - 1));
+    debajo(CboCodBackColor(codigo), CboCodBackColor(codigo - 1));
+    Height = Height() + altoDeFila;
+    for (Boton* const boton : {&CmdAceptar, &CmdCancelar}) {
+        boton->Top = Height() - margenDeBotones;
+    }
+}
+
+void FrmFormato::limpiarRejilla() {
+    const auto& sesion = programa_.sesion;
+    auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
+    const int ultima = rejilla.Rows() - 1;
+    // The bound is taken once: after a removal the walk runs past the end, and that fault ends it.
+    saltando([&] {
+        for (int fila = 1; fila <= ultima; ++fila) {
+            if (rejilla.TextMatrix(fila, sesion.Columnas(0).valor()).empty() &&
+                rejilla.TextMatrix(fila, sesion.Columnas(1).valor()).empty()) {
+                rejilla.RemoveItem(fila);
+                --fila;
+            }
+        }
+    });
+}
+
+std::vector<double> FrmFormato::LeerColumna(int columna) const {
+    const auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
+    std::vector<double> valores;
+    valores.reserve(static_cast<std::size_t>(rejilla.Rows()));
+    for (int fila = 1; fila < rejilla.Rows(); ++fila) {
+        const std::string& celda = rejilla.TextMatrix(fila, columna);
+        valores.push_back(EsNumerico(celda) ? ANumero(celda) : -1.0);
+    }
+    return valores;
+}
+
+void FrmFormato::prepararSuperficies() {
+    const auto& sesion = programa_.sesion;
+    const Escala escala =
+        CalcularEscala(LeerColumna(sesion.Columnas(0).valor()), LeerColumna(sesion.Columnas(1).valor()));
+    programa_.tocar<FrmMapa>().escala = escala;
+    programa_.tocar<FrmMapa2>().escala = escala;
+}
+
+void FrmFormato::CmdAceptar_Click() {
+    const Reloj reloj{*this};
+    limpiarRejilla();
+    prepararSuperficies();
+    ConstruirPoligono(programa_);
+    auto& sesion = programa_.sesion;
+    sesion.SupPoligono = AreaPoligono(sesion.Poligono.contorno(), sesion.NumPuntosPoligono.valor());
+    auto& marco = programa_.tocar<VAROMAIN>();
+    marco.mnuMapa.Enabled = false;
+    marco.mnuOpciones.Enabled = true;
+    Hide();
+    programa_.tocar<FrmMapa>().Show();
+}
+
+void FrmFormato::CmdCancelar_Click() {
+    programa_.descargar(*this);
+}
+
+} // namespace varo

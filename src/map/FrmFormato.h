@@ -1,0 +1,63 @@
+// The format of the map: its title and, for each tree code, the text, font and colours of the legend.
+#pragma once
+
+#include "formularios/Control.h"
+#include "formularios/Formulario.h"
+
+#include <vector>
+
+namespace varo {
+
+class Programa;
+
+/// It stays hidden, not unloaded, while the map is up.
+class FrmFormato : public Formulario {
+public:
+    explicit FrmFormato(Programa& programa);
+
+    Etiqueta Label1{*this, "Label1", " Título"};
+    Etiqueta Label2{*this, "Label2", "Texto:"};
+    CajaTexto TxtTitName{*this, "TxtTitName"};
+    Etiqueta Label3{*this, "Label3", "Tipo de letra:"};
+    Desplegable CboTitFont{*this, "CboTitFont"};
+    Etiqueta Label4{*this, "Label4", "Color letra:"};
+    Desplegable CboTitColor{*this, "CboTitColor"};
+    Etiqueta Label8{*this, "Label8", "Color fondo:"};
+    Desplegable CboTitBackColor{*this, "CboTitBackColor"};
+
+    Etiqueta LbCod{*this, "LbCod", " Códigos"};
+    Etiqueta Label10{*this, "Label10", "Código:"};
+    Matriz<Etiqueta> LbCodigo{*this, "LbCodigo"};
+    Etiqueta Label7{*this, "Label7", "Texto:"};
+    Matriz<CajaTexto> TxtCodigo{*this, "TxtCodigo"};
+    Etiqueta Label6{*this, "Label6", "Tipo de letra:"};
+    Matriz<Desplegable> CboCodFont{*this, "CboCodFont"};
+    Etiqueta Label5{*this, "Label5", "Color linea:"};
+    Matriz<Desplegable> CboCodColor{*this, "CboCodColor"};
+    Etiqueta Label9{*this, "Label9", "Color fondo:"};
+    Matriz<Desplegable> CboCodBackColor{*this, "CboCodBackColor"};
+
+    Boton CmdAceptar{*this, "CmdAceptar", "Aceptar"};
+    Boton CmdCancelar{*this, "CmdCancelar", "Cancelar"};
+
+    void Form_Load() override;
+    void CmdAceptar_Click();
+    void CmdCancelar_Click();
+
+    /// The distinct tree codes of the sorted grid, into Sesion::Codigos.
+    void ListaCodigos();
+    /// One row of controls for each code; the dialog grows with them.
+    void FilasCodigos();
+
+private:
+    void crearFila(int codigo);
+    void limpiarRejilla();
+    /// A numeric cell gives its number, any other -1.
+    [[nodiscard]] std::vector<double> LeerColumna(int columna) const;
+    void prepararSuperficies();
+    void mostrarFilas(bool visibles);
+
+    Programa& programa_;
+};
+
+} // namespace varo

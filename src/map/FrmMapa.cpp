@@ -1,0 +1,94 @@
+#include "map/FrmMapa.h"
+
+#include "basico/Texto.h"
+#include "data/FrmSeleccion.h"
+#include "data/Hojadedatos.h"
+#include "indices/CorridaIndices.h"
+#include "map/FrmFormato.h"
+#include "options/OpcionesPrograma.h"
+#include "options/Unidades.h"
+#include "plot/PorHectarea.h"
+#include "shell/Programa.h"
+#include "shell/VAROMAIN.h"
+
+namespace varo {
+
+namespace {
+
+/// A surface takes the measures of the main window.
+void TomarMedidasDelMarco(Formulario& superficie, Programa& programa) {
+    const auto& marco = programa.tocar<VAROMAIN>();
+    superficie.Height = marco.Height();
+    superficie.Width = marco.Width();
+}
+
+} // namespace
+
+FrmMapa::FrmMapa(Programa& programa)
+    : Formulario{programa, "FrmMapa", TipoVentana::Hija, ""}, programa_{programa} {
+    LbTitulo.Visible = false;
+    LbLeyenda.crear(0).Visible = false;
+    Lbcodigo.crear(0).Visible = false;
+    mnuDatos.Click = [this] { mnuDatos_Click(); };
+    mnuIndices.Click = [this] { mnuIndices_Click(); };
+    LbLeyenda(0).DblClick = [this] { LbLeyenda_DblClick(); };
+}
+
+void FrmMapa::Form_Load() {
+    TomarMedidasDelMarco(*this, programa_);
+    const std::string& hoja = programa_.tocar<FrmSeleccion>().CboHoja.Text;
+    const std::size_t letras = Longitud(hoja);
+    Caption = "Mapa de la parcela " + Izquierda(hoja, letras == 0 ? 0 : letras - 1);
+    mnuIndices.Enabled = true;
+}
+
+void FrmMapa::Form_Unload() {
+    programa_.tocar<VAROMAIN>().mnuMapa.Enabled = true;
+}
+
+void FrmMapa::mnuDatos_Click() {
+    throw ErrorEjecucion{fallo::accionNoAdmitida,
+                         "Los datos de parcela todavía no se calculan en esta versión"};
+}
+
+void FrmMapa::mnuIndices_Click() {
+    CorrerIndices(programa_);
+}
+
+void FrmMapa::LbLeyenda_DblClick() {
+    programa_.tocar<FrmFormato>().Show();
+    programa_.descargar(*this);
+}
+
+void FrmMapa::Npies_ha() {
+    auto& sesion = programa_.sesion;
+    const bool conCodigo = programa_.tocar<OpcionesPrograma>().ChCodigo.Value() == 1;
+    const int papel = conCodigo ? sesion.UltimaColumna.valor() : 2;
+    auto& datos = programa_.tocar<Hojadedatos>().Data1;
+    const auto& campo = datos.Recordset().campos()(sesion.Columnas(papel).valor() - 1).Name;
+    sesion.PiesHaActual =
+        PiesPorHectarea(datos.Database(), campo, programa_.tocar<FrmSeleccion>().CboHoja.Text,
+                        sesion.NumPuntosPoligono.valor(), sesion.SupPoligono);
+}
+
+void FrmMapa::Ab_ha() {
+    auto& sesion = programa_.sesion;
+    const auto& opciones = programa_.tocar<OpcionesPrograma>();
+    auto& datos = programa_.tocar<Hojadedatos>().Data1;
+    const auto& campo = datos.Recordset().campos()(sesion.ColumnaDAP.valor() - 1).Name;
+    const Valor suma = SumaAreaBasimetrica(
+        datos.Database(), campo, programa_.tocar<FrmSeleccion>().CboHoja.Text, UnidadesDelTallo(opciones));
+    const int columnaArea = opciones.ChCodigo.Value() == 1 ? 3 : 2;
+    const double quitar = AreaBasimetricaDeBorde(sesion.Poligono, columnaArea,
+                                                 sesion.NumPuntosPoligono.valor(), sesion.AnguloInterior);
+    sesion.AbHaActual = AreaBasimetricaPorHectarea(suma, quitar, sesion.SupPoligono);
+}
+
+FrmMapa2::FrmMapa2(Programa& programa)
+    : Formulario{programa, "FrmMapa2", TipoVentana::Hija, ""}, programa_{programa} {}
+
+void FrmMapa2::Form_Load() {
+    TomarMedidasDelMarco(*this, programa_);
+}
+
+} // namespace varo

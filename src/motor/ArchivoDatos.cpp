@@ -1,0 +1,131 @@
+#include "motor/ArchivoDatos.h"
+
+#include "basico/ErrorEjecucion.h"
+#include "motor/lectores/LectorXls.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <fstream>
+#include <span>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace varo {
+
+namespace {
+
+using Bytes = std::span<const std::byte>;
+
+/// Far beyond any plot: what is larger is some other kind of file, and is not read into memory.
+constexpr std::uintmax_t tamanoMaximo = std::uintmax_t{512} * 1024 * 1024;
+
+std::string NombreDe(const std::filesystem::path& archivo) {
+    const auto utf8 = archivo.u8string();
+    return {utf8.begin(), utf8.end()};
+}
+
+[[noreturn]] void NoSeAbre(int numero, const std::string& nombre, const std::string& motivo) {
+    throw ErrorMotor{numero, "No se puede abrir «" + nombre + "»: " + motivo};
+}
+
+/// The size of a plain file that is there.
+std::uintmax_t TamanoDe(const std::filesystem::path& archivo, const std::string& nombre) {
+    std::error_code error;
+    const auto estado = std::filesystem::status(archivo, error);
+    if (estado.type() == std::filesystem::file_type::not_found) {
+        NoSeAbre(fallo::archivoNoEncontrado, nombre, "el archivo no existe");
+    }
+    if (std::filesystem::is_directory(estado)) {
+        NoSeAbre(fallo::accesoAlArchivo, nombre, "es una carpeta");
+    }
+    if (!std::filesystem::is_regular_file(estado)) {
+        NoSeAbre(fallo::accesoAlArchivo, nombre, "no es un archivo corriente o no se puede llegar a él");
+    }
+    const auto tamano = std::filesystem::file_size(archivo, error);
+    if (error) {
+        NoSeAbre(fallo::accesoAlArchivo, nombre, "no se puede saber su tamaño");
+    }
+    return tamano;
+}
+
+std::vector<std::byte> LeerBytes(const std::filesystem::path& archivo, const std::string& nombre) {
+    const auto tamano = TamanoDe(archivo, nombre);
+    if (tamano == 0) {
+        NoSeAbre(fallo::formatoNoReconocido, nombre, "está vacío");
+    }
+    if (tamano > tamanoMaximo) {
+        NoSeAbre(fallo::formatoNoReconocido, nombre,
+                 "es demasiado grande para ser el inventario de una parcela");
+    }
+    std::ifstream entrada{archivo, std::ios::binary};
+    if (!entrada) {
+        NoSeAbre(fallo::permisoDenegado, nombre, "no hay permiso para leerlo o lo usa otro programa");
+    }
+    std::vector<std::byte> bytes(static_cast<std::size_t>(tamano));
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the stream's characters are the bytes
+    entrada.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    if (!entrada) {
+        NoSeAbre(fallo::accesoAlArchivo, nombre, "no se ha podido leer entero");
+    }
+    return bytes;
+}
+
+bool Lleva(Bytes bytes, std::size_t lugar, std::string_view marca) {
+    return bytes.size() >= lugar + marca.size() &&
+           std::ranges::equal(bytes.subspan(lugar, marca.size()), marca, {}, {},
+                              [](char c) { return static_cast<std::byte>(c); });
+}
+
+bool EsBaseDeDatos(Bytes bytes) {
+    constexpr std::string_view comienzo{"\0\1\0\0", 4};
+    return Lleva(bytes, 0, comienzo) && (Lleva(bytes, comienzo.size(), "Standard Jet DB") ||
+                                         Lleva(bytes, comienzo.size(), "Standard ACE DB"));
+}
+
+bool EsZip(Bytes bytes) {
+    return Lleva(bytes, 0, "PK\3\4") || Lleva(bytes, 0, "PK\5\6");
+}
+
+/// True when no control character but those of plain texts stands at the beginning, and for UTF-16 with its
+/// mark.
+bool EsTexto(Bytes bytes) {
+    constexpr std::size_t loMirado = 4096;
+    constexpr std::string_view controlesDeTexto = "\t\n\r\f";
+    const auto esDeTexto = [&](std::byte byte) {
+        const auto c = static_cast<char>(byte);
+        return byte >= std::byte{' '} || controlesDeTexto.find(c) != std::string_view::npos;
+    };
+    return Lleva(bytes, 0, "\xFF\xFE") || Lleva(bytes, 0, "\xFE\xFF") ||
+           std::ranges::all_of(bytes.first(std::min(loMirado, bytes.size())), esDeTexto);
+}
+
+std::string PorQueNoSeReconoce(Bytes bytes) {
+    const std::string consejo = "guárdelo desde la hoja de cálculo como libro de Excel 97-2003 (.xls)";
+    if (EsBaseDeDatos(bytes)) {
+        return "las bases de datos (.mdb) todavía no se pueden leer; guarde la tabla en un libro de Excel "
+               "97-2003 "
+               "(.xls)";
+    }
+    if (EsZip(bytes)) {
+        return "es un archivo comprimido, como los .xlsx y los .ods; " + consejo;
+    }
+    if (EsTexto(bytes)) {
+        return "es un archivo de texto; " + consejo;
+    }
+    return "no se reconoce su formato";
+}
+
+} // namespace
+
+std::vector<Tabla> LeerArchivoDatos(const std::filesystem::path& archivo) {
+    const auto nombre = NombreDe(archivo);
+    const auto bytes = LeerBytes(archivo, nombre);
+    if (PareceXls(bytes)) {
+        return LeerXls(bytes, nombre);
+    }
+    NoSeAbre(fallo::formatoNoReconocido, nombre, PorQueNoSeReconoce(bytes));
+}
+
+} // namespace varo

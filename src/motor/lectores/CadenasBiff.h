@@ -1,0 +1,55 @@
+// Texts in the records of a workbook, which may go on through CONTINUE records.
+#pragma once
+
+#include "motor/lectores/Bytes.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace varo {
+
+/// Reads on through the pieces of one long record. What is asked beyond the last one throws ErrorMotor.
+class LectorContinuo {
+public:
+    explicit LectorContinuo(std::vector<Bytes> fragmentos);
+
+    std::uint8_t U8();
+    std::uint16_t U16();
+    std::uint32_t U32();
+    void Saltar(std::size_t cuantos);
+
+    [[nodiscard]] bool Acabado() const;
+    /// Bytes left in the piece at hand.
+    [[nodiscard]] std::size_t RestoDelFragmento() const;
+    /// Takes bytes of the piece at hand, no more than are left in it.
+    Bytes Tomar(std::size_t cuantos);
+
+private:
+    std::vector<Bytes> fragmentos_;
+    std::size_t actual_ = 0;
+    std::size_t lugar_ = 0;
+};
+
+/// How a workbook writes its texts: BIFF8 in Unicode, BIFF5 in bytes of its code page. All come as UTF-8.
+class CadenasBiff {
+public:
+    explicit CadenasBiff(bool unicode) : unicode_{unicode} {}
+
+    void PonerPagina(int paginaDeCodigos) { pagina_ = paginaDeCodigos; }
+
+    /// A text whose length, in characters, has been read already.
+    std::string Leer(LectorContinuo& lector, std::size_t longitud) const;
+    /// A text behind its 8-bit or 16-bit length.
+    std::string LeerCorta(LectorContinuo& lector) const;
+    std::string LeerLarga(LectorContinuo& lector) const;
+
+private:
+    [[nodiscard]] std::string LeerBytes(LectorContinuo& lector, std::size_t longitud) const;
+
+    bool unicode_;
+    int pagina_ = 1252;
+};
+
+} // namespace varo

@@ -1,0 +1,215 @@
+#include "motor/lectores/HojaBiff.h"
+
+#include "motor/lectores/FechasBiff.h"
+#include "motor/lectores/RegistrosBiff.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <string>
+#include <tuple>
+#include <utility>
+
+namespace varo {
+namespace {
+
+constexpr std::size_t columnasDeUnaHoja = 256;
+/// Row, column and format come first in every cell record.
+constexpr std::size_t tamanoComienzo = 6;
+
+/// A number in 32 bits: 30 bits of a whole number or the upper bits of a float, and whether it counts
+/// hundredths.
+double NumeroRk(std::uint32_t rk) {
+    constexpr std::uint32_t enCentesimas = 1;
+    constexpr std::uint32_t entero = 2;
+    const double valor = (rk & entero) != 0
+                             ? static_cast<std::int32_t>(rk) >> 2
+                             : std::bit_cast<double>(static_cast<std::uint64_t>(rk & 0xFFFFFFFCU) << 32);
+    return (rk & enCentesimas) != 0 ? valor / 100 : valor;
+}
+
+ZonaDeHoja Alrededor(const std::vector<CeldaDeHoja>& celdas) {
+    ZonaDeHoja zona{celdas.front().fila, celdas.back().fila, celdas.front().columna, celdas.front().columna};
+    for (const auto& celda : celdas) {
+        zona.primeraColumna = std::min<std::size_t>(zona.primeraColumna, celda.columna);
+        zona.ultimaColumna = std::max<std::size_t>(zona.ultimaColumna, celda.columna);
+    }
+    return zona;
+}
+
+void Ordenar(std::vector<CeldaDeHoja>& celdas) {
+    const auto antes = [](const CeldaDeHoja& a, const CeldaDeHoja& b) {
+        return std::tie(a.fila, a.columna) < std::tie(b.fila, b.columna);
+    };
+    if (!std::is_sorted(celdas.begin(), celdas.end(), antes)) {
+        std::stable_sort(celdas.begin(), celdas.end(), antes);
+    }
+}
+
+class LectorDeHoja {
+public:
+    LectorDeHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites)
+        : registros_{flujo, comienzo}, libro_{libro}, limites_{limites} {}
+
+    HojaBiff Leer() {
+        if (registros_.clase() != biff::hojaDeCalculo) {
+            ArchivoDanado("una hoja no es de la clase que el libro dice");
+        }
+        while (const auto registro = registros_.Siguiente()) {
+            ComprobarTextoPendiente(registro->tipo);
+            Atender(*registro);
+        }
+        ComprobarTextoPendiente(biff::eof);
+        Ordenar(hoja_.celdas);
+        if (!hoja_.celdas.empty()) {
+            hoja_.zonaUsada = Alrededor(hoja_.celdas);
+        }
+        hoja_.bytes = registros_.leidos();
+        return std::move(hoja_);
+    }
+
+private:
+    void Atender(const Registro& registro) {
+        const auto datos = registro.datos;
+        switch (registro.tipo) {
+        case biff::numero:
+            AnadirNumero(datos, LeerReal(datos, tamanoComienzo));
+            break;
+        case biff::rk:
+            AnadirNumero(datos, NumeroRk(LeerU32(datos, tamanoComienzo)));
+            break;
+        case biff::mulRk:
+            LeerMulRk(datos);
+            break;
+        case biff::labelSst:
+            LeerTextoCompartido(datos);
+            break;
+        case biff::label:
+        case biff::rString:
+            Anadir(datos, LeerTexto(registro, tamanoComienzo));
+            break;
+        case biff::boolErr:
+            Anadir(datos, VerdadOError(LeerU8(datos, 6), LeerU8(datos, 7) != 0));
+            break;
+        case biff::formula:
+            LeerFormula(datos);
+            break;
+        case biff::cadena:
+            LeerTextoDeFormula(registro);
+            break;
+        default:
+            break;
+        }
+    }
+
+    void Anadir(Bytes comienzo, Valor valor) { AnadirEn(LeerU16(comienzo, 2), comienzo, std::move(valor)); }
+
+    void AnadirEn(std::uint16_t columna, Bytes comienzo, Valor valor) {
+        if (columna >= columnasDeUnaHoja) {
+            ArchivoDanado("una celda está fuera de la hoja");
+        }
+        hoja_.celdas.push_back({LeerU16(comienzo, 0), columna, std::move(valor)});
+    }
+
+    void AnadirNumero(Bytes datos, double numero) { Anadir(datos, Numero(numero, LeerU16(datos, 4))); }
+
+    /// What is no finite number shows as an error in a sheet, and is null like one.
+    [[nodiscard]] Valor Numero(double numero, std::size_t formato) const {
+        if (!std::isfinite(numero)) {
+            return Nulo{};
+        }
+        const bool esFecha = formato < libro_.formatoEsFecha.size() && libro_.formatoEsFecha[formato];
+        return esFecha ? FechaDeSerie(numero, libro_.calendario1904) : Valor{numero};
+    }
+
+    static Valor VerdadOError(int valor, bool esError) { return esError ? Valor{} : Valor{valor != 0}; }
+
+    /// Row and first column, a format and a number for each column, and the last column.
+    void LeerMulRk(Bytes datos) {
+        constexpr std::size_t tamanoNumero = 6;
+        const std::size_t primera = LeerU16(datos, 2);
+        const std::size_t cuantas = datos.size() < 6 ? 0 : (datos.size() - 6) / tamanoNumero;
+        if (cuantas == 0 || datos.size() != 6 + cuantas * tamanoNumero ||
+            LeerU16(datos, datos.size() - 2) != primera + cuantas - 1) {
+            ArchivoDanado("una fila de números no es válida");
+        }
+        for (std::size_t i = 0; i < cuantas; ++i) {
+            const std::size_t lugar = 4 + i * tamanoNumero;
+            AnadirEn(static_cast<std::uint16_t>(primera + i), datos,
+                     Numero(NumeroRk(LeerU32(datos, lugar + 2)), LeerU16(datos, lugar)));
+        }
+    }
+
+    void LeerTextoCompartido(Bytes datos) {
+        const std::size_t numero = LeerU32(datos, tamanoComienzo);
+        if (numero >= libro_.textos.size()) {
+            ArchivoDanado("una celda pide un texto que no hay");
+        }
+        limites_.ContarTexto(libro_.textos[numero].size());
+        Anadir(datos, libro_.textos[numero]);
+    }
+
+    std::string LeerTexto(const Registro& registro, std::size_t lugar) {
+        auto fragmentos = registros_.ConContinuaciones(registro);
+        fragmentos.front() = Trozo(registro.datos, lugar, registro.datos.size() - lugar);
+        LectorContinuo lector{std::move(fragmentos)};
+        return libro_.cadenas.LeerLarga(lector);
+    }
+
+    /// A result that is no number has all bits of its last two bytes set and tells its kind in the first.
+    void LeerFormula(Bytes datos) {
+        const auto resultado = Trozo(datos, tamanoComienzo, 8);
+        if (LeerU16(resultado, 6) != 0xFFFF) {
+            AnadirNumero(datos, LeerReal(resultado, 0));
+            return;
+        }
+        enum { texto, verdad, error, textoVacio };
+        switch (LeerU8(resultado, 0)) {
+        case texto:
+            Anadir(datos, std::string{});
+            faltaTexto_ = true;
+            break;
+        case verdad:
+            Anadir(datos, VerdadOError(LeerU8(resultado, 2), false));
+            break;
+        case error:
+            Anadir(datos, Nulo{});
+            break;
+        case textoVacio:
+            Anadir(datos, std::string{});
+            break;
+        default:
+            ArchivoDanado("el resultado de una fórmula no es válido");
+        }
+    }
+
+    void LeerTextoDeFormula(const Registro& registro) {
+        if (faltaTexto_) {
+            hoja_.celdas.back().valor = LeerTexto(registro, 0);
+            faltaTexto_ = false;
+        }
+    }
+
+    /// The text of a formula follows it, behind the record of a shared or array formula at most.
+    void ComprobarTextoPendiente(int tipo) const {
+        const bool puedeSeguir = tipo == biff::cadena || tipo == biff::shrFmla || tipo == biff::array ||
+                                 tipo == biff::table || tipo == biff::continuacion;
+        if (faltaTexto_ && !puedeSeguir) {
+            ArchivoDanado("falta el resultado de una fórmula");
+        }
+    }
+
+    Subflujo registros_;
+    const LibroBiff& libro_;
+    LimitesDeLectura& limites_;
+    HojaBiff hoja_;
+    bool faltaTexto_ = false;
+};
+
+} // namespace
+
+HojaBiff LeerHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites) {
+    return LectorDeHoja{flujo, comienzo, libro, limites}.Leer();
+}
+
+} // namespace varo

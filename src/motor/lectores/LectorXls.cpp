@@ -1,0 +1,116 @@
+#include "motor/lectores/LectorXls.h"
+
+#include "motor/lectores/ArchivoCompuesto.h"
+#include "motor/lectores/HojaBiff.h"
+#include "motor/lectores/LibroBiff.h"
+#include "motor/lectores/RegistrosBiff.h"
+#include "motor/lectores/TablasDeHoja.h"
+
+#include <map>
+#include <utility>
+
+namespace varo {
+namespace {
+
+// How a stream of each version begins.
+constexpr int bofBiff2 = 0x0009;
+constexpr int bofBiff3 = 0x0209;
+constexpr int bofBiff4 = 0x0409;
+
+/// The version of Excel that a bare stream was made for, by its first record; 0 when it is none.
+int VersionDeExcel(Bytes bytes) {
+    if (bytes.size() < 8) {
+        return 0;
+    }
+    switch (LeerU16(bytes, 0)) {
+    case bofBiff2:
+        return LeerU16(bytes, 2) == 4 ? 2 : 0;
+    case bofBiff3:
+        return LeerU16(bytes, 2) == 6 ? 3 : 0;
+    case bofBiff4:
+        return LeerU16(bytes, 2) == 6 ? 4 : 0;
+    case biff::bof:
+        return LeerU16(bytes, 4) == biff::version5 ? 5 : LeerU16(bytes, 4) == biff::version8 ? 8 : 0;
+    default:
+        return 0;
+    }
+}
+
+[[noreturn]] void FormatoNoReconocido(const std::string& motivo) {
+    throw ErrorMotor{fallo::formatoNoReconocido, motivo};
+}
+
+/// The workbook stream of a compound file. A file for two versions of Excel has both: the newer one counts.
+std::vector<std::byte> FlujoDelLibro(Bytes bytes) {
+    if (!ArchivoCompuesto::EsCompuesto(bytes)) {
+        return {bytes.begin(), bytes.end()};
+    }
+    const ArchivoCompuesto archivo{bytes};
+    for (const auto* nombre : {"Workbook", "Book"}) {
+        if (auto flujo = archivo.Flujo(nombre)) {
+            return std::move(*flujo);
+        }
+    }
+    FormatoNoReconocido("no contiene un libro de Excel");
+}
+
+void ComprobarVersion(Bytes flujo) {
+    const int version = VersionDeExcel(flujo);
+    if (version == 0) {
+        FormatoNoReconocido("no es un libro de Excel 5.0 a 2003");
+    }
+    if (version < 5) {
+        FormatoNoReconocido("es una hoja de Excel " + std::to_string(version) +
+                            ".0, un formato que no se lee: guárdela como libro de Excel 97-2003");
+    }
+}
+
+std::vector<Tabla> TablasDelLibro(Bytes flujo, LimitesDeLectura& limites) {
+    const auto libro = LeerLibro(flujo);
+    std::multimap<std::size_t, std::size_t> nombresPorHoja;
+    for (std::size_t i = 0; i < libro.nombres.size(); ++i) {
+        nombresPorHoja.emplace(libro.nombres[i].hoja, i);
+    }
+    std::vector<Tabla> tablas;
+    std::map<std::size_t, Tabla> tablasDeNombres;
+    std::size_t leidos = 0;
+    for (std::size_t i = 0; i < libro.hojas.size(); ++i) {
+        if (!libro.hojas[i].deCalculo) {
+            continue;
+        }
+        const auto hoja = LeerHoja(flujo, libro.hojas[i].comienzo, libro, limites);
+        leidos += hoja.bytes;
+        if (leidos > flujo.size()) {
+            ArchivoDanado("unas hojas pisan a otras");
+        }
+        tablas.push_back(TablaDeHoja(hoja, libro.hojas[i].nombre + "$", limites));
+        const auto [primero, fin] = nombresPorHoja.equal_range(i);
+        for (auto lugar = primero; lugar != fin; ++lugar) {
+            const auto& nombre = libro.nombres[lugar->second];
+            tablasDeNombres[lugar->second] = TablaDeZona(hoja, nombre.zona, nombre.nombre, limites);
+        }
+    }
+    for (auto& [lugar, tabla] : tablasDeNombres) {
+        tablas.push_back(std::move(tabla));
+    }
+    return tablas;
+}
+
+} // namespace
+
+bool PareceXls(std::span<const std::byte> bytes) {
+    return ArchivoCompuesto::EsCompuesto(bytes) || VersionDeExcel(bytes) != 0;
+}
+
+std::vector<Tabla> LeerXls(std::span<const std::byte> bytes, const std::string& archivo) {
+    try {
+        const auto flujo = FlujoDelLibro(bytes);
+        ComprobarVersion(flujo);
+        LimitesDeLectura limites{bytes.size()};
+        return TablasDelLibro(flujo, limites);
+    } catch (const ErrorMotor& error) {
+        throw ErrorMotor{error.numero(), "No se puede leer «" + archivo + "»: " + error.descripcion()};
+    }
+}
+
+} // namespace varo

@@ -1,0 +1,57 @@
+// Names of a workbook that stand for one rectangle of cells of one of its own sheets.
+#pragma once
+
+#include "motor/lectores/CadenasBiff.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace varo {
+
+/// First and last rows and columns, counted from 0.
+struct ZonaDeHoja {
+    std::size_t primeraFila = 0;
+    std::size_t ultimaFila = 0;
+    std::size_t primeraColumna = 0;
+    std::size_t ultimaColumna = 0;
+};
+
+struct NombreDeZona {
+    std::string nombre;
+    std::size_t hoja = 0; // its place in the workbook
+    ZonaDeHoja zona;
+};
+
+/// Gathers the records that tell where references between sheets lead, and the names.
+class NombresBiff {
+public:
+    void AnadirLibroExterno(Bytes supBook);
+    void AnadirReferencias(LectorContinuo externSheet);
+    void AnadirNombre(LectorContinuo registro, const CadenasBiff& cadenas);
+
+    /// The names that cover a rectangle, in the workbook's order. Call when all records are in: names that
+    /// belong to one sheet, built-in ones and those that stand for anything else are left out.
+    [[nodiscard]] std::vector<NombreDeZona> Zonas(bool biff8) const;
+
+private:
+    struct Referencia {
+        std::size_t libro = 0;
+        std::size_t primeraHoja = 0;
+        std::size_t ultimaHoja = 0;
+    };
+    struct Nombre {
+        std::string texto;
+        std::vector<std::byte> formula;
+    };
+
+    [[nodiscard]] std::optional<std::size_t> HojaPropia(std::size_t numero) const;
+    [[nodiscard]] std::optional<NombreDeZona> ZonaBiff8(Bytes formula) const;
+
+    std::vector<bool> libroEsPropio_;
+    std::vector<Referencia> referencias_;
+    std::vector<Nombre> nombres_;
+};
+
+} // namespace varo

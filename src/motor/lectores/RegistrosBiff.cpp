@@ -1,0 +1,46 @@
+#include "motor/lectores/RegistrosBiff.h"
+
+namespace varo {
+
+Subflujo::Subflujo(Bytes flujo, std::size_t comienzo) : flujo_{flujo}, comienzo_{comienzo}, lugar_{comienzo} {
+    const auto bof = Leer();
+    if (bof.tipo != biff::bof) {
+        ArchivoDanado("una hoja no está donde el libro dice");
+    }
+    version_ = LeerU16(bof.datos, 0);
+    clase_ = LeerU16(bof.datos, 2);
+}
+
+Registro Subflujo::Leer() {
+    const int tipo = LeerU16(flujo_, lugar_);
+    const std::size_t longitud = LeerU16(flujo_, lugar_ + 2);
+    const auto datos = Trozo(flujo_, lugar_ + 4, longitud);
+    lugar_ += 4 + longitud;
+    return {tipo, datos};
+}
+
+std::optional<Registro> Subflujo::Siguiente() {
+    for (int profundidad = 0;;) {
+        const auto registro = Leer();
+        if (registro.tipo == biff::bof) {
+            ++profundidad;
+        } else if (registro.tipo == biff::eof) {
+            if (profundidad == 0) {
+                return std::nullopt;
+            }
+            --profundidad;
+        } else if (profundidad == 0) {
+            return registro;
+        }
+    }
+}
+
+std::vector<Bytes> Subflujo::ConContinuaciones(const Registro& registro) {
+    std::vector<Bytes> fragmentos{registro.datos};
+    while (LeerU16(flujo_, lugar_) == biff::continuacion) {
+        fragmentos.push_back(Leer().datos);
+    }
+    return fragmentos;
+}
+
+} // namespace varo

@@ -1,0 +1,74 @@
+#include "motor/sql/Evaluador.h"
+
+#include "basico/Texto.h"
+
+#include <algorithm>
+
+namespace varo::sql {
+
+Evaluador::Evaluador(const Expresion& expresion, const Tabla& tabla) : expresion_{expresion} {
+    for (const auto& nombre : expresion.campos) {
+        const auto hallado = std::find_if(tabla.Fields.begin(), tabla.Fields.end(), [&](const Campo& campo) {
+            return MismoNombre(campo.Name, nombre);
+        });
+        if (hallado == tabla.Fields.end()) {
+            throw ErrorMotor{fallo::nombreDesconocido,
+                             "La tabla «" + tabla.Name + "» no tiene ningún campo «" + nombre + "»"};
+        }
+        columnas_.push_back({static_cast<std::size_t>(hallado - tabla.Fields.begin()), &hallado->Name});
+    }
+    for (const auto& constante : expresion.constantes) {
+        constantes_.push_back(DeValor(constante));
+    }
+    pila_.resize(expresion.pasos.size());
+}
+
+Operando Evaluador::operator()(const std::vector<Valor>& fila) {
+    try {
+        return Calculado(fila);
+    } catch (ErrorEjecucion& error) {
+        Situar(error);
+        throw;
+    }
+}
+
+Valor Evaluador::Entero(const std::vector<Valor>& fila) {
+    return expresion_.EsCampo() ? fila[columnas_.front().posicion] : AValor((*this)(fila));
+}
+
+void Evaluador::Situar(ErrorEjecucion& error) const {
+    if (!error.lugar().empty() || columnas_.empty()) {
+        return;
+    }
+    std::string nombres;
+    for (const auto& columna : columnas_) {
+        nombres += (nombres.empty() ? "«" : ", «") + *columna.nombre + "»";
+    }
+    error.en((columnas_.size() == 1 ? "campo " : "campos ") + nombres);
+}
+
+Operando Evaluador::Calculado(const std::vector<Valor>& fila) {
+    std::size_t altura = 0;
+    for (const auto& paso : expresion_.pasos) {
+        switch (paso.operacion) {
+        case Operacion::campo: {
+            const auto& columna = columnas_[paso.indice];
+            pila_[altura++] = DeValor(fila[columna.posicion], columna.nombre);
+            break;
+        }
+        case Operacion::constante:
+            pila_[altura++] = constantes_[paso.indice];
+            break;
+        case Operacion::negacion:
+        case Operacion::no:
+            pila_[altura - 1] = Calcular(paso.operacion, pila_[altura - 1]);
+            break;
+        default:
+            --altura;
+            pila_[altura - 1] = Calcular(paso.operacion, pila_[altura - 1], pila_[altura]);
+        }
+    }
+    return pila_.front();
+}
+
+} // namespace varo::sql

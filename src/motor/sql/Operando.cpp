@@ -1,0 +1,181 @@
+#include "motor/sql/Operando.h"
+
+#include "basico/Aritmetica.h"
+#include "basico/ErrorEjecucion.h"
+#include "basico/Numeros.h"
+
+namespace varo::sql {
+
+namespace {
+
+using Clase = Operando::Clase;
+
+Operando DeVerdad(std::optional<bool> verdad) {
+    if (!verdad) {
+        return {};
+    }
+    return {.clase = Clase::verdad, .numero = *verdad ? -1.0 : 0.0};
+}
+
+bool EsComparacion(Operacion operacion) {
+    return operacion >= Operacion::igual && operacion <= Operacion::mayorOIgual;
+}
+
+bool Cumple(Operacion comparacion, std::partial_ordering orden) {
+    switch (comparacion) {
+    case Operacion::igual:
+        return std::is_eq(orden);
+    case Operacion::distinto:
+        return std::is_neq(orden); // what has no order is unequal
+    case Operacion::menor:
+        return std::is_lt(orden);
+    case Operacion::mayor:
+        return std::is_gt(orden);
+    case Operacion::menorOIgual:
+        return std::is_lteq(orden);
+    default:
+        return std::is_gteq(orden);
+    }
+}
+
+double Aritmetica(Operacion operacion, double a, double b) {
+    switch (operacion) {
+    case Operacion::suma:
+        return ExigirFinito(a + b);
+    case Operacion::resta:
+        return ExigirFinito(a - b);
+    case Operacion::producto:
+        return ExigirFinito(a * b);
+    case Operacion::cociente:
+        return Dividir(a, b);
+    default:
+        return Potencia(a, b);
+    }
+}
+
+/// One side that decides does so even where the other is unknown.
+std::optional<bool> Junta(std::optional<bool> a, std::optional<bool> b, bool queDecide) {
+    if (a == queDecide || b == queDecide) {
+        return queDecide;
+    }
+    return a && b ? std::optional{!queDecide} : std::nullopt;
+}
+
+} // namespace
+
+Operando DeNumero(double numero) {
+    return {.clase = Clase::numero, .numero = numero};
+}
+
+Operando DeValor(const Valor& valor, const std::string* campo) {
+    if (const auto* numero = std::get_if<double>(&valor)) {
+        return DeNumero(*numero);
+    }
+    if (const auto* texto = std::get_if<std::string>(&valor)) {
+        return {.clase = Clase::texto, .texto = *texto, .campo = campo};
+    }
+    if (const auto* fecha = std::get_if<Fecha>(&valor)) {
+        return DeNumero(fecha->serie);
+    }
+    if (const auto* verdad = std::get_if<bool>(&valor)) {
+        return DeVerdad(*verdad);
+    }
+    return {};
+}
+
+Valor AValor(const Operando& operando) {
+    switch (operando.clase) {
+    case Clase::numero:
+        return operando.numero;
+    case Clase::verdad:
+        return operando.numero != 0;
+    case Clase::texto:
+        return std::string{operando.texto};
+    default:
+        return Nulo{};
+    }
+}
+
+std::optional<double> ComoNumero(const Operando& operando) {
+    if (operando.EsNulo()) {
+        return std::nullopt;
+    }
+    if (operando.clase != Clase::texto) {
+        return operando.numero;
+    }
+    return EsNumerico(operando.texto) ? std::optional{ANumero(operando.texto)} : std::nullopt;
+}
+
+double NumeroExigido(const Operando& operando) {
+    const auto numero = ComoNumero(operando);
+    if (!numero) {
+        ErrorMotor error{fallo::tiposDistintosEnConsulta, DescripcionError(fallo::tiposDistintosEnConsulta) +
+                                                              ": el texto «" + std::string{operando.texto} +
+                                                              "» no es un número"};
+        if (operando.campo != nullptr) {
+            error.en("campo «" + *operando.campo + "»");
+        }
+        throw error;
+    }
+    return *numero;
+}
+
+std::optional<bool> Verdad(const Operando& operando) {
+    if (operando.EsNulo()) {
+        return std::nullopt;
+    }
+    return NumeroExigido(operando) != 0;
+}
+
+Operando Calcular(Operacion operacion, const Operando& a) {
+    if (a.EsNulo()) {
+        return {};
+    }
+    return operacion == Operacion::no ? DeVerdad(!*Verdad(a)) : DeNumero(-NumeroExigido(a));
+}
+
+Operando Calcular(Operacion operacion, const Operando& a, const Operando& b) {
+    if (operacion == Operacion::ambos || operacion == Operacion::alguno) {
+        const auto izquierda = Verdad(a);
+        return DeVerdad(Junta(izquierda, Verdad(b), operacion == Operacion::alguno));
+    }
+    if (a.EsNulo() || b.EsNulo()) {
+        return {};
+    }
+    if (EsComparacion(operacion)) {
+        return DeVerdad(Cumple(operacion, Comparar(a, b)));
+    }
+    const double izquierdo = NumeroExigido(a);
+    return DeNumero(Aritmetica(operacion, izquierdo, NumeroExigido(b)));
+}
+
+std::partial_ordering Comparar(const Operando& a, const Operando& b) {
+    if (a.clase == Clase::texto && b.clase == Clase::texto) {
+        return a.texto <=> b.texto; // bytes of UTF-8 stand in the order of the code points
+    }
+    const auto izquierdo = ComoNumero(a);
+    const auto derecho = ComoNumero(b);
+    return izquierdo && derecho ? *izquierdo <=> *derecho : std::partial_ordering::unordered;
+}
+
+ClaveDeOrden::ClaveDeOrden(const Operando& operando) {
+    if (const auto numero = ComoNumero(operando)) {
+        rango_ = Rango::numero;
+        numero_ = *numero;
+    } else if (!operando.EsNulo()) {
+        rango_ = Rango::texto;
+        texto_ = operando.texto;
+    }
+}
+
+std::weak_ordering operator<=>(const ClaveDeOrden& a, const ClaveDeOrden& b) {
+    if (a.rango_ != b.rango_) {
+        return a.rango_ <=> b.rango_;
+    }
+    if (a.rango_ == ClaveDeOrden::Rango::numero) {
+        return std::weak_order(a.numero_, b.numero_);
+    }
+    return a.texto_ <=> b.texto_;
+}
+
+} // namespace varo::sql

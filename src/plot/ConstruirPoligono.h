@@ -1,0 +1,13 @@
+// Builds the plot boundary from the trees of the grid.
+#pragma once
+
+namespace varo {
+
+class Programa;
+
+/// Walks the convex hull of the trees and fills the boundary of the session: Poligono, NumPuntosPoligono,
+/// AnguloLado, AnguloInterior and FactorRadios. The grid is sorted by x on the way and left sorted by its
+/// first field. A cell that is no number throws 13 with its place.
+void ConstruirPoligono(Programa& programa);
+
+} // namespace varo

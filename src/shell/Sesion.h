@@ -1,0 +1,56 @@
+// The variables that all windows share. They live as long as the process and start at zero, empty or
+// unallocated.
+#pragma once
+
+#include "basico/Entero16.h"
+#include "basico/MatrizDinamica.h"
+#include "plot/Poligono.h"
+
+#include <string>
+#include <vector>
+
+namespace varo {
+
+/// Fields are read and written directly. A grid column number counts from 0, the column "Nº de punto"; grid
+/// column c holds field c - 1 of the table.
+struct Sesion {
+    // The column choice: for each role the grid column. Entries outlive their removal from the list.
+    MatrizDinamica<Entero16> Columnas;
+    Entero16 UltimaColumna; ///< highest index of Columnas; 0 until a column dialog was first activated
+    Entero16 ColumnaDAP;    ///< column of the stem size; 0 when never chosen
+
+    // Tree codes and the life of the format window.
+    std::vector<std::string> Codigos;
+    Entero16 NumCodigos;
+    Entero16 CambiosCodigo;  ///< clicks on ChCodigo since the last "Dibujar"; its parity counts
+    Entero16 VecesFormato;   ///< 0 until the format window was shown for the open file
+    Entero16 CierresConMapa; ///< closings in a row of files that reached the format window
+    Entero16 AltoFormato;    ///< design height of the format window, in twips
+    std::string NombreArchivoDatos;
+
+    // The plot boundary.
+    Entero16 FactorRadios; ///< divisor from the unit of crown radii to metres
+    TablaPoligono Poligono;
+    Entero16 NumPuntosPoligono;
+    double SupPoligono = 0; ///< plot area, in squared units of the coordinates
+    std::vector<double> AnguloLado;
+    std::vector<double> AnguloInterior;
+
+    // Results of the last computation.
+    double AbHaActual = 0;   ///< basal area, m2/ha
+    double PiesHaActual = 0; ///< stems/ha
+
+    /// What the closing of a file resets. The column choice, the boundary and the results keep their values.
+    void reiniciarAlCerrar() {
+        if (VecesFormato == 0) {
+            CierresConMapa = 0;
+        } else {
+            ++CierresConMapa;
+        }
+        CambiosCodigo = 0;
+        NumCodigos = 0;
+        VecesFormato = 0;
+    }
+};
+
+} // namespace varo

@@ -1,0 +1,92 @@
+#include "basico/ErrorEjecucion.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <utility>
+
+using namespace varo;
+
+TEST(DescripcionError, UsaLasPalabrasDeLaPlataforma) {
+    const std::pair<int, std::string> casos[] = {
+        {5, "Argumento o llamada a procedimiento no válida"},
+        {6, "Desbordamiento"},
+        {9, "El subíndice está fuera del intervalo"},
+        {11, "División por cero"},
+        {13, "No coinciden los tipos"},
+        {52, "Nombre o número de archivo incorrecto"},
+        {94, "Uso no válido de Null"},
+    };
+    for (const auto& [numero, texto] : casos) {
+        EXPECT_EQ(DescripcionError(numero), texto);
+    }
+}
+
+TEST(DescripcionError, CadaFalloConNombreTieneLaSuya) {
+    const int numeros[] = {fallo::argumentoNoValido,
+                           fallo::desbordamiento,
+                           fallo::fueraDeIndice,
+                           fallo::divisionPorCero,
+                           fallo::tiposDistintos,
+                           fallo::nombreDeArchivo,
+                           fallo::archivoNoEncontrado,
+                           fallo::discoLleno,
+                           fallo::permisoDenegado,
+                           fallo::accesoAlArchivo,
+                           fallo::rutaNoEncontrada,
+                           fallo::objetoNoEstablecido,
+                           fallo::usoDeNulo,
+                           fallo::funcionDeHoja,
+                           fallo::sinRegistroActual,
+                           fallo::formatoNoReconocido,
+                           fallo::archivoDanado,
+                           fallo::archivoCifrado,
+                           fallo::elementoNoEncontrado,
+                           fallo::nombreDesconocido,
+                           fallo::tablaDesconocida,
+                           fallo::sintaxisDeConsulta,
+                           fallo::tiposDistintosEnConsulta};
+    std::set<std::string> textos{DescripcionError(-1)};
+    for (const int numero : numeros) {
+        EXPECT_TRUE(textos.insert(DescripcionError(numero)).second) << numero;
+    }
+}
+
+TEST(DescripcionError, UnNumeroCualquieraTieneUnTextoGeneral) {
+    EXPECT_EQ(DescripcionError(12345), "Error definido por la aplicación o el objeto");
+}
+
+TEST(ErrorEjecucion, DiceSuNumeroYSuDescripcion) {
+    const ErrorEjecucion error{fallo::divisionPorCero};
+    EXPECT_EQ(error.numero(), 11);
+    EXPECT_EQ(error.lugar(), "");
+    EXPECT_STREQ(error.what(), "Error 11: División por cero");
+}
+
+TEST(ErrorEjecucion, CadaCapaAnadeSuLugarPorDelante) {
+    ErrorEjecucion error{fallo::tiposDistintos};
+    error.en("celda «CAP»").en("fila 12");
+    error.en("familia di/dmed");
+    EXPECT_EQ(error.lugar(), "familia di/dmed, fila 12, celda «CAP»");
+    EXPECT_STREQ(error.what(), "Error 13: No coinciden los tipos (familia di/dmed, fila 12, celda «CAP»)");
+}
+
+TEST(ErrorEjecucion, ElLugarAnadidoAlVueloSeVeMasArriba) {
+    const auto dentro = [] {
+        try {
+            throw ErrorMotor{fallo::archivoDanado, "parcela.xls: el libro está incompleto"};
+        } catch (ErrorEjecucion& error) {
+            error.en("tabla «Parcela1$»");
+            throw;
+        }
+    };
+    try {
+        dentro();
+        FAIL() << "no falló";
+    } catch (const ErrorMotor& error) { // still the kind it was
+        EXPECT_EQ(error.numero(), fallo::archivoDanado);
+        EXPECT_EQ(error.descripcion(), "parcela.xls: el libro está incompleto");
+        EXPECT_STREQ(error.what(), "Error 3049: parcela.xls: el libro está incompleto (tabla «Parcela1$»)");
+    }
+}

@@ -1,0 +1,35 @@
+#include "basico/Saltando.h"
+#include "basico/Aritmetica.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace varo;
+
+TEST(Saltando, UnaSentenciaSinFalloHaceSuEfecto) {
+    int n = 1;
+    EXPECT_FALSE(saltando([&] { n = 2; }).has_value());
+    EXPECT_EQ(n, 2);
+}
+
+TEST(Saltando, UnFalloAbandonaLaSentenciaYVuelveContado) {
+    double x = 1;
+    const auto error = saltando([&] {
+        x = Dividir(x, 0);
+        x = 3;
+    });
+    ASSERT_TRUE(error.has_value());
+    EXPECT_EQ(error->numero(), fallo::divisionPorCero);
+    EXPECT_EQ(x, 1);
+}
+
+TEST(Saltando, TambienSaltaLosFallosDelMotor) {
+    const auto error = saltando([] { throw ErrorMotor{fallo::nombreDesconocido, "DAP"}; });
+    ASSERT_TRUE(error.has_value());
+    EXPECT_EQ(error->descripcion(), "DAP");
+}
+
+TEST(Saltando, LoQueNoEsFalloDelProgramaSigueSuCamino) {
+    EXPECT_THROW(saltando([] { throw std::logic_error{"defecto"}; }), std::logic_error);
+}

@@ -1,0 +1,207 @@
+#include "data/FrmSeleccion.h"
+
+#include "apoyo/Jornada.h"
+#include "data/Hojadedatos.h"
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+namespace {
+
+using T = std::string;
+
+const char* const noEncontrada = "No se ha encontrado la hoja seleccionada. Intente de nuevo";
+
+Valor texto(const char* t) {
+    return Valor{T{t}};
+}
+
+std::vector<std::vector<std::string>> Celdas(const Rejilla& rejilla) {
+    std::vector<std::vector<std::string>> celdas;
+    celdas.reserve(static_cast<std::size_t>(rejilla.Rows()));
+    for (int fila = 0; fila < rejilla.Rows(); ++fila) {
+        auto& textos = celdas.emplace_back();
+        textos.reserve(static_cast<std::size_t>(rejilla.Cols()));
+        for (int columna = 0; columna < rejilla.Cols(); ++columna) {
+            textos.push_back(rejilla.TextMatrix(fila, columna));
+        }
+    }
+    return celdas;
+}
+
+struct HojaAbierta : Jornada {
+    explicit HojaAbierta(const Filas& filas) { abrirParcela(filas); }
+    Hojadedatos& hoja() { return programa.tocar<Hojadedatos>(); }
+    Rejilla& rejilla() { return hoja().MSFlexGrid1; }
+};
+
+TEST(FrmSeleccion, LlevaSusLeyendas) {
+    Jornada jornada;
+    const auto& ventana = jornada.programa.tocar<FrmSeleccion>();
+    EXPECT_EQ(ventana.Caption(), "Localización de los datos");
+    EXPECT_EQ(ventana.Label1.Caption(), "Seleccione la hoja que contiene los datos");
+    EXPECT_EQ(ventana.CmdAceptar.Caption(), "Aceptar");
+    EXPECT_EQ(ventana.CmdCancelar.Caption(), "Cancelar");
+    EXPECT_TRUE(ventana.CboHoja.editable());
+}
+
+TEST(FrmSeleccion, UnaHojaDeTresCamposPierdeElUltimo) {
+    HojaAbierta abierta{{{texto("X"), texto("Y"), texto("CAP")}, {1.5, 2.25, 30.0}, {texto("a"), {}, 40.0}}};
+    EXPECT_EQ(Celdas(abierta.rejilla()),
+              (std::vector<std::vector<std::string>>{
+                  {"Nº de punto", "X", "Y", "CAP"}, {"1", "1,5", "2,25", ""}, {"2", "a", "", ""}}));
+    EXPECT_GT(abierta.rejilla().ColWidth(1), 0);
+    EXPECT_GT(abierta.rejilla().ColWidth(2), 0);
+    EXPECT_EQ(abierta.rejilla().ColWidth(3), 0) << "una columna sin datos se oculta";
+}
+
+TEST(FrmSeleccion, UnaHojaDeDosCamposMuestraElPrimeroYOcultaElSegundo) {
+    HojaAbierta abierta{{{texto("A"), texto("B")}, {1.0, 2.0}}};
+    EXPECT_EQ(Celdas(abierta.rejilla()),
+              (std::vector<std::vector<std::string>>{{"Nº de punto", "A", "B"}, {"1", "1", ""}}));
+    EXPECT_EQ(abierta.rejilla().ColWidth(2), 0);
+}
+
+TEST(FrmSeleccion, UnaHojaConUnSoloCampoDejaUnaFila) {
+    HojaAbierta abierta{{{texto("A")}, {1.0}, {2.0}, {3.0}}};
+    EXPECT_EQ(abierta.rejilla().Rows(), 2);
+    EXPECT_EQ(abierta.rejilla().TextMatrix(0, 1), "A");
+    EXPECT_EQ(abierta.rejilla().TextMatrix(1, 0), "3");
+    EXPECT_EQ(abierta.rejilla().TextMatrix(1, 1), "");
+}
+
+TEST(FrmSeleccion, UnaTablaDeFilasVaciasDejaUnaFila) {
+    // Only the last field holds something, and its data never arrive.
+    HojaAbierta abierta{{{texto("A"), texto("B"), texto("C")}, {{}, {}, 1.0}, {{}, {}, 2.0}}};
+    EXPECT_EQ(abierta.rejilla().Rows(), 2);
+}
+
+TEST(FrmSeleccion, LasFilasVaciasSeVanYLaNumeracionConservaSusHuecos) {
+    HojaAbierta abierta{{{texto("A"), texto("B"), texto("Z")},
+                         {1.0, 10.0, {}},
+                         {{}, {}, texto("z")},
+                         {{}, {}, {}},
+                         {2.0, {}, {}},
+                         {{}, {}, texto("z")},
+                         {{}, {}, texto("z")}}};
+    EXPECT_EQ(Celdas(abierta.rejilla()),
+              (std::vector<std::vector<std::string>>{
+                  {"Nº de punto", "A", "B", "Z"}, {"1", "1", "10", ""}, {"4", "2", "", ""}}));
+}
+
+TEST(FrmSeleccion, CadaColumnaTieneElAnchoDelTextoMasAnchoMasElMargen) {
+    HojaAbierta abierta{{{texto("Nombre"), texto("Y"), texto("Z")}, {texto("ab"), texto("abcdefgh"), {}}}};
+    const auto ancho = [&](const char* t) { return static_cast<int>(abierta.servicios.anchoTexto(t)) + 100; };
+    EXPECT_EQ(abierta.rejilla().ColWidth(0), ancho("Nombre")) << "la columna 0 se mide con el primer campo";
+    EXPECT_EQ(abierta.rejilla().ColWidth(1), ancho("Nombre"));
+    EXPECT_EQ(abierta.rejilla().ColWidth(2), ancho("abcdefgh"));
+}
+
+TEST(FrmSeleccion, AlAceptarSeVeLaHojaConSuTitulo) {
+    HojaAbierta abierta{CuadradoConCentro()};
+    EXPECT_EQ(abierta.hoja().Caption(), "Parcela1$ parcela.xls");
+    EXPECT_TRUE(abierta.hoja().Visible());
+    EXPECT_TRUE(abierta.rejilla().Visible());
+    EXPECT_EQ(abierta.programa.activa(), &abierta.hoja());
+    const auto& seleccion = abierta.programa.tocar<FrmSeleccion>();
+    EXPECT_FALSE(seleccion.Visible());
+    EXPECT_EQ(seleccion.CboHoja.Text(), "Parcela1$");
+    EXPECT_EQ(seleccion.MousePointer(), Formulario::punteroNormal);
+    EXPECT_EQ(abierta.rejilla().ColSel(), 0);
+}
+
+TEST(FrmSeleccion, AceptarConNingunaAvisaYDejaElDialogo) {
+    Jornada jornada;
+    jornada.abrirLibro({{"Parcela1", CuadradoConCentro()}});
+    auto& seleccion = jornada.programa.tocar<FrmSeleccion>();
+    jornada.servicios.esperarMensaje(noEncontrada);
+    jornada.usuario.clic(seleccion.CmdAceptar);
+    EXPECT_EQ(jornada.servicios.mensajes().back(),
+              (ServiciosPreparados::Mensaje{noEncontrada, "Hoja no encontrada", 48}));
+    EXPECT_TRUE(seleccion.Visible());
+    EXPECT_EQ(seleccion.MousePointer(), Formulario::punteroNormal);
+    EXPECT_TRUE(jornada.marco().mnuAbrir.Enabled());
+    EXPECT_FALSE(jornada.marco().mnuMapa.Enabled());
+    ASSERT_TRUE(seleccion.ultimoFallo().has_value());
+
+    jornada.aceptarHoja("Parcela1$");
+    EXPECT_FALSE(seleccion.Visible());
+    EXPECT_FALSE(seleccion.ultimoFallo().has_value());
+}
+
+TEST(FrmSeleccion, UnaHojaVaciaDaElMismoMensaje) {
+    Jornada jornada;
+    jornada.abrirLibro({{"Vacia", {}}, {"SoloCabecera", {{texto("A"), texto("B")}}}});
+    auto& seleccion = jornada.programa.tocar<FrmSeleccion>();
+    for (const char* const hoja : {"Vacia$", "SoloCabecera$", "Otra$"}) {
+        jornada.servicios.esperarMensaje(noEncontrada);
+        jornada.aceptarHoja(hoja);
+        EXPECT_TRUE(seleccion.Visible()) << hoja;
+    }
+}
+
+TEST(FrmSeleccion, ElNombreTecleadoNoDistingueMayusculas) {
+    Jornada jornada;
+    jornada.abrirLibro({{"Parcela1", CuadradoConCentro()}});
+    jornada.aceptarHoja("PARCELA1$");
+    EXPECT_EQ(jornada.programa.tocar<Hojadedatos>().Caption(), "PARCELA1$ parcela.xls");
+}
+
+TEST(FrmSeleccion, CancelarSueltaElArchivoYDejaLosMenus) {
+    Jornada jornada;
+    jornada.abrirLibro({{"Parcela1", CuadradoConCentro()}});
+    jornada.usuario.clic(jornada.programa.tocar<FrmSeleccion>().CmdCancelar);
+    EXPECT_EQ(jornada.programa.cargada<FrmSeleccion>(), nullptr);
+    auto* const hoja = jornada.programa.cargada<Hojadedatos>();
+    ASSERT_NE(hoja, nullptr);
+    EXPECT_FALSE(hoja->Visible());
+    EXPECT_EQ(hoja->Data1.DatabaseName(), "");
+    EXPECT_EQ(hoja->Data1.RecordSource, "");
+    EXPECT_TRUE(jornada.marco().mnuAbrir.Enabled());
+    EXPECT_FALSE(jornada.marco().mnuCerrar.Enabled());
+}
+
+TEST(FrmSeleccion, UnTextoMasAnchoDeLoQueCabeEn16BitsNoPasa) {
+    Jornada jornada;
+    const std::string largo(440, 'm');
+    jornada.abrirLibro({{"Parcela1", {{texto("A"), texto("B")}, {Valor{largo}, 1.0}}}});
+    jornada.servicios.esperarMensaje(noEncontrada);
+    jornada.aceptarHoja("Parcela1$");
+    ASSERT_TRUE(jornada.programa.tocar<FrmSeleccion>().ultimoFallo().has_value());
+    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->numero(), 6);
+}
+
+Filas FilasNumeradas(int filas) {
+    Filas tabla{{texto("A"), texto("B")}};
+    tabla.reserve(static_cast<std::size_t>(filas) + 1);
+    for (int fila = 1; fila <= filas; ++fila) {
+        tabla.push_back({static_cast<double>(fila), 0.0});
+    }
+    return tabla;
+}
+
+TEST(FrmSeleccion, Caben32766FilasYNiUnaMas) {
+    Jornada jornada;
+    jornada.abrirLibro({{"Justa", FilasNumeradas(32766)}, {"Larga", FilasNumeradas(32767)}});
+    jornada.servicios.esperarMensaje(noEncontrada);
+    jornada.aceptarHoja("Larga$");
+    ASSERT_TRUE(jornada.programa.tocar<FrmSeleccion>().ultimoFallo().has_value());
+    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->numero(), 6);
+    jornada.aceptarHoja("Justa$");
+    const auto& rejilla = jornada.programa.tocar<Hojadedatos>().MSFlexGrid1;
+    EXPECT_EQ(rejilla.Rows(), 32767);
+    EXPECT_EQ(rejilla.TextMatrix(32766, 1), "32766");
+}
+
+TEST(Hojadedatos, LaRejillaSigueElTamanoDeLaVentana) {
+    HojaAbierta abierta{CuadradoConCentro()};
+    abierta.hoja().redimensionar(5000, 4000);
+    EXPECT_EQ(abierta.rejilla().Width(), 4950);
+    EXPECT_EQ(abierta.rejilla().Height(), 3600);
+    abierta.hoja().redimensionar(20, 30);
+    EXPECT_EQ(abierta.rejilla().Width(), -30);
+    EXPECT_EQ(abierta.rejilla().Height(), -370);
+}
+
+} // namespace
+} // namespace varo::prueba

@@ -1,0 +1,159 @@
+#include "indices/CorridaIndices.h"
+
+#include "apoyo/Jornada.h"
+#include "data/Hojadedatos.h"
+#include "indices/FrmCrearArchivo.h"
+#include "map/FrmMapa.h"
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+namespace {
+
+/// The square drawn, with these checks on.
+struct Corrida : Jornada {
+    explicit Corrida(const std::vector<std::string>& casillas, const Filas& filas = CuadradoConCentro()) {
+        abrirParcela(filas);
+        encender(casillas);
+        dibujarCuadrado();
+    }
+    void encender(const std::vector<std::string>& casillas) {
+        cambiarOpciones([&](OpcionesPrograma& opciones) {
+            for (const auto& casilla : casillas) {
+                usuario.clic(opciones.control(casilla));
+            }
+        });
+    }
+    void correr() { usuario.clic(programa.tocar<FrmMapa>().mnuIndices); }
+    const ResultadosIndices& resultados() { return programa.resultados; }
+};
+
+std::vector<double> Primeros(const ResultadosIndices::Indice& indice, int cuantos) {
+    std::vector<double> valores;
+    valores.reserve(static_cast<std::size_t>(cuantos));
+    for (int i = 0; i < cuantos; ++i) {
+        valores.push_back(indice(i));
+    }
+    return valores;
+}
+
+const std::vector<std::string> todas{"ChN",      "ChAB",     "ChABj",    "ChDmed",   "ChDmax",
+                                     "ChDdom",   "ChBmed",   "ChBmax",   "ChBdom",   "ChAPDmed",
+                                     "ChAPDmax", "ChAPDsum", "ChAPBmed", "ChAPBmax", "ChAPBsum"};
+
+TEST(CorridaIndices, SinCasillasNoSeCalculaNadaYSePideElArchivo) {
+    Corrida corrida{{}};
+    corrida.correr();
+    EXPECT_EQ(corrida.resultados().IndN.limite(), -1);
+    EXPECT_TRUE(corrida.programa.tocar<FrmCrearArchivo>().Visible());
+}
+
+TEST(CorridaIndices, ElNYElABSonLosDeLaParcelaEnTodosLosArboles) {
+    Corrida corrida{{"ChN", "ChAB"}};
+    corrida.correr();
+    // Five stems less half of four vertices in 100 m2.
+    EXPECT_EQ(Primeros(corrida.resultados().IndN, 5), std::vector<double>(5, 300.0));
+    const auto area = [](double cap) { return cap * cap / (4 * 3.1415927 * 10000); };
+    const double suma = area(100) + area(80) + area(60) + area(40) + area(50);
+    const double vertices = (10000 + 6400 + 3600 + 1600) / 125663.708 * 0.75;
+    EXPECT_NEAR(corrida.resultados().IndAB(0), (suma - vertices) / 100 * 10000, 1e-9);
+    EXPECT_EQ(corrida.resultados().IndAB(4), corrida.resultados().IndAB(0));
+}
+
+TEST(CorridaIndices, CadaVectorTieneUnElementoDeSobra) {
+    Corrida corrida{todas};
+    corrida.correr();
+    for (const auto& columna : columnasIndependientes) {
+        EXPECT_EQ((corrida.resultados().*columna.indice).limite(), 5) << columna.encabezado;
+        EXPECT_EQ((corrida.resultados().*columna.indice)(5), 0) << columna.encabezado;
+    }
+}
+
+TEST(CorridaIndices, LasRazonesVanPorElOrdenDeLaRejilla) {
+    Corrida corrida{{"ChDmax", "ChAPDmax"}};
+    corrida.correr();
+    EXPECT_EQ(Primeros(corrida.resultados().IndDmax, 5), (std::vector<double>{1, 0.8, 0.6, 0.4, 0.5}));
+    // 10000 / 300 m2 per stem; N is worked out although its check is off.
+    EXPECT_EQ(corrida.resultados().IndAPDmax(0), 10000 / 300.0);
+    EXPECT_EQ(corrida.resultados().IndN.limite(), -1);
+}
+
+TEST(CorridaIndices, UnaSegundaCorridaRehaceSoloLoQueActiva) {
+    Corrida corrida{{"ChN", "ChDmax"}};
+    corrida.correr();
+    corrida.encender({"ChN"});
+    corrida.programa.sesion.PiesHaActual = -1;
+    corrida.correr();
+    EXPECT_EQ(corrida.resultados().IndN(0), 300) << "lo que no se activa queda de la corrida anterior";
+    EXPECT_EQ(corrida.programa.sesion.PiesHaActual, -1);
+}
+
+TEST(CorridaIndices, UnFalloDiceLaFamiliaYLaFilaYElProgramaSigue) {
+    auto filas = CuadradoConCentro();
+    for (std::size_t i = 1; i <= 5; ++i) {
+        filas[i][8] = 0.0;
+    }
+    Corrida corrida{{"ChN", "ChDmax"}, filas};
+    corrida.servicios.esperarFallo(11);
+    corrida.correr();
+    EXPECT_EQ(corrida.servicios.fallos().back().lugar(), "familia di/dmax, fila 1");
+    EXPECT_EQ(corrida.programa.cargada<FrmCrearArchivo>(), nullptr);
+    EXPECT_EQ(corrida.programa.tocar<FrmMapa>().MousePointer(), Formulario::punteroNormal);
+    EXPECT_FALSE(corrida.programa.terminado());
+    corrida.encender({"ChDmax"});
+    corrida.correr();
+    EXPECT_TRUE(corrida.programa.tocar<FrmCrearArchivo>().Visible());
+}
+
+TEST(CorridaIndices, SinColumnaDeTamanoElNSirveYElABFalla) {
+    Jornada jornada;
+    jornada.abrirParcela(CuadradoConCentro());
+    jornada.cambiarOpciones([&](OpcionesPrograma& opciones) { jornada.usuario.clic(opciones.ChN); });
+    jornada.dibujarCuadrado();
+    jornada.programa.sesion.ColumnaDAP = 0;
+    auto& mapa = jornada.programa.tocar<FrmMapa>();
+    jornada.usuario.clic(mapa.mnuIndices);
+    EXPECT_EQ(jornada.programa.resultados.IndN(0), 300);
+
+    jornada.cambiarOpciones([&](OpcionesPrograma& opciones) { jornada.usuario.clic(opciones.ChAB); });
+    jornada.servicios.esperarFallo(3265);
+    jornada.usuario.clic(mapa.mnuIndices);
+    EXPECT_TRUE(jornada.servicios.todoPedido());
+}
+
+TEST(CorridaIndices, UnaRejillaConSoloCabeceraDaVectoresYNingunaFila) {
+    Corrida corrida{{"ChN"}};
+    corrida.programa.tocar<Hojadedatos>().MSFlexGrid1.Rows(1);
+    corrida.correr();
+    EXPECT_EQ(corrida.resultados().IndN.limite(), 0);
+}
+
+TEST(CorridaIndices, CambiarElCodigoTrasDibujarLeeLaColumnaVecinaDelContorno) {
+    Corrida corrida{{"ChAB"}};
+    corrida.encender({"ChCodigo"});
+    corrida.servicios.esperarFallo(13);
+    corrida.correr();
+    EXPECT_NE(corrida.servicios.fallos().back().lugar().find("ABha"), std::string::npos);
+}
+
+TEST(CorridaIndices, LasFamiliasPorHacerSeRechazanConPalabras) {
+    Corrida corrida{{"ChAPA"}};
+    corrida.servicios.esperarFallo(445);
+    corrida.correr();
+    EXPECT_NE(corrida.servicios.fallos().back().descripcion().find("ChAPA"), std::string::npos);
+}
+
+TEST(ColumnasIndependientes, ElArchivoPoneLosDominantesAntesQueElMayor) {
+    std::vector<std::string> encabezados;
+    encabezados.reserve(columnasIndependientes.size());
+    for (const auto& columna : columnasIndependientes) {
+        encabezados.emplace_back(columna.encabezado);
+    }
+    EXPECT_EQ(encabezados,
+              (std::vector<std::string>{"Pies/ha", "ABha", "ABha(dj>di)", "di/dmed", "di/ddom", "di/dmax",
+                                        "bi/bmed", "bi/bdom", "bi/bmax", "AP(di/dmed)", "AP(di/dmax)",
+                                        "AP(di/dsum)", "AP(bi/bmed)", "AP(bi/bmax)", "AP(bi/bsum)"}));
+}
+
+} // namespace
+} // namespace varo::prueba

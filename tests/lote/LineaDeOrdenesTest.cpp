@@ -1,0 +1,82 @@
+#include "lote/LineaDeOrdenes.h"
+
+#include "lote/Version.h"
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+namespace {
+
+using Argumentos = std::vector<std::string>;
+
+std::string Error(const Argumentos& argumentos) {
+    try {
+        LeerOrdenes(argumentos);
+    } catch (const ErrorDeOrden& error) {
+        return error.what();
+    }
+    return "(sin error)";
+}
+
+TEST(LineaDeOrdenes, LosTrabajosConservanSuOrden) {
+    const auto ordenes = LeerOrdenes({"b.toml", "a.toml", "c.toml"});
+    EXPECT_EQ(ordenes.trabajos, (std::vector<std::filesystem::path>{"b.toml", "a.toml", "c.toml"}));
+    EXPECT_EQ(ordenes.aLaVez, 1);
+    EXPECT_FALSE(ordenes.cambios.archivo || ordenes.cambios.hoja || ordenes.cambios.salida);
+    EXPECT_FALSE(ordenes.tablas || ordenes.plantilla || ordenes.texto);
+}
+
+TEST(LineaDeOrdenes, LosCambiosYLosTrabajosALaVezVanEnCualquierSitio) {
+    const auto ordenes = LeerOrdenes(
+        {"--archivo", "p.xls", "a.toml", "--hoja=H$", "b.toml", "--salida", "d", "--trabajos", "4"});
+    EXPECT_EQ(ordenes.trabajos.size(), 2U);
+    EXPECT_EQ(ordenes.cambios.archivo, "p.xls");
+    EXPECT_EQ(ordenes.cambios.hoja, "H$");
+    EXPECT_EQ(ordenes.cambios.salida, "d");
+    EXPECT_EQ(ordenes.aLaVez, 4);
+}
+
+TEST(LineaDeOrdenes, TablasYPlantillaVanSolas) {
+    EXPECT_EQ(LeerOrdenes({"--tablas", "p.xls"}).tablas, "p.xls");
+    EXPECT_EQ(LeerOrdenes({"--plantilla", "p.xls"}).plantilla, "p.xls");
+    const std::string solas = "--tablas y --plantilla van solas, sin trabajos ni otras opciones";
+    EXPECT_EQ(Error({"--tablas", "p.xls", "a.toml"}), solas);
+    EXPECT_EQ(Error({"--tablas", "p.xls", "--plantilla", "p.xls"}), solas);
+    EXPECT_EQ(Error({"--plantilla", "p.xls", "--hoja", "H"}), solas);
+    EXPECT_EQ(Error({"--plantilla", "p.xls", "--trabajos", "2"}), solas);
+}
+
+TEST(LineaDeOrdenes, UnaOrdenMalEscritaSeDiceEnEspanol) {
+    EXPECT_EQ(Error({}), "falta el trabajo que se corre; varo-lote --help lo explica");
+    EXPECT_EQ(Error({"--hoja", "H"}), "falta el trabajo que se corre; varo-lote --help lo explica");
+    EXPECT_EQ(Error({"a.toml", "--otra"}), "no se conoce la opción --otra");
+    EXPECT_EQ(Error({"a.toml", "--archivo"}), "--archivo: lleva un valor, y uno solo");
+    EXPECT_EQ(Error({"a.toml", "--hoja", "H", "--hoja", "I"}), "--hoja: lleva un valor, y uno solo");
+    EXPECT_EQ(Error({"a.toml", "--salida", ""}), "--salida: está vacío");
+    for (const std::string cuantos : {"0", "-1", "dos", "1.5", "99999999999", "2 "}) {
+        EXPECT_EQ(Error({"a.toml", "--trabajos=" + cuantos}),
+                  "--trabajos: se espera un número de 1 en adelante y hay «" + cuantos + "»");
+    }
+}
+
+TEST(LineaDeOrdenes, LaAyudaNombraTodasLasOpciones) {
+    for (const char* pedida : {"--help", "-h"}) {
+        const auto ayuda = LeerOrdenes({pedida}).texto;
+        ASSERT_TRUE(ayuda);
+        for (const char* trozo : {"Uso: varo-lote", "TRABAJO.toml", "--archivo F", "--hoja H", "--salida DIR",
+                                  "--trabajos N", "--tablas F", "--plantilla F", "--version", "--help"}) {
+            EXPECT_PRED_FORMAT2(::testing::IsSubstring, trozo, ayuda->c_str());
+        }
+        for (const char* ingles :
+             {"Usage", "Options", "OPTIONS", "Positionals", "TEXT", "Print", "REQUIRED"}) {
+            EXPECT_PRED_FORMAT2(::testing::IsNotSubstring, ingles, ayuda->c_str());
+        }
+    }
+}
+
+TEST(LineaDeOrdenes, LaVersionLaDiceElPrograma) {
+    EXPECT_EQ(LeerOrdenes({"--version"}).texto, std::string{"varo-lote "} + version + "\n");
+}
+
+} // namespace
+} // namespace varo::prueba

@@ -1,0 +1,205 @@
+// The command itself, as a person or a script runs it.
+#include "apoyo/Proceso.h"
+#include "basico/Texto.h"
+#include "lote/TrabajoDePrueba.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace varo::prueba {
+namespace {
+
+namespace fs = std::filesystem;
+
+Proceso VaroLote(const std::vector<std::string>& argumentos) {
+    return Ejecutar(VARO_LOTE, argumentos);
+}
+
+/// Writes a job into the plot's folder, with its own results file, and hands back its path.
+std::string Escribir(const ParcelaDePrueba& parcela, const std::string& nombre, TextoDeTrabajo texto = {}) {
+    texto.salida = "resultados = '" + nombre + ".txt'\n";
+    return parcela.escribir(nombre + ".toml", texto.texto()).string();
+}
+
+TextoDeTrabajo ConOpciones(const std::string& opciones) {
+    TextoDeTrabajo texto;
+    texto.opciones = opciones;
+    return texto;
+}
+
+TEST(VaroLote, UnTrabajoHechoAcabaConCeroYUnaLineaDeResumen) {
+    const ParcelaDePrueba parcela;
+    const auto trabajo = Escribir(parcela, "uno");
+    const auto final = VaroLote({trabajo});
+    EXPECT_EQ(final.estado, 0);
+    EXPECT_EQ(final.salida, trabajo + ": 5 árboles, superficie de la parcela: 100,0 m2, 2 columnas -> " +
+                                parcela.ruta("uno.txt").string() + "\n");
+    EXPECT_EQ(final.errores, "") << "sin terminal no se cuenta el avance";
+    EXPECT_EQ(LeerArchivo(parcela.ruta("uno.txt")), resultadosSinIndices);
+}
+
+TEST(VaroLote, CadaFinTieneSuEstadoYUnaSolaLinea) {
+    const ParcelaDePrueba parcela;
+    auto sinArea = CuadradoConCentro();
+    sinArea.resize(3);
+    const ParcelaDePrueba lineal{sinArea};
+    TextoDeTrabajo sinParcela;
+    sinParcela.parcela = "archivo = 'no_esta.xls'\nhoja = 'H'\n";
+    struct Caso {
+        std::vector<std::string> argumentos;
+        int estado;
+    };
+    const std::vector<Caso> casos{
+        {{}, 2},
+        {{"--otra"}, 2},
+        {{"--trabajos", "0", Escribir(parcela, "a")}, 2},
+        {{parcela.escribir("roto.toml", "archivo = ").string()}, 2},
+        {{Escribir(parcela, "clave", ConOpciones("ChX = 1\n"))}, 2},
+        {{Escribir(parcela, "familia", ConOpciones("ChAPA = 1\n"))}, 2},
+        {{Escribir(lineal, "fallo", ConOpciones("ChN = 1\n"))}, 3},
+        {{parcela.ruta("no_esta.toml").string()}, 4},
+        {{Escribir(parcela, "sin_parcela", sinParcela)}, 4},
+        {{Escribir(parcela, "b"), "--salida", Escribir(parcela, "c")}, 4},
+        {{"--tablas", parcela.ruta("no_esta.xls").string()}, 4},
+        {{"--plantilla", parcela.escribir("basura.xls", "nada").string()}, 4},
+    };
+    for (const auto& [argumentos, estado] : casos) {
+        const auto final = VaroLote(argumentos);
+        const std::string cuales = argumentos.empty() ? "(ninguno)" : argumentos.back();
+        EXPECT_EQ(final.estado, estado) << cuales;
+        EXPECT_EQ(final.salida, "") << cuales;
+        EXPECT_EQ(std::count(final.errores.begin(), final.errores.end(), '\n'), 1) << cuales << final.errores;
+        EXPECT_TRUE(!final.errores.empty() && final.errores.back() == '\n') << cuales;
+    }
+}
+
+TEST(VaroLote, ConVariosTrabajosSeCorrenTodosYCuentaElPrimeroQueFalla) {
+    auto sinArea = CuadradoConCentro();
+    sinArea.resize(3);
+    const ParcelaDePrueba lineal{sinArea};
+    const ParcelaDePrueba parcela;
+    const auto bueno = Escribir(parcela, "bueno");
+    const auto fallo = Escribir(lineal, "fallo", ConOpciones("ChN = 1\n"));
+    const auto roto = parcela.escribir("roto.toml", "archivo = ").string();
+    const auto ausente = parcela.ruta("no_esta.toml").string();
+    EXPECT_EQ(VaroLote({fallo, roto, ausente, bueno}).estado, 3);
+    EXPECT_TRUE(fs::exists(parcela.ruta("bueno.txt")));
+    const auto final = VaroLote({bueno, ausente, roto, fallo});
+    EXPECT_EQ(final.estado, 4);
+    EXPECT_EQ(std::count(final.salida.begin(), final.salida.end(), '\n'), 1);
+    EXPECT_EQ(std::count(final.errores.begin(), final.errores.end(), '\n'), 3);
+    EXPECT_LT(final.errores.find("no_esta.toml"), final.errores.find("roto.toml"));
+    EXPECT_LT(final.errores.find("roto.toml"), final.errores.find("fallo.toml"));
+    EXPECT_EQ(VaroLote({roto, ausente, "--trabajos", "2"}).estado, 2);
+}
+
+TEST(VaroLote, LaLineaDeOrdenesPuedeMasQueElTrabajo) {
+    const ParcelaDePrueba parcela;
+    Hoja hoja;
+    hoja.nombre = "Otra";
+    hoja.celdas = CuadradoConCentro();
+    for (std::size_t fila = 1; fila < hoja.celdas.size(); ++fila) {
+        hoja.celdas[fila][0] = 10.0 * static_cast<double>(fila);
+    }
+    EscribirArchivoXls(parcela.ruta("otra.xls"), {hoja});
+    const auto trabajo = Escribir(parcela, "uno");
+    const auto final = VaroLote({trabajo, "--archivo", parcela.ruta("otra.xls").string(), "--hoja", "Otra$",
+                                 "--salida", parcela.ruta("a/b").string()});
+    EXPECT_EQ(final.estado, 0) << final.errores;
+    EXPECT_FALSE(fs::exists(parcela.ruta("uno.txt")));
+    EXPECT_EQ(LeerArchivo(parcela.ruta("a/b/uno.txt")), "N\xBAOrden\tN\xBA"
+                                                        "Arbol\r\n1\t10\r2\t20\r3\t30\r4\t40\r5\t50\r\r\n");
+}
+
+TEST(VaroLote, DosTrabajosSobreElMismoArchivoSeRechazanAntesDeEmpezar) {
+    const ParcelaDePrueba parcela;
+    const auto uno = Escribir(parcela, "uno");
+    const auto final = VaroLote({uno, uno});
+    EXPECT_EQ(final.estado, 2);
+    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "es también una salida de", final.errores.c_str());
+    EXPECT_FALSE(fs::exists(parcela.ruta("uno.txt")));
+}
+
+TEST(VaroLote, VariosALaVezDanLosMismosBytesYElMismoOrden) {
+    const ParcelaDePrueba parcela;
+    const std::vector<std::string> opciones{"ChN = 1\n",    "ChAB = 1\n",     "ChABj = 1\n",
+                                            "ChDdom = 1\n", "ChAPBsum = 1\n", "ChDmed = 1\nChBmed = 1\n",
+                                            "ChX = 1\n",    "Optcm = true\n"};
+    std::vector<std::string> trabajos;
+    for (const auto& opcion : opciones) {
+        trabajos.push_back(Escribir(parcela, "t" + std::to_string(trabajos.size()), ConOpciones(opcion)));
+    }
+    const auto correr = [&](const std::string& carpeta, const std::string& aLaVez) {
+        auto argumentos = trabajos;
+        argumentos.insert(argumentos.end(),
+                          {"--salida", parcela.ruta(carpeta).string(), "--trabajos", aLaVez});
+        const auto final = VaroLote(argumentos);
+        EXPECT_EQ(final.estado, 2);
+        return final.salida;
+    };
+    const std::string uno = correr("uno", "1");
+    const std::string cuatro = correr("dos", "4");
+    EXPECT_EQ(std::count(uno.begin(), uno.end(), '\n'), 7);
+    EXPECT_EQ(Reemplazar(cuatro, parcela.ruta("dos").string(), parcela.ruta("uno").string()), uno);
+    for (std::size_t i = 0; i < trabajos.size(); ++i) {
+        const std::string nombre = "t" + std::to_string(i) + ".txt";
+        if (opciones[i] != "ChX = 1\n") {
+            EXPECT_EQ(LeerArchivo(parcela.ruta("dos/" + nombre)), LeerArchivo(parcela.ruta("uno/" + nombre)));
+        }
+    }
+}
+
+TEST(VaroLote, UnAvisoVaALosErroresYNoCambiaElEstado) {
+    const ParcelaDePrueba parcela;
+    TextoDeTrabajo texto;
+    texto.columnas = "X = 2\nY = 3\nN = 4\nE = 5\nS = 6\nO = 7\nIndice = 1\nCodigo = 8\nDAP = 10\n";
+    const auto trabajo = Escribir(parcela, "uno", texto);
+    const auto final = VaroLote({trabajo});
+    EXPECT_EQ(final.estado, 0);
+    EXPECT_EQ(final.errores,
+              trabajo + ": línea 12: columnas.DAP: aviso: la columna 10 («Nota») no tiene datos en la "
+                        "rejilla\n");
+}
+
+TEST(VaroLote, TablasEnumeraLasTablasYSusCampos) {
+    const ParcelaDePrueba parcela;
+    Hoja hoja;
+    hoja.nombre = "Otra";
+    hoja.celdas = {{std::string{"Con\nsalto"}, std::string{"Nota"}}, {1.0, 2.0}, {3.0, 4.0}};
+    Hoja vacia;
+    vacia.nombre = "Sola";
+    vacia.celdas = {{std::string{"Nota"}}, {1.0}};
+    EscribirArchivoXls(parcela.ruta("otra.xls"), {hoja, vacia});
+    const auto final = VaroLote({"--tablas", parcela.ruta("otra.xls").string()});
+    EXPECT_EQ(final.estado, 0);
+    EXPECT_EQ(final.salida, "Otra$ (2 filas)\n"
+                            "   1  Con salto\n"
+                            "   2  Nota (última: sus datos no llegan a la rejilla)\n"
+                            "Sola$ (1 fila)\n"
+                            "   1  Nota (última: sus datos no llegan a la rejilla)\n");
+    EXPECT_EQ(final.errores, "");
+}
+
+TEST(VaroLote, LaPlantillaEscritaEnUnArchivoSePuedeCorrer) {
+    const ParcelaDePrueba parcela;
+    const auto plantilla = VaroLote({"--plantilla", parcela.ruta("parcela.xls").string()});
+    EXPECT_EQ(plantilla.estado, 0);
+    const auto trabajo = parcela.escribir("trabajo.toml", plantilla.salida).string();
+    const auto final = VaroLote({trabajo});
+    EXPECT_EQ(final.estado, 0) << final.errores;
+    EXPECT_TRUE(fs::exists(parcela.ruta("indices.txt")));
+}
+
+TEST(VaroLote, LaAyudaYLaVersionSalenPorLaSalida) {
+    const auto ayuda = VaroLote({"--help"});
+    EXPECT_EQ(ayuda.estado, 0);
+    EXPECT_EQ(ayuda.errores, "");
+    EXPECT_EQ(ayuda.salida.substr(0, 8), "Calcula ");
+    const auto version = VaroLote({"--version"});
+    EXPECT_EQ(version.estado, 0);
+    EXPECT_EQ(version.salida.substr(0, 10), "varo-lote ");
+}
+
+} // namespace
+} // namespace varo::prueba

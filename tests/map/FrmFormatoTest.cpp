@@ -1,0 +1,217 @@
+#include "map/FrmFormato.h"
+
+#include "apoyo/Jornada.h"
+#include "data/Hojadedatos.h"
+#include "map/FrmMapa.h"
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+namespace {
+
+using Textos = std::vector<std::string>;
+
+Valor texto(const std::string& t) {
+    return Valor{t};
+}
+
+/// Trees at the corners of a square and inside it, with these codes in the sheet's order; fields Arbol, X, Y,
+/// R, Cod, Nota.
+Filas ConCodigos(const std::vector<Valor>& codigos) {
+    Filas filas{{texto("Arbol"), texto("X"), texto("Y"), texto("R"), texto("Cod"), texto("Nota")}};
+    const std::vector<std::pair<double, double>> lugares{{0, 0}, {0, 10}, {10, 10}, {10, 0}, {5, 5}, {4, 3}};
+    for (std::size_t i = 0; i < codigos.size(); ++i) {
+        filas.push_back(
+            {static_cast<double>(i + 1), lugares[i].first, lugares[i].second, 10.0, codigos[i], texto("n")});
+    }
+    return filas;
+}
+
+/// The columns of ConCodigos chosen and "Dibujar" pressed.
+struct Formato : Jornada {
+    explicit Formato(const Filas& filas, bool conCodigo = true) {
+        abrirParcela(filas);
+        cambiarOpciones([&](OpcionesPrograma& opciones) {
+            usuario.clic(opciones.OptRM);
+            if (!conCodigo) {
+                usuario.clic(opciones.ChCodigo);
+            }
+        });
+        elegirColumnas(conCodigo);
+    }
+    void elegirColumnas(bool conCodigo) {
+        pedirColumnas();
+        auto& dialogo = programa.tocar<SelColRM>();
+        usuario.clic(dialogo.CmdQuitarTodo);
+        elegirPapel(dialogo, 0, 2);
+        elegirPapel(dialogo, 1, 3);
+        elegirPapel(dialogo, 2, 4);
+        elegirPapel(dialogo, 3, 1);
+        if (conCodigo) {
+            elegirPapel(dialogo, 4, 5);
+        }
+        usuario.clic(dialogo.CmdDibujar);
+    }
+    FrmFormato& ventana() { return programa.tocar<FrmFormato>(); }
+    Textos columna(int numero) {
+        const auto& rejilla = programa.tocar<Hojadedatos>().MSFlexGrid1;
+        Textos textos;
+        textos.reserve(static_cast<std::size_t>(rejilla.Rows()));
+        for (int fila = 1; fila < rejilla.Rows(); ++fila) {
+            textos.push_back(rejilla.TextMatrix(fila, numero));
+        }
+        return textos;
+    }
+};
+
+TEST(FrmFormato, LosCodigosDistintosSeListanPorSuOrden) {
+    Formato formato{ConCodigos({texto("QP"), texto("PS"), texto("QP"), 7.0, texto("PS"), {}})};
+    EXPECT_EQ(formato.programa.sesion.Codigos, (Textos{"7", "PS", "QP"}));
+    EXPECT_EQ(formato.programa.sesion.NumCodigos, 3);
+    EXPECT_EQ(formato.ventana().LbCodigo(0).Caption(), "7");
+    EXPECT_EQ(formato.ventana().LbCodigo(2).Caption(), "QP");
+    EXPECT_EQ(formato.ventana().CboCodFont(2).Text(), "MS Sans Serif");
+    EXPECT_TRUE(formato.ventana().LbCod.Visible());
+    EXPECT_EQ(formato.columna(1), (Textos{"1", "2", "3", "4", "5", "6"}))
+        << "ordenada otra vez por la primera columna";
+}
+
+TEST(FrmFormato, UnSoloCodigoNoCreaControles) {
+    Formato formato{ConCodigos({texto("PS"), texto("PS"), texto("PS")})};
+    EXPECT_EQ(formato.programa.sesion.NumCodigos, 1);
+    EXPECT_TRUE(formato.ventana().LbCodigo.tiene(0));
+    EXPECT_FALSE(formato.ventana().LbCodigo.tiene(1));
+}
+
+TEST(FrmFormato, UnaColumnaDeCodigosVaciaDaCeroCodigos) {
+    Formato formato{ConCodigos({{}, {}, {}})};
+    EXPECT_EQ(formato.programa.sesion.NumCodigos, 0);
+    EXPECT_EQ(formato.ventana().LbCodigo(0).Caption(), "");
+    EXPECT_FALSE(formato.ventana().LbCod.Visible());
+}
+
+TEST(FrmFormato, UnCodigoIgualALaCabeceraNoSeTomaDeLaPrimeraFila) {
+    Formato formato{ConCodigos({texto("Cod"), texto("Cod"), texto("PS")})};
+    EXPECT_EQ(formato.programa.sesion.Codigos, (Textos{"PS"}));
+}
+
+TEST(FrmFormato, SinCodigoNoSeOrdenaNiHayFilas) {
+    auto filas = ConCodigos({texto("B"), texto("A"), texto("C")});
+    std::swap(filas[1][0], filas[3][0]);
+    Formato formato{filas, false};
+    EXPECT_EQ(formato.columna(1), (Textos{"3", "2", "1"}));
+    EXPECT_EQ(formato.programa.sesion.NumCodigos, 0);
+    EXPECT_FALSE(formato.ventana().LbCodigo(0).Visible());
+}
+
+TEST(FrmFormato, ElTituloYLaFuenteTomanSuValorAlCargarse) {
+    Formato formato{ConCodigos({texto("PS"), texto("QP"), texto("PS")})};
+    EXPECT_EQ(formato.ventana().Caption(), "Formato");
+    EXPECT_EQ(formato.ventana().TxtTitName.Text(), "Parcela Parcela1$");
+    EXPECT_EQ(formato.ventana().CboTitFont.Text(), "Arial");
+}
+
+TEST(FrmFormato, ElDialogoCreceConLosCodigosYVuelveASuAltoEnElArchivoSiguiente) {
+    Formato formato{ConCodigos({texto("A"), texto("B"), texto("C")})};
+    const int alto = formato.programa.sesion.AltoFormato.valor();
+    EXPECT_GT(alto, 0);
+    EXPECT_EQ(formato.ventana().Height(), static_cast<float>(alto + 1290 + 2 * 630));
+    EXPECT_EQ(formato.ventana().CmdAceptar.Top(), formato.ventana().Height() - 910);
+    EXPECT_EQ(formato.ventana().TxtCodigo(2).Top(), formato.ventana().TxtCodigo(0).Top() + 2 * 630);
+
+    formato.usuario.clic(formato.marco().mnuCerrar);
+    EXPECT_EQ(formato.programa.sesion.CierresConMapa, 1);
+    formato.abrirParcela(ConCodigos({texto("A"), texto("B"), texto("B")}));
+    formato.cambiarOpciones([&](OpcionesPrograma& opciones) {
+        formato.servicios.esperarMensaje(
+            "Cambiaste el tipo de datos de entrada. Debes seleccionar de nuevo las columnas de entrada");
+        formato.usuario.clic(opciones.OptRM);
+    });
+    formato.elegirColumnas(true);
+    EXPECT_EQ(formato.ventana().Height(), static_cast<float>(alto + 1290 + 630));
+    EXPECT_EQ(formato.programa.sesion.AltoFormato, alto);
+}
+
+TEST(FrmFormato, AceptarQuitaLasFilasSinCoordenadas) {
+    auto filas = ConCodigos({texto("A"), texto("B"), texto("A"), texto("B"), texto("A")});
+    filas[5][1] = {};
+    filas[5][2] = {};
+    Formato formato{filas};
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    EXPECT_EQ(formato.columna(1), (Textos{"1", "2", "3", "4"}));
+    EXPECT_EQ(formato.programa.sesion.NumPuntosPoligono, 5);
+    EXPECT_EQ(formato.programa.sesion.SupPoligono, 100);
+}
+
+TEST(FrmFormato, UnaHojaSinCoordenadasNoSeQuedaSinFilas) {
+    auto filas = ConCodigos({texto("A"), texto("B")});
+    for (std::size_t i = 1; i <= 2; ++i) {
+        filas[i][1] = {};
+        filas[i][2] = {};
+    }
+    Formato formato{filas};
+    formato.servicios.esperarFallo(13);
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    EXPECT_EQ(formato.columna(1).size(), 1U);
+    EXPECT_TRUE(formato.servicios.todoPedido());
+    EXPECT_EQ(formato.ventana().MousePointer(), Formulario::punteroNormal);
+    EXPECT_FALSE(formato.programa.terminado()) << "el programa sigue";
+}
+
+TEST(FrmFormato, AceptarDaLaEscalaALasDosSuperficiesYPasaAlMapa) {
+    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")})};
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    EXPECT_FALSE(formato.ventana().Visible());
+    const auto& mapa = formato.programa.tocar<FrmMapa>();
+    EXPECT_TRUE(mapa.Visible());
+    EXPECT_NEAR(mapa.escala.abajo, -10.0 * 15 / 70, 1e-12);
+    EXPECT_EQ(formato.programa.tocar<FrmMapa2>().escala, mapa.escala);
+    EXPECT_FALSE(formato.marco().mnuMapa.Enabled());
+    EXPECT_TRUE(formato.marco().mnuOpciones.Enabled());
+}
+
+TEST(FrmFormato, UnaCoordenadaQueNoEsNumeroDiceDondeEsta) {
+    auto filas = ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")});
+    filas[3][1] = texto("diez");
+    Formato formato{filas};
+    formato.servicios.esperarFallo(13);
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    const std::string& lugar = formato.servicios.fallos().back().lugar();
+    EXPECT_NE(lugar.find("fila 3"), std::string::npos) << lugar;
+    EXPECT_NE(lugar.find("X"), std::string::npos) << lugar;
+}
+
+TEST(FrmMapa, ElTituloEsElDeLaHojaSinSuUltimaLetra) {
+    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")})};
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    auto& mapa = formato.programa.tocar<FrmMapa>();
+    EXPECT_EQ(mapa.Caption(), "Mapa de la parcela Parcela1");
+    EXPECT_EQ(mapa.mnuDatos.Caption(), "&Datos de parcela");
+    EXPECT_EQ(mapa.mnuIndices.Caption(), "&Indices de rivanza");
+    EXPECT_TRUE(mapa.mnuIndices.Enabled());
+    EXPECT_FALSE(mapa.LbTitulo.Visible());
+    EXPECT_EQ(mapa.Width(), formato.marco().Width());
+    EXPECT_EQ(mapa.Height(), formato.marco().Height());
+}
+
+TEST(FrmMapa, ElDobleClicEnLaLeyendaVuelveAlFormato) {
+    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")})};
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    auto& mapa = formato.programa.tocar<FrmMapa>();
+    mapa.LbLeyenda(0).Visible = true;
+    formato.usuario.dobleClic(mapa.LbLeyenda(0));
+    EXPECT_EQ(formato.programa.cargada<FrmMapa>(), nullptr);
+    EXPECT_TRUE(formato.ventana().Visible());
+    EXPECT_TRUE(formato.marco().mnuMapa.Enabled());
+}
+
+TEST(FrmMapa, CerrarElMapaDejaElFormatoOculto) {
+    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")})};
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    formato.usuario.cerrar(formato.programa.tocar<FrmMapa>());
+    EXPECT_FALSE(formato.ventana().Visible());
+    EXPECT_TRUE(formato.marco().mnuMapa.Enabled());
+}
+
+} // namespace
+} // namespace varo::prueba

@@ -1,0 +1,109 @@
+#include "motor/lectores/ApoyoLectores.h"
+
+#include "motor/lectores/LectorXls.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <stdexcept>
+#include <utility>
+
+namespace varo::prueba {
+namespace {
+
+std::string Corto(double numero) {
+    std::array<char, 40> letras{};
+    const auto fin = std::to_chars(letras.data(), letras.data() + letras.size(), numero).ptr;
+    return {letras.data(), fin};
+}
+
+template <class Elementos, class Texto>
+std::string Unidos(const Elementos& elementos, Texto texto) {
+    std::string linea;
+    for (const auto& elemento : elementos) {
+        linea += (linea.empty() ? "" : " | ") + texto(elemento);
+    }
+    return linea;
+}
+
+} // namespace
+
+std::vector<std::byte> BytesDe(const std::filesystem::path& archivo) {
+    std::ifstream entrada{archivo, std::ios::binary};
+    if (!entrada) {
+        throw std::runtime_error{"falta " + archivo.string()};
+    }
+    std::vector<std::byte> bytes;
+    std::transform(std::istreambuf_iterator<char>{entrada}, {}, std::back_inserter(bytes),
+                   [](char letra) { return static_cast<std::byte>(letra); });
+    return bytes;
+}
+
+std::vector<std::byte> BytesDeLibro(const std::string& nombre) {
+    return BytesDe(std::filesystem::path{VARO_DATOS_PRUEBA} / "datos" / "libros" / nombre);
+}
+
+std::vector<std::filesystem::path> Muestras(const std::string& carpeta) {
+    const auto lugar = std::filesystem::path{VARO_COMPARTIDO} / "muestras" / carpeta;
+    std::vector<std::filesystem::path> archivos;
+    if (std::filesystem::is_directory(lugar)) {
+        for (const auto& entrada : std::filesystem::directory_iterator{lugar}) {
+            archivos.push_back(entrada.path());
+        }
+    }
+    std::sort(archivos.begin(), archivos.end());
+    return archivos;
+}
+
+std::string Escrito(const Valor& valor) {
+    if (const auto* numero = std::get_if<double>(&valor)) {
+        return Corto(*numero);
+    }
+    if (const auto* texto = std::get_if<std::string>(&valor)) {
+        return "'" + *texto + "'";
+    }
+    if (const auto* fecha = std::get_if<Fecha>(&valor)) {
+        return "#" + Corto(fecha->serie);
+    }
+    if (const auto* verdad = std::get_if<bool>(&valor)) {
+        return *verdad ? "V" : "F";
+    }
+    return "-";
+}
+
+std::vector<std::string> Lineas(const Tabla& tabla) {
+    std::vector<std::string> lineas{"[" + tabla.Name + "]",
+                                    Unidos(tabla.Fields, [](const Campo& campo) { return campo.Name; })};
+    for (const auto& fila : tabla.filas) {
+        lineas.push_back(Unidos(fila, Escrito));
+    }
+    return lineas;
+}
+
+std::vector<std::string> Lineas(const std::vector<Tabla>& tablas) {
+    std::vector<std::string> lineas;
+    for (const auto& tabla : tablas) {
+        auto suyas = Lineas(tabla);
+        std::move(suyas.begin(), suyas.end(), std::back_inserter(lineas));
+    }
+    return lineas;
+}
+
+bool TablasEnterasOError(std::span<const std::byte> bytes) {
+    try {
+        for (const auto& tabla : LeerXls(bytes, "mutado.xls")) {
+            for (const auto& fila : tabla.filas) {
+                EXPECT_EQ(static_cast<std::size_t>(tabla.Fields.Count()), fila.size());
+            }
+        }
+        return true;
+    } catch (const ErrorMotor& error) {
+        EXPECT_NE(std::string::npos, error.descripcion().find("«mutado.xls»")) << error.what();
+        return false;
+    }
+}
+
+} // namespace varo::prueba

@@ -1,0 +1,36 @@
+// What the tests of the readers share: files as bytes and tables as lines that tell values and their types.
+#pragma once
+
+#include "motor/Tabla.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace varo::prueba {
+
+/// Throws std::runtime_error when the file is not there.
+std::vector<std::byte> BytesDe(const std::filesystem::path& archivo);
+
+/// The project's own workbook of that name.
+std::vector<std::byte> BytesDeLibro(const std::string& nombre);
+
+/// The files of a folder of ../shared/muestras in order of name; none when it is not there.
+std::vector<std::filesystem::path> Muestras(const std::string& carpeta);
+
+/// 'text', 1.5, #43831.5 (a date), V or F, and - for null. Numbers in the shortest form that reads back.
+std::string Escrito(const Valor& valor);
+
+/// One line with the table's name, one with its fields' names and one for each row, the values parted by " |
+/// ".
+std::vector<std::string> Lineas(const Tabla& tabla);
+
+/// The lines of all of them.
+std::vector<std::string> Lineas(const std::vector<Tabla>& tablas);
+
+/// Reads a whole workbook or faults; a table that is not whole makes the test fail. True when it was read.
+bool TablasEnterasOError(std::span<const std::byte> bytes);
+
+} // namespace varo::prueba

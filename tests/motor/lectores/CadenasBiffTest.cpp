@@ -1,0 +1,102 @@
+#include "motor/lectores/CadenasBiff.h"
+
+#include "basico/ErrorEjecucion.h"
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+
+namespace varo {
+namespace {
+
+using Fragmentos = std::vector<std::string_view>;
+using namespace std::string_view_literals;
+
+LectorContinuo Lector(const Fragmentos& fragmentos) {
+    std::vector<Bytes> bytes;
+    for (const auto fragmento : fragmentos) {
+        bytes.push_back(std::as_bytes(std::span{fragmento}));
+    }
+    return LectorContinuo{bytes};
+}
+
+std::string Unicode(const Fragmentos& fragmentos) {
+    auto lector = Lector(fragmentos);
+    return CadenasBiff{true}.LeerLarga(lector);
+}
+
+std::string EnPagina(int pagina, std::string_view bytes) {
+    auto lector = Lector({bytes});
+    CadenasBiff cadenas{false};
+    cadenas.PonerPagina(pagina);
+    return cadenas.LeerCorta(lector);
+}
+
+TEST(CadenasBiff, LeeTextosEstrechosYAnchos) {
+    EXPECT_EQ("añb", Unicode({"\3\0\0a\xF1"
+                              "b"sv}));
+    EXPECT_EQ("a€", Unicode({"\2\0\1a\0\xAC\x20"sv}));
+    EXPECT_EQ("", Unicode({"\0\0\0"sv}));
+}
+
+TEST(CadenasBiff, UnTextoVacioPuedeNoTenerBanderas) {
+    EXPECT_EQ("", Unicode({"\0\0"sv}));
+}
+
+TEST(CadenasBiff, JuntaLosParesYMarcaLosSueltos) {
+    EXPECT_EQ("😀", Unicode({"\2\0\1\x3D\xD8\x00\xDE"sv}));
+    EXPECT_EQ("\uFFFDa", Unicode({"\2\0\1\x3D\xD8"
+                                  "a\0"sv}));
+    EXPECT_EQ("\uFFFD", Unicode({"\1\0\1\x00\xDE"sv}));
+}
+
+TEST(CadenasBiff, CadaContinuacionDiceSuAnchura) {
+    EXPECT_EQ("ab€d", Unicode({"\4\0\0ab"sv, "\1\xAC\x20"
+                                             "d\0"sv}));
+    EXPECT_EQ("€b", Unicode({"\2\0\1\xAC\x20"sv, "\0b"sv}));
+    EXPECT_EQ("abc", Unicode({"\3\0\0a"sv, "\0b"sv, "\0c"sv}));
+    EXPECT_EQ("ab", Unicode({"\2\0\0"sv, "\0ab"sv}));
+}
+
+TEST(CadenasBiff, UnCaracterPartidoEntreDosRegistrosEstaDanado) {
+    EXPECT_THROW(Unicode({"\2\0\1a\0b"sv, "\1\0"sv}), ErrorMotor);
+}
+
+TEST(CadenasBiff, UnTextoQueNoAcabaEstaDanado) {
+    EXPECT_THROW(Unicode({"\5\0\0abc"sv}), ErrorMotor);
+    EXPECT_THROW(Unicode({"\5\0\0abc"sv, "\0d"sv}), ErrorMotor);
+    EXPECT_THROW(Unicode({"\5\0"sv}), ErrorMotor);
+    EXPECT_THROW(Unicode({"\5"sv}), ErrorMotor);
+}
+
+TEST(CadenasBiff, SaltaFormatosYDatosFoneticos) {
+    auto lector = Lector({"\2\0\x0C\1\0\3\0\0\0ab"
+                          "FFFF"sv,
+                          "xyz\1\0\0c"sv});
+    const CadenasBiff cadenas{true};
+    EXPECT_EQ("ab", cadenas.LeerLarga(lector));
+    EXPECT_EQ("c", cadenas.LeerLarga(lector));
+    EXPECT_TRUE(lector.Acabado());
+}
+
+TEST(CadenasBiff, UnosFormatosQueFaltanEstanDanados) {
+    EXPECT_THROW(Unicode({"\2\0\x08\1\0ab"
+                          "FFF"sv}),
+                 ErrorMotor);
+    EXPECT_THROW(Unicode({"\2\0\x04\xFF\xFF\xFF\xFF"
+                          "ab"sv}),
+                 ErrorMotor);
+}
+
+TEST(CadenasBiff, LosBytesSiguenLaPaginaDeCodigos) {
+    EXPECT_EQ("A\xC3\xB1o €", EnPagina(1252, "\5A\xF1o \x80"sv));
+    EXPECT_EQ("ñ", EnPagina(1200, "\2\xF1\0"sv));
+    EXPECT_EQ("ñ", EnPagina(0x8001, "\1\xF1"sv));
+}
+
+TEST(CadenasBiff, UnosBytesQueFaltanEstanDanados) {
+    EXPECT_THROW(EnPagina(1252, "\5abc"sv), ErrorMotor);
+}
+
+} // namespace
+} // namespace varo

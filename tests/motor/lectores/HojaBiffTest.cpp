@@ -1,0 +1,275 @@
+#include "motor/lectores/HojaBiff.h"
+
+#include "apoyo/BytesDePrueba.h"
+#include "apoyo/EscritorXls.h"
+#include "basico/ErrorEjecucion.h"
+#include "motor/lectores/ApoyoLectores.h"
+#include "motor/lectores/RegistrosBiff.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <limits>
+#include <string_view>
+
+namespace varo {
+namespace {
+
+using prueba::AnadirReal;
+using prueba::AnadirRegistro;
+using prueba::AnadirU16;
+using prueba::AnadirU32;
+using prueba::AnadirU8;
+using Contenido = std::vector<std::byte>;
+
+constexpr int formatoGeneral = 0;
+constexpr int formatoFecha = 1;
+constexpr std::uint64_t resultadoTexto = 0xFFFF'0000'0000'0000;
+constexpr std::uint64_t resultadoVacio = 0xFFFF'0000'0000'0003;
+
+Contenido Comienzo(int fila, int columna, int formato = formatoGeneral) {
+    Contenido contenido;
+    for (const int palabra : {fila, columna, formato}) {
+        AnadirU16(contenido, palabra);
+    }
+    return contenido;
+}
+
+Contenido Formula(int fila, int columna, std::uint64_t resultado, int formato = formatoGeneral) {
+    auto contenido = Comienzo(fila, columna, formato);
+    prueba::AnadirEntero(contenido, resultado, 8);
+    contenido.resize(contenido.size() + 8);
+    return contenido;
+}
+
+Contenido Texto(std::string_view texto, Contenido contenido = {}) {
+    AnadirU16(contenido, texto.size());
+    AnadirU8(contenido, 0);
+    for (const char letra : texto) {
+        AnadirU8(contenido, letra);
+    }
+    return contenido;
+}
+
+/// The records of a sheet, between its BOF and its EOF.
+class HojaAMano {
+public:
+    HojaAMano() { AnadirBof(biff::hojaDeCalculo); }
+
+    HojaAMano& Registro(int tipo, const Contenido& contenido = {}) {
+        AnadirRegistro(flujo_, tipo, contenido);
+        return *this;
+    }
+
+    HojaAMano& AnadirBof(int clase) {
+        Contenido contenido;
+        AnadirU16(contenido, biff::version8);
+        AnadirU16(contenido, clase);
+        return Registro(biff::bof, contenido);
+    }
+
+    HojaAMano& Numero(int fila, int columna, double numero, int formato = formatoGeneral) {
+        auto contenido = Comienzo(fila, columna, formato);
+        AnadirReal(contenido, numero);
+        return Registro(biff::numero, contenido);
+    }
+
+    HojaAMano& Rk(std::uint32_t rk) {
+        auto contenido = Comienzo(0, 0);
+        AnadirU32(contenido, rk);
+        return Registro(biff::rk, contenido);
+    }
+
+    HojaBiff Leer(bool calendario1904 = false) const {
+        auto flujo = flujo_;
+        AnadirRegistro(flujo, biff::eof, {});
+        const LibroBiff libro{CadenasBiff{true}, calendario1904, {}, {"uno", "dos"}, {false, true}, {}};
+        LimitesDeLectura limites{flujo.size()};
+        return LeerHoja(flujo, 0, libro, limites);
+    }
+
+    /// The cells as "row,column=value", parted by blanks.
+    std::string Celdas(bool calendario1904 = false) const {
+        std::string celdas;
+        for (const auto& celda : Leer(calendario1904).celdas) {
+            celdas += (celdas.empty() ? "" : " ") + std::to_string(celda.fila) + "," +
+                      std::to_string(celda.columna) + "=" + prueba::Escrito(celda.valor);
+        }
+        return celdas;
+    }
+
+private:
+    Contenido flujo_;
+};
+
+TEST(HojaBiff, LeeLosNumerosCortos) {
+    EXPECT_EQ("0,0=1", HojaAMano{}.Rk(0x3FF00000).Celdas());
+    EXPECT_EQ("0,0=0.01", HojaAMano{}.Rk(0x3FF00001).Celdas());
+    EXPECT_EQ("0,0=1234", HojaAMano{}.Rk(1234U << 2 | 2).Celdas());
+    EXPECT_EQ("0,0=12.34", HojaAMano{}.Rk(1234U << 2 | 3).Celdas());
+    EXPECT_EQ("0,0=-5", HojaAMano{}.Rk(static_cast<std::uint32_t>(-5) << 2 | 2).Celdas());
+    EXPECT_EQ("0,0=-536870912", HojaAMano{}.Rk(0x80000002).Celdas());
+    EXPECT_EQ("0,0=536870911", HojaAMano{}.Rk(0x7FFFFFFE).Celdas());
+}
+
+TEST(HojaBiff, LeeUnaFilaDeNumerosCortos) {
+    Contenido contenido;
+    for (const int palabra : {4, 2}) {
+        AnadirU16(contenido, palabra);
+    }
+    for (const unsigned numero : {7U, 43831U}) {
+        AnadirU16(contenido, numero == 7 ? formatoGeneral : formatoFecha);
+        AnadirU32(contenido, numero << 2 | 2);
+    }
+    AnadirU16(contenido, 3);
+    EXPECT_EQ("4,2=7 4,3=#43831", HojaAMano{}.Registro(biff::mulRk, contenido).Celdas());
+
+    contenido.back() = std::byte{1};
+    EXPECT_THROW(HojaAMano{}.Registro(biff::mulRk, contenido).Celdas(), ErrorMotor);
+    contenido.resize(contenido.size() - 3);
+    EXPECT_THROW(HojaAMano{}.Registro(biff::mulRk, contenido).Celdas(), ErrorMotor);
+    contenido.resize(5);
+    EXPECT_THROW(HojaAMano{}.Registro(biff::mulRk, contenido).Celdas(), ErrorMotor);
+}
+
+TEST(HojaBiff, LosNumerosConFormatoDeFechaSonFechas) {
+    EXPECT_EQ("0,0=#43831.5", HojaAMano{}.Numero(0, 0, 43831.5, formatoFecha).Celdas());
+    EXPECT_EQ("0,0=#45293.5", HojaAMano{}.Numero(0, 0, 43831.5, formatoFecha).Celdas(true));
+    EXPECT_EQ("0,0=43831.5", HojaAMano{}.Numero(0, 0, 43831.5).Celdas());
+}
+
+TEST(HojaBiff, UnFormatoQueNoEstaEnElLibroEsElGeneral) {
+    EXPECT_EQ("0,0=5", HojaAMano{}.Numero(0, 0, 5, 999).Celdas());
+}
+
+TEST(HojaBiff, LoQueNoEsUnNumeroFinitoEsNulo) {
+    EXPECT_EQ("0,0=- 0,1=-", HojaAMano{}
+                                 .Numero(0, 0, std::numeric_limits<double>::infinity())
+                                 .Numero(0, 1, std::numeric_limits<double>::quiet_NaN())
+                                 .Celdas());
+}
+
+TEST(HojaBiff, LeeTextosPropiosYCompartidos) {
+    auto compartido = Comienzo(0, 1);
+    AnadirU32(compartido, 1);
+    EXPECT_EQ("0,0='a' 0,1='dos' 0,2='b'", HojaAMano{}
+                                               .Registro(biff::label, Texto("a", Comienzo(0, 0)))
+                                               .Registro(biff::labelSst, compartido)
+                                               .Registro(biff::rString, Texto("b", Comienzo(0, 2)))
+                                               .Celdas());
+    compartido[6] = std::byte{2};
+    EXPECT_THROW(HojaAMano{}.Registro(biff::labelSst, compartido).Celdas(), ErrorMotor);
+}
+
+TEST(HojaBiff, LosErroresSonNulosYLasVerdadesVerdades) {
+    HojaAMano hoja;
+    for (const auto& [columna, valor, esError] : {std::tuple{0, 1, 0}, {1, 0, 0}, {2, 7, 1}, {3, 0, 1}}) {
+        auto contenido = Comienzo(0, columna);
+        AnadirU8(contenido, valor);
+        AnadirU8(contenido, esError);
+        hoja.Registro(biff::boolErr, contenido);
+    }
+    EXPECT_EQ("0,0=V 0,1=F 0,2=- 0,3=-", hoja.Celdas());
+}
+
+TEST(HojaBiff, LasFormulasDanSuResultadoGuardado) {
+    EXPECT_EQ("0,0=2.5 0,1=V 0,2=F 0,3=- 0,4='' 0,5=#43831",
+              HojaAMano{}
+                  .Registro(biff::formula, Formula(0, 0, std::bit_cast<std::uint64_t>(2.5)))
+                  .Registro(biff::formula, Formula(0, 1, 0xFFFF'0000'0001'0001))
+                  .Registro(biff::formula, Formula(0, 2, 0xFFFF'0000'0000'0001))
+                  .Registro(biff::formula, Formula(0, 3, 0xFFFF'0000'0007'0002))
+                  .Registro(biff::formula, Formula(0, 4, resultadoVacio))
+                  .Registro(biff::formula, Formula(0, 5, std::bit_cast<std::uint64_t>(43831.0), formatoFecha))
+                  .Celdas());
+    EXPECT_THROW(HojaAMano{}.Registro(biff::formula, Formula(0, 0, 0xFFFF'0000'0000'0004)).Celdas(),
+                 ErrorMotor);
+}
+
+TEST(HojaBiff, ElTextoDeUnaFormulaVieneDetras) {
+    for (const int enMedio : {biff::shrFmla, biff::array, biff::table}) {
+        EXPECT_EQ("3,1='abc' 3,2=1", HojaAMano{}
+                                         .Registro(biff::formula, Formula(3, 1, resultadoTexto))
+                                         .Registro(enMedio, Comienzo(3, 1))
+                                         .Registro(biff::cadena, Texto("abc"))
+                                         .Numero(3, 2, 1)
+                                         .Celdas());
+    }
+    auto continua = Texto("abc");
+    continua[0] = std::byte{5};
+    EXPECT_EQ("3,1='abcde'", HojaAMano{}
+                                 .Registro(biff::formula, Formula(3, 1, resultadoTexto))
+                                 .Registro(biff::cadena, continua)
+                                 .Registro(biff::continuacion, {std::byte{0}, std::byte{'d'}, std::byte{'e'}})
+                                 .Celdas());
+}
+
+TEST(HojaBiff, UnaFormulaSinSuTextoEstaDanada) {
+    HojaAMano hoja;
+    hoja.Registro(biff::formula, Formula(3, 1, resultadoTexto));
+    EXPECT_THROW(hoja.Celdas(), ErrorMotor);
+    hoja.Numero(3, 2, 1).Registro(biff::cadena, Texto("abc"));
+    EXPECT_THROW(hoja.Celdas(), ErrorMotor);
+}
+
+TEST(HojaBiff, UnTextoDeFormulaSueltoNoCambiaNada) {
+    EXPECT_EQ("0,0=1", HojaAMano{}.Numero(0, 0, 1).Registro(biff::cadena, Texto("abc")).Celdas());
+}
+
+TEST(HojaBiff, LasCeldasDeUnGraficoIncrustadoNoSonDeLaHoja) {
+    EXPECT_EQ("0,0=1 0,1=3", HojaAMano{}
+                                 .Numero(0, 0, 1)
+                                 .AnadirBof(0x20)
+                                 .Numero(5, 5, 2)
+                                 .Registro(biff::eof)
+                                 .Numero(0, 1, 3)
+                                 .Celdas());
+}
+
+TEST(HojaBiff, LasCeldasSalenOrdenadasYLaUltimaDeUnSitioVaDetras) {
+    EXPECT_EQ("0,1=3 2,0=2 2,3=1 2,3=4",
+              HojaAMano{}.Numero(2, 3, 1).Numero(2, 0, 2).Numero(0, 1, 3).Numero(2, 3, 4).Celdas());
+}
+
+TEST(HojaBiff, LaZonaUsadaRodeaLoQueTieneContenido) {
+    const int blank = 0x0201;
+    const int mulBlank = 0x00BE;
+    const auto zona = HojaAMano{}
+                          .Registro(blank, Comienzo(90, 9))
+                          .Registro(mulBlank, Contenido(10))
+                          .Numero(3, 7, 1)
+                          .Numero(5, 2, 1)
+                          .Leer()
+                          .zonaUsada;
+    ASSERT_TRUE(zona);
+    EXPECT_EQ(3U, zona->primeraFila);
+    EXPECT_EQ(5U, zona->ultimaFila);
+    EXPECT_EQ(2U, zona->primeraColumna);
+    EXPECT_EQ(7U, zona->ultimaColumna);
+    EXPECT_FALSE(HojaAMano{}.Registro(blank, Comienzo(90, 9)).Leer().zonaUsada);
+}
+
+TEST(HojaBiff, UnaColumnaFueraDeLaHojaEstaDanada) {
+    EXPECT_EQ("65535,255=1", HojaAMano{}.Numero(65535, 255, 1).Celdas());
+    EXPECT_THROW(HojaAMano{}.Numero(0, 256, 1).Celdas(), ErrorMotor);
+}
+
+TEST(HojaBiff, UnRegistroCortoEstaDanado) {
+    for (const int tipo :
+         {biff::numero, biff::rk, biff::labelSst, biff::label, biff::boolErr, biff::formula, biff::mulRk}) {
+        EXPECT_THROW(HojaAMano{}.Registro(tipo, Contenido(7)).Celdas(), ErrorMotor) << tipo;
+        EXPECT_THROW(HojaAMano{}.Registro(tipo).Celdas(), ErrorMotor) << tipo;
+    }
+}
+
+TEST(HojaBiff, UnSubflujoDeOtraClaseEstaDanado) {
+    std::vector<std::byte> flujo;
+    AnadirRegistro(flujo, biff::bof, {std::byte{0}, std::byte{6}, std::byte{0x20}, std::byte{0}});
+    AnadirRegistro(flujo, biff::eof, {});
+    LimitesDeLectura limites{flujo.size()};
+    const LibroBiff libro{CadenasBiff{true}, false, {}, {}, {}, {}};
+    EXPECT_THROW(LeerHoja(flujo, 0, libro, limites), ErrorMotor);
+}
+
+} // namespace
+} // namespace varo

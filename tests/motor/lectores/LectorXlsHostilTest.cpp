@@ -1,0 +1,86 @@
+// Cut and mutated workbooks: whole tables or an error, never anything between.
+#include "apoyo/EscritorXls.h"
+#include "motor/lectores/ApoyoLectores.h"
+#include "motor/lectores/LectorXls.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+namespace varo {
+namespace {
+
+/// The project's own workbooks and, where they are, those of other programs.
+std::vector<std::vector<std::byte>> LibrosBuenos() {
+    std::vector<std::vector<std::byte>> libros;
+    for (const char* nombre :
+         {"valores.xls", "fechas_1900.xls", "fechas_1904.xls", "huecos.xls", "nombres.xls", "textos.xls"}) {
+        libros.push_back(prueba::BytesDeLibro(nombre));
+    }
+    for (const auto& muestra : prueba::Muestras("xls")) {
+        libros.push_back(prueba::BytesDe(muestra));
+    }
+    return libros;
+}
+
+TEST(LectorXlsHostil, UnLibroCortadoSeLeeEnteroONoSeLee) {
+    for (const auto& libro : LibrosBuenos()) {
+        const auto entero = prueba::Lineas(LeerXls(libro, "libro.xls"));
+        for (std::size_t corte = 0; corte < libro.size(); corte += 512) {
+            const std::span trozo{libro.data(), corte};
+            if (prueba::TablasEnterasOError(trozo)) {
+                EXPECT_EQ(entero, prueba::Lineas(LeerXls(trozo, "libro.xls"))) << corte;
+            }
+        }
+    }
+}
+
+TEST(LectorXlsHostil, UnFlujoCortadoEnCualquierByteNoSeLee) {
+    const auto libro = prueba::EscribirFlujoXls(
+        {{"Uno", {{"X", "Y"}, {1.5, "año €"}}}, {"Dos", {{"X"}, {Fecha{43831}}, {true}}, false, true}});
+    EXPECT_TRUE(prueba::TablasEnterasOError(libro));
+    for (std::size_t corte = 0; corte < libro.size(); ++corte) {
+        EXPECT_FALSE(prueba::TablasEnterasOError(std::span{libro.data(), corte})) << corte;
+    }
+}
+
+/// Some bytes changed: to anything, to an extreme, or by one bit.
+std::vector<std::byte> Mutado(std::vector<std::byte> libro, std::mt19937& azar) {
+    const std::size_t cuantos = 1 + azar() % 6;
+    for (std::size_t i = 0; i < cuantos; ++i) {
+        auto& byte = libro[azar() % libro.size()];
+        switch (azar() % 4) {
+        case 0:
+            byte = static_cast<std::byte>(azar());
+            break;
+        case 1:
+            byte = std::byte{0xFF};
+            break;
+        case 2:
+            byte = std::byte{0};
+            break;
+        default:
+            byte ^= static_cast<std::byte>(1U << azar() % 8);
+        }
+    }
+    return libro;
+}
+
+TEST(LectorXlsHostil, UnLibroMutadoSeLeeEnteroODaError) {
+    std::mt19937 azar{20040229}; // NOLINT(cert-msc51-cpp): the same mutations every time
+    std::size_t leidos = 0;
+    std::size_t conError = 0;
+    for (const auto& libro : LibrosBuenos()) {
+        for (int vez = 0; vez < 400; ++vez) {
+            ++(prueba::TablasEnterasOError(Mutado(libro, azar)) ? leidos : conError);
+        }
+    }
+    // Both happen: the mutations neither miss the file nor wreck it all.
+    EXPECT_GT(leidos, 100U);
+    EXPECT_GT(conError, 100U);
+}
+
+} // namespace
+} // namespace varo

@@ -1,0 +1,262 @@
+#include "motor/lectores/LectorXls.h"
+
+#include "apoyo/EscritorCompuesto.h"
+#include "apoyo/EscritorXls.h"
+#include "motor/lectores/ApoyoLectores.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace varo {
+namespace {
+
+using prueba::Lineas;
+using Texto = std::vector<std::string>;
+
+Texto LineasDe(const std::vector<std::byte>& bytes) {
+    return Lineas(LeerXls(bytes, "libro.xls"));
+}
+
+Texto LineasDeLibro(const std::string& nombre) {
+    return LineasDe(prueba::BytesDeLibro(nombre));
+}
+
+std::string Repetido(std::string_view trozo, int veces) {
+    std::string texto;
+    for (int i = 0; i < veces; ++i) {
+        texto += trozo;
+    }
+    return texto;
+}
+
+TEST(LectorXls, LeeCadaClaseDeValor) {
+    EXPECT_EQ((Texto{
+                  "[Valores$]",
+                  "Árbol | X | Y | Vivo | Mezcla | Error",
+                  "'Encina' | 1 | 0.1 | V | 5 | -",
+                  "'Piñón €' | -2 | 12.34 | F | 'cinco' | -",
+                  "- | 1073741823 | 1e-300 | - | V | -",
+                  "'漢字 😀' | -536870912 | 123456789012.25 | V | -0.5 | 'sano'",
+                  "[Formulas$]",
+                  "Número | Texto | Vacío | Verdad | Error | Fecha",
+                  "0.30000000000000004 | 'año €' | '' | V | - | #43831",
+                  "-7 | '" + Repetido("x", 3000) + "' | '' | F | - | -",
+              }),
+              LineasDeLibro("valores.xls"));
+}
+
+/// The fourteen formats of the sheet "Formatos" and the cell they give for 100.5.
+Texto LineasDeFormatos(const std::string& fecha) {
+    Texto lineas{"[Formatos$]", "Formato | Valor"};
+    for (const char* formato : {"dd/mm/yyyy", "h:mm", "[h]:mm", "[ss]", "[$-40A]d mmmm yyyy", "MMM-YY"}) {
+        lineas.push_back("'" + std::string{formato} + "' | " + fecha);
+    }
+    for (const char* formato : {"General", "[Red]0.00", "0 \"días\"", "0.0\\h", "_d0", "*s0", "0.00%",
+                                "#,##0.00 [$€-C0A]", "@", "[>100]0;[Blue]0.0"}) {
+        lineas.push_back("'" + std::string{formato} + "' | 100.5");
+    }
+    return lineas;
+}
+
+TEST(LectorXls, LeeLasFechasDelCalendarioDe1900) {
+    Texto esperado{
+        "[Fechas$]",         "Serie | Fecha", "0 | #0",   "0.25 | #0.25",       "1 | #2",
+        "59 | #60",          "60 | #60",      "61 | #61", "43831.5 | #43831.5", "2958465 | #2958465",
+        "2958466 | 2958466", "-1 | -1"};
+    const auto formatos = LineasDeFormatos("#100.5");
+    esperado.insert(esperado.end(), formatos.begin(), formatos.end());
+    EXPECT_EQ(esperado, LineasDeLibro("fechas_1900.xls"));
+}
+
+TEST(LectorXls, LeeLasFechasDelCalendarioDe1904) {
+    Texto esperado{"[Fechas$]",         "Serie | Fecha",     "0 | #0",
+                   "0.25 | #0.25",      "1 | #1463",         "59 | #1521",
+                   "60 | #1522",        "61 | #1523",        "43831.5 | #45293.5",
+                   "2958465 | 2958465", "2958466 | 2958466", "-1 | -1"};
+    const auto formatos = LineasDeFormatos("#1562.5");
+    esperado.insert(esperado.end(), formatos.begin(), formatos.end());
+    EXPECT_EQ(esperado, LineasDeLibro("fechas_1904.xls"));
+}
+
+TEST(LectorXls, VeLasHojasComoTablas) {
+    EXPECT_EQ((Texto{
+                  "[Huecos$]",
+                  "Arbol | X",
+                  "1 | 2",
+                  "- | -",
+                  "- | -",
+                  "3 | -",
+                  "- | 4",
+                  "[Nombres raros$]",
+                  "A | F2 | a1 | x#y(z)_ | 12,5 | Verdadero | A2 | F8 | Año | F21 | A11 | " +
+                      Repetido("n", 64) + " | " + Repetido("n", 63) + "1 | F14",
+                  "1 | 2 | 3 | 4 | 5 | 6 | 7 | 8 | 9 | 10 | 11 | 12 | 13 | 14",
+                  "[Empieza en C3$]",
+                  "Uno | Dos",
+                  "1 | 2",
+                  "[Vacía$]",
+                  "",
+                  "[Oculta$]",
+                  "Secreto",
+                  "'sí'",
+                  "[Año 2004 – nº 漢$]",
+                  "Solo cabecera | Ñandú",
+              }),
+              LineasDeLibro("huecos.xls"));
+}
+
+TEST(LectorXls, LosTextosLargosPasanDeUnRegistroAOtro) {
+    Texto esperado{"[Textos$]", "N | Texto"};
+    constexpr std::string_view estrechas[] = {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"};
+    constexpr std::string_view anchas[] = {"á", "é", "í", "ó", "ú", "€", "ñ", "ç", "ü", "漢"};
+    for (int i = 1; i <= 120; ++i) {
+        std::string texto;
+        for (int k = 0; k < i * 37 % 401; ++k) {
+            texto += (i % 3 != 0 ? estrechas : anchas)[(i + k) % 10];
+        }
+        esperado.push_back(std::to_string(i) + " | '" + texto + "'");
+    }
+    esperado.push_back("121 | '" + Repetido("a", 9000) + "'");
+    esperado.push_back("122 | '" + Repetido("a€", 4500) + "'");
+    esperado.emplace_back("123 | 'roble albar €'");
+    esperado.emplace_back("124 | 'detrás'");
+    EXPECT_EQ(esperado, LineasDeLibro("textos.xls"));
+}
+
+TEST(LectorXls, LosNombresQueCubrenUnRectanguloSonTablasTrasLasHojas) {
+    EXPECT_EQ((Texto{
+                  "[Parcela$]",     "Arbol | DAP | Nota",
+                  "1 | 10.5 | 'a'", "2 | 20.5 | -",
+                  "3 | 30.5 | 'c'", "[Otra$]",
+                  "P | Q",          "7 | 8", //
+                  "[Zócalo]",       "P | Q",
+                  "7 | 8", //
+                  "[Arboles]",      "Arbol | DAP",
+                  "1 | 10.5",       "2 | 20.5", //
+                  "[Celda]",        "8",        //
+                  "[Columnas]",     "Arbol | DAP | Nota",
+                  "1 | 10.5 | 'a'", "2 | 20.5 | -",
+                  "3 | 30.5 | 'c'", "[Amplia]",
+                  "10,5 | a",       "20.5 | -",
+                  "30.5 | 'c'", //
+                  "[Fuera]",        "",
+              }),
+              LineasDeLibro("nombres.xls"));
+}
+
+TEST(LectorXls, PrefiereElFlujoNuevoAlAntiguo) {
+    const auto flujo = prueba::EscribirFlujoXls({{"Nueva", {{"X"}}}});
+    const std::vector<std::byte> antiguo(5000, std::byte{0xFF});
+    EXPECT_EQ((Texto{"[Nueva$]", "X"}),
+              LineasDe(prueba::EscribirCompuesto({{"Book", antiguo}, {"Workbook", flujo}})));
+    EXPECT_EQ((Texto{"[Nueva$]", "X"}), LineasDe(prueba::EscribirCompuesto({{"Book", flujo}})));
+}
+
+TEST(LectorXls, LeeUnFlujoSinArchivoCompuesto) {
+    const auto flujo = prueba::EscribirFlujoXls({{"Suelta", {{"X"}, {5.0}}}});
+    EXPECT_TRUE(PareceXls(flujo));
+    EXPECT_EQ((Texto{"[Suelta$]", "X", "5"}), LineasDe(flujo));
+}
+
+TEST(LectorXls, LeeSectoresDe4096Bytes) {
+    const auto flujo = prueba::EscribirFlujoXls({{"Grandes", {{"X"}, {std::string(9000, 'x')}}}});
+    EXPECT_EQ((Texto{"[Grandes$]", "X", "'" + Repetido("x", 9000) + "'"}),
+              LineasDe(prueba::EscribirCompuesto({{"Workbook", flujo}}, 4096)));
+}
+
+TEST(LectorXls, DosCeldasLejanasNoLlenanLaMemoria) {
+    std::vector<std::vector<Valor>> celdas(65536);
+    celdas.front().resize(256);
+    celdas.front()[0] = "X";
+    celdas.back().resize(256);
+    celdas.back()[255] = 1.0;
+    EXPECT_THROW(LineasDe(prueba::EscribirXls({{"Lejos", celdas}})), ErrorMotor);
+}
+
+/// The number of the fault and what it says behind the file's name.
+std::pair<int, std::string> FalloDe(const std::vector<std::byte>& bytes) {
+    try {
+        LeerXls(bytes, "parcela.xls");
+        return {0, ""};
+    } catch (const ErrorMotor& error) {
+        const std::string comienzo = "No se puede leer «parcela.xls»: ";
+        EXPECT_EQ(comienzo, error.descripcion().substr(0, comienzo.size()));
+        return {error.numero(),
+                error.descripcion().substr(std::min(comienzo.size(), error.descripcion().size()))};
+    }
+}
+
+std::vector<std::byte> ConTexto(std::string_view texto) {
+    const auto bytes = std::as_bytes(std::span{texto});
+    return {bytes.begin(), bytes.end()};
+}
+
+TEST(LectorXls, LoQueNoEsUnLibroLoDice) {
+    for (const std::string_view texto :
+         {"", "a", "PK\3\4 y lo demás", "<?xml version=\"1.0\"?>", "X;Y\n1;2\n"}) {
+        EXPECT_FALSE(PareceXls(ConTexto(texto)));
+        EXPECT_EQ((std::pair{fallo::formatoNoReconocido, std::string{"no es un libro de Excel 5.0 a 2003"}}),
+                  FalloDe(ConTexto(texto)));
+    }
+}
+
+TEST(LectorXls, UnArchivoCompuestoSinLibroLoDice) {
+    const auto documento = prueba::EscribirCompuesto({{"WordDocument", std::vector<std::byte>(5000)}});
+    EXPECT_TRUE(PareceXls(documento));
+    EXPECT_EQ((std::pair{fallo::formatoNoReconocido, std::string{"no contiene un libro de Excel"}}),
+              FalloDe(documento));
+}
+
+TEST(LectorXls, UnaHojaDeExcel2A4LoDice) {
+    using namespace std::string_view_literals;
+    for (const auto& [bytes, version] : {std::pair{"\x09\x00\x04\x00\x02\x00\x10\x00"sv, "2"},
+                                         {"\x09\x02\x06\x00\x00\x03\x10\x00\x00\x00"sv, "3"},
+                                         {"\x09\x04\x06\x00\x00\x04\x10\x00\x00\x00"sv, "4"}}) {
+        EXPECT_TRUE(PareceXls(ConTexto(bytes)));
+        const auto [numero, texto] = FalloDe(ConTexto(bytes));
+        EXPECT_EQ(fallo::formatoNoReconocido, numero);
+        EXPECT_EQ("es una hoja de Excel " + std::string{version}, texto.substr(0, 22));
+    }
+}
+
+TEST(LectorXls, UnLibroCifradoLoDice) {
+    auto flujo = prueba::EscribirFlujoXls({{"Hoja", {{"X"}}}});
+    std::vector<std::byte> contrasena;
+    prueba::AnadirRegistro(contrasena, 0x002F, std::vector<std::byte>(6));
+    flujo.insert(flujo.begin() + 20, contrasena.begin(), contrasena.end()); // behind the first BOF
+    EXPECT_EQ((std::pair{fallo::archivoCifrado, std::string{"el libro está protegido con una contraseña"}}),
+              FalloDe(prueba::EscribirCompuesto({{"Workbook", flujo}})));
+}
+
+// Where the first sheet's place stands in a stream of EscribirFlujoXls: in the record behind the BOF, the
+// code page and four formats. That record has eight bytes and the name.
+constexpr std::ptrdiff_t lugarDeLaPrimeraHoja = 20 + 6 + 4 * 24 + 4;
+
+TEST(LectorXls, UnaHojaFueraDeSuSitioEstaDanada) {
+    const auto flujo = prueba::EscribirFlujoXls({{"Hoja", {{"X"}}}});
+    for (const int comienzo : {0, 1, 255}) {
+        auto movido = flujo;
+        auto& byte = movido[lugarDeLaPrimeraHoja];
+        ASSERT_NE(static_cast<std::byte>(comienzo), byte);
+        byte = static_cast<std::byte>(comienzo);
+        EXPECT_EQ(fallo::archivoDanado, FalloDe(prueba::EscribirCompuesto({{"Workbook", movido}})).first);
+    }
+}
+
+TEST(LectorXls, DosHojasEnElMismoSitioEstanDanadas) {
+    const std::vector<std::vector<Valor>> muchas(200, std::vector<Valor>{1.0});
+    auto flujo = prueba::EscribirFlujoXls({{"Uno", {{"X"}}}, {"Dos", muchas}});
+    const auto primera = flujo.begin() + lugarDeLaPrimeraHoja;
+    const auto segunda = primera + 8 + 3 + 4;
+    std::copy_n(segunda, 4, primera);
+    EXPECT_EQ(
+        (std::pair{fallo::archivoDanado, std::string{"el archivo está dañado (unas hojas pisan a otras)"}}),
+        FalloDe(prueba::EscribirCompuesto({{"Workbook", flujo}})));
+}
+
+} // namespace
+} // namespace varo

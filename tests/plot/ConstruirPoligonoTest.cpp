@@ -1,0 +1,115 @@
+#include "plot/ConstruirPoligono.h"
+
+#include "apoyo/Jornada.h"
+#include "data/Hojadedatos.h"
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+namespace {
+
+Valor texto(const char* t) {
+    return Valor{std::string{t}};
+}
+
+/// The square drawn, with the options changed first.
+struct Cuadrado : Jornada {
+    explicit Cuadrado(const std::function<void(Cuadrado&)>& cambio = {},
+                      const Filas& filas = CuadradoConCentro()) {
+        abrirParcela(filas);
+        if (cambio) {
+            cambiarOpciones([&](OpcionesPrograma&) { cambio(*this); });
+        }
+        dibujarCuadrado();
+    }
+    const TablaPoligono& poligono() { return programa.sesion.Poligono; }
+};
+
+TEST(ConstruirPoligono, ElCuadradoSeCierraConCincoPuntosYCuatroAngulosRectos) {
+    Cuadrado cuadrado;
+    const auto& sesion = cuadrado.programa.sesion;
+    EXPECT_EQ(sesion.NumPuntosPoligono, 5);
+    EXPECT_EQ(sesion.AnguloInterior, (std::vector<double>{90, 90, 90, 90}));
+    EXPECT_EQ(sesion.SupPoligono, 100);
+    const std::vector<std::pair<double, double>> vertices{{0, 0}, {0, 10}, {10, 10}, {10, 0}, {0, 0}};
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(cuadrado.poligono()(0, i), Valor{vertices[static_cast<std::size_t>(i)].first}) << i;
+        EXPECT_EQ(cuadrado.poligono()(1, i), Valor{vertices[static_cast<std::size_t>(i)].second}) << i;
+    }
+}
+
+TEST(ConstruirPoligono, UnArbolDentroNuncaEsVertice) {
+    Cuadrado cuadrado;
+    for (int i = 0; i < cuadrado.poligono().filas(); ++i) {
+        EXPECT_NE(cuadrado.poligono()(0, i), Valor{4.0});
+    }
+}
+
+TEST(ConstruirPoligono, ConCodigoLasColumnasSonSeis) {
+    Cuadrado cuadrado;
+    const auto& poligono = cuadrado.poligono();
+    EXPECT_EQ(poligono(2, 1), texto("QP"));
+    EXPECT_EQ(poligono(3, 1), Valor{6400 / 125663.708});
+    EXPECT_EQ(poligono(4, 1), Valor{1.0}) << "diez decímetros";
+    EXPECT_EQ(poligono(5, 1), texto("2"));
+    EXPECT_THROW(static_cast<void>(poligono(6, 1)), ErrorEjecucion);
+}
+
+TEST(ConstruirPoligono, SinCodigoLasColumnasVanUnaALaIzquierda) {
+    Cuadrado cuadrado{[](Cuadrado& c) { c.usuario.clic(c.opciones().ChCodigo); }};
+    const auto& poligono = cuadrado.poligono();
+    EXPECT_EQ(poligono(2, 1), Valor{6400 / 125663.708});
+    EXPECT_EQ(poligono(3, 1), Valor{1.0});
+    EXPECT_EQ(poligono(4, 1), texto("2"));
+    EXPECT_THROW(static_cast<void>(poligono(5, 1)), ErrorEjecucion);
+}
+
+TEST(ConstruirPoligono, ElFactorDeLosRadiosEsElDeSuUnidad) {
+    EXPECT_EQ(Cuadrado{}.programa.sesion.FactorRadios, 10);
+    EXPECT_EQ(
+        Cuadrado{[](Cuadrado& c) { c.usuario.clic(c.opciones().Optmetro); }}.programa.sesion.FactorRadios, 1);
+    EXPECT_EQ(Cuadrado{[](Cuadrado& c) { c.usuario.clic(c.opciones().Optcm); }}.programa.sesion.FactorRadios,
+              100);
+}
+
+TEST(ConstruirPoligono, LaRejillaQuedaOrdenadaPorLaPrimeraColumna) {
+    auto filas = CuadradoConCentro();
+    std::swap(filas[1], filas[5]);
+    Cuadrado cuadrado{{}, filas};
+    const auto& rejilla = cuadrado.programa.tocar<Hojadedatos>().MSFlexGrid1;
+    for (int fila = 1; fila < rejilla.Rows(); ++fila) {
+        EXPECT_EQ(rejilla.TextMatrix(fila, 1), std::to_string(fila));
+    }
+}
+
+TEST(ConstruirPoligono, UnTamanoVacioEnElBordeEsAreaCero) {
+    auto filas = CuadradoConCentro();
+    filas[2][8] = {};
+    Cuadrado cuadrado{{}, filas};
+    EXPECT_EQ(cuadrado.poligono()(3, 1), Valor{0.0});
+}
+
+TEST(ConstruirPoligono, UnRadioVacioEnElBordeEsUnFalloYDentroNo) {
+    auto filas = CuadradoConCentro();
+    filas[5][3] = {};
+    EXPECT_EQ(Cuadrado({}, filas).programa.sesion.NumPuntosPoligono, 5);
+
+    filas[3][3] = {};
+    Jornada jornada;
+    jornada.abrirParcela(filas);
+    jornada.servicios.esperarFallo(13);
+    jornada.dibujarCuadrado();
+    const std::string& lugar = jornada.servicios.fallos().back().lugar();
+    EXPECT_NE(lugar.find("fila 3"), std::string::npos) << lugar;
+    EXPECT_NE(lugar.find("RN"), std::string::npos) << lugar;
+}
+
+TEST(ConstruirPoligono, ElContornoSobreviveAlCierreDelArchivo) {
+    Cuadrado cuadrado;
+    cuadrado.usuario.clic(cuadrado.marco().mnuCerrar);
+    EXPECT_EQ(cuadrado.programa.sesion.NumPuntosPoligono, 5);
+    EXPECT_EQ(cuadrado.poligono().filas(), 5);
+}
+
+} // namespace
+} // namespace varo::prueba
