@@ -26,7 +26,7 @@ fs::path CarpetaNueva(const fs::path& donde) {
     std::error_code error;
     constexpr int intentos = 100;
     for (int i = 0; i < intentos && !error; ++i) {
-        const fs::path nueva = donde / (".varo-" + std::to_string(azar()));
+        fs::path nueva = donde / (".varo-" + std::to_string(azar()));
         if (fs::create_directory(nueva, error)) {
             return nueva;
         }

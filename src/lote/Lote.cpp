@@ -51,6 +51,7 @@ public:
         RechazarSalidasEnConflicto(correctos());
         std::vector<std::promise<Final>> promesas(leidos_.size());
         std::vector<std::future<Final>> finales;
+        finales.reserve(promesas.size());
         for (auto& promesa : promesas) {
             finales.push_back(promesa.get_future());
         }

@@ -41,6 +41,7 @@ Proceso Ejecutar(const std::filesystem::path& programa, const std::vector<std::s
     std::vector<std::string> textos{programa.string()};
     textos.insert(textos.end(), argumentos.begin(), argumentos.end());
     std::vector<char*> punteros;
+    punteros.reserve(textos.size() + 1);
     for (auto& texto : textos) {
         punteros.push_back(texto.data());
     }
