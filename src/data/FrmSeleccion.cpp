@@ -1,7 +1,6 @@
 #include "data/FrmSeleccion.h"
 
 #include "basico/Aritmetica.h"
-#include "basico/Entero16.h"
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
 #include "data/Hojadedatos.h"
@@ -76,8 +75,7 @@ void FrmSeleccion::abrirHoja() {
     auto& marco = programa_.tocar<VAROMAIN>();
     const std::filesystem::path archivo{marco.DlogoAbrir.FileName};
     hoja.Caption = CboHoja.Text() + " " + archivo.filename().string();
-    hoja.MSFlexGrid1.Width = hoja.Width();
-    hoja.MSFlexGrid1.Height = hoja.Height();
+    hoja.Form_Resize(); // the grid takes the inside of the window
     hoja.MSFlexGrid1.Visible = true;
     hoja.Show();
     Hide();
@@ -132,24 +130,33 @@ void FrmSeleccion::copiarFilas(const std::string& hoja) {
     auto& filas = ventana.Data1.Recordset();
     const int campos = ventana.Data1.Database().TableDefs()(hoja).Fields.Count();
     Entero16 contador = 1;
-    while (!filas.Eof()) {
+    for (; !filas.Eof(); filas.MoveNext()) {
         rejilla.Row(rejilla.Row() + 1);
-        // The loop is meant to end one short: the last field of a table gets a header and no data.
-        for (int columna = 0; columna < campos; ++columna) {
-            rejilla.Col(columna);
-            if (columna == 0) {
-                rejilla.Text(ATexto(contador.valor()));
-                ++contador;
-                continue;
-            }
-            const Valor& valor = filas.Fields(columna - 1).Value;
-            rejilla.Text(EsNulo(valor) ? std::string{} : ATexto(valor));
-            const Entero16 ancho{anchoConMargen(rejilla.Text())};
-            if (ancho > rejilla.ColWidth(columna)) {
-                rejilla.ColWidth(columna, ancho.valor());
-            }
+        try {
+            copiarFila(filas, campos, contador);
+        } catch (ErrorEjecucion& error) {
+            error.en("fila " + ATexto(rejilla.Row()));
+            throw;
         }
-        filas.MoveNext();
+    }
+}
+
+void FrmSeleccion::copiarFila(const Recordset& filas, int campos, Entero16& contador) {
+    auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
+    // The loop is meant to end one short: the last field of a table gets a header and no data.
+    for (int columna = 0; columna < campos; ++columna) {
+        rejilla.Col(columna);
+        if (columna == 0) {
+            rejilla.Text(ATexto(contador.valor()));
+            ++contador;
+            continue;
+        }
+        const Valor& valor = filas.Fields(columna - 1).Value;
+        rejilla.Text(EsNulo(valor) ? std::string{} : ATexto(valor));
+        const Entero16 ancho{anchoConMargen(rejilla.Text())};
+        if (ancho > rejilla.ColWidth(columna)) {
+            rejilla.ColWidth(columna, ancho.valor());
+        }
     }
 }
 

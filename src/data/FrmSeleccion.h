@@ -1,9 +1,11 @@
 // The choice of the sheet that holds the plot, and its copy into the grid of the data window.
 #pragma once
 
+#include "basico/Entero16.h"
 #include "basico/ErrorEjecucion.h"
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
+#include "motor/Recordset.h"
 
 #include <optional>
 #include <string>
@@ -37,6 +39,7 @@ private:
     [[nodiscard]] double anchoConMargen(const std::string& texto) const;
     void escribirEncabezados(const std::string& hoja);
     void copiarFilas(const std::string& hoja);
+    void copiarFila(const Recordset& filas, int campos, Entero16& contador);
 
     Programa& programa_;
     std::optional<ErrorEjecucion> ultimoFallo_;

@@ -153,7 +153,8 @@ std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo,
                 indices[i] = Dividir(*mayores, supPoligono) * 10000;
             }
         } catch (ErrorEjecucion& error) {
-            throw error.en("fila " + std::to_string(i + 1));
+            error.en("fila " + std::to_string(i + 1));
+            throw;
         }
     }
     return indices;

@@ -71,7 +71,8 @@ private:
         try {
             guardar(calcular(columna.familia), indice);
         } catch (ErrorEjecucion& error) {
-            throw error.en(std::string{"familia "} + columna.encabezado);
+            error.en(std::string{"familia "} + columna.encabezado);
+            throw;
         }
     }
 

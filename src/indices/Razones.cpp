@@ -93,7 +93,8 @@ std::vector<double> CalcularRazones(Independiente familia, const BaseDatos& base
             const double tamano = UsaSeccion(familia) ? Potencia(d, 2) : d;
             razones.push_back(parte * Dividir(tamano, ANumero(estadistico)));
         } catch (ErrorEjecucion& error) {
-            throw error.en("fila " + std::to_string(razones.size() + 1));
+            error.en("fila " + std::to_string(razones.size() + 1));
+            throw;
         }
     }
     return razones;

@@ -26,7 +26,7 @@ std::string ConsultaEstadistico(Independiente familia, const std::string& campo,
 
 /// The dominant trees: 100 of the thickest per hectare, `n` at the most as there are trees, ties at the last
 /// size included. The quadratic mean of their sizes, or without the root the mean of the squares. No tree
-/// with a size throws 3021; an area over 3,276,750 m2 throws 6.
+/// with a size throws 3021; an area of 3,276,750 m2 or more throws 6.
 double TamanoDominante(const BaseDatos& base, const std::string& campo, const std::string& tabla,
                        double supPoligono, int arboles, bool conRaiz);
 

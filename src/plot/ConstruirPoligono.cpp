@@ -24,8 +24,9 @@ public:
         try {
             return ANumero(texto(fila, columna));
         } catch (ErrorEjecucion& error) {
-            throw error.en("columna «" + rejilla_.TextMatrix(0, columna) + "»")
+            error.en("columna «" + rejilla_.TextMatrix(0, columna) + "»")
                 .en("árbol de la fila " + rejilla_.TextMatrix(fila, 0));
+            throw;
         }
     }
 

@@ -75,7 +75,8 @@ void VAROMAIN::AbrirArchivoDeDatos(const std::string& ruta) {
     auto& datos = programa_.tocar<Hojadedatos>().Data1;
     auto& lista = programa_.tocar<FrmSeleccion>().CboHoja;
     try {
-        // Every file is connected as a spreadsheet, a database too: the engine recognises it by its content.
+        // Every file is connected as a spreadsheet, whatever its name: the engine recognises it by its
+        // content.
         datos.Connect = "Excel 8.0";
         datos.DatabaseName(ruta);
         datos.Refresh();

@@ -169,6 +169,24 @@ TEST(FrmSeleccion, UnTextoMasAnchoDeLoQueCabeEn16BitsNoPasa) {
     jornada.aceptarHoja("Parcela1$");
     ASSERT_TRUE(jornada.programa.tocar<FrmSeleccion>().ultimoFallo().has_value());
     EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->numero(), 6);
+    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->lugar(), "fila 1");
+}
+
+TEST(FrmSeleccion, TrasUnaHojaQueNoEstaQuedanElOrigenPuestoYLaRejillaComoEstaba) {
+    HojaAbierta abierta{CuadradoConCentro()};
+    const auto antes = Celdas(abierta.rejilla());
+    auto& seleccion = abierta.programa.tocar<FrmSeleccion>();
+    seleccion.Show();
+    abierta.servicios.esperarMensaje(noEncontrada);
+    abierta.aceptarHoja("Otra$");
+    EXPECT_EQ(abierta.hoja().Data1.RecordSource, "Otra$");
+    EXPECT_EQ(Celdas(abierta.rejilla()), antes);
+}
+
+TEST(FrmSeleccion, LaRejillaLlenaLaVentanaPorDentro) {
+    HojaAbierta abierta{CuadradoConCentro()};
+    EXPECT_EQ(abierta.rejilla().Width(), abierta.hoja().Width() - 50);
+    EXPECT_EQ(abierta.rejilla().Height(), abierta.hoja().Height() - 400);
 }
 
 Filas FilasNumeradas(int filas) {
@@ -187,6 +205,7 @@ TEST(FrmSeleccion, Caben32766FilasYNiUnaMas) {
     jornada.aceptarHoja("Larga$");
     ASSERT_TRUE(jornada.programa.tocar<FrmSeleccion>().ultimoFallo().has_value());
     EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->numero(), 6);
+    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->lugar(), "fila 32767");
     jornada.aceptarHoja("Justa$");
     const auto& rejilla = jornada.programa.tocar<Hojadedatos>().MSFlexGrid1;
     EXPECT_EQ(rejilla.Rows(), 32767);

@@ -239,6 +239,18 @@ TEST(SelColumnas, UnaColumnaDeTresCifrasSeConfundeConSusDosPrimeras) {
     EXPECT_EQ(dialogo.List1.ListCount(), 1);
 }
 
+TEST(SelColumnas, DosConfusionesAvisanDosVecesYSeLlevanTambienLaLineaAnterior) {
+    Eleccion eleccion{HojaAncha(120)};
+    auto& dialogo = eleccion.cuatroRadios();
+    eleccion.elegirPapel(dialogo, 0, 104); // shown as 105
+    eleccion.elegirPapel(dialogo, 1, 105); // shown as 106
+    eleccion.servicios.esperarMensaje(repetida);
+    eleccion.servicios.esperarMensaje(repetida);
+    eleccion.elegirPapel(dialogo, 2, 9); // shown as 10
+    EXPECT_TRUE(eleccion.servicios.todoPedido());
+    EXPECT_EQ(Lineas(dialogo.List1), std::vector<std::string>{"Coordenada X: Columna: 105 (C104)"});
+}
+
 TEST(SelColumnas, ElTamanoRepetidoVuelveAHabilitarSuBoton) {
     Eleccion eleccion;
     auto& dialogo = eleccion.cuatroRadios();

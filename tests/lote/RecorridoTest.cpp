@@ -276,7 +276,8 @@ Filas ParcelaDe(int arboles) {
     Filas filas{{T{"Arbol"}, T{"X"}, T{"Y"}, T{"Radio"}, T{"Nota"}}};
     filas.reserve(static_cast<std::size_t>(arboles) + 1);
     for (int i = 0; i < arboles; ++i) {
-        filas.push_back({i + 1.0, static_cast<double>(i % 200), static_cast<double>(i / 200), 10.0});
+        const int renglon = i / 200;
+        filas.push_back({i + 1.0, static_cast<double>(i % 200), static_cast<double>(renglon), 10.0});
     }
     return filas;
 }

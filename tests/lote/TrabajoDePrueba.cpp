@@ -14,7 +14,7 @@ ParcelaDePrueba::ParcelaDePrueba(const Filas& filas) {
 }
 
 std::filesystem::path ParcelaDePrueba::escribir(const std::string& nombre, const std::string& texto) const {
-    const auto archivo = ruta(nombre);
+    auto archivo = ruta(nombre);
     std::filesystem::create_directories(archivo.parent_path());
     std::ofstream{archivo, std::ios::binary} << texto;
     return archivo;

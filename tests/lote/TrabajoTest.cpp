@@ -137,8 +137,8 @@ TEST(Trabajo, CadaErrorNombraElTrabajoLaClaveYLaRazon) {
          "EO, Radio, Indice, Codigo y DAP"},
         {"salida = 3\n" + base, "t.toml: línea 1: salida: se espera una tabla y hay un número entero"},
     };
-    for (const auto& [texto, error] : casos) {
-        EXPECT_EQ(ErrorDe([&] { InterpretarTrabajo(texto, "t.toml"); }), error) << texto;
+    for (const auto& caso : casos) {
+        EXPECT_EQ(ErrorDe([&] { InterpretarTrabajo(caso.texto, "t.toml"); }), caso.error) << caso.texto;
     }
 }
 

@@ -104,6 +104,71 @@ TEST(FrmFormato, SinCodigoNoSeOrdenaNiHayFilas) {
     EXPECT_FALSE(formato.ventana().LbCodigo(0).Visible());
 }
 
+TEST(FrmFormato, UnaColumnaDeCodigosQueEsLaDeLaXNoSeOrdenaNiSeLista) {
+    auto filas = ConCodigos({texto("B"), texto("A"), texto("C")});
+    std::swap(filas[1][0], filas[3][0]);
+    Formato formato{filas};
+    formato.programa.descargar<FrmFormato>();
+    formato.programa.sesion.Codigos.clear();
+    formato.programa.sesion.Columnas(4) = formato.programa.sesion.Columnas(0);
+    auto& rejilla = formato.programa.tocar<Hojadedatos>().MSFlexGrid1;
+    rejilla.TextMatrix(1, 1, "9");
+    formato.ventana();
+    EXPECT_EQ(formato.columna(1), (Textos{"9", "2", "3"})) << "sin ordenar";
+    EXPECT_TRUE(formato.programa.sesion.Codigos.empty());
+    EXPECT_FALSE(formato.ventana().LbCodigo(0).Visible());
+}
+
+TEST(FrmFormato, RehacerElDialogoConElArchivoAbiertoVuelveACrecerDesdeSuAlto) {
+    Formato formato{ConCodigos({texto("A"), texto("B"), texto("C")})};
+    const float crecido = formato.ventana().Height();
+    formato.usuario.clic(formato.ventana().CmdCancelar);
+    EXPECT_EQ(formato.ventana().Height(), crecido);
+}
+
+TEST(FrmFormato, ConUnSoloCodigoLasFilasYLosBotonesBajan) {
+    Formato sinCodigos{ConCodigos({texto("A"), texto("A"), texto("A")}), false};
+    Formato conUno{ConCodigos({texto("A"), texto("A"), texto("A")})};
+    EXPECT_EQ(conUno.ventana().TxtCodigo(0).Top(), sinCodigos.ventana().TxtCodigo(0).Top() + 600);
+    EXPECT_EQ(conUno.ventana().CmdAceptar.Top(), sinCodigos.ventana().CmdAceptar.Top() + 1320);
+    EXPECT_EQ(conUno.ventana().CmdCancelar.Top(), sinCodigos.ventana().CmdCancelar.Top() + 1320);
+}
+
+TEST(FrmFormato, LlevaSusLeyendas) {
+    Jornada jornada;
+    const FrmFormato ventana{jornada.programa};
+    const std::vector<std::pair<const Control*, const char*>> leyendas{
+        {&ventana.Label1, " Título"},        {&ventana.Label2, "Texto:"},
+        {&ventana.Label3, "Tipo de letra:"}, {&ventana.Label4, "Color letra:"},
+        {&ventana.Label8, "Color fondo:"},   {&ventana.LbCod, " Códigos"},
+        {&ventana.Label10, "Código:"},       {&ventana.Label7, "Texto:"},
+        {&ventana.Label6, "Tipo de letra:"}, {&ventana.Label5, "Color linea:"},
+        {&ventana.Label9, "Color fondo:"},   {&ventana.CmdAceptar, "Aceptar"},
+        {&ventana.CmdCancelar, "Cancelar"}};
+    for (const auto& [control, leyenda] : leyendas) {
+        EXPECT_EQ(control->Caption(), leyenda) << control->Name();
+    }
+}
+
+TEST(FrmFormato, SinPoligonoExteriorElContornoSeConstruyeIgual) {
+    Jornada jornada;
+    jornada.abrirParcela(CuadradoConCentro());
+    jornada.cambiarOpciones([&](OpcionesPrograma& opciones) { jornada.usuario.clic(opciones.ChPolExt); });
+    jornada.dibujarCuadrado();
+    EXPECT_EQ(jornada.programa.sesion.NumPuntosPoligono, 5);
+    EXPECT_EQ(jornada.programa.sesion.SupPoligono, 100);
+}
+
+TEST(FrmFormato, TresArbolesAlineadosDanUnaParcelaSinSuperficie) {
+    auto filas = ConCodigos({texto("A"), texto("B"), texto("A")});
+    filas[2][1] = 0.0;
+    filas[3][1] = 0.0;
+    filas[3][2] = 5.0;
+    Formato formato{filas};
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    EXPECT_EQ(formato.programa.sesion.SupPoligono, 0);
+}
+
 TEST(FrmFormato, ElTituloYLaFuenteTomanSuValorAlCargarse) {
     Formato formato{ConCodigos({texto("PS"), texto("QP"), texto("PS")})};
     EXPECT_EQ(formato.ventana().Caption(), "Formato");
@@ -178,7 +243,7 @@ TEST(FrmFormato, UnaCoordenadaQueNoEsNumeroDiceDondeEsta) {
     formato.usuario.clic(formato.ventana().CmdAceptar);
     const std::string& lugar = formato.servicios.fallos().back().lugar();
     EXPECT_NE(lugar.find("fila 3"), std::string::npos) << lugar;
-    EXPECT_NE(lugar.find("X"), std::string::npos) << lugar;
+    EXPECT_NE(lugar.find('X'), std::string::npos) << lugar;
 }
 
 TEST(FrmMapa, ElTituloEsElDeLaHojaSinSuUltimaLetra) {
@@ -192,6 +257,17 @@ TEST(FrmMapa, ElTituloEsElDeLaHojaSinSuUltimaLetra) {
     EXPECT_FALSE(mapa.LbTitulo.Visible());
     EXPECT_EQ(mapa.Width(), formato.marco().Width());
     EXPECT_EQ(mapa.Height(), formato.marco().Height());
+    EXPECT_FALSE(mapa.LbLeyenda(0).Visible());
+    EXPECT_FALSE(mapa.Lbcodigo(0).Visible());
+}
+
+TEST(FrmMapa, LasDosSuperficiesTomanLasMedidasDelMarco) {
+    Jornada jornada;
+    jornada.marco().Width = 12345;
+    jornada.marco().Height = 6789;
+    EXPECT_EQ(jornada.programa.tocar<FrmMapa>().Width(), 12345);
+    EXPECT_EQ(jornada.programa.tocar<FrmMapa2>().Width(), 12345);
+    EXPECT_EQ(jornada.programa.tocar<FrmMapa2>().Height(), 6789);
 }
 
 TEST(FrmMapa, ElDobleClicEnLaLeyendaVuelveAlFormato) {
@@ -211,6 +287,11 @@ TEST(FrmMapa, CerrarElMapaDejaElFormatoOculto) {
     formato.usuario.cerrar(formato.programa.tocar<FrmMapa>());
     EXPECT_FALSE(formato.ventana().Visible());
     EXPECT_TRUE(formato.marco().mnuMapa.Enabled());
+
+    formato.pedirColumnas();
+    formato.usuario.clic(formato.programa.tocar<SelColRM>().CmdDibujar);
+    formato.usuario.clic(formato.ventana().CmdAceptar);
+    EXPECT_TRUE(formato.programa.tocar<FrmMapa>().Visible());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "apoyo/Jornada.h"
 #include "data/Hojadedatos.h"
+#include "map/FrmFormato.h"
 
 #include <gtest/gtest.h>
 
@@ -62,6 +63,42 @@ TEST(ConstruirPoligono, SinCodigoLasColumnasVanUnaALaIzquierda) {
     EXPECT_EQ(poligono(3, 1), Valor{1.0});
     EXPECT_EQ(poligono(4, 1), texto("2"));
     EXPECT_THROW(static_cast<void>(poligono(5, 1)), ErrorEjecucion);
+}
+
+/// The same square with its crown in other measures: roles from 2 on in these grid columns, then index and
+/// code.
+TablaPoligono PoligonoCon(Opcion OpcionesPrograma::*tipo, const std::vector<double>& copa) {
+    auto filas = CuadradoConCentro();
+    for (std::size_t i = 0; i < copa.size(); ++i) {
+        filas[2][3 + i] = copa[i];
+    }
+    Jornada jornada;
+    jornada.abrirParcela(filas);
+    jornada.cambiarOpciones([&](OpcionesPrograma& opciones) { jornada.usuario.clic(opciones.*tipo); });
+    jornada.pedirColumnas();
+    auto& dialogo = dynamic_cast<SelColumnas&>(*jornada.programa.activa());
+    const int papelesDeCopa = static_cast<int>(copa.size());
+    for (int papel = 0; papel < 2 + papelesDeCopa; ++papel) {
+        jornada.elegirPapel(dialogo, papel, papel + 2);
+    }
+    jornada.elegirPapel(dialogo, 2 + papelesDeCopa, 1);
+    jornada.elegirPapel(dialogo, 3 + papelesDeCopa, 8);
+    jornada.usuario.clic(dialogo.CmdDibujar);
+    jornada.usuario.clic(jornada.programa.tocar<FrmFormato>().CmdAceptar);
+    return jornada.programa.sesion.Poligono;
+}
+
+TEST(ConstruirPoligono, ElRadioMedioSaleDeCadaFormaDeCopa) {
+    const auto cuatro = PoligonoCon(&OpcionesPrograma::Opt4R, {10, 20, 30, 60});
+    EXPECT_EQ(cuatro(4, 1), Valor{3.0});
+    const auto dos = PoligonoCon(&OpcionesPrograma::Opt2D, {30, 70});
+    EXPECT_EQ(dos(4, 1), Valor{2.5});
+    EXPECT_EQ(dos(2, 1), texto("QP"));
+    EXPECT_EQ(dos(5, 1), texto("2"));
+    const auto uno = PoligonoCon(&OpcionesPrograma::OptRM, {45});
+    EXPECT_EQ(uno(4, 1), Valor{4.5});
+    EXPECT_EQ(uno(2, 1), texto("QP"));
+    EXPECT_EQ(uno(5, 1), texto("2"));
 }
 
 TEST(ConstruirPoligono, ElFactorDeLosRadiosEsElDeSuUnidad) {

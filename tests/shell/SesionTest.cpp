@@ -68,6 +68,7 @@ TEST(Sesion, MasDe32767CambiosDeCodigoDesbordan) {
     jornada.servicios.esperarFallo(6);
     jornada.usuario.clic(jornada.opciones().ChCodigo);
     EXPECT_TRUE(jornada.servicios.todoPedido());
+    EXPECT_FALSE(jornada.programa.terminado());
 }
 
 TEST(Sesion, UnNumeroParDeClicsEnElCodigoDejaElFormatoComoEstaba) {
@@ -107,6 +108,28 @@ TEST(Sesion, CerrarUnArchivoNoBorraLaColumnaDelTamano) {
     EXPECT_EQ(jornada.programa.sesion.ColumnaDAP, 9);
     EXPECT_EQ(jornada.programa.sesion.Columnas(0), 2);
     EXPECT_EQ(jornada.programa.sesion.SupPoligono, 100);
+}
+
+TEST(Sesion, UnArchivoSinTamanoElegidoVeLaColumnaDelArchivoAnterior) {
+    Jornada jornada;
+    jornada.abrirParcela(CuadradoConCentro());
+    jornada.dibujarCuadrado();
+    jornada.usuario.clic(jornada.marco().mnuCerrar);
+
+    jornada.abrirParcela(CuadradoConCentro());
+    jornada.cambiarOpciones([&](OpcionesPrograma& opciones) { jornada.usuario.clic(opciones.ChDmax); });
+    jornada.pedirColumnas();
+    auto& dialogo = jornada.programa.tocar<SelCol4R>();
+    jornada.usuario.clic(dialogo.CmdQuitarTodo);
+    for (int papel = 0; papel <= 5; ++papel) {
+        jornada.elegirPapel(dialogo, papel, papel + 2);
+    }
+    jornada.elegirPapel(dialogo, 6, 1);
+    jornada.elegirPapel(dialogo, 7, 8);
+    jornada.usuario.clic(dialogo.CmdDibujar);
+    jornada.usuario.clic(jornada.programa.tocar<FrmFormato>().CmdAceptar);
+    jornada.usuario.clic(jornada.programa.tocar<FrmMapa>().mnuIndices);
+    EXPECT_EQ(jornada.programa.resultados.IndDmax(1), 0.8);
 }
 
 TEST(Sesion, LaUltimaColumnaSobreviveAlCierreYElCambioDeTipoAvisaEnElArchivoSiguiente) {

@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <functional>
+#include <tuple>
 
 namespace varo::prueba {
 namespace {
@@ -201,13 +204,71 @@ TEST(VAROMAIN, CerrarElArchivoVuelveAlPrincipio) {
     EXPECT_TRUE(jornada.opciones().Optdecim.Value()) << "las opciones vuelven a su diseño";
 }
 
+std::vector<std::string> VentanasCargadas(const Jornada& jornada) {
+    std::vector<std::string> nombres;
+    for (const Formulario* const ventana : jornada.programa.todas()) {
+        nombres.push_back(ventana->nombre() + (ventana->Visible() ? "" : " (oculta)"));
+    }
+    return nombres;
+}
+
 TEST(VAROMAIN, CerrarLaHojaConSuBotonHaceLoMismoQueElMenu) {
+    const auto trasCerrar = [](const std::function<void(Jornada&)>& cerrar) {
+        Jornada jornada;
+        jornada.abrirParcela(CuadradoConCentro());
+        jornada.dibujarCuadrado();
+        jornada.programa.sesion.CambiosCodigo = 3;
+        cerrar(jornada);
+        const auto& sesion = jornada.programa.sesion;
+        return std::tuple{VentanasCargadas(jornada), EstadoDeMenus(jornada), sesion.CierresConMapa.valor(),
+                          sesion.CambiosCodigo.valor(), sesion.VecesFormato.valor()};
+    };
+    const auto conElMenu =
+        trasCerrar([](Jornada& jornada) { jornada.usuario.clic(jornada.marco().mnuCerrar); });
+    const auto conElBoton =
+        trasCerrar([](Jornada& jornada) { jornada.usuario.cerrar(jornada.programa.tocar<Hojadedatos>()); });
+    EXPECT_EQ(conElBoton, conElMenu);
+    const std::vector<std::string> quedan{"VAROMAIN", "SelCol4R (oculta)", "SelCol2D (oculta)",
+                                          "SelColRM (oculta)", "FrmMapa2 (oculta)"};
+    auto ventanas = std::get<0>(conElMenu);
+    EXPECT_TRUE(std::is_permutation(ventanas.begin(), ventanas.end(), quedan.begin(), quedan.end()))
+        << ::testing::PrintToString(ventanas);
+    EXPECT_EQ(std::get<1>(conElMenu), (Menus{true, false, false, false}))
+        << "aunque el mapa, al irse, dé su menú";
+    EXPECT_EQ(std::get<2>(conElMenu), 1);
+    EXPECT_EQ(std::get<3>(conElMenu), 0);
+}
+
+TEST(VAROMAIN, ElBotonDeCierreDeLasOpcionesHaceLoQueCancelar) {
     Jornada jornada;
     jornada.abrirParcela(CuadradoConCentro());
-    jornada.usuario.cerrar(jornada.programa.tocar<Hojadedatos>());
-    EXPECT_EQ(EstadoDeMenus(jornada), (Menus{true, false, false, false}));
-    EXPECT_EQ(jornada.programa.cargada<FrmSeleccion>(), nullptr);
-    EXPECT_EQ(jornada.programa.cargada<OpcionesPrograma>(), nullptr);
+    jornada.usuario.clic(jornada.marco().mnuOpciones);
+    jornada.usuario.clic(jornada.opciones().Optmetro);
+    jornada.usuario.cerrar(jornada.opciones());
+    EXPECT_FALSE(jornada.opciones().Visible());
+    EXPECT_TRUE(jornada.opciones().Optmetro.Value());
+    EXPECT_EQ(EstadoDeMenus(jornada), (Menus{false, true, true, true}));
+}
+
+TEST(VAROMAIN, PedirElMapaDevuelveLaHojaASuEstadoNormal) {
+    Jornada jornada;
+    jornada.abrirParcela(CuadradoConCentro());
+    auto& hoja = jornada.programa.tocar<Hojadedatos>();
+    hoja.WindowState = 1;
+    jornada.pedirColumnas();
+    EXPECT_EQ(hoja.WindowState(), 0);
+}
+
+TEST(VAROMAIN, MasDe32767TablasDesbordanYAcabanElProceso) {
+    Jornada jornada;
+    std::vector<Hoja> hojas(32768);
+    for (std::size_t i = 0; i < hojas.size(); ++i) {
+        hojas[i].nombre = "H" + std::to_string(i);
+    }
+    EXPECT_THROW(jornada.abrirLibro(hojas), FalloInesperado);
+    ASSERT_EQ(jornada.servicios.fallos().size(), 1U);
+    EXPECT_EQ(jornada.servicios.fallos()[0].numero(), 6);
+    EXPECT_TRUE(jornada.programa.terminado());
 }
 
 TEST(VAROMAIN, CerrarElArchivoDejaAbiertoElDialogoDeColumnas) {
