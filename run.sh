@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 herramientas/instalar.sh construir medir
-herramientas/preset.sh release --target varo-lote
+herramientas/preset.sh release --target varo-lote varo
 
 salida=build/ejemplo
 mkdir -p "$salida"
@@ -28,4 +28,5 @@ tr '\r' '\n' <"$resultados" | LC_ALL=C awk -F '\t' -v superficie="$superficie" '
         print "  columnas escritas:    " columnas ", " columnas - 2 " de ellas índices"
     }'
 printf '  resultados:           %s\n  trabajo:              %s\n' "$PWD/$resultados" "$PWD/ejemplos/trabajo.toml"
-echo 'La aplicación de escritorio llegará más adelante: por ahora VARO se usa con varo-lote.'
+printf '\nLa aplicación de escritorio se abre con:  %s\n' "$PWD/build/release/src/varo"
+echo '  (menú Archivo, Abrir: ejemplos/parcela.xls es la parcela de ejemplo)'

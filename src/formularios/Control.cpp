@@ -94,7 +94,13 @@ void ConLineas::Clear() {
 }
 
 void Lista::Selected(int linea, bool seleccionada) {
-    lineas_[comprobada(linea)].seleccionada = seleccionada;
+    Linea& elegida = lineas_[comprobada(linea)];
+    if (seleccionada && !variasALaVez_) {
+        for (Linea& otra : lineas_) {
+            otra.seleccionada = false;
+        }
+    }
+    elegida.seleccionada = seleccionada;
     avisar();
 }
 

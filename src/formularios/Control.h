@@ -204,14 +204,18 @@ protected:
     std::vector<Linea> lineas_;
 };
 
-/// A list in which several lines may be selected at once.
+/// A list in which several lines may be selected at once, or only one.
 class Lista : public ConLineas {
 public:
-    Lista(Formulario& ventana, Identidad identidad)
-        : ConLineas{ventana, std::move(identidad), TipoControl::Lista} {}
+    Lista(Formulario& ventana, Identidad identidad, bool variasALaVez = true)
+        : ConLineas{ventana, std::move(identidad), TipoControl::Lista}, variasALaVez_{variasALaVez} {}
 
+    [[nodiscard]] bool variasALaVez() const { return variasALaVez_; }
     [[nodiscard]] bool Selected(int linea) const { return lineas_[comprobada(linea)].seleccionada; }
     void Selected(int linea, bool seleccionada);
+
+private:
+    bool variasALaVez_;
 };
 
 /// A drop-down list; editable ones take a typed Text too. A changed Text raises Change.

@@ -41,16 +41,33 @@ void Listar(Lista& lista, const std::vector<std::string>& nombres) {
     }
 }
 
+/// The selected line; the empty text when none is.
+std::string LineaElegida(const Lista& lista) {
+    for (int i = 0; i < lista.ListCount(); ++i) {
+        if (lista.Selected(i)) {
+            return lista.List(i);
+        }
+    }
+    return {};
+}
+
 std::vector<std::string> Archivos(const std::string& ruta) {
     return Nombres(ruta, [](const fs::directory_entry& entrada, std::error_code& error) {
         return entrada.is_regular_file(error);
     });
 }
 
+constexpr const char* carpetaSuperior = "..";
+
+/// The way up, where there is one, and the folders that do not hide.
 std::vector<std::string> Carpetas(const std::string& ruta) {
-    return Nombres(ruta, [](const fs::directory_entry& entrada, std::error_code& error) {
-        return entrada.is_directory(error);
+    auto carpetas = Nombres(ruta, [](const fs::directory_entry& entrada, std::error_code& error) {
+        return entrada.is_directory(error) && !entrada.path().filename().string().starts_with('.');
     });
+    if (fs::path{ruta}.has_relative_path()) {
+        carpetas.insert(carpetas.begin(), carpetaSuperior);
+    }
+    return carpetas;
 }
 
 std::string CarpetaActual() {
@@ -62,8 +79,10 @@ std::string CarpetaActual() {
 } // namespace
 
 ListaUnidades::ListaUnidades(Formulario& ventana, Identidad identidad)
-    : Lista{ventana, std::move(identidad)}, Drive{*this, fs::path{CarpetaActual()}.root_path().string()} {
+    : Lista{ventana, std::move(identidad), false}, Drive{*this,
+                                                         fs::path{CarpetaActual()}.root_path().string()} {
     AddItem(Drive);
+    Click = [this] { Drive = LineaElegida(*this); };
 }
 
 void ListaUnidades::alCambiar(const void* propiedad) {
@@ -74,8 +93,18 @@ void ListaUnidades::alCambiar(const void* propiedad) {
 }
 
 ListaCarpetas::ListaCarpetas(Formulario& ventana, Identidad identidad)
-    : Lista{ventana, std::move(identidad)} {
+    : Lista{ventana, std::move(identidad), false} {
+    DblClick = [this] { entrar(); };
     Path(CarpetaActual());
+}
+
+void ListaCarpetas::entrar() {
+    const std::string elegida = LineaElegida(*this);
+    if (elegida.empty()) {
+        return;
+    }
+    const fs::path actual{ruta_};
+    Path((elegida == carpetaSuperior ? actual.parent_path() : actual / elegida).string());
 }
 
 void ListaCarpetas::Path(const std::string& ruta) {
@@ -89,7 +118,7 @@ void ListaCarpetas::Path(const std::string& ruta) {
 }
 
 ListaArchivos::ListaArchivos(Formulario& ventana, Identidad identidad)
-    : Lista{ventana, std::move(identidad)} {
+    : Lista{ventana, std::move(identidad), false} {
     Path(CarpetaActual());
 }
 
@@ -100,12 +129,7 @@ void ListaArchivos::Path(const std::string& ruta) {
 }
 
 std::string ListaArchivos::FileName() const {
-    for (int i = 0; i < ListCount(); ++i) {
-        if (Selected(i)) {
-            return List(i);
-        }
-    }
-    return {};
+    return LineaElegida(*this);
 }
 
 } // namespace varo

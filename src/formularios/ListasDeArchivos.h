@@ -1,4 +1,4 @@
-// The platform's lists of drives, folders and files.
+// The platform's lists of drives, folders and files; one line of them is selected at a time.
 #pragma once
 
 #include "formularios/Control.h"
@@ -19,7 +19,8 @@ protected:
     void alCambiar(const void* propiedad) override;
 };
 
-/// The folders of a folder. A path that cannot be listed throws 68 and changes nothing.
+/// The folders of a folder, the one above first; a double click on a line goes there. A path that cannot be
+/// listed throws 68 and changes nothing.
 class ListaCarpetas : public Lista {
 public:
     ListaCarpetas(Formulario& ventana, Identidad identidad);
@@ -29,6 +30,8 @@ public:
     Suceso Change;
 
 private:
+    void entrar();
+
     std::string ruta_;
 };
 

@@ -168,6 +168,15 @@ void Usuario::seleccionarColumna(Rejilla& rejilla, int columna) {
     });
 }
 
+void Usuario::mostrarFicha(Fichas& fichas, int ficha) {
+    usar(fichas, [&] {
+        if (ficha < 0 || ficha >= fichas.Tabs()) {
+            throw ActoImposible{fichas.nombreCompleto() + ": no tiene la ficha " + std::to_string(ficha)};
+        }
+        fichas.Tab = ficha;
+    });
+}
+
 void Usuario::dejarFoco() {
     if (Control* const actual = ventanas_.foco()) {
         ventanas_.atender([&] { ventanas_.quitarFoco(*actual); });

@@ -58,6 +58,9 @@ public:
     /// Clicks a column of the grid.
     void seleccionarColumna(Rejilla& rejilla, int columna);
 
+    /// Shows a tab of a tabbed dialog.
+    void mostrarFicha(Fichas& fichas, int ficha);
+
     /// Leaves the control that has the focus, as the tabulator key does.
     void dejarFoco();
 

@@ -200,6 +200,17 @@ void Ventanas::olvidarFoco(const Formulario& ventana) {
 }
 
 void Ventanas::atender(const std::function<void()>& acto) {
+    const std::exception_ptr ajena = correr(acto);
+    if (!atendiendo() && alTerminarActo) {
+        alTerminarActo();
+    }
+    if (ajena) {
+        std::rethrow_exception(ajena);
+    }
+}
+
+/// Hands back what is no fault of the program: it belongs to who set the act off.
+std::exception_ptr Ventanas::correr(const std::function<void()>& acto) {
     struct Turno {
         Ventanas& ventanas;
         explicit Turno(Ventanas& ventanas_) : ventanas{ventanas_} { ++ventanas.profundidad_; }
@@ -219,7 +230,10 @@ void Ventanas::atender(const std::function<void()>& acto) {
         servicios_.fallo(error);
     } catch (const ErrorEjecucion& error) {
         servicios_.fallo(error);
+    } catch (...) {
+        return std::current_exception();
     }
+    return nullptr;
 }
 
 } // namespace varo

@@ -5,6 +5,7 @@
 #include "formularios/Formulario.h"
 #include "formularios/Servicios.h"
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <typeindex>
@@ -78,6 +79,9 @@ public:
     /// on the way are destroyed when the outermost act is over.
     void atender(const std::function<void()>& acto);
 
+    /// True while something that was set off is still going on.
+    [[nodiscard]] bool atendiendo() const { return profundidad_ > 0; }
+
     /// True once the main window was closed, or after a fatal fault.
     [[nodiscard]] bool terminado() const { return terminado_; }
 
@@ -87,6 +91,8 @@ public:
     /// Told when a control has got the focus and when a window has become active, before their handlers run.
     std::function<void(Control&)> alEnfocar;
     std::function<void(Formulario&)> alActivar;
+    /// Told when the outermost act is over.
+    std::function<void()> alTerminarActo;
 
 private:
     struct Cargada {
@@ -94,6 +100,7 @@ private:
         std::unique_ptr<Formulario> ventana;
     };
 
+    std::exception_ptr correr(const std::function<void()>& acto);
     [[nodiscard]] Formulario* buscar(std::type_index clase) const;
     Formulario& cargar(std::type_index clase, std::unique_ptr<Formulario> ventana);
     [[nodiscard]] bool estaCargada(const Formulario* ventana) const;

@@ -58,6 +58,21 @@ TEST(Lista, VariasLineasPuedenEstarSeleccionadasALaVez) {
     EXPECT_TRUE(banco.lista.Selected(2));
 }
 
+TEST(Lista, LaQueEsDeUnaSolaLineaOlvidaLaDeAntes) {
+    Banco banco;
+    Lista lista{banco.ventana, "FilLista", false};
+    lista.AddItem("uno");
+    lista.AddItem("dos");
+    lista.Selected(0, true);
+    lista.Selected(1, true);
+    EXPECT_FALSE(lista.Selected(0));
+    EXPECT_TRUE(lista.Selected(1));
+    lista.Selected(0, false);
+    EXPECT_TRUE(lista.Selected(1)) << "quitar la selección de otra no toca la suya";
+    lista.Selected(1, false);
+    EXPECT_FALSE(lista.Selected(1));
+}
+
 TEST(Lista, UnaLineaNuevaNaceSinSeleccionar) {
     ListaDeTres banco;
     banco.lista.Selected(2, true);

@@ -50,6 +50,7 @@ struct VentanaSurtida : VentanaAnotada {
     Desplegable CboHoja{*this, "CboHoja"};
     Desplegable CboFijo{*this, "CboFijo", false};
     Rejilla MSFlexGrid1{*this, "MSFlexGrid1"};
+    Fichas SSTab1{*this, "SSTab1", {"Una", "Dos", "Tres"}, 0};
 };
 
 /// A window whose close box only hides it.
@@ -191,6 +192,28 @@ TEST(Usuario, UnaLineaQueSeVaAlActivarLaVentanaYaNoSePuedeElegir) {
     banco.mostrada<VentanaA>();
     ventana.alActivar = [&] { ventana.LstAOI.RemoveItem(1); };
     EXPECT_EQ(negativa([&] { banco.usuario.elegir(ventana.LstAOI, 1); }), "LstAOI: no tiene la línea 1");
+}
+
+TEST(Usuario, MuestraUnaFichaTrasDejarElCampo) {
+    ConUsuario banco;
+    auto& ventana = banco.mostrada<VentanaSurtida>();
+    ventana.Texto.LostFocus = banco.anotador("LostFocus");
+    banco.usuario.escribir(ventana.Texto, "1");
+    banco.usuario.mostrarFicha(ventana.SSTab1, 2);
+    EXPECT_EQ(ventana.SSTab1.Tab(), 2);
+    EXPECT_EQ(banco.visto(), Diario{"LostFocus"});
+    EXPECT_EQ(negativa([&] { banco.usuario.mostrarFicha(ventana.SSTab1, 3); }),
+              "SSTab1: no tiene la ficha 3");
+    EXPECT_EQ(ventana.SSTab1.Tab(), 2);
+}
+
+TEST(Usuario, ElCampoQueRecuperaElFocoNoDejaCambiarDeFicha) {
+    ConUsuario banco;
+    auto& ventana = banco.mostrada<VentanaSurtida>();
+    ventana.Texto.LostFocus = [&] { ventana.Texto.SetFocus(); };
+    banco.usuario.escribir(ventana.Texto, "1");
+    banco.usuario.mostrarFicha(ventana.SSTab1, 2);
+    EXPECT_EQ(ventana.SSTab1.Tab(), 0);
 }
 
 TEST(Usuario, SeleccionaUnaColumnaDeLaRejillaAunqueEsteEscondida) {

@@ -720,4 +720,29 @@ RC_GTEST_PROP(Ventanas, CualquierSucesionDeMostrarOcultarActivarYDescargarVaComo
     }
 }
 
+TEST(Ventanas, ElFinDelActoSeDiceUnaVezAlAcabarElDeFuera) {
+    Banco banco;
+    banco.programa.alTerminarActo = [&] {
+        EXPECT_FALSE(banco.programa.atendiendo());
+        banco.programa.anotar("fin");
+    };
+    EXPECT_FALSE(banco.programa.atendiendo());
+    banco.programa.atender([&] {
+        banco.programa.atender([&] { banco.programa.anotar("dentro"); });
+        EXPECT_TRUE(banco.programa.atendiendo());
+        banco.programa.anotar("fuera");
+    });
+    EXPECT_EQ(banco.visto(), (Diario{"dentro", "fuera", "fin"}));
+}
+
+TEST(Ventanas, ElFinDelActoSeDiceTambienTrasUnFallo) {
+    Banco banco;
+    banco.programa.alTerminarActo = [&] { banco.programa.anotar("fin"); };
+    banco.servicios.esperarFallo(11);
+    banco.programa.atender([] { throw ErrorEjecucion{11}; });
+    EXPECT_EQ(banco.visto(), Diario{"fin"});
+    EXPECT_THROW(banco.programa.atender([] { throw std::logic_error{"de otro"}; }), std::logic_error);
+    EXPECT_EQ(banco.visto(), Diario{"fin"});
+}
+
 } // namespace varo

@@ -1,0 +1,27 @@
+#include "desktop/ContenidoDeDialogo.h"
+#include "desktop/Disposiciones.h"
+#include "desktop/FichasLaterales.h"
+#include "desktop/PaginasDeOpciones.h"
+#include "desktop/PiezasDeOpciones.h"
+
+#include <QPushButton>
+#include <QTabWidget>
+
+namespace varo {
+
+QWidget* DisponerOpciones(OpcionesPrograma& ventana, Vinculos& vinculos) {
+    auto* const contenido = new ContenidoDeDialogo;
+    auto* const columna = new QVBoxLayout{contenido};
+    const PiezasDeOpciones piezas{ventana, vinculos};
+    QTabWidget* const fichas = vinculos.fichas(
+        ventana.SSTab1, {PaginaDeUnidades(piezas), PaginaDeIndependientes(piezas), PaginaDeISC(piezas),
+                         PaginaDeAOI(piezas), PaginaDeDP(piezas), PaginaDeDR(piezas), PaginaDeAPA(piezas)});
+    PonerFichasAlLado(*fichas);
+    columna->addWidget(fichas);
+
+    columna->addLayout(
+        contenido->pie(vinculos.boton(ventana.CmdAceptar), vinculos.boton(ventana.CmdCancelar)));
+    return contenido;
+}
+
+} // namespace varo

@@ -1,0 +1,167 @@
+#include "desktop/ServiciosQt.h"
+
+#include "desktop/Texto.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QFontInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStringList>
+
+#include <array>
+
+namespace varo {
+
+namespace {
+
+constexpr int mascaraDeBotones = 15;
+constexpr int mascaraDeIcono = 112;
+
+QMessageBox::Icon Icono(int opciones) {
+    switch (opciones & mascaraDeIcono) {
+    case mensaje::critico:
+        return QMessageBox::Critical;
+    case mensaje::pregunta:
+        return QMessageBox::Question;
+    case mensaje::exclamacion:
+        return QMessageBox::Warning;
+    case mensaje::informacion:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+struct BotonDeMensaje {
+    const char* leyenda;
+    QMessageBox::ButtonRole papel;
+    int respuesta;
+};
+
+std::vector<BotonDeMensaje> Botones(int opciones) {
+    const BotonDeMensaje cancelar{"Cancelar", QMessageBox::RejectRole, mensaje::respondeCancelar};
+    const BotonDeMensaje si{"&Sí", QMessageBox::YesRole, mensaje::respondeSi};
+    const BotonDeMensaje no{"&No", QMessageBox::NoRole, mensaje::respondeNo};
+    switch (opciones & mascaraDeBotones) {
+    case mensaje::siNoCancelar:
+        return {si, no, cancelar};
+    case mensaje::siNo:
+        return {si, no};
+    case mensaje::reintentarCancelar:
+        return {{"&Reintentar", QMessageBox::AcceptRole, mensaje::respondeReintentar}, cancelar};
+    default:
+        return {{"Aceptar", QMessageBox::AcceptRole, mensaje::respondeAceptar}};
+    }
+}
+
+/// "Hoja de cálculo (*.xls)|*.xls|...": pairs of a name and a pattern; the toolkit wants the names alone,
+/// each with its pattern in brackets.
+QString Filtros(const std::string& filtro) {
+    const QStringList partes = AQt(filtro).split('|', Qt::SkipEmptyParts);
+    QStringList nombres;
+    for (qsizetype i = 0; i < partes.size(); i += 2) {
+        nombres << partes[i];
+    }
+    return nombres.join(";;");
+}
+
+QFont FuenteQt(const Fuente& fuente) {
+    QFont letra{AQt(fuente.nombre)};
+    letra.setPointSizeF(static_cast<double>(fuente.tamano));
+    letra.setBold(fuente.negrita);
+    letra.setItalic(fuente.cursiva);
+    letra.setStrikeOut(fuente.tachado);
+    letra.setUnderline(fuente.subrayado);
+    // The font dialog finds a style by its name, which each font spells in its own way.
+    letra.setStyleName(QFontInfo{letra}.styleName());
+    return letra;
+}
+
+} // namespace
+
+ServiciosQt::ServiciosQt() : medidas_{QApplication::font()} {}
+
+QWidget* ServiciosQt::padre() const {
+    QWidget* const activa = QApplication::activeWindow();
+    return activa != nullptr ? activa : ventana_;
+}
+
+int ServiciosQt::mensaje(const std::string& texto, const std::string& titulo, int opciones) {
+    QMessageBox caja{Icono(opciones), AQt(titulo), AQt(texto), QMessageBox::NoButton, padre()};
+    caja.setTextFormat(Qt::PlainText);
+    caja.setObjectName("CajaDeMensaje");
+    std::vector<std::pair<QAbstractButton*, int>> botones;
+    for (const auto& boton : Botones(opciones)) {
+        botones.emplace_back(caja.addButton(QString::fromUtf8(boton.leyenda), boton.papel), boton.respuesta);
+    }
+    caja.setDefaultButton(qobject_cast<QPushButton*>(botones.front().first));
+    const bool tieneCancelar = botones.back().second == mensaje::respondeCancelar || botones.size() == 1;
+    caja.setEscapeButton(tieneCancelar ? botones.back().first : nullptr);
+    caja.exec();
+    for (const auto& [boton, respuesta] : botones) {
+        if (caja.clickedButton() == boton) {
+            return respuesta;
+        }
+    }
+    return botones.back().second;
+}
+
+void ServiciosQt::fallo(const ErrorEjecucion& error) {
+    QMessageBox caja{QMessageBox::Critical, "VARO 1.0", QString{}, QMessageBox::NoButton, padre()};
+    caja.setObjectName("CajaDeFallo");
+    caja.setTextFormat(Qt::PlainText);
+    QString texto = QString::fromUtf8("Error %1 en tiempo de ejecución:\n\n%2")
+                        .arg(error.numero())
+                        .arg(AQt(error.descripcion()));
+    if (!error.lugar().empty()) {
+        texto += QString::fromUtf8("\n\nDónde: ") + AQt(error.lugar());
+    }
+    caja.setText(texto);
+    caja.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    auto* const aceptar = caja.addButton("Aceptar", QMessageBox::AcceptRole);
+    caja.setDefaultButton(aceptar);
+    caja.setEscapeButton(aceptar);
+    auto* const copiar = caja.addButton("&Copiar", QMessageBox::ActionRole);
+    copiar->disconnect(); // it does its work and leaves the box open
+    QObject::connect(copiar, &QPushButton::clicked, &caja,
+                     [&texto] { QApplication::clipboard()->setText(texto); });
+    caja.exec();
+}
+
+void ServiciosQt::elegirArchivo(DialogoAbrir& dialogo) {
+    QFileDialog ventana{padre(), AQt(dialogo.DialogTitle), QString{}, Filtros(dialogo.Filter)};
+    ventana.setObjectName("DlogoAbrir");
+    ventana.setFileMode(QFileDialog::ExistingFile);
+    ventana.setDefaultSuffix(AQt(dialogo.DefaultExt));
+    const bool elegido = ventana.exec() == QDialog::Accepted && !ventana.selectedFiles().isEmpty();
+    dialogo.FileName = elegido ? DeQt(ventana.selectedFiles().front()) : std::string{};
+}
+
+std::optional<Fuente> ServiciosQt::elegirFuente(const Fuente& actual) {
+    bool elegida = false;
+    const QFont letra = QFontDialog::getFont(&elegida, FuenteQt(actual), padre());
+    if (!elegida) {
+        return std::nullopt;
+    }
+    return Fuente{DeQt(letra.family()), static_cast<float>(letra.pointSizeF()),
+                  letra.bold(),         letra.italic(),
+                  letra.strikeOut(),    letra.underline()};
+}
+
+std::optional<Color> ServiciosQt::elegirColor(Color actual) {
+    const QColor color = QColorDialog::getColor(ColorQt(actual), padre());
+    if (!color.isValid()) {
+        return std::nullopt;
+    }
+    return ColorDe(color);
+}
+
+float ServiciosQt::anchoTexto(const std::string& texto) {
+    return static_cast<float>(medidas_.horizontalAdvance(AQt(texto)) * twipsPorPunto);
+}
+
+} // namespace varo

@@ -1,0 +1,33 @@
+// The platform of the windows, on Qt.
+#pragma once
+
+#include "formularios/Servicios.h"
+
+#include <QFontMetricsF>
+
+class QWidget;
+
+namespace varo {
+
+class ServiciosQt : public Servicios {
+public:
+    ServiciosQt();
+
+    /// The window over which boxes and dialogs are shown when no other one is active.
+    void ponerVentana(QWidget* ventana) { ventana_ = ventana; }
+
+    int mensaje(const std::string& texto, const std::string& titulo, int opciones) override;
+    void fallo(const ErrorEjecucion& error) override;
+    void elegirArchivo(DialogoAbrir& dialogo) override;
+    std::optional<Fuente> elegirFuente(const Fuente& actual) override;
+    std::optional<Color> elegirColor(Color actual) override;
+    float anchoTexto(const std::string& texto) override;
+
+private:
+    [[nodiscard]] QWidget* padre() const;
+
+    QWidget* ventana_ = nullptr;
+    QFontMetricsF medidas_;
+};
+
+} // namespace varo

@@ -1,0 +1,11 @@
+#include "desktop/Aplicacion.h"
+#include "desktop/Escritorio.h"
+#include "desktop/ServiciosQt.h"
+
+int main(int argc, char** argv) {
+    varo::Aplicacion aplicacion{argc, argv};
+    varo::ServiciosQt servicios;
+    varo::Escritorio escritorio{servicios};
+    escritorio.alTerminar = [] { QApplication::quit(); };
+    return QApplication::exec();
+}

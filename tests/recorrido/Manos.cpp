@@ -1,0 +1,142 @@
+#include "recorrido/Manos.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QScreen>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <exception>
+#include <stdexcept>
+
+namespace varo::prueba {
+
+namespace {
+
+constexpr int plazo = 30'000; ///< in milliseconds; a test that goes well never uses it up
+constexpr int pausa = 5;      ///< between two looks
+
+template <class F>
+auto EnElHiloDeLasVentanas(const F& lectura) {
+    decltype(lectura()) valor{};
+    QMetaObject::invokeMethod(
+        qApp, [&] { valor = lectura(); }, Qt::BlockingQueuedConnection);
+    return valor;
+}
+
+QWidget* Ventana(const QString& nombre) {
+    for (QWidget* const superior : QApplication::topLevelWidgets()) {
+        if (superior->objectName() == nombre) {
+            return superior;
+        }
+        if (auto* const dentro = superior->findChild<QWidget*>(nombre)) {
+            return dentro;
+        }
+    }
+    return nullptr;
+}
+
+QWidget* ControlDe(const QString& ventana, const QString& control) {
+    QWidget* const donde = Ventana(ventana);
+    if (donde == nullptr || control.isEmpty()) {
+        return donde;
+    }
+    return donde->findChild<QWidget*>(control);
+}
+
+void Xdotool(const QStringList& argumentos) {
+    QProcess proceso;
+    proceso.start("xdotool", argumentos);
+    if (!proceso.waitForFinished(plazo) || proceso.exitCode() != 0) {
+        throw std::runtime_error{"xdotool " + argumentos.join(' ').toStdString() + ": " +
+                                 proceso.readAllStandardError().toStdString()};
+    }
+}
+
+} // namespace
+
+void Manos::esperar(const std::string& que, const std::function<bool()>& condicion) const {
+    const QDeadlineTimer limite{plazo};
+    while (!EnElHiloDeLasVentanas(condicion)) {
+        if (limite.hasExpired()) {
+            foto("fallo");
+            throw std::runtime_error{"no llega: " + que};
+        }
+        QThread::msleep(pausa);
+    }
+}
+
+void Manos::esperarVentana(const QString& ventana) const {
+    esperar(ventana.toStdString() + " a la vista", [&] {
+        QWidget* const widget = Ventana(ventana);
+        return widget != nullptr && widget->isVisible() && widget->isActiveWindow();
+    });
+}
+
+void Manos::esperarQueSeVaya(const QString& ventana) const {
+    esperar("que se vaya " + ventana.toStdString(), [&] {
+        QWidget* const widget = Ventana(ventana);
+        return widget == nullptr || !widget->isVisible();
+    });
+}
+
+void Manos::clic(const QString& ventana, const QString& control, const Sitio& sitio, int veces) const {
+    esperar((ventana + "." + control).toStdString() + " listo para el ratón", [&] {
+        QWidget* const widget = ControlDe(ventana, control);
+        return widget != nullptr && widget->isVisible() && widget->isEnabled();
+    });
+    const QPoint punto = EnElHiloDeLasVentanas([&] {
+        QWidget* const widget = ControlDe(ventana, control);
+        return (QPointF{widget->mapToGlobal(sitio(*widget))} * widget->devicePixelRatio()).toPoint();
+    });
+    Xdotool({"mousemove", "--sync", QString::number(punto.x()), QString::number(punto.y())});
+    Xdotool({"click", "--repeat", QString::number(veces), "--delay", "20", "1"});
+}
+
+void Manos::tecla(const std::string& nombre) const {
+    Xdotool({"key", "--clearmodifiers", QString::fromStdString(nombre)});
+}
+
+void Manos::teclear(const std::string& texto) const {
+    Xdotool({"type", "--clearmodifiers", "--delay", "5", QString::fromStdString(texto)});
+}
+
+QString Manos::leer(const QString& ventana, const QString& control,
+                    const std::function<QString(QWidget&)>& lectura) const {
+    return EnElHiloDeLasVentanas([&] {
+        QWidget* const widget = ControlDe(ventana, control);
+        return widget == nullptr ? QString{} : lectura(*widget);
+    });
+}
+
+void Manos::foto(const std::string& nombre) const {
+    const char* const carpeta = std::getenv("VARO_FOTOS");
+    if (carpeta == nullptr) {
+        return;
+    }
+    EnElHiloDeLasVentanas([&] {
+        return QApplication::primaryScreen()->grabWindow(0).save(QString{carpeta} + "/" +
+                                                                 QString::fromStdString(nombre) + ".png");
+    });
+}
+
+void ConLasManos(const std::function<void(const Manos&)>& acto) {
+    std::string fallo;
+    std::thread manos{[&] {
+        try {
+            acto(Manos{});
+        } catch (const std::exception& error) {
+            fallo = error.what();
+        }
+        QMetaObject::invokeMethod(
+            qApp, [] { QApplication::exit(); }, Qt::QueuedConnection);
+    }};
+    QApplication::exec();
+    manos.join();
+    EXPECT_EQ(fallo, "");
+}
+
+} // namespace varo::prueba

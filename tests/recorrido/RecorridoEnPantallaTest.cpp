@@ -1,0 +1,199 @@
+// The whole way from a plot file to the file of its indices, at a screen, with mouse and keyboard.
+#include "apoyo/CarpetaTemporal.h"
+#include "apoyo/Jornada.h"
+#include "apoyo/Proceso.h"
+#include "desktop/Aplicacion.h"
+#include "desktop/Escritorio.h"
+#include "recorrido/Manos.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTableView>
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+
+namespace {
+
+const std::filesystem::path ejemplos = std::filesystem::path{VARO_DATOS_PRUEBA}.parent_path() / "ejemplos";
+
+/// A cell of a column of the grid, in the first row that can be seen.
+Manos::Sitio EnLaColumna(const QString& cabecera) {
+    return [cabecera](QWidget& widget) {
+        auto& tabla = dynamic_cast<QTableView&>(widget);
+        for (int columna = 0; columna < tabla.model()->columnCount(); ++columna) {
+            if (tabla.model()->headerData(columna, Qt::Horizontal).toString() == cabecera) {
+                tabla.scrollTo(tabla.model()->index(0, columna));
+                return tabla.viewport()->mapTo(&tabla,
+                                               tabla.visualRect(tabla.model()->index(1, columna)).center());
+            }
+        }
+        throw std::runtime_error{"no hay columna " + cabecera.toStdString()};
+    };
+}
+
+/// The header of a column of the grid.
+Manos::Sitio EnLaCabecera(const QString& cabecera) {
+    return [cabecera](QWidget& widget) {
+        auto& tabla = dynamic_cast<QTableView&>(widget);
+        const QPoint celda = EnLaColumna(cabecera)(widget);
+        return QPoint{celda.x(), tabla.horizontalHeader()->geometry().center().y()};
+    };
+}
+
+QPoint EnLaMarca(QWidget& widget) {
+    return {8, widget.height() / 2}; // a check or an option is pressed on its mark
+}
+
+Manos::Sitio EnLaFicha(int ficha) {
+    return [ficha](QWidget& widget) {
+        auto* const barra = widget.findChild<QTabBar*>();
+        return barra->mapTo(&widget, barra->tabRect(ficha).center());
+    };
+}
+
+void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo) {
+    manos.esperarVentana("VAROMAIN");
+    manos.foto("01-inicio");
+    manos.tecla("alt+a");
+    manos.tecla("a");
+    manos.esperarVentana("DlogoAbrir");
+    manos.foto("02-abrir");
+    manos.teclear(archivo.string());
+    manos.tecla("Return");
+}
+
+void ElegirHoja(const Manos& manos) {
+    manos.esperarVentana("FrmSeleccion");
+    manos.foto("03-seleccion");
+    manos.clic("FrmSeleccion", "CmdAceptar");
+    manos.esperarVentana("CajaDeMensaje");
+    manos.foto("04-hoja-no-encontrada");
+    manos.tecla("Return");
+    manos.esperarVentana("FrmSeleccion");
+    manos.clic("FrmSeleccion", "CboHoja", [](QWidget& combo) { return QPoint{combo.width() - 10, 10}; });
+    manos.tecla("Down");
+    manos.tecla("Return");
+    manos.tecla("Return");
+    manos.esperarVentana("Hojadedatos");
+    manos.foto("05-hoja");
+}
+
+void MarcarIndices(const Manos& manos) {
+    manos.tecla("alt+o");
+    manos.esperarVentana("OpcionesPrograma");
+    manos.foto("06-opciones-4");
+    for (const int ficha : {0, 2, 3, 5, 6, 1}) {
+        manos.clic("OpcionesPrograma", "SSTab1", EnLaFicha(ficha));
+        manos.foto("06-opciones-" + std::to_string(ficha));
+    }
+    for (const char* casilla : {"ChN", "ChAB", "ChABj", "ChDmed", "ChDmax", "ChDdom", "ChBmed", "ChBmax",
+                                "ChBdom", "ChAPDmed", "ChAPDmax", "ChAPDsum", "ChAPBmed", "ChAPBmax"}) {
+        manos.clic("OpcionesPrograma", casilla, EnLaMarca);
+    }
+    manos.tecla("Tab"); // the last check with the keyboard
+    manos.tecla("space");
+    manos.foto("07-independientes");
+    manos.tecla("Return");
+    manos.esperarQueSeVaya("OpcionesPrograma");
+}
+
+void ElegirColumnas(const Manos& manos) {
+    manos.tecla("alt+m");
+    manos.esperarVentana("SelCol4R");
+    manos.foto("08-columnas");
+    const auto asignar = [&](const Manos::Sitio& sitio, const QString& boton) {
+        manos.clic("Hojadedatos", "MSFlexGrid1", sitio);
+        manos.clic("SelCol4R", boton);
+    };
+    asignar(EnLaColumna("X"), "Command1(0)");
+    asignar(EnLaCabecera("Y"), "Command1(1)");
+    asignar(EnLaColumna("RN"), "Command1(2)");
+    asignar(EnLaCabecera("RE"), "Command1(3)");
+    asignar(EnLaColumna("RS"), "Command1(4)");
+    asignar(EnLaColumna("RO"), "Command1(5)");
+    asignar(EnLaColumna("Arbol"), "Command1(6)");
+    asignar(EnLaColumna("Especie"), "Command1(7)");
+    asignar(EnLaColumna("CAP"), "CmdDAP");
+    manos.foto("09-columnas-elegidas");
+    manos.clic("SelCol4R", "CmdDibujar");
+}
+
+void GuardarIndices(const Manos& manos, const std::filesystem::path& resultados) {
+    manos.esperarVentana("FrmFormato");
+    manos.foto("10-formato");
+    manos.clic("FrmFormato", "CmdAceptar");
+    manos.esperarVentana("FrmMapa");
+    manos.foto("11-mapa");
+    manos.tecla("alt+i");
+    manos.esperarVentana("FrmCrearArchivo");
+    manos.foto("12-crear-archivo");
+    manos.clic("FrmCrearArchivo", "TxtLista", Manos::enElCentro, 2);
+    manos.tecla("ctrl+a");
+    manos.teclear(resultados.filename().string());
+    manos.foto("13-nombre");
+    manos.tecla("Return");
+    manos.esperarVentana("CajaDeMensaje");
+    manos.foto("14-creado");
+    EXPECT_EQ(
+        manos.leer("CajaDeMensaje", "", [](QWidget& caja) { return dynamic_cast<QMessageBox&>(caja).text(); })
+            .toStdString(),
+        resultados.string() + " fue creado correctamente");
+    manos.tecla("Return");
+    manos.esperarQueSeVaya("CajaDeMensaje");
+}
+
+void Salir(const Manos& manos) {
+    manos.tecla("alt+a");
+    manos.tecla("s");
+    manos.esperarVentana("CajaDeMensaje");
+    manos.foto("15-salir");
+    manos.tecla("Escape"); // stays
+    manos.esperarQueSeVaya("CajaDeMensaje");
+    manos.tecla("alt+a");
+    manos.tecla("s");
+    manos.esperarVentana("CajaDeMensaje");
+    manos.tecla("alt+s");
+    manos.esperarQueSeVaya("VAROMAIN");
+}
+
+} // namespace
+
+TEST(RecorridoEnPantalla, ElArchivoDeIndicesEsElDeVaroLote) {
+    const CarpetaTemporal carpeta;
+    const auto esperado =
+        Ejecutar(VARO_LOTE, {(ejemplos / "trabajo.toml").string(), "--salida", carpeta.archivo("lote")});
+    ASSERT_EQ(esperado.estado, 0) << esperado.errores;
+
+    const auto aqui = std::filesystem::current_path();
+    std::filesystem::current_path(carpeta.ruta()); // the folder that the last window offers
+    const auto resultados = std::filesystem::current_path() / "indices.txt";
+    int argc = 1;
+    std::string nombre = "varo";
+    char* argv[] = {nombre.data(), nullptr};
+    Aplicacion aplicacion{argc, argv};
+    ServiciosQt servicios;
+    Escritorio escritorio{servicios};
+    bool terminado = false;
+    escritorio.alTerminar = [&] { terminado = true; };
+    ConLasManos([&](const Manos& manos) {
+        AbrirArchivo(manos, ejemplos / "parcela.xls");
+        ElegirHoja(manos);
+        MarcarIndices(manos);
+        ElegirColumnas(manos);
+        GuardarIndices(manos, resultados);
+        Salir(manos);
+    });
+    EXPECT_TRUE(terminado);
+    std::filesystem::current_path(aqui);
+    ASSERT_TRUE(std::filesystem::exists(resultados));
+    EXPECT_EQ(LeerArchivo(resultados), LeerArchivo(carpeta / "lote/indices.txt"));
+}
+
+} // namespace varo::prueba
