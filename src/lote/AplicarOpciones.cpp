@@ -174,7 +174,7 @@ private:
         if (!texto) {
             puesto_.rechazar(pedida.lugar(), "es un campo de texto: se espera un número o un texto");
         }
-        puesto_.hacer(pedida.lugar(), [&] {
+        puesto_.hacer(pedida.lugar().con(*texto), [&] {
             puesto_.usuario.escribir(caja, *texto);
             dejar(caja);
         });

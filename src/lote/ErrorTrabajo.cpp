@@ -16,7 +16,7 @@ std::string LineaDeAviso(const std::filesystem::path& trabajo, const Lugar& luga
         linea += "línea " + std::to_string(lugar.linea) + ": ";
     }
     if (!lugar.clave.empty()) {
-        linea += lugar.clave + ": ";
+        linea += lugar.clave + (lugar.valor ? " = «" + *lugar.valor + "»" : "") + ": ";
     }
     return EnUnaLinea(linea + texto);
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace varo {
 
@@ -17,17 +18,22 @@ enum class Estado {
     ErrorDeArchivo = 4 ///< a file cannot be read or written
 };
 
-/// Where in a job something stands: its key ("opciones.ChN") and its line in the job file, 0 when it has
-/// none.
+/// Where in a job something stands: its key ("opciones.ChN"), its line in the job file, 0 when it has none,
+/// and the value that is being typed, where there is one.
 struct Lugar {
     std::string clave;
     int linea = 0;
+    std::optional<std::string> valor = {};
+
+    [[nodiscard]] Lugar con(std::string valorTecleado) const {
+        return {clave, linea, std::move(valorTecleado)};
+    }
 };
 
 /// The text with a blank for each line end and other control character.
 std::string EnUnaLinea(std::string texto);
 
-/// "trabajo.toml: línea 3: opciones.ChN: texto", in one line whatever the parts hold.
+/// "trabajo.toml: línea 3: opciones.TxtRm(0) = «1.5»: texto", in one line whatever the parts hold.
 std::string LineaDeAviso(const std::filesystem::path& trabajo, const Lugar& lugar, const std::string& texto);
 
 /// Ends a job; `what()` is the line that a person reads.

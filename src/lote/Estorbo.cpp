@@ -15,7 +15,9 @@ std::string OpcionQueMuestra(const Control& control) {
     const auto con = [](const char* opcion, int seleccion) {
         return Identidad{opcion, seleccion}.completa();
     };
-    if (nombre == "TxtBAF1" || nombre == "TxtBAF2" || nombre == "TxtBAF3") {
+    constexpr int primerExponente = 4; // from here on the intervals are those of exponents, always on show
+    const bool esIntervalo = nombre == "TxtBAF1" || nombre == "TxtBAF2" || nombre == "TxtBAF3";
+    if (esIntervalo && control.Index() < primerExponente) {
         const int seleccion = control.Index() / 2;
         return control.Index() % 2 == 0 ? con("OptBAF", seleccion) + " u " + con("OptRadioFijo", seleccion)
                                         : con("OptNumFijo", seleccion);
@@ -71,8 +73,10 @@ std::optional<std::string> Estorbo(const OpcionesPrograma& opciones, const Contr
     if (!impedimento) {
         return std::nullopt;
     }
-    if (impedimento->motivo == Impedimento::Motivo::Invisible && !OpcionQueMuestra(control).empty()) {
-        return "no está a la vista: falta " + OpcionQueMuestra(control) + " = true";
+    if (!OpcionQueMuestra(control).empty()) {
+        const bool oculto = impedimento->motivo == Impedimento::Motivo::Invisible;
+        return std::string{oculto ? "no está a la vista" : "está inhabilitado"} + ": falta " +
+               OpcionQueMuestra(control) + " = true";
     }
     if (&control == &opciones.OptElipse && opciones.OptRM.Value()) {
         return "está inhabilitado: con OptRM las copas son círculos";

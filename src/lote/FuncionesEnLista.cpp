@@ -32,24 +32,41 @@ public:
     void anadir(const Lista& lista) {
         const Ficha ficha = fichaDe(lista);
         exigirParametros(ficha);
+        const Lugar lugar = lugar_.con(textoDeLaFuncion(ficha));
+        if (ficha.clase != nullptr && !ficha.clase->Value()) {
+            puesto_.hacer(lugar, [&] { puesto_.usuario.clic(*ficha.clase); });
+        }
+        int campo = ficha.primero;
+        for (const auto& parametro : ficha.parametros) {
+            teclear((*ficha.campos)(campo), parametro);
+            ++campo;
+        }
         const int lineas = lista.ListCount();
-        puesto_.hacer(lugar_, [&] {
-            if (ficha.clase != nullptr && !ficha.clase->Value()) {
-                puesto_.usuario.clic(*ficha.clase);
-            }
-            int campo = ficha.primero;
-            for (const auto& parametro : ficha.parametros) {
-                puesto_.usuario.escribir((*ficha.campos)(campo), funcion_.find(parametro)->second);
-                ++campo;
-            }
-            puesto_.usuario.clic(*ficha.anadir);
-        });
+        puesto_.hacer(lugar, [&] { puesto_.usuario.clic(*ficha.anadir); });
         if (lista.ListCount() != lineas + 1) {
-            puesto_.rechazar(lugar_, "la lista no admite la función");
+            puesto_.rechazar(lugar, "la lista no admite la función");
         }
     }
 
 private:
+    void teclear(CajaTexto& campo, const std::string& parametro) {
+        const std::string& texto = funcion_.find(parametro)->second;
+        const Lugar lugar{lugar_.clave + ": " + parametro, lugar_.linea, texto};
+        puesto_.hacer(lugar, [&] {
+            puesto_.usuario.escribir(campo, texto);
+            puesto_.usuario.dejarFoco();
+        });
+    }
+
+    /// "tipo = HIP; a = 1; b = 2,5": the parameters in the order of their fields.
+    [[nodiscard]] std::string textoDeLaFuncion(const Ficha& ficha) const {
+        std::string texto = ficha.conTipo ? "tipo = " + funcion_.find("tipo")->second : "";
+        for (const auto& parametro : ficha.parametros) {
+            texto += (texto.empty() ? "" : "; ") + parametro + " = " + funcion_.find(parametro)->second;
+        }
+        return texto;
+    }
+
     Ficha fichaDe(const Lista& lista) {
         if (&lista == &opciones_.LstAOI) {
             return {nullptr, deDistancia, &opciones_.TxtRm, 0, &opciones_.CmdAñadir};

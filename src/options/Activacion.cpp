@@ -1,8 +1,56 @@
 // The five families of indices that have a switch: the controls that go on and off with it. A family starts
-// off. OptHjHi and OptDRHjHi are in no list: height ratios are offered, never available.
+// off. OptHjHi and OptDRHjHi are in no list: height ratios are offered, never available. Which way a switch
+// works is asked of one of its controls: where that one is enabled the family goes off.
 #include "options/OpcionesPrograma.h"
 
 namespace varo {
+
+void OpcionesPrograma::conectarInterruptores() {
+    ChSupCopa.Click = [this] { ChSupCopa_Click(); };
+    ChAOIActivar.Click = [this] { ChAOIActivar_Click(); };
+    ChIDPActivar.Click = [this] { ChIDPActivar_Click(); };
+    ChDRActivar.Click = [this] { ChDRActivar_Click(); };
+    ChAPA.Click = [this] { ChAPA_Click(); };
+}
+
+void OpcionesPrograma::ChSupCopa_Click() {
+    habilitar(controlesISC(), !FramISC.Enabled());
+}
+
+void OpcionesPrograma::ChAPA_Click() {
+    habilitar(controlesAPA(), !FramAPAk.Enabled());
+}
+
+void OpcionesPrograma::ChAOIActivar_Click() {
+    const bool encender = !CmdAñadir.Enabled();
+    habilitar(controlesAOI(), encender);
+    mostrar({&ImgRm, &LbRm}, encender);
+}
+
+void OpcionesPrograma::ChIDPActivar_Click() {
+    const bool encender = !ChIDPUni.Enabled();
+    if (encender) {
+        habilitar(controlesIDP(), true);
+        FramFunc(0).Visible = false;
+    } else {
+        OptBAF(0).Value = true;
+        habilitar(controlesIDP(), false);
+        mostrar(controlesDeFuncion(0), false);
+    }
+}
+
+void OpcionesPrograma::ChDRActivar_Click() {
+    const bool encender = !ChDRUni.Enabled();
+    if (encender) {
+        habilitar(controlesDR(), true);
+    } else {
+        OptDistHiper.Value = true;
+        OptBAF(1).Value = true;
+        habilitar(controlesDR(), false);
+        mostrar(controlesDeFuncion(1), false);
+    }
+    ImgHiper2.Visible = encender;
+}
 
 void OpcionesPrograma::habilitar(const Controles& controles, bool habilitados) {
     for (Control* control : controles) {

@@ -20,12 +20,6 @@ void ponerEnFicha(Fichas& fichas, int ficha, std::initializer_list<Control*> con
     }
 }
 
-void ocultar(std::initializer_list<Control*> controles) {
-    for (Control* control : controles) {
-        control->Visible = false;
-    }
-}
-
 /// Makes a member of an array inside a frame.
 template <class C, class... Argumentos>
 C& crearEn(Marco& marco, Matriz<C>& matriz, int indice, Argumentos&&... argumentos) {
@@ -76,7 +70,7 @@ void OpcionesPrograma::disponerAOI() {
           {&LbA, &LbB, &LbC, &LbD, &LbE, &ImgRm, &LbRm, &LstAOI, &CmdAñadir, &CmdQuitar2, &CmdQuitarTodo});
     habilitar(controlesAOI(), false);
     OptHjHi.Enabled = false;
-    ocultar({&ImgRm, &LbRm});
+    mostrar({&ImgRm, &LbRm}, false);
 }
 
 void OpcionesPrograma::disponerIDP() {
@@ -88,7 +82,7 @@ void OpcionesPrograma::disponerIDP() {
     ponerEnFicha(SSTab1, fichaIDP, {&Frame11, &ChIDPUni, &ChIDPBil, &FramBAF(0)});
     meter(Frame11, {&ChIDPActivar, &FramIDPBilUni, &Label8, &ChIDPSi, &ChIDPNo, &Image4, &Image3});
     habilitar(controlesIDP(), false);
-    ocultar({&TxtBAF1(1), &TxtBAF2(1), &TxtBAF3(1)});
+    mostrar(camposDeIntervalo(1), false);
 }
 
 void OpcionesPrograma::disponerDR() {
@@ -112,7 +106,7 @@ void OpcionesPrograma::disponerDistancia() {
     }
     meter(FramDist, {&OptDistHiper, &OptDistExp, &ImgHiper2, &ImgExp2, &LstDist, &CmdAñadirDist,
                      &CmdQuitarDist, &CmdVaciarDist});
-    ocultar({&ImgHiper2, &ImgExp2});
+    mostrar({&ImgHiper2, &ImgExp2}, false);
 }
 
 void OpcionesPrograma::disponerAPA() {
@@ -136,7 +130,7 @@ void OpcionesPrograma::crearSeleccion(int i, const std::array<const char*, 4>& l
     crearIntervalo(2 * i, "0,00", intervalo);
     const int pies = 2 * i + 1;
     crearIntervalo(pies, "1", intervalo);
-    habilitar({&TxtBAF1(pies), &TxtBAF2(pies), &TxtBAF3(pies)}, false);
+    habilitar(camposDeIntervalo(pies), false);
     crearFunciones(i, marco);
 }
 
@@ -153,8 +147,7 @@ void OpcionesPrograma::crearFunciones(int i, Marco& marco) {
     crearEn(marco, CmdAñadirRich, i, "Añadir");
     crearEn(marco, CmdQuitarRich, i, "Quitar");
     crearEn(marco, CmdVaciarRich, i, "Vaciar");
-    ocultar({&FramFunc(i), &FramRICH(i), &FramHIPER(i), &LstRich(i), &CmdAñadirRich(i), &CmdQuitarRich(i),
-             &CmdVaciarRich(i)});
+    mostrar(controlesDeFuncion(i), false);
 }
 
 void OpcionesPrograma::crearRichards(int i) {

@@ -26,6 +26,10 @@ void OpcionesPrograma::conectar() {
     OptRM.Click = [this] { OptRM_Click(); };
     Opt2D.Click = [this] { Opt2D_Click(); };
     Opt4R.Click = [this] { Opt4R_Click(); };
+    conectarCampos();
+    conectarCompetidores();
+    conectarFunciones();
+    conectarInterruptores();
 }
 
 void OpcionesPrograma::CmdAceptar_Click() {

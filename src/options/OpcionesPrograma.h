@@ -4,8 +4,11 @@
 
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
+#include "options/Validacion.h"
 
 #include <array>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace varo {
@@ -214,6 +217,54 @@ public:
     void Opt2D_Click();
     void Opt4R_Click();
 
+    // The numeric fields. A text that is refused stays, a message tells why, and its field gets the focus
+    // back.
+    void TxtEXP_Change(int i);
+    void TxtEXP_LostFocus(int i);
+    void TxtHIP_Change(int i);
+    void TxtHIP_LostFocus(int i);
+    void TxtRm_Change(int i);
+    void TxtRm_LostFocus(int i);
+    void TxtRich_Change(int i);
+    void TxtRich_LostFocus(int i);
+    void TxtBAF1_Change(int i);
+    void TxtBAF2_Change(int i);
+    void TxtBAF3_Change(int i);
+    // Leaving a field of an interval also mends the other two.
+    void TxtBAF1_LostFocus(int i);
+    void TxtBAF2_LostFocus(int i);
+    /// F and L that are no numbers throw 13; a step that cannot divide where F has a character that its
+    /// member does not take throws 11 or 13.
+    void TxtBAF3_LostFocus(int i);
+
+    // What shows for each rule of competitor selection i and for each function of stem size.
+    void OptBAF_Click(int i);
+    void OptRadioFijo_Click(int i);
+    void OptNumFijo_Click(int i);
+    void OptFunc_Click(int i);
+    void OptRichard_Click(int i);
+    void OptHiper_Click(int i);
+
+    // The lists of functions. A field that holds no number throws 13 when its function is added.
+    void CmdAñadir_Click();
+    void CmdQuitar2_Click();
+    void CmdQuitarTodo_Click();
+    void CmdAñadirDist_Click();
+    void CmdQuitarDist_Click();
+    void CmdVaciarDist_Click();
+    void CmdAñadirRich_Click(int i);
+    void CmdQuitarRich_Click(int i);
+    void CmdVaciarRich_Click(int i);
+    void OptDistHiper_Click();
+    void OptDistExp_Click();
+
+    // The switches of the families.
+    void ChSupCopa_Click();
+    void ChAOIActivar_Click();
+    void ChIDPActivar_Click();
+    void ChDRActivar_Click();
+    void ChAPA_Click();
+
     void Form_Activate() override;
     void Form_Deactivate() override;
     /// The close box hides the dialog as "Cancelar" does, so that its values stay and the menus come back.
@@ -223,6 +274,7 @@ private:
     static constexpr int fichaIDP = 4; ///< the one on show at first
 
     using Controles = std::vector<Control*>;
+    using DeMiembro = void (OpcionesPrograma::*)(int); ///< a handler of an array of controls
 
     // The design state, tab by tab.
     void disponerUnidades();
@@ -241,7 +293,49 @@ private:
     void crearRotulosDeFuncion(int indice, Marco& marco);
     void crearIntervalo(int miembro, const char* texto, Marco& marco);
     void crearRotulosDeIntervalo(int indice, const char* leyendaPaso, Marco& marco);
+
     void conectar();
+    void conectarCampos();
+    void conectarCompetidores();
+    void conectarFunciones();
+    void conectarInterruptores();
+    template <class C>
+    void conectarClics(const Matriz<C>& controles, DeMiembro alPulsar) {
+        for (const auto& [indice, control] : controles.miembros()) {
+            control->Click = [this, alPulsar, i = indice] { (this->*alPulsar)(i); };
+        }
+    }
+
+    void avisar(const Aviso& aviso);
+    /// The same, and the focus goes to a field.
+    void avisar(const Aviso& aviso, CajaTexto& campo);
+    /// True when there is no objection to what a field holds; otherwise tells it.
+    bool admite(CajaTexto& campo, const std::optional<Aviso>& reparo);
+    /// What a field holds; a text that is no number throws 13.
+    static double numero(const CajaTexto& campo);
+
+    // The intervals.
+    Controles camposDeIntervalo(int miembro);
+    void comprobarPaso(int i);
+    void completarPaso(int i);
+    void exigirPasosEnteros(int i);
+    /// From the first value of an interval to its last one.
+    [[nodiscard]] double recorrido(int i) const;
+
+    // The competitor selections.
+    Controles controlesDeFuncion(int i);
+    static void mostrar(const Controles& controles, bool visibles);
+    /// Shows the interval of selection i in the fields of `miembro`, which lie over those of its twin.
+    void mostrarIntervalo(int i, const char* leyenda, int miembro, int gemelo);
+
+    // The lists of functions.
+    void anadirRichards(int i);
+    void anadirHiperbola(int i);
+    /// The values of some fields in a row, each written in a number format.
+    static std::vector<std::string> escritos(const Matriz<CajaTexto>& campos, int primero, int cuantos,
+                                             const char* formato);
+    /// Adds a line to a list, and takes it off again when it is there already.
+    void anotar(Lista& lista, const std::string& linea);
 
     // What the switch of each family enables and disables.
     Controles controlesISC();
@@ -258,6 +352,7 @@ private:
     void descargarSeleccionAntigua();
 
     Programa& programa_;
+    bool avisoAbierto_ = false; ///< a message box of this window is open
 
     // The kind of crown data while it is being edited.
     bool TipoRMAlActivar = false;

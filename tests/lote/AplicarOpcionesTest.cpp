@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 
 namespace varo::prueba {
 namespace {
@@ -34,21 +33,6 @@ public:
         }
         return {};
     }
-    /// Turns the family of a tab on and opens all its controls, as its switch does.
-    void abrirFamilia(Casilla& interruptor, int ficha) {
-        interruptor.Value = 1;
-        const auto& arriba = opciones_().SSTab1.contenido(ficha);
-        for (Control* control : opciones_().controles()) {
-            const Control* superior = control;
-            while (superior->contenedor != nullptr) {
-                superior = superior->contenedor;
-            }
-            if (std::find(arriba.begin(), arriba.end(), superior) != arriba.end()) {
-                control->Enabled = true;
-            }
-        }
-    }
-
     std::vector<std::string> avisos;
 
 private:
@@ -71,6 +55,11 @@ constexpr int primeraLinea = 14;
 
 std::string Error(const std::string& clave, const std::string& razon, int linea = primeraLinea) {
     return "t.toml: línea " + std::to_string(linea) + ": opciones." + clave + ": " + razon;
+}
+
+/// The error of an option behind the line that turns its family on.
+std::string ErrorEnFamilia(const std::string& clave, const std::string& razon) {
+    return Error(clave, razon, primeraLinea + 1);
 }
 
 std::string ErrorAlAplicar(const std::string& opciones) {
@@ -108,30 +97,38 @@ TEST(AplicarOpciones, LoQueYaEstaComoSePideNoSeToca) {
     EXPECT_EQ(dialogo.puesto.programa.sesion.CambiosCodigo, 0);
 }
 
+/// What a person would see change first in the controls of a job.
+std::string ValorDe(const Control& control) {
+    switch (control.tipo()) {
+    case TipoControl::Casilla:
+        return std::to_string(static_cast<const Casilla&>(control).Value());
+    case TipoControl::Opcion:
+        return static_cast<const Opcion&>(control).Value() ? "sí" : "no";
+    default:
+        return static_cast<const CajaTexto&>(control).Text();
+    }
+}
+
 TEST(AplicarOpciones, ElOrdenEsElDeUnaPersonaYNoElDelArchivo) {
-    Dialogo dialogo{
-        "ChAPA = 1\nChAOIBil = 0\n\"OptRichard(0)\" = true\nChN = 1\n\"OptFunc(0)\" = true\nOptcirc = true\n"
-        "ChCodigo = 0\nOptcm = true\nOpt2D = true\n\"TxtRm(0)\" = 1\nLstAOI = []\n"};
-    dialogo.abrirFamilia(dialogo().ChAOIActivar, 3);
-    dialogo.abrirFamilia(dialogo().ChIDPActivar, 4);
-    dialogo().FramFunc(0).Visible = true;
-    dialogo().OptHiper(0).Value = true;
+    Dialogo dialogo{"ChIDPActivar = 1\nChAPA = 1\nChAOIBil = 0\n\"OptHiper(0)\" = true\nChN = 1\n"
+                    "\"OptFunc(0)\" = true\nOptcirc = true\nChCodigo = 0\nOptcm = true\nOpt2D = true\n"
+                    "\"TxtRm(0)\" = 1\nLstAOI = []\nChAOIActivar = 1\n"};
     std::vector<std::string> orden;
-    const auto anotar = [&](Control& control) {
-        control.observar([&orden, &control] { orden.push_back(control.nombreCompleto()); });
-    };
     for (Control* control : std::initializer_list<Control*>{
-             &dialogo().ChAPA, &dialogo().ChAOIBil, &dialogo().OptRichard(0), &dialogo().ChN,
+             &dialogo().ChAPA, &dialogo().ChAOIBil, &dialogo().OptHiper(0), &dialogo().ChN,
              &dialogo().OptFunc(0), &dialogo().Optcirc, &dialogo().ChCodigo, &dialogo().Optcm,
-             &dialogo().Opt2D, &dialogo().TxtRm(0)}) {
-        anotar(*control);
+             &dialogo().Opt2D, &dialogo().TxtRm(0), &dialogo().ChIDPActivar, &dialogo().ChAOIActivar}) {
+        control->observar([&orden, control, valor = ValorDe(*control)]() mutable {
+            if (ValorDe(*control) != valor) {
+                valor = ValorDe(*control);
+                orden.push_back(control->nombreCompleto());
+            }
+        });
     }
     EXPECT_EQ(dialogo.aplicar(), "");
-    const auto ultimo = std::unique(orden.begin(), orden.end());
-    orden.erase(ultimo, orden.end());
-    const std::vector<std::string> esperado{"Opt2D",         "ChCodigo", "Optcm", "Optcirc",
-                                            "ChAPA",         "ChAOIBil", "ChN",   "OptFunc(0)",
-                                            "OptRichard(0)", "TxtRm(0)"};
+    const std::vector<std::string> esperado{"Opt2D",        "ChCodigo",   "Optcm",        "Optcirc",
+                                            "ChAOIActivar", "ChAPA",      "ChIDPActivar", "ChAOIBil",
+                                            "ChN",          "OptFunc(0)", "OptHiper(0)",  "TxtRm(0)"};
     EXPECT_EQ(orden, esperado);
 }
 
@@ -206,35 +203,34 @@ TEST(AplicarOpciones, LasClavesDeUnaFamiliaApagadaNombranSuInterruptor) {
     }
 }
 
-TEST(AplicarOpciones, UnCampoTapadoPorSuGemeloNombraLaOpcionQueLoMuestra) {
-    const auto error = [](const std::string& clave) {
-        Dialogo dialogo{"\"" + clave + "\" = \"1\"\n"};
-        dialogo.abrirFamilia(dialogo().ChIDPActivar, 4);
-        dialogo().TxtBAF1(0).Visible = clave != "TxtBAF1(0)";
-        return dialogo.aplicar();
+TEST(AplicarOpciones, UnCampoQueNoSePuedeUsarNombraLaOpcionQueLoMuestra) {
+    const auto error = [](const std::string& opciones) { return ErrorAlAplicar(opciones); };
+    const auto clave = [](const std::string& nombre) { return "\"" + nombre + "\" = \"1\"\n"; };
+    const auto oculto = [](const std::string& nombre, const std::string& opcion) {
+        return ErrorEnFamilia(nombre, "no está a la vista: falta " + opcion + " = true");
     };
-    const auto falta = [](const std::string& opcion) {
-        return "no está a la vista: falta " + opcion + " = true";
-    };
-    EXPECT_EQ(error("TxtBAF1(1)"), Error("TxtBAF1(1)", falta("OptNumFijo(0)")));
-    EXPECT_EQ(error("TxtBAF1(0)"), Error("TxtBAF1(0)", falta("OptBAF(0) u OptRadioFijo(0)")));
-    EXPECT_EQ(error("LstRich(0)"), Error("LstRich(0)", falta("OptFunc(0)")));
-    EXPECT_EQ(error("TxtRich(2)"), Error("TxtRich(2)", falta("OptFunc(0) y OptRichard(0)")));
-    EXPECT_EQ(error("TxtHIP(6)"), Error("TxtHIP(6)", falta("OptFunc(0) y OptHiper(0)")));
+    const std::string idp = "ChIDPActivar = 1\n";
+    EXPECT_EQ(error(idp + clave("TxtBAF1(1)")), oculto("TxtBAF1(1)", "OptNumFijo(0)"));
+    EXPECT_EQ(error(idp + clave("LstRich(0)")), oculto("LstRich(0)", "OptFunc(0)"));
+    EXPECT_EQ(error(idp + clave("TxtRich(2)")), oculto("TxtRich(2)", "OptFunc(0) y OptRichard(0)"));
+    EXPECT_EQ(error(idp + clave("TxtHIP(6)")), oculto("TxtHIP(6)", "OptFunc(0) y OptHiper(0)"));
+    EXPECT_EQ(error("ChIDPActivar = 1\n\"TxtBAF1(0)\" = 1\n\"OptNumFijo(0)\" = true\n"),
+              oculto("TxtBAF1(0)", "OptBAF(0) u OptRadioFijo(0)"));
+    // The stems of the distance-weighted index start on show, under their twins.
+    EXPECT_EQ(error("ChDRActivar = 1\n" + clave("TxtBAF2(3)")),
+              ErrorEnFamilia("TxtBAF2(3)", "está inhabilitado: falta OptNumFijo(1) = true"));
 }
 
 TEST(AplicarOpciones, LoQueNuncaSeHabilitaSeRechazaConSuNombre) {
-    Dialogo dialogo{"OptDRHjHi = true\n"};
-    dialogo.abrirFamilia(dialogo().ChDRActivar, 5);
-    dialogo().OptDRHjHi.Enabled = false;
-    EXPECT_EQ(dialogo.aplicar(), Error("OptDRHjHi", "OptDRHjHi está inhabilitado"));
+    EXPECT_EQ(ErrorAlAplicar("ChDRActivar = 1\nOptDRHjHi = true\n"),
+              ErrorEnFamilia("OptDRHjHi", "OptDRHjHi está inhabilitado"));
+    EXPECT_EQ(ErrorAlAplicar("ChAOIActivar = 1\nOptHjHi = true\n"),
+              ErrorEnFamilia("OptHjHi", "OptHjHi está inhabilitado"));
 }
 
 TEST(AplicarOpciones, UnBarridoSeTecleaPrimeroUltimoYPasoDejandoCadaCampo) {
     Dialogo dialogo{"\"TxtBAF3(6)\" = 0.5\n\"TxtBAF1(6)\" = \"0,5\"\n\"TxtBAF2(6)\" = 2\n\"TxtBAF1(8)\" = 7\n"
-                    "ChAPA = 1\n"};
-    dialogo.abrirFamilia(dialogo().ChAOIActivar, 3);
-    dialogo.abrirFamilia(dialogo().ChAPA, 6);
+                    "ChAPA = 1\nChAOIActivar = 1\n"};
     std::vector<std::string> hechos;
     for (CajaTexto* caja :
          {&dialogo().TxtBAF1(6), &dialogo().TxtBAF2(6), &dialogo().TxtBAF3(6), &dialogo().TxtBAF1(8)}) {
@@ -248,51 +244,102 @@ TEST(AplicarOpciones, UnBarridoSeTecleaPrimeroUltimoYPasoDejandoCadaCampo) {
     EXPECT_EQ(hechos, esperados);
 }
 
-TEST(AplicarOpciones, ElIntervaloQueNoEsCorrectoEsUnAvisoYElTrabajoSigue) {
-    Dialogo dialogo{"\"TxtBAF3(6)\" = 0.1\n\"TxtBAF1(8)\" = 7\n"};
-    dialogo.abrirFamilia(dialogo().ChAOIActivar, 3);
-    dialogo.abrirFamilia(dialogo().ChAPA, 6);
-    auto& paso = dialogo().TxtBAF3(6);
-    paso.LostFocus = [&] { // as the field does: the message, and the focus back
-        dialogo.puesto.servicios.mensaje("El intervalo no es correcto", "Intervalo incorrecto",
-                                         mensaje::exclamacion);
-        paso.SetFocus();
-    };
+TEST(AplicarOpciones, UnBarridoQuedaComoSePideSinAvisos) {
+    Dialogo dialogo{"ChAOIActivar = 1\n\"TxtBAF3(6)\" = 0.5\n\"TxtBAF1(6)\" = 0.5\n\"TxtBAF2(6)\" = \"2,5\"\n"
+                    "ChIDPActivar = 1\n\"OptNumFijo(0)\" = true\n\"TxtBAF1(1)\" = 2\n\"TxtBAF2(1)\" = 6\n"
+                    "\"TxtBAF3(1)\" = 2\n"};
     EXPECT_EQ(dialogo.aplicar(), "");
-    EXPECT_EQ(paso.Text(), "0,1");
+    EXPECT_EQ(dialogo().TxtBAF1(6).Text(), "0,5");
+    EXPECT_EQ(dialogo().TxtBAF2(6).Text(), "2,5");
+    EXPECT_EQ(dialogo().TxtBAF3(6).Text(), "0,5");
+    EXPECT_EQ(dialogo().TxtBAF1(1).Text(), "2");
+    EXPECT_EQ(dialogo().TxtBAF2(1).Text(), "6");
+    EXPECT_EQ(dialogo().TxtBAF3(1).Text(), "2");
+    EXPECT_TRUE(dialogo.avisos.empty());
+}
+
+TEST(AplicarOpciones, ElIntervaloQueNoEsCorrectoEsUnAvisoYElTrabajoSigue) {
+    // In binary (0,3 - 0,1) / 0,1 is 1.9999999999999998.
+    Dialogo dialogo{"ChAOIActivar = 1\n\"TxtBAF1(6)\" = 0.1\n\"TxtBAF2(6)\" = 0.3\n\"TxtBAF3(6)\" = 0.1\n"
+                    "ChAPA = 1\n\"TxtBAF1(8)\" = 7\n"};
+    EXPECT_EQ(dialogo.aplicar(), "");
+    EXPECT_EQ(dialogo().TxtBAF1(6).Text(), "0,1");
+    EXPECT_EQ(dialogo().TxtBAF2(6).Text(), "0,3");
+    EXPECT_EQ(dialogo().TxtBAF3(6).Text(), "0,1");
     EXPECT_EQ(dialogo().TxtBAF1(8).Text(), "7");
-    EXPECT_EQ(dialogo.avisos, std::vector{Error("TxtBAF3(6)", "aviso: El intervalo no es correcto")});
+    EXPECT_EQ(dialogo.avisos, std::vector{Error("TxtBAF3(6) = «0,1»", "aviso: El intervalo no es correcto",
+                                                primeraLinea + 3)});
     EXPECT_EQ(dialogo.puesto.programa.activa(), &dialogo());
 }
 
-TEST(AplicarOpciones, OtroMensajeDelProgramaAcabaConElTrabajo) {
-    Dialogo dialogo{"\"TxtRm(0)\" = \"1.5\"\n"};
-    dialogo.abrirFamilia(dialogo().ChAOIActivar, 3);
-    dialogo().TxtRm(0).Change = [&] {
-        dialogo.puesto.servicios.mensaje("La separación decimal es ,", "Error en la separación decimal",
-                                         mensaje::exclamacion);
+TEST(AplicarOpciones, UnValorQueElDialogoRechazaAcabaConElTrabajoConSuMensajeYElValor) {
+    struct Caso {
+        const char* interruptores;
+        const char* clave;
+        const char* valor;
+        const char* tecleado;
+        const char* mensaje;
     };
-    EXPECT_EQ(dialogo.aplicar(), Error("TxtRm(0)", "el programa avisa: «La separación decimal es ,»"));
+    const std::vector<Caso> casos{
+        {"ChAOIActivar", "TxtRm(0)", "\"1.5\"", "1.5", "La separación decimal es ,"},
+        {"ChAOIActivar", "TxtRm(4)", "\"abc\"", "abc", "El valor debe ser numérico"},
+        {"ChAOIActivar", "TxtRm(1)", "\"\"", "", "El valor debe ser numérico"},
+        {"ChAOIActivar", "TxtBAF1(6)", "\"1.5\"", "1.5", "La separación decimal es ,"},
+        {"ChAOIActivar", "TxtBAF2(6)", "\"\"", "", "El valor debe ser numérico"},
+        {"ChDRActivar", "TxtEXP(2)", "\"1.000\"", "1.000", "La separación decimal es ,"},
+        {"ChAPA", "TxtBAF3(8)", "\"x\"", "x", "El valor debe ser numérico"},
+        {"\"OptNumFijo(0)\" = true\nChIDPActivar", "TxtBAF1(1)", "1.5", "1,5",
+         "Sólo se admiten números naturales"},
+        {"\"OptFunc(1)\" = true\nChDRActivar", "TxtRich(3)", "-1", "-1", "No se admiten valores negativos"},
+    };
+    for (const Caso& caso : casos) {
+        const std::string interruptores = std::string{caso.interruptores} + " = 1\n";
+        const auto lineas = static_cast<int>(std::ranges::count(interruptores, '\n'));
+        EXPECT_EQ(ErrorAlAplicar(interruptores + "\"" + caso.clave + "\" = " + caso.valor + "\n"),
+                  Error(std::string{caso.clave} + " = «" + caso.tecleado + "»",
+                        std::string{"el programa avisa: «"} + caso.mensaje + "»", primeraLinea + lineas));
+    }
 }
 
 TEST(AplicarOpciones, UnTextoQueElProgramaCambiaEsUnAviso) {
-    Dialogo dialogo{"\"TxtBAF3(8)\" = 0\n"};
-    dialogo.abrirFamilia(dialogo().ChAPA, 6);
-    auto& paso = dialogo().TxtBAF3(8);
-    paso.LostFocus = [&] { paso.Text = "1"; };
+    Dialogo dialogo{"ChAPA = 1\n\"TxtBAF3(8)\" = 0\n"};
     EXPECT_EQ(dialogo.aplicar(), "");
-    EXPECT_EQ(dialogo.avisos, std::vector{Error("TxtBAF3(8)", "aviso: el programa ha cambiado «0» por «1»")});
+    EXPECT_EQ(dialogo().TxtBAF3(8).Text(), "1");
+    EXPECT_EQ(dialogo.avisos,
+              std::vector{ErrorEnFamilia("TxtBAF3(8)", "aviso: el programa ha cambiado «0» por «1»")});
+}
+
+TEST(AplicarOpciones, UnaFamiliaQuedaConSusFunciones) {
+    Dialogo dialogo{"ChAOIActivar = 1\nChDRActivar = 1\n\"OptFunc(1)\" = true\n"
+                    "LstAOI = [{ a = 0.5, b = 0.2, c = 1.0, d = 0.0, e = 0.0 }]\n"
+                    "LstDist = [{ tipo = \"EXP\", a = 0, b = 0, c = 0, d = 0, e = 0 }, "
+                    "{ tipo = \"HIP\", a = 1, b = 1, c = 1, d = 0, e = 0 }]\n"
+                    "\"LstRich(1)\" = [{ A = 9, k = 0.5, a = 1, b = 1, c = 1, d = 0, e = 0 }, { A = 12, k = "
+                    "0.05, m = 0.5 }]\n"};
+    EXPECT_EQ(dialogo.aplicar(), "");
+    const auto lineas = [](const Lista& lista) {
+        std::vector<std::string> textos;
+        for (int i = 0; i < lista.ListCount(); ++i) {
+            textos.push_back(lista.List(i));
+        }
+        return textos;
+    };
+    using Lineas = std::vector<std::string>;
+    EXPECT_EQ(lineas(dialogo().LstAOI), Lineas{"a: 0,5000; b: 0,2000; c: 1,0000; d: 0,0000; e: 0,0000"});
+    EXPECT_EQ(lineas(dialogo().LstDist),
+              (Lineas{"EXP, a: 0,0000; b: 0,0000; c: 0,0000; d: 0,0000; e: 0,0000",
+                      "HIP, a: 1,0000; b: 1,0000; c: 1,0000; d: 0,0000; e: 0,0000"}));
+    EXPECT_EQ(lineas(dialogo().LstRich(1)),
+              (Lineas{"A: 9,00; k: 0,50; a: 1,00; b: 1,00; c: 1,00; d: 0,00; e: 0,00",
+                      "A: 12,00; k: 0,05; m: 0,50"}));
+    EXPECT_TRUE(dialogo.avisos.empty());
 }
 
 TEST(AplicarOpciones, UnCampoYUnaListaRechazanLosValoresDeOtraClase) {
-    const auto error = [](const std::string& opcion) {
-        Dialogo dialogo{opcion};
-        dialogo.abrirFamilia(dialogo().ChAOIActivar, 3);
-        return dialogo.aplicar();
-    };
-    EXPECT_EQ(error("\"TxtRm(0)\" = true\n"),
-              Error("TxtRm(0)", "es un campo de texto: se espera un número o un texto"));
-    EXPECT_EQ(error("LstAOI = 3\n"), Error("LstAOI", "es una lista: se espera una lista de tablas"));
+    EXPECT_EQ(ErrorAlAplicar("ChAOIActivar = 1\n\"TxtRm(0)\" = true\n"),
+              ErrorEnFamilia("TxtRm(0)", "es un campo de texto: se espera un número o un texto"));
+    EXPECT_EQ(ErrorAlAplicar("ChAOIActivar = 1\nLstAOI = 3\n"),
+              ErrorEnFamilia("LstAOI", "es una lista: se espera una lista de tablas"));
 }
 
 } // namespace
