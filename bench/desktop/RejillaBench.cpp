@@ -1,4 +1,5 @@
-// What a large sheet costs at the desktop: the width of each cell when it is read in, and each picture of the grid.
+// What a large sheet costs at the desktop: the width of each cell when it is read in, and each picture of the
+// grid.
 #include "desktop/ServiciosQt.h"
 #include "desktop/VistaDeRejilla.h"
 #include "formularios/ServiciosPreparados.h"

@@ -221,9 +221,16 @@ void Escritorio::darActivacion() {
 void Escritorio::darFoco() {
     Control* const foco = programa_.foco();
     if (foco == nullptr) {
-        // The act left the focus nowhere: it is where the toolkit has put it.
+        // The act left the focus nowhere: it is where the toolkit has put it. While a window that was asked
+        // for is still to come, the focus is in the one that was left.
         QMetaObject::invokeMethod(
-            this, [this] { alEnfocarse(QApplication::focusWidget()); }, Qt::QueuedConnection);
+            this,
+            [this] {
+                if (pedida_ == nullptr) {
+                    alEnfocarse(QApplication::focusWidget());
+                }
+            },
+            Qt::QueuedConnection);
         return;
     }
     QWidget* const widget = widgetDe(*foco);

@@ -94,7 +94,7 @@ public:
     [[nodiscard]] QString texto() const override {
         QString todo;
         for (const auto& parte : partes_) {
-            todo += parte->texto();
+            todo += &parte == &partes_.back() ? parte->texto() : parte->comoFactor();
         }
         return todo;
     }
@@ -191,6 +191,7 @@ public:
     [[nodiscard]] QString texto() const override {
         return EntreParentesis(numerador_) + u'/' + EntreParentesis(denominador_);
     }
+    [[nodiscard]] QString comoFactor() const override { return u'(' + texto() + u')'; }
 
 private:
     static constexpr double vuelo = 3;  ///< of the box beyond its wider part

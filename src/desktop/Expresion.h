@@ -30,6 +30,8 @@ public:
     virtual void pintar(QPainter& pintor, QPointF origen, const QFont& letra) const = 0;
     /// The same on one line: "a + b (DBH)^c".
     [[nodiscard]] virtual QString texto() const = 0;
+    /// The same with a factor behind it.
+    [[nodiscard]] virtual QString comoFactor() const { return texto(); }
     /// True when no brackets are needed around the text beside a sign of operation.
     [[nodiscard]] virtual bool suelta() const { return false; }
 };

@@ -39,14 +39,6 @@ QWidget* Ventana(const QString& nombre) {
     return nullptr;
 }
 
-QWidget* ControlDe(const QString& ventana, const QString& control) {
-    QWidget* const donde = Ventana(ventana);
-    if (donde == nullptr || control.isEmpty()) {
-        return donde;
-    }
-    return donde->findChild<QWidget*>(control);
-}
-
 void Xdotool(const QStringList& argumentos) {
     QProcess proceso;
     proceso.start("xdotool", argumentos);
@@ -57,6 +49,14 @@ void Xdotool(const QStringList& argumentos) {
 }
 
 } // namespace
+
+QWidget* ControlDe(const QString& ventana, const QString& control) {
+    QWidget* const donde = Ventana(ventana);
+    if (donde == nullptr || control.isEmpty()) {
+        return donde;
+    }
+    return donde->findChild<QWidget*>(control);
+}
 
 void Manos::esperar(const std::string& que, const std::function<bool()>& condicion) const {
     const QDeadlineTimer limite{plazo};
@@ -92,8 +92,8 @@ void Manos::clic(const QString& ventana, const QString& control, const Sitio& si
         QWidget* const widget = ControlDe(ventana, control);
         return (QPointF{widget->mapToGlobal(sitio(*widget))} * widget->devicePixelRatio()).toPoint();
     });
-    Xdotool({"mousemove", "--sync", QString::number(punto.x()), QString::number(punto.y())});
-    Xdotool({"click", "--repeat", QString::number(veces), "--delay", "20", "1"});
+    Xdotool({"mousemove", QString::number(punto.x()), QString::number(punto.y()), "click", "--repeat",
+             QString::number(veces), "--delay", "20", "1"});
 }
 
 void Manos::tecla(const std::string& nombre) const {

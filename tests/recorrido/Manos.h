@@ -42,6 +42,10 @@ public:
     static QPoint enElCentro(QWidget& widget) { return widget.rect().center(); }
 };
 
+/// A control of a window, or the window itself when it has no name; null when there is none. To be asked on
+/// the thread of the windows.
+QWidget* ControlDe(const QString& ventana, const QString& control);
+
 /// Runs what the hands do while the windows live; what it throws fails the test. The event loop ends with it.
 void ConLasManos(const std::function<void(const Manos&)>& acto);
 

@@ -2,88 +2,15 @@
 #include "apoyo/CarpetaTemporal.h"
 #include "apoyo/Jornada.h"
 #include "apoyo/Proceso.h"
-#include "desktop/Aplicacion.h"
-#include "desktop/Escritorio.h"
-#include "recorrido/Manos.h"
+#include "recorrido/Pasos.h"
 
-#include <QComboBox>
-#include <QDir>
-#include <QHeaderView>
-#include <QLabel>
 #include <QMessageBox>
-#include <QScrollBar>
-#include <QTabBar>
-#include <QTableView>
 
 #include <gtest/gtest.h>
 
 namespace varo::prueba {
 
 namespace {
-
-const std::filesystem::path ejemplos = std::filesystem::path{VARO_DATOS_PRUEBA}.parent_path() / "ejemplos";
-
-/// A cell of a column of the grid, in the first row that can be seen.
-Manos::Sitio EnLaColumna(const QString& cabecera) {
-    return [cabecera](QWidget& widget) {
-        auto& tabla = dynamic_cast<QTableView&>(widget);
-        for (int columna = 0; columna < tabla.model()->columnCount(); ++columna) {
-            if (tabla.model()->headerData(columna, Qt::Horizontal).toString() == cabecera) {
-                tabla.scrollTo(tabla.model()->index(0, columna));
-                return tabla.viewport()->mapTo(&tabla,
-                                               tabla.visualRect(tabla.model()->index(1, columna)).center());
-            }
-        }
-        throw std::runtime_error{"no hay columna " + cabecera.toStdString()};
-    };
-}
-
-/// The header of a column of the grid.
-Manos::Sitio EnLaCabecera(const QString& cabecera) {
-    return [cabecera](QWidget& widget) {
-        auto& tabla = dynamic_cast<QTableView&>(widget);
-        const QPoint celda = EnLaColumna(cabecera)(widget);
-        return QPoint{celda.x(), tabla.horizontalHeader()->geometry().center().y()};
-    };
-}
-
-QPoint EnLaMarca(QWidget& widget) {
-    return {8, widget.height() / 2}; // a check or an option is pressed on its mark
-}
-
-Manos::Sitio EnLaFicha(int ficha) {
-    return [ficha](QWidget& widget) {
-        auto* const barra = widget.findChild<QTabBar*>();
-        return barra->mapTo(&widget, barra->tabRect(ficha).center());
-    };
-}
-
-void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo) {
-    manos.esperarVentana("VAROMAIN");
-    manos.foto("01-inicio");
-    manos.tecla("alt+a");
-    manos.tecla("a");
-    manos.esperarVentana("DlogoAbrir");
-    manos.foto("02-abrir");
-    manos.teclear(archivo.string());
-    manos.tecla("Return");
-}
-
-void ElegirHoja(const Manos& manos) {
-    manos.esperarVentana("FrmSeleccion");
-    manos.foto("03-seleccion");
-    manos.clic("FrmSeleccion", "CmdAceptar");
-    manos.esperarVentana("CajaDeMensaje");
-    manos.foto("04-hoja-no-encontrada");
-    manos.tecla("Return");
-    manos.esperarVentana("FrmSeleccion");
-    manos.clic("FrmSeleccion", "CboHoja", [](QWidget& combo) { return QPoint{combo.width() - 10, 10}; });
-    manos.tecla("Down");
-    manos.tecla("Return");
-    manos.tecla("Return");
-    manos.esperarVentana("Hojadedatos");
-    manos.foto("05-hoja");
-}
 
 void MarcarIndices(const Manos& manos) {
     manos.tecla("alt+o");
@@ -168,29 +95,22 @@ void Salir(const Manos& manos) {
 TEST(RecorridoEnPantalla, ElArchivoDeIndicesEsElDeVaroLote) {
     const CarpetaTemporal carpeta;
     const auto esperado =
-        Ejecutar(VARO_LOTE, {(ejemplos / "trabajo.toml").string(), "--salida", carpeta.archivo("lote")});
+        Ejecutar(VARO_LOTE, {(Ejemplos() / "trabajo.toml").string(), "--salida", carpeta.archivo("lote")});
     ASSERT_EQ(esperado.estado, 0) << esperado.errores;
 
     const auto aqui = std::filesystem::current_path();
     std::filesystem::current_path(carpeta.ruta()); // the folder that the last window offers
     const auto resultados = std::filesystem::current_path() / "indices.txt";
-    int argc = 1;
-    std::string nombre = "varo";
-    char* argv[] = {nombre.data(), nullptr};
-    Aplicacion aplicacion{argc, argv};
-    ServiciosQt servicios;
-    Escritorio escritorio{servicios};
-    bool terminado = false;
-    escritorio.alTerminar = [&] { terminado = true; };
+    const Programado programado;
     ConLasManos([&](const Manos& manos) {
-        AbrirArchivo(manos, ejemplos / "parcela.xls");
+        AbrirArchivo(manos, Ejemplos() / "parcela.xls");
         ElegirHoja(manos);
         MarcarIndices(manos);
         ElegirColumnas(manos);
         GuardarIndices(manos, resultados);
         Salir(manos);
     });
-    EXPECT_TRUE(terminado);
+    EXPECT_TRUE(programado.terminado);
     std::filesystem::current_path(aqui);
     ASSERT_TRUE(std::filesystem::exists(resultados));
     EXPECT_EQ(LeerArchivo(resultados), LeerArchivo(carpeta / "lote/indices.txt"));

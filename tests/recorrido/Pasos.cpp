@@ -1,0 +1,79 @@
+#include "recorrido/Pasos.h"
+
+#include <QHeaderView>
+#include <QTabBar>
+#include <QTableView>
+
+#include <stdexcept>
+
+namespace varo::prueba {
+
+std::filesystem::path Ejemplos() {
+    return std::filesystem::path{VARO_DATOS_PRUEBA}.parent_path() / "ejemplos";
+}
+
+Programado::Programado() {
+    escritorio.alTerminar = [this] { terminado = true; };
+}
+
+Manos::Sitio EnLaColumna(const QString& cabecera) {
+    return [cabecera](QWidget& widget) {
+        auto& tabla = dynamic_cast<QTableView&>(widget);
+        for (int columna = 0; columna < tabla.model()->columnCount(); ++columna) {
+            if (tabla.model()->headerData(columna, Qt::Horizontal).toString() == cabecera) {
+                tabla.scrollTo(tabla.model()->index(0, columna));
+                return tabla.viewport()->mapTo(&tabla,
+                                               tabla.visualRect(tabla.model()->index(1, columna)).center());
+            }
+        }
+        throw std::runtime_error{"no hay columna " + cabecera.toStdString()};
+    };
+}
+
+Manos::Sitio EnLaCabecera(const QString& cabecera) {
+    return [cabecera](QWidget& widget) {
+        auto& tabla = dynamic_cast<QTableView&>(widget);
+        const QPoint celda = EnLaColumna(cabecera)(widget);
+        return QPoint{celda.x(), tabla.horizontalHeader()->geometry().center().y()};
+    };
+}
+
+QPoint EnLaMarca(QWidget& widget) {
+    return {8, widget.height() / 2}; // a check or an option is pressed on its mark
+}
+
+Manos::Sitio EnLaFicha(int ficha) {
+    return [ficha](QWidget& widget) {
+        auto* const barra = widget.findChild<QTabBar*>();
+        return barra->mapTo(&widget, barra->tabRect(ficha).center());
+    };
+}
+
+void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo) {
+    manos.esperarVentana("VAROMAIN");
+    manos.foto("01-inicio");
+    manos.tecla("alt+a");
+    manos.tecla("a");
+    manos.esperarVentana("DlogoAbrir");
+    manos.foto("02-abrir");
+    manos.teclear(archivo.string());
+    manos.tecla("Return");
+}
+
+void ElegirHoja(const Manos& manos) {
+    manos.esperarVentana("FrmSeleccion");
+    manos.foto("03-seleccion");
+    manos.clic("FrmSeleccion", "CmdAceptar");
+    manos.esperarVentana("CajaDeMensaje");
+    manos.foto("04-hoja-no-encontrada");
+    manos.tecla("Return");
+    manos.esperarVentana("FrmSeleccion");
+    manos.clic("FrmSeleccion", "CboHoja", [](QWidget& combo) { return QPoint{combo.width() - 10, 10}; });
+    manos.tecla("Down");
+    manos.tecla("Return");
+    manos.tecla("Return");
+    manos.esperarVentana("Hojadedatos");
+    manos.foto("05-hoja");
+}
+
+} // namespace varo::prueba

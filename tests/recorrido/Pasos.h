@@ -1,0 +1,41 @@
+// The steps that every journey at the screen begins with, and the places where controls are pressed.
+#pragma once
+
+#include "desktop/Aplicacion.h"
+#include "desktop/Escritorio.h"
+#include "recorrido/Manos.h"
+
+#include <filesystem>
+#include <string>
+
+namespace varo::prueba {
+
+/// The folder of the example plot.
+std::filesystem::path Ejemplos();
+
+/// A cell of a column of the grid, and its header.
+Manos::Sitio EnLaColumna(const QString& cabecera);
+Manos::Sitio EnLaCabecera(const QString& cabecera);
+/// The mark of a check or an option.
+QPoint EnLaMarca(QWidget& widget);
+Manos::Sitio EnLaFicha(int ficha);
+
+/// Opens a plot file from the menu.
+void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo);
+/// Accepts "(ninguna)", reads what that is answered with, and then chooses the first sheet.
+void ElegirHoja(const Manos& manos);
+
+/// The program, started as main() starts it.
+struct Programado {
+    Programado();
+
+    int argc = 1;
+    std::string nombre = "varo";
+    char* argv[2] = {nombre.data(), nullptr};
+    Aplicacion aplicacion{argc, argv};
+    ServiciosQt servicios;
+    Escritorio escritorio{servicios};
+    bool terminado = false;
+};
+
+} // namespace varo::prueba
