@@ -64,9 +64,16 @@ void Seleccion::empezar(std::size_t i, bool unilateral) {
     }
 }
 
-/// Even the largest tree of the plot looks too small from farther away than this.
+/// A tree looks too small from farther away than so many times its diameter.
 void Seleccion::empezarPorAngulo() {
-    proponer(p_ > 0 ? std::max(vecindad_.vecindario.mayorD(), 0.0) * 50 / std::sqrt(p_) : sinLimite);
+    if (!(p_ > 0)) {
+        proponer(sinLimite);
+        return;
+    }
+    // The nearest ones are all taken, so that whatever is left out stands at a distance.
+    alcance_ = vecindad_.vecindario.lado();
+    vecindad_.vecindario.buscarPorTamano(sujeto_, 50 / std::sqrt(p_), alcance_, cercanas_);
+    candidatos_ = cercanas_;
 }
 
 /// Looks round in wider and wider circles, until no tree outside can come among the first p.

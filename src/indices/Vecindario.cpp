@@ -100,21 +100,25 @@ void Vecindario::repartir(const Arboles& arboles, const std::vector<Fila>& conTa
     filas_.resize(conTamano.size());
     x_.resize(conTamano.size());
     y_.resize(conTamano.size());
+    d_.resize(conTamano.size());
     for (const Fila i : conTamano) {
         const std::size_t sitio = libre[casillaDe(i)]++;
         filas_[sitio] = i;
         x_[sitio] = arboles.x(i);
         y_[sitio] = arboles.y(i);
+        d_[sitio] = arboles.d(i);
     }
 }
 
-void Vecindario::buscar(std::size_t i, double radio, std::vector<Fila>& cercanas) const {
+/// `alcanceDe` gives the reach of the tree in a place of the grid; none of them is beyond `mayorAlcance`.
+template <class Alcance>
+void Vecindario::buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe,
+                          std::vector<Fila>& cercanas) const {
     cercanas.clear();
-    const double alcance = ConHolgura(std::max(radio, 0.0));
     const double x = xDe_[i];
     const double y = yDe_[i];
     // Two points whose difference vanishes when squared may stand on either side of a cell's edge.
-    const double margen = alcance + lado_ * 1E-6;
+    const double margen = mayorAlcance + lado_ * 1E-6;
     const std::size_t primera = casilla(x - margen - x0_, lado_, columnas_);
     const std::size_t ultima = casilla(x + margen - x0_, lado_, columnas_);
     const std::size_t hileraUltima = casilla(y + margen - y0_, lado_, hileras_);
@@ -123,12 +127,26 @@ void Vecindario::buscar(std::size_t i, double radio, std::vector<Fila>& cercanas
         for (std::size_t s = comienzo_[h * columnas_ + primera]; s < fin; ++s) {
             const double dx = x_[s] - x;
             const double dy = y_[s] - y;
+            const double alcance = alcanceDe(s);
             if (dx * dx + dy * dy <= alcance * alcance && filas_[s] != i) {
                 cercanas.push_back(filas_[s]);
             }
         }
     }
     std::sort(cercanas.begin(), cercanas.end());
+}
+
+void Vecindario::buscar(std::size_t i, double radio, std::vector<Fila>& cercanas) const {
+    const double alcance = ConHolgura(std::max(radio, 0.0));
+    buscarEn(
+        i, alcance, [&](std::size_t) { return alcance; }, cercanas);
+}
+
+void Vecindario::buscarPorTamano(std::size_t i, double porD, double radio,
+                                 std::vector<Fila>& cercanas) const {
+    const auto alcanceDe = [&](double d) { return ConHolgura(std::max(porD * d, radio)); };
+    buscarEn(
+        i, alcanceDe(mayorD_), [&](std::size_t s) { return alcanceDe(d_[s]); }, cercanas);
 }
 
 } // namespace varo

@@ -24,6 +24,8 @@ public:
     /// Replaces `cercanas` by the trees within a distance of tree i, itself left out, in the order of the
     /// rows. It may take in trees that are farther by a rounding; it never leaves one out.
     void buscar(std::size_t i, double radio, std::vector<Fila>& cercanas) const;
+    /// The same with a distance for each tree: `porD` times its d, or `radio` where that is more.
+    void buscarPorTamano(std::size_t i, double porD, double radio, std::vector<Fila>& cercanas) const;
 
     /// Whether another tree stands at distance 0.
     [[nodiscard]] bool comparteSitio(std::size_t i) const { return comparteSitio_[i]; }
@@ -40,6 +42,8 @@ public:
 private:
     void medir(const Arboles& arboles, const std::vector<Fila>& conTamano);
     void repartir(const Arboles& arboles, const std::vector<Fila>& conTamano);
+    template <class Alcance>
+    void buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe, std::vector<Fila>& cercanas) const;
     [[nodiscard]] static std::size_t casilla(double desplazamiento, double lado, std::size_t cuantas);
 
     bool fiable_ = true;
@@ -49,9 +53,9 @@ private:
     double extension_ = 0;
     double mayorD_ = 0;
 
-    std::vector<std::size_t> comienzo_; ///< of each cell in the three below; one more at the end
+    std::vector<std::size_t> comienzo_; ///< of each cell in the four below; one more at the end
     std::vector<Fila> filas_;
-    std::vector<double> x_, y_;
+    std::vector<double> x_, y_, d_;
 
     std::vector<double> xDe_, yDe_; ///< by tree
     std::vector<bool> comparteSitio_;
