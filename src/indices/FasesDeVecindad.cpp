@@ -2,6 +2,7 @@
 
 #include "data/Hojadedatos.h"
 #include "indices/AOI.h"
+#include "indices/APA.h"
 #include "indices/DR.h"
 #include "indices/IDP.h"
 #include "indices/ISC.h"
@@ -75,6 +76,7 @@ public:
         }
         fase(opciones_.ChIDPActivar, "IDP", [this] { faseIDP(); });
         fase(opciones_.ChDRActivar, "DR", [this] { faseDR(); });
+        fase(opciones_.ChAPA, "APA", [this] { faseAPA(); });
     }
 
 private:
@@ -204,6 +206,18 @@ private:
         }
     }
 
+    void faseAPA() {
+        auto& r = resultados_;
+        r.APAk = LeerIntervalo(opciones_, 8);
+        r.NumColAPA = Entero16{CuantosCaben(r.APAk)};
+        r.IndAPA.redimensionar(r.NumColAPA.valor() - 1, filas() - 1);
+        int numero = -1;
+        for (const double k : ValoresDe(r.APAk)) {
+            columna(r.IndAPA, ++numero, RotuloAPA(k),
+                    [&] { return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k); });
+        }
+    }
+
     void poner(Seleccion& seleccion, ReglaDeSeleccion regla, int familia, double p) const {
         if (regla == ReglaDeSeleccion::Funcion) {
             seleccion.poner(opciones_.LstRich(familia).List(static_cast<int>(p)));
@@ -262,16 +276,11 @@ void CorrerFasesDeVecindad(Programa& programa) {
 }
 
 void RechazarVecindadPendiente(const OpcionesPrograma& opciones) {
-    const auto rechazar = [](const Casilla& casilla, const char* que) {
-        if (casilla.Value() == 1) {
-            throw ErrorEjecucion{fallo::accionNoAdmitida, std::string{que} + " de " + casilla.Name() +
-                                                              " todavía no se calcula en esta versión"};
-        }
-    };
-    if (!opciones.Optcirc.Value()) {
-        rechazar(opciones.ChSupCopa, "La superposición de copas elípticas");
+    if (opciones.ChSupCopa.Value() == 1 && !opciones.Optcirc.Value()) {
+        throw ErrorEjecucion{fallo::accionNoAdmitida,
+                             "La superposición de copas elípticas (ChSupCopa con OptElipse) todavía no se "
+                             "calcula en esta versión"};
     }
-    rechazar(opciones.ChAPA, "La familia");
 }
 
 } // namespace varo

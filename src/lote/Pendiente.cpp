@@ -29,16 +29,12 @@ void RechazarLoPendiente(const Trabajo& trabajo) {
     };
     rechazarSalida("salida.datos", trabajo.datos);
     rechazarSalida("salida.mapa", trabajo.mapa);
-    const auto rechazarOpcion = [&](const char* control, const char* motivo) {
-        for (const auto& opcion : trabajo.opciones) {
-            if (opcion.control == control && Encendida(trabajo, control)) {
-                throw ErrorTrabajo{trabajo.ruta, opcion.lugar(), motivo};
-            }
+    for (const auto& opcion : trabajo.opciones) {
+        if (opcion.control == "ChSupCopa" && Encendida(trabajo, opcion.control) &&
+            ConCopasElipticas(trabajo)) {
+            throw ErrorTrabajo{trabajo.ruta, opcion.lugar(),
+                               "todavía no se calcula la superposición de copas elípticas"};
         }
-    };
-    rechazarOpcion("ChAPA", "todavía no se calcula esta familia de índices");
-    if (ConCopasElipticas(trabajo)) {
-        rechazarOpcion("ChSupCopa", "todavía no se calcula la superposición de copas elípticas");
     }
 }
 

@@ -113,13 +113,10 @@ TEST(Recorrido, LoQueTodaviaNoSeHaceSeRechazaAntesDeAbrirNada) {
         return fin.error;
     };
     for (const std::string encendida : {"1", "true"}) {
-        EXPECT_EQ(
-            rechazo("ChAPA = " + encendida + "\n", ""),
-            ErrorDeClave(parcela, "línea 14: opciones.ChAPA: todavía no se calcula esta familia de índices"));
         EXPECT_EQ(rechazo("ChSupCopa = " + encendida + "\n", ""),
                   ErrorDeClave(parcela,
-                               "línea 14: opciones.ChSupCopa: todavía no se calcula la superposición de "
-                               "copas elípticas"));
+                               "línea 14: opciones.ChSupCopa: todavía no se calcula la superposición "
+                               "de copas elípticas"));
     }
     EXPECT_EQ(rechazo("", "datos = 'd.txt'\n"),
               ErrorDeClave(parcela, "línea 15: salida.datos: todavía no se puede pedir"));
