@@ -12,6 +12,7 @@ namespace varo {
 /// A stroke of a drawing, from one point to another (m).
 struct TrazoAPA {
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+    bool operator==(const TrazoAPA&) const = default;
 };
 
 /// The area of the cell with those sides (m2), fanned from its first vertex, or EfectoBorde when a side of it

@@ -8,7 +8,6 @@
 #include "indices/Arboles.h"
 #include "plot/Module1.h"
 
-#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -16,7 +15,7 @@ namespace varo::literal {
 
 struct Trazo {
     std::size_t arbol = 0;
-    std::array<double, 4> extremos{};
+    TrazoAPA lado;
     bool operator==(const Trazo&) const = default;
 };
 
