@@ -241,7 +241,8 @@ private:
     }
 
     void cruzar(std::size_t i, const Vertice& p, const Vertice& q) {
-        const auto& [px, py] = contorno_;
+        const auto px = contorno_.x;
+        const auto py = contorno_.y;
         for (std::size_t k = 0; k + 1 < px.size(); ++k) {
             bool hallado = false;
             saltando([&] {
