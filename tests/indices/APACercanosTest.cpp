@@ -10,7 +10,9 @@
 
 #include <array>
 #include <cmath>
+#include <numeric>
 #include <random>
+#include <tuple>
 
 namespace varo {
 namespace {
@@ -213,6 +215,51 @@ TEST(APACercanos, EnUnaParcelaCorrienteCasiTodosLosArbolesVanPorElCaminoCorto) {
         const std::vector<bool> van = VanPorElCaminoCorto(parcela, k);
         EXPECT_GT(std::count(van.begin(), van.end(), true), 1350);
     }
+}
+
+/// A side as the column sees it: the tree behind it and its line.
+using Lado = std::tuple<VecinosAPA::Fila, double, double>;
+
+std::vector<Lado> Lados(const VecinosAPA& vecinos, const GiroAPA& giro) {
+    std::vector<Lado> lados;
+    for (const LadoAPA& lado : giro.lados()) {
+        lados.emplace_back(vecinos.filas[lado.vecino], lado.pendiente, lado.intercepto);
+    }
+    return lados;
+}
+
+RC_GTEST_PROP(APACercanos, EnUnaParcelaGrandeElCaminoCortoDaLosLadosDelGiroEntero, ()) {
+    // Larger than what the literal form can judge; it judges the whole turn on the small ones.
+    const int cuantos = *rc::gen::inRange(150, 500);
+    Azar azar{*rc::gen::arbitrary<unsigned>()};
+    const double k = *rc::gen::element(0.0, 1.0, -1.0, 3.0);
+    const double x0 = *rc::gen::element(0.0, 500000.0);
+    const auto x = azar.repartidos(cuantos, 100);
+    const auto y = azar.repartidos(cuantos, *rc::gen::element(100.0, 20.0));
+    ParcelaAPA parcela;
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        parcela.anadir(x0 + x[i], 9 * x0 + y[i], ATexto(azar.entero(10, 40) / 100.0));
+    }
+    const Arboles arboles = parcela.arboles();
+    const PesosAPA pesos{arboles, k};
+    CercanosAPA cercanos{pesos};
+    std::vector<VecinosAPA::Fila> todas(x.size());
+    std::iota(todas.begin(), todas.end(), VecinosAPA::Fila{0});
+    VecinosAPA cerca;
+    VecinosAPA enteros;
+    GiroAPA corto;
+    GiroAPA entero;
+    int cortos = 0;
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        Pareja pareja{i, i};
+        if (cercanos.girar(pareja, cerca, corto)) {
+            ++cortos;
+            ReunirVecinos(pesos, todas, pareja, enteros);
+            entero.dar(enteros, pareja);
+            RC_ASSERT(Lados(cerca, corto) == Lados(enteros, entero));
+        }
+    }
+    RC_CLASSIFY(2 * cortos > cuantos, "casi todos por el camino corto");
 }
 
 /// A thousand trees about one whose cell is a square of its four nearest neighbours; the first tree.
