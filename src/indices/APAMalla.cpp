@@ -78,15 +78,15 @@ std::size_t MallaAPA::casilla(double desplazamiento, std::size_t cuantas) const 
     return static_cast<std::size_t>(std::clamp(posicion, 0.0, ultima));
 }
 
-MallaAPA::Intervalo MallaAPA::casillas(double centro, double menos, double mas, std::size_t cuantas) const {
+MallaAPA::Tramo MallaAPA::casillas(double centro, double menos, double mas, std::size_t cuantas) const {
     const double holgura = 1E-6 * lado_; // far more than the rounding of a cell's edge
     return {casilla(centro - menos - holgura, cuantas), casilla(centro + mas + holgura, cuantas)};
 }
 
 template <class Visita>
 void MallaAPA::recorrer(std::size_t i, double medioLado, Visita visita) const {
-    const Intervalo enX = casillas(pesos_.arboles().x(i) - x0_, medioLado, medioLado, columnas_);
-    const Intervalo enY = casillas(pesos_.arboles().y(i) - y0_, medioLado, medioLado, hileras_);
+    const Tramo enX = casillas(pesos_.arboles().x(i) - x0_, medioLado, medioLado, columnas_);
+    const Tramo enY = casillas(pesos_.arboles().y(i) - y0_, medioLado, medioLado, hileras_);
     for (std::size_t columna = enX.desde; columna <= enX.hasta; ++columna) {
         const std::size_t fin = comienzo_[columna * hileras_ + enY.hasta + 1];
         for (std::size_t lugar = comienzo_[columna * hileras_ + enY.desde]; lugar < fin; ++lugar) {
@@ -149,12 +149,12 @@ void MallaAPA::enfiladas(std::size_t i, const DireccionAPA& direccion, double se
         if (alto < -lado_ || bajo > static_cast<double>(cuantas + 1) * lado_) {
             continue;
         }
-        const Intervalo tramo = casillas(0, -bajo, alto, cuantas);
+        const Tramo corte = casillas(0, -bajo, alto, cuantas);
         if (tendida) {
-            visitar(paso * hileras_ + tramo.desde, paso * hileras_ + tramo.hasta);
+            visitar(paso * hileras_ + corte.desde, paso * hileras_ + corte.hasta);
             continue;
         }
-        for (std::size_t columna = tramo.desde; columna <= tramo.hasta; ++columna) {
+        for (std::size_t columna = corte.desde; columna <= corte.hasta; ++columna) {
             visitar(columna * hileras_ + paso, columna * hileras_ + paso);
         }
     }

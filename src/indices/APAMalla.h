@@ -41,14 +41,14 @@ public:
                    std::vector<Fila>& halladas) const;
 
 private:
-    struct Intervalo {
+    struct Tramo {
         std::size_t desde = 0, hasta = 0; ///< cells, both ends included
     };
 
     void medir();
     void repartir();
     [[nodiscard]] std::size_t casilla(double desplazamiento, std::size_t cuantas) const;
-    [[nodiscard]] Intervalo casillas(double centro, double menos, double mas, std::size_t cuantas) const;
+    [[nodiscard]] Tramo casillas(double centro, double menos, double mas, std::size_t cuantas) const;
     /// Visits the places of the trees of a square.
     template <class Visita>
     void recorrer(std::size_t i, double medioLado, Visita visita) const;
