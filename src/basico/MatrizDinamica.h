@@ -49,10 +49,8 @@ class TablaDinamica {
 public:
     void redimensionar(int limite1, int limite2) {
         filas_.redimensionar(limite1);
-        for (int i = 0; i <= limite1; ++i) {
-            if (limite2 >= 0) {
-                filas_(i).redimensionar(limite2);
-            }
+        for (int i = 0; i <= limite1 && limite2 >= 0; ++i) {
+            filas_(i).redimensionar(limite2);
         }
     }
 
