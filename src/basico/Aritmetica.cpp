@@ -46,7 +46,10 @@ double Potencia(double a, double b) {
     if (a < 0 && b != std::trunc(b)) {
         throw ErrorEjecucion{fallo::argumentoNoValido};
     }
-    return ExigirFinito(std::pow(a, b));
+    if (b == 1) {
+        return ExigirFinito(a); // what std::pow gives too, and sooner
+    }
+    return b == 0 ? 1 : ExigirFinito(std::pow(a, b));
 }
 
 double Asin(double x) {

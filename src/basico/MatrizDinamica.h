@@ -42,4 +42,27 @@ private:
     std::vector<T> elementos_;
 };
 
+/// The same with two indices, 0 to `limite1` and 0 to `limite2`. The first one has to have room for
+/// something; the second one may have none, as with a plot that has no trees.
+template <class T>
+class TablaDinamica {
+public:
+    void redimensionar(int limite1, int limite2) {
+        filas_.redimensionar(limite1);
+        for (int i = 0; i <= limite1 && limite2 >= 0; ++i) {
+            filas_(i).redimensionar(limite2);
+        }
+    }
+
+    /// -1 while unallocated.
+    [[nodiscard]] int limite() const { return filas_.limite(); }
+    [[nodiscard]] int limite2() const { return limite() < 0 ? -1 : filas_(0).limite(); }
+
+    T& operator()(int i, int j) { return filas_(i)(j); }
+    const T& operator()(int i, int j) const { return filas_(i)(j); }
+
+private:
+    MatrizDinamica<MatrizDinamica<T>> filas_;
+};
+
 } // namespace varo

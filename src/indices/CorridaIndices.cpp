@@ -4,6 +4,7 @@
 #include "data/Hojadedatos.h"
 #include "formularios/Reloj.h"
 #include "indices/AreaDeMayores.h"
+#include "indices/FasesDeVecindad.h"
 #include "indices/FrmCrearArchivo.h"
 #include "indices/Razones.h"
 #include "map/FrmMapa.h"
@@ -129,22 +130,12 @@ private:
     std::vector<double> tamanos_;
 };
 
-/// The families whose phases are still to be written are refused, never passed over.
-void RechazarFamiliasPendientes(const OpcionesPrograma& opciones) {
-    for (const Casilla* const casilla : {&opciones.ChSupCopa, &opciones.ChAOIActivar, &opciones.ChIDPActivar,
-                                         &opciones.ChDRActivar, &opciones.ChAPA}) {
-        if (casilla->Value() == 1) {
-            throw ErrorEjecucion{fallo::accionNoAdmitida, "La familia de " + casilla->Name() +
-                                                              " todavía no se calcula en esta versión"};
-        }
-    }
-}
-
 } // namespace
 
 void CorrerIndices(Programa& programa) {
-    RechazarFamiliasPendientes(programa.tocar<OpcionesPrograma>());
+    RechazarVecindadPendiente(programa.tocar<OpcionesPrograma>());
     FasesIndependientes{programa}.correr();
+    CorrerFasesDeVecindad(programa);
     programa.tocar<FrmCrearArchivo>().Show();
 }
 

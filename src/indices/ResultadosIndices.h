@@ -1,15 +1,17 @@
 // The results of an index run, and the table of the columns that show them.
 #pragma once
 
+#include "basico/Entero16.h"
 #include "basico/MatrizDinamica.h"
+#include "indices/Intervalo.h"
 
 #include <array>
 #include <string_view>
 
 namespace varo {
 
-/// One array per family, one element per tree row; the last element is spare. A family that was not active in
-/// a run keeps the array of an earlier one.
+/// One array per family, one element per tree row; with the families that stand alone the last element is
+/// spare. A family that was not active in a run keeps the array of an earlier one.
 struct ResultadosIndices {
     using Indice = MatrizDinamica<double>;
 
@@ -18,6 +20,21 @@ struct ResultadosIndices {
     Indice IndBmed, IndBmax, IndBdom;
     Indice IndAPDmed, IndAPDmax, IndAPDsum;
     Indice IndAPBmed, IndAPBmax, IndAPBsum;
+
+    // The families of neighbours: by column (ISC: variant) and tree.
+    using Columnas = TablaDinamica<double>;
+
+    Columnas IndISC, IndAOI, IndIDP, IndDR, IndAPA;
+
+    // Their sweeps and counts, by which the file labels the columns.
+    Intervalo AOIk, IDP, DR, DRk, APAk;
+    double NumISC = 0;
+    Entero16 NumFuncAOI, NumLadosAOI, NumColAOI;
+    double NumParamIDP = 0;
+    Entero16 NumLadosIDP, NumCentralIDP, NumColIDP;
+    double NumParamDR = 0;
+    Entero16 NumLadosDR, NumFuncDR, NumColDR;
+    Entero16 NumColAPA;
 };
 
 /// The distance-independent families in the order in which a run computes them.

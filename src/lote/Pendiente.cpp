@@ -1,14 +1,23 @@
 #include "lote/Pendiente.h"
 
 #include <algorithm>
-#include <array>
+#include <string_view>
 
 namespace varo {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> familiasPendientes{"ChSupCopa", "ChAOIActivar", "ChIDPActivar",
-                                                             "ChDRActivar", "ChAPA"};
+bool Encendida(const Trabajo& trabajo, std::string_view control) {
+    return std::any_of(trabajo.opciones.begin(), trabajo.opciones.end(), [&](const OpcionPedida& opcion) {
+        return opcion.control == control && opcion.valor != ValorPedido{false} &&
+               opcion.valor != ValorPedido{std::int64_t{0}};
+    });
+}
+
+/// Crowns are ellipses unless the job says otherwise; a mean radius makes them circles.
+bool ConCopasElipticas(const Trabajo& trabajo) {
+    return !Encendida(trabajo, "Optcirc") && !Encendida(trabajo, "OptRM");
+}
 
 } // namespace
 
@@ -21,11 +30,10 @@ void RechazarLoPendiente(const Trabajo& trabajo) {
     rechazarSalida("salida.datos", trabajo.datos);
     rechazarSalida("salida.mapa", trabajo.mapa);
     for (const auto& opcion : trabajo.opciones) {
-        const bool apagada =
-            opcion.valor == ValorPedido{false} || opcion.valor == ValorPedido{std::int64_t{0}};
-        if (!apagada && std::find(familiasPendientes.begin(), familiasPendientes.end(), opcion.control) !=
-                            familiasPendientes.end()) {
-            throw ErrorTrabajo{trabajo.ruta, opcion.lugar(), "todavía no se calcula esta familia de índices"};
+        if (opcion.control == "ChSupCopa" && Encendida(trabajo, opcion.control) &&
+            ConCopasElipticas(trabajo)) {
+            throw ErrorTrabajo{trabajo.ruta, opcion.lugar(),
+                               "todavía no se calcula la superposición de copas elípticas"};
         }
     }
 }

@@ -17,8 +17,10 @@ const Salas programa{"shell", "data", "options", "map", "plot", "indices"};
 const Salas conPlataforma{"desktop", "lote"};
 
 /// Files of plot/ and indices/ that gather from windows or store for them; all the others compute.
-const std::set<std::string_view> conVentanas{"indices/CorridaIndices", "indices/FrmCrearArchivo",
-                                             "indices/TextoResultados", "plot/ConstruirPoligono"};
+const std::set<std::string_view> conVentanas{"indices/CabecerasDeVecindad", "indices/CorridaIndices",
+                                             "indices/FasesDeVecindad",     "indices/FrmCrearArchivo",
+                                             "indices/OpcionesDeVecindad",  "indices/TextoResultados",
+                                             "plot/ConstruirPoligono"};
 const Salas ventanas{"formularios", "options", "data", "map"};
 
 bool Conocida(const std::string& sala) {

@@ -94,3 +94,25 @@ TEST(MatrizDinamica, UnaCopiaEsIndependiente) {
     copia(0) = 2;
     EXPECT_EQ(matriz(0), 1);
 }
+
+TEST(TablaDinamica, TieneDosIndicesComprobados) {
+    TablaDinamica<double> tabla;
+    EXPECT_EQ(tabla.limite(), -1);
+    EXPECT_EQ(tabla.limite2(), -1);
+    tabla.redimensionar(1, 2);
+    tabla(1, 2) = 7;
+    EXPECT_EQ(tabla(1, 2), 7);
+    EXPECT_EQ(FalloDe([&] { tabla(2, 0) = 1; }), fallo::fueraDeIndice);
+    EXPECT_EQ(FalloDe([&] { tabla(0, 3) = 1; }), fallo::fueraDeIndice);
+    tabla.redimensionar(1, 2);
+    EXPECT_EQ(tabla(1, 2), 0) << "redimensionar limpia";
+}
+
+TEST(TablaDinamica, SinColumnasFallaYSinArbolesNo) {
+    TablaDinamica<double> tabla;
+    EXPECT_EQ(FalloDe([&] { tabla.redimensionar(-1, 3); }), fallo::fueraDeIndice);
+    tabla.redimensionar(2, 3);
+    tabla.redimensionar(2, -1);
+    EXPECT_EQ(tabla.limite(), 2);
+    EXPECT_EQ(FalloDe([&] { tabla(0, 0) = 1; }), fallo::fueraDeIndice);
+}

@@ -9,82 +9,15 @@ project are not touched. Needs python 3.11, xlrd and xlwt.
 import random
 import sys
 import tomllib
-from dataclasses import dataclass, field
 from pathlib import Path
 
 import xlwt
 
 sys.dont_write_bytecode = True
 import literal
-
-TODAS = literal.ORDEN_DE_CALCULO
-SIN_DOMINANTES = [indice for indice in TODAS if indice not in ("Ddom", "Bdom")]
-COPA = {"4R": ["N", "E", "S", "O"], "2D": ["NS", "EO"], "RM": ["Radio"]}
-NOMBRES = {"Indice": "Arbol", "N": "RN", "E": "RE", "S": "RS", "O": "RO", "NS": "DNS", "EO": "DEO",
-           "Codigo": "Especie", "DAP": "Tam"}
-UNIDADES = {"cm": "OptCMDIA", "dm": "OptDMDIA", "m": "OptMDIA"}
-COPA_EN = {"cm": ("Optcm", 100), "dm": ("Optdecim", 10), "m": ("Optmetro", 1)}
-
-
-@dataclass
-class Caso:
-    """A tree is a dictionary from role, or from the header of another column, to value; {} is a blank row."""
-
-    nombre: str
-    arboles: list
-    indices: list = field(default_factory=lambda: TODAS)
-    tipo: str = "4R"
-    tamano: str = "CAP cm"
-    copa_en: str = "dm"
-    codigo: bool = True
-    por_numero: bool = False  # the job gives grid columns, not headers
-    nombres: dict = field(default_factory=dict)  # headers other than the usual ones
-    columnas: list = None  # order of the columns, where it is not the usual one
-    sin_dap: bool = False
-    hoja: str = "Parcela1"
-    otra_hoja: bool = False  # another sheet stands before the plot
-    primera_fila: int = 0
-
-
-# ------------------------------------------------------------------------------------------------------ trees
-
-def arbol(indice, x, y, dap, codigo="PS", **otros):
-    return {"Indice": indice, "X": x, "Y": y, "DAP": dap, "Codigo": codigo, **otros}
-
-
-def bosque(nombre, n, ancho, alto, tamanos=(20.0, 95.0), origen=(0, 0), decimales=1):
-    """n trees at random, codes in turn."""
-    azar = random.Random(nombre)
-    arboles = []
-    for i in range(1, n + 1):
-        x, y = round(azar.uniform(0, ancho) + origen[0], 2), round(azar.uniform(0, alto) + origen[1], 2)
-        arboles.append(arbol(i, x, y, round(azar.uniform(*tamanos), decimales), ("PS", "QI", "FS")[i % 3]))
-    return arboles
-
-
-def en_marco(tamanos, ancho=20, alto=20, **otros):
-    """The first four trees at the corners of a rectangle, the others inside, never on the boundary."""
-    azar = random.Random(repr(tamanos))
-    esquinas = [(0, 0), (0, alto), (ancho, alto), (ancho, 0)]
-    arboles = []
-    for i, tamano in enumerate(tamanos):
-        dentro = round(azar.uniform(1, ancho - 1), 2), round(azar.uniform(1, alto - 1), 2)
-        arboles.append(arbol(i + 1, *(esquinas[i] if i < 4 else dentro), tamano, **otros))
-    return arboles
-
-
-def cambiar(arboles, campo, cambios):
-    """The same trees with other values in one field: {place in the list: value}."""
-    return [{**a, campo: cambios[i]} if i in cambios else a for i, a in enumerate(arboles)]
-
-
-def en_orden(arboles, orden):
-    return [arboles[i] for i in orden]
-
-
-def en_lugares(lugares, tamanos=(50, 60, 70, 80, 41, 30, 45, 55, 65, 75)):
-    return [arbol(i + 1, x, y, tamano) for i, ((x, y), tamano) in enumerate(zip(lugares, tamanos))]
-
+from casos_de_familias import casos_de_familias
+from parcelas import (COPA, COPA_EN, NOMBRES, SIN_DOMINANTES, UNIDADES, Caso, arbol, bosque, cambiar, en_lugares,
+                      en_marco, en_orden)
 
 # ------------------------------------------------------------------------------------------------------ cases
 
@@ -273,7 +206,15 @@ def escribir_libro(caso, archivo):
 
 
 def toml(valor):
+    if isinstance(valor, list):
+        return "[ " + ", ".join(map(toml, valor)) + " ]"
+    if isinstance(valor, dict):
+        return "{ " + ", ".join(f"{nombre} = {toml(v)}" for nombre, v in valor.items()) + " }"
     return f'"{valor}"' if isinstance(valor, str) else str(valor).lower()
+
+
+def clave(nombre):
+    return f'"{nombre}"' if "(" in nombre else nombre
 
 
 def trabajo_de(caso):
@@ -282,12 +223,12 @@ def trabajo_de(caso):
     tamano, unidad = caso.tamano.split()
     elegidas = (COPA_EN[caso.copa_en][0], "Opt" + caso.tipo, "Opt" + tamano, UNIDADES[unidad])
     opciones = {**dict.fromkeys(elegidas, True), "ChCodigo": int(caso.codigo)}
-    opciones |= {"Ch" + indice: 1 for indice in caso.indices}
+    opciones |= {"Ch" + indice: 1 for indice in caso.indices} | caso.opciones
     lineas = ['archivo = "parcela.xls"', f'hoja = "{caso.hoja}$"', "", "[columnas]"]
     for papel in papeles:
         c = columnas.index(papel)
         lineas.append(f"{papel} = {toml(c + 1 if caso.por_numero else cabecera[c])}")
-    lineas += ["", "[opciones]", *(f"{nombre} = {toml(valor)}" for nombre, valor in opciones.items())]
+    lineas += ["", "[opciones]", *(f"{clave(nombre)} = {toml(valor)}" for nombre, valor in opciones.items())]
     return "\n".join([*lineas, "", "[salida]", 'resultados = "indices.txt"', ""])
 
 
@@ -305,7 +246,7 @@ def hacer(caso, carpeta):
 def main():
     raiz = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).parent)
     familias = (de_tipos_y_unidades, de_codigos_e_indices, de_tamanos, de_filas, de_cabeceras, de_contorno,
-                de_casillas)
+                de_casillas, casos_de_familias)
     for caso in (caso for familia in familias for caso in familia()):
         hacer(caso, raiz / caso.nombre)
 

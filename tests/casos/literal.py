@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Works out the expected answer of a job by hand, so to speak: the fifteen plain indices of a plot.
+"""Works out the expected answer of a job by hand, so to speak: all the indices of a plot.
 
     literal.py PARCELA.xls TRABAJO.toml CARPETA
 
@@ -7,110 +7,20 @@ writes CARPETA/esperado-indices.txt, the results file byte for byte, or CARPETA/
 with the number of the run-time fault that ends the run and what it is. It shares no code with the program:
 every step is written out in the plainest way, however slow, so that a difference is worth a look.
 
-Needs python 3.11 and xlrd. The families of indices with parameters (ISC, AOI, IDP, DR, APA) are left out.
+numeros.py holds the numbers and texts, geometria.py, parametros.py and familias.py the families of indices with
+parameters. Crowns of ellipse in ISC are left out. Needs python 3.11 and xlrd.
 """
 import math
 import re
 import sys
 import tomllib
-from decimal import ROUND_HALF_UP, Decimal
 from pathlib import Path
 
 import xlrd
 
-PI = 3.1415927
-
-DESCRIPCIONES = {
-    5: "argumento no válido",
-    6: "desbordamiento",
-    11: "división por cero",
-    13: "no coinciden los tipos",
-    94: "uso no válido de Null",
-    3021: "no hay ningún registro activo",
-    3075: "error de sintaxis en la consulta",
-    3265: "elemento no encontrado en la colección",
-    3464: "no coinciden los tipos de datos en la consulta",
-}
-
-
-class Fallo(Exception):
-    """A run-time fault: it ends the run at once."""
-
-    def __init__(self, numero):
-        super().__init__(f"{numero} {DESCRIPCIONES[numero]}")
-
-
-# -------------------------------------------------------------------------------------------- numbers and texts
-
-def dividir(a, b):
-    if a is None or b is None:
-        raise Fallo(94)
-    if b == 0:
-        raise Fallo(11)
-    return a / b
-
-
-def raiz(x):
-    if x < 0:
-        raise Fallo(5)
-    return math.sqrt(x)
-
-
-def entero16(n):
-    if not -32768 <= n <= 32767:
-        raise Fallo(6)
-    return n
-
-
-def a_numero(texto):
-    """Spanish notation: blanks around, a sign, dots anywhere in the whole part, one comma, an exponent."""
-    partes = re.fullmatch(r"([+-]?)([\d.]*)(?:,(\d*))?(?:[eE]([+-]?\d+))?", texto.strip(" "), re.ASCII)
-    if not partes:
-        raise Fallo(13)
-    signo, entera, decimales, exponente = partes.groups(default="")
-    entera = entera.replace(".", "")
-    if not entera + decimales:
-        raise Fallo(13)
-    return float(f"{signo}{entera or '0'}.{decimales or '0'}e{exponente or '0'}")
-
-
-def es_numerico(texto):
-    try:
-        a_numero(texto)
-    except Fallo:
-        return False
-    return True
-
-
-def val(texto):
-    """The number that the text begins with, with a decimal point; 0 where there is none."""
-    numero = re.match(r"[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?", texto.replace(" ", ""), re.ASCII)
-    return float(numero.group()) if numero else 0.0
-
-
-def quince_digitos(x):
-    return Decimal(f"{x:.14e}")
-
-
-def a_texto(valor):
-    """The text of a table value in the grid."""
-    if valor is None or isinstance(valor, str):
-        return valor or ""
-    if valor == 0:
-        return "0"
-    numero = quince_digitos(valor).normalize()
-    orden = numero.adjusted()
-    if -5 < orden < 15:
-        return format(numero, "f").replace(".", ",")
-    return format(numero.scaleb(-orden), "f").replace(".", ",") + f"E{orden:+03d}"
-
-
-def formato(x):
-    """The number format "##0.00": halves go away from zero; what is negative and shows as 0 keeps its sign."""
-    if x == 0:
-        return "0,00"
-    return format(quince_digitos(x).quantize(Decimal("0.01"), ROUND_HALF_UP), "f").replace(".", ",")
-
+sys.dont_write_bytecode = True
+from familias import FAMILIAS
+from numeros import PI, Fallo, a_numero, a_texto, dividir, entero16, es_numerico, formato, raiz, val
 
 # ----------------------------------------------------------------------------------------------- table and grid
 
@@ -180,10 +90,14 @@ def ordenar(rejilla, columna):
 
 DE_FABRICA = {
     "Optcm": 0, "Optdecim": 1, "Optmetro": 0, "Opt4R": 1, "Opt2D": 0, "OptRM": 0, "OptCAP": 1, "OptDAP": 0,
-    "OptCMDIA": 1, "OptDMDIA": 0, "OptMDIA": 0, "ChCodigo": 1,
+    "OptCMDIA": 1, "OptDMDIA": 0, "OptMDIA": 0, "ChCodigo": 1, "OptElipse": 1, "Optcirc": 0,
+    "ChISCBil": 1, "ChAOIBil": 1, "ChIDPBil": 1, "ChIDPSi": 1, "ChDRBil": 1,
+    "OptBAF(0)": 1, "OptNumFijo(0)": 0, "OptRadioFijo(0)": 0, "OptFunc(0)": 0,
+    "OptBAF(1)": 1, "OptNumFijo(1)": 0, "OptRadioFijo(1)": 0, "OptFunc(1)": 0,
 }
 GRUPOS = (("Optcm", "Optdecim", "Optmetro"), ("Opt4R", "Opt2D", "OptRM"), ("OptCAP", "OptDAP"),
-          ("OptCMDIA", "OptDMDIA", "OptMDIA"))
+          ("OptCMDIA", "OptDMDIA", "OptMDIA"), ("OptElipse", "Optcirc"),
+          *(tuple(f"Opt{regla}({x})" for regla in ("BAF", "NumFijo", "RadioFijo", "Func")) for x in (0, 1)))
 PAPELES = {
     "Opt4R": ["X", "Y", "N", "E", "S", "O", "Indice", "Codigo"],
     "Opt2D": ["X", "Y", "NS", "EO", "Indice", "Codigo"],
@@ -197,6 +111,9 @@ def leer_opciones(pedidas):
         for elegida in (nombre for nombre in grupo if pedidas.get(nombre)):
             opciones.update({nombre: int(nombre == elegida) for nombre in grupo})
     opciones.update({nombre: int(valor) for nombre, valor in pedidas.items() if nombre.startswith("Ch")})
+    opciones.update({nombre: valor for nombre, valor in pedidas.items() if nombre.startswith(("Txt", "Lst"))})
+    if opciones["OptRM"]:  # a mean radius knows no ellipse
+        opciones.update({"Optcirc": 1, "OptElipse": 0})
     return opciones
 
 
@@ -509,11 +426,14 @@ COLUMNAS_DEL_ARCHIVO = {
 }
 
 
-def archivo_de_resultados(p, indices):
+def archivo_de_resultados(p, indices, familias):
+    """The families with parameters bring their columns and, perhaps fewer, their headers."""
     columnas = [indice for indice in COLUMNAS_DEL_ARCHIVO if indice in indices]
-    texto = "\t".join(["NºOrden", "NºArbol", *(COLUMNAS_DEL_ARCHIVO[i] for i in columnas)]) + "\r\n"
+    texto = "\t".join(["NºOrden", "NºArbol", *(COLUMNAS_DEL_ARCHIVO[i] for i in columnas),
+                       *(nombre for nombres, _, _ in familias for nombre in nombres)]) + "\r\n"
     for r, fila in enumerate(p.rejilla):
         valores = [formato(indices[indice][r]) for indice in columnas]
+        valores += [formato(columna[r], decimales) for _, tabla, decimales in familias for columna in tabla]
         texto += "\t".join([str(r + 1), fila[p.columna["Indice"]], *valores]) + "\r"
     return (texto + "\r\n").encode("cp1252")
 
@@ -524,9 +444,12 @@ def responder(archivo, trabajo):
     try:
         dibujar_mapa(p)
         indices = {i: calcular_indice(p, i) for i in ORDEN_DE_CALCULO if p.marcada("Ch" + i)}
+        tablas = [(calcular(p), cabeceras, decimales) for casilla, calcular, cabeceras, decimales in FAMILIAS
+                  if p.marcada(casilla)]
     except Fallo as fallo:
         return "esperado-fallo.txt", f"{fallo}\n".encode()
-    return "esperado-indices.txt", archivo_de_resultados(p, indices)
+    familias = [(cabeceras(p), tabla, decimales) for tabla, cabeceras, decimales in tablas]
+    return "esperado-indices.txt", archivo_de_resultados(p, indices, familias)
 
 
 if __name__ == "__main__":

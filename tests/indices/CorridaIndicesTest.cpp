@@ -136,11 +136,11 @@ TEST(CorridaIndices, CambiarElCodigoTrasDibujarLeeLaColumnaVecinaDelContorno) {
     EXPECT_NE(corrida.servicios.fallos().back().lugar().find("ABha"), std::string::npos);
 }
 
-TEST(CorridaIndices, LasFamiliasPorHacerSeRechazanConPalabras) {
-    Corrida corrida{{"ChAPA"}};
+TEST(CorridaIndices, LasCopasElipticasSeRechazanConPalabras) {
+    Corrida corrida{{"ChSupCopa"}};
     corrida.servicios.esperarFallo(445);
     corrida.correr();
-    EXPECT_NE(corrida.servicios.fallos().back().descripcion().find("ChAPA"), std::string::npos);
+    EXPECT_NE(corrida.servicios.fallos().back().descripcion().find("ChSupCopa"), std::string::npos);
 }
 
 TEST(ColumnasIndependientes, ElArchivoPoneLosDominantesAntesQueElMayor) {

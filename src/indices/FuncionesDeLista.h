@@ -1,0 +1,48 @@
+// The model functions of the option lists, read back from the texts of their entries. The text is their only
+// store, so a parameter is what the entry shows, rounded to four decimals.
+//
+// An entry that lacks a letter throws 5; a parameter that is no number throws 13.
+#pragma once
+
+#include <string>
+
+namespace varo {
+
+/// x -> a + b x^c + d x^e. Faults of Potencia; overflow throws 6.
+struct SumaDePotencias {
+    double a = 0, b = 0, c = 0, d = 0, e = 0;
+
+    [[nodiscard]] double en(double x) const;
+};
+
+/// "a: 0,5000; b: ...; e: 0,0000": the radius of influence (m) of a diameter (cm).
+SumaDePotencias LeerRadioDeInfluencia(const std::string& entrada);
+
+/// "EXP, a: ..." or "HIP, a: ...": the weight of a competitor at a distance (m).
+struct FuncionDeDistancia {
+    bool exponencial = false;
+    SumaDePotencias suma;
+
+    /// exp(-s), or 1 / s, of the sum s at distance L. s = 0 throws 11 in the second one.
+    [[nodiscard]] double en(double L) const;
+    /// True only if `en` does not fault anywhere between two distances, the first one above 0.
+    [[nodiscard]] bool sinFallosEntre(double desde, double hasta) const;
+};
+FuncionDeDistancia LeerFuncionDeDistancia(const std::string& entrada);
+
+/// The limit distance (m) of a subject from its diameter (m).
+struct FuncionDeLimite {
+    bool hiperbolica = false;
+    double A = 0, k = 0;
+    double m = 0;                ///< of Richards' function
+    SumaDePotencias denominador; ///< of the hyperbolic one
+
+    /// A (1 - exp(-k D))^(1 / (1 - m)), or A - k (1 / denominador).
+    [[nodiscard]] double en(double D) const;
+};
+
+/// "A: ...; k: ...; m: ..." or "A: ...; k: ...; a: ...; ...; e: ...", told apart by the letter e. The A of
+/// the first form loses its decimals, which is meant: "9,75" is 9.
+FuncionDeLimite LeerFuncionDeLimite(const std::string& entrada);
+
+} // namespace varo

@@ -1,0 +1,25 @@
+// The options of the families of neighbours, as plain values for the run and for the labels of the file.
+#pragma once
+
+#include "indices/Intervalo.h"
+#include "indices/Rotulos.h"
+#include "options/OpcionesPrograma.h"
+
+namespace varo {
+
+/// The choice of competitors of IDP (0) or DR (1).
+ReglaDeSeleccion ReglaElegida(const OpcionesPrograma& opciones, int familia);
+
+/// The sweep typed into member i of TxtBAF1, TxtBAF2 and TxtBAF3. A text that is no number throws 13, with
+/// the field in its place.
+Intervalo LeerIntervalo(const OpcionesPrograma& opciones, int i);
+
+/// The sweep of the selection parameter of IDP (0) or DR (1): with functions, over the lines of their list.
+Intervalo IntervaloDeSeleccion(const OpcionesPrograma& opciones, int familia);
+/// How many values it has, not rounded.
+double CuantosParametros(const OpcionesPrograma& opciones, int familia, const Intervalo& intervalo);
+
+/// 2 with both checks on, else 1.
+int Pasadas(const Casilla& una, const Casilla& otra);
+
+} // namespace varo

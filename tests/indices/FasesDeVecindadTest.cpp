@@ -1,0 +1,259 @@
+#include "indices/FasesDeVecindad.h"
+
+#include "apoyo/Jornada.h"
+#include "basico/Texto.h"
+#include "data/Hojadedatos.h"
+#include "indices/FrmCrearArchivo.h"
+#include "map/FrmMapa.h"
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+namespace {
+
+/// The square with its tree in the middle drawn; the options are set by code once the map is there.
+struct Corrida : Jornada {
+    explicit Corrida(const Filas& filas = CuadradoConCentro()) {
+        abrirParcela(filas);
+        dibujarCuadrado();
+        opciones().OptDAP.Value = true;
+        opciones().OptMDIA.Value = true;
+    }
+    FrmMapa& mapa() { return programa.tocar<FrmMapa>(); }
+    ResultadosIndices& resultados() { return programa.resultados; }
+    void correr() { usuario.clic(mapa().mnuIndices); }
+    void barrer(int i, const std::string& desde, const std::string& hasta, const std::string& paso) {
+        opciones().TxtBAF1(i).Text = desde;
+        opciones().TxtBAF2(i).Text = hasta;
+        opciones().TxtBAF3(i).Text = paso;
+    }
+    /// The text of the file that a saving would write now.
+    std::string guardar() {
+        auto& dialogo = programa.tocar<FrmCrearArchivo>();
+        dialogo.Show();
+        dialogo.DirLista.Path(carpeta.ruta().string());
+        const std::string nombre = "indices" + std::to_string(++guardados_) + ".txt";
+        usuario.escribir(dialogo.TxtLista, nombre);
+        servicios.esperarMensaje(carpeta.archivo(nombre) + " fue creado correctamente");
+        usuario.clic(dialogo.CmdAceptar);
+        return LeerArchivo(carpeta.archivo(nombre));
+    }
+    /// The labels behind "NºOrden" and "NºArbol", in UTF-8.
+    std::string cabecera() {
+        std::string linea = DeWindows1252(guardar());
+        linea.resize(linea.find('\r'));
+        return linea.substr(linea.find("Arbol") + 5);
+    }
+    void pedirIDP(const std::string& distancia = "20") {
+        opciones().ChIDPActivar.Value = 1;
+        opciones().OptRadioFijo(0).Value = true;
+        barrer(0, distancia, distancia, "0");
+    }
+    void pedirDR() {
+        opciones().ChDRActivar.Value = 1;
+        opciones().OptNumFijo(1).Value = true;
+        barrer(3, "1", "2", "1");
+        barrer(4, "0", "0", "0");
+        opciones().LstDist.AddItem("HIP, a: 1,0000; b: 0,0000; c: 1,0000; d: 0,0000; e: 0,0000");
+    }
+
+private:
+    int guardados_ = 0;
+};
+
+const std::string radioUno = "a: 1,0000; b: 0,0000; c: 1,0000; d: 0,0000; e: 0,0000";
+const std::string richards = "A: 1,00; k: 1,00; m: 0,50";
+
+TEST(FasesDeVecindad, CadaFamiliaTieneSusColumnasYSusArboles) {
+    Corrida corrida;
+    auto& opciones = corrida.opciones();
+    opciones.Optcirc.Value = true;
+    opciones.ChSupCopa.Value = 1;
+    opciones.ChISCUni.Value = 1;
+    opciones.ChAOIActivar.Value = 1;
+    opciones.ChAOIUni.Value = 1;
+    opciones.LstAOI.AddItem(radioUno);
+    corrida.barrer(6, "0", "1", "0,5");
+    corrida.pedirIDP();
+    opciones.ChIDPNo.Value = 1;
+    corrida.pedirDR();
+    corrida.correr();
+    const auto& r = corrida.resultados();
+    EXPECT_EQ(r.IndISC.limite(), 1);
+    EXPECT_EQ(r.IndISC.limite2(), 5) << "con un elemento de sobra";
+    EXPECT_EQ(r.IndAOI.limite(), 5);
+    EXPECT_EQ(r.IndAOI.limite2(), 4);
+    EXPECT_EQ(r.IndIDP.limite(), 1);
+    EXPECT_EQ(r.IndDR.limite(), 1);
+    EXPECT_EQ(r.IndAPA.limite(), -1);
+    EXPECT_EQ(r.IndISC(0, 4), 0) << "la del centro no toca las esquinas";
+    EXPECT_EQ(r.IndISC(1, 0), -1);
+    EXPECT_EQ(corrida.cabecera(), "\tISC(Bil.)\tISC(Uni.)"
+                                  "\tAOI(k:0;Ec:1;Bil.)\tAOI(k:0,5;Ec:1;Bil.)\tAOI(k:1;Ec:1;Bil.)"
+                                  "\tAOI(k:0;Ec:1;Uni.)\tAOI(k:0,5;Ec:1;Uni.)\tAOI(k:1;Ec:1;Uni.)"
+                                  "\tIDP(R:20;Bil.;Sí)\tIDP(R:20;Bil.;No)"
+                                  "\tDR(k:0;n:1;Fdis:1;Bil.)\tDR(k:0;n:2;Fdis:1;Bil.)");
+}
+
+TEST(FasesDeVecindad, ElRelojQuedaPuestoTrasUnaFamiliaYSeQuitaTrasUnFallo) {
+    Corrida corrida;
+    corrida.pedirIDP();
+    corrida.correr();
+    EXPECT_EQ(corrida.mapa().MousePointer(), Formulario::relojDeArena);
+    corrida.opciones().TxtBAF1(0).Text = "x";
+    corrida.servicios.esperarFallo(13);
+    corrida.correr();
+    EXPECT_EQ(corrida.mapa().MousePointer(), Formulario::punteroNormal);
+    EXPECT_EQ(corrida.servicios.fallos().back().lugar(), "familia IDP, campo TxtBAF1(0)");
+}
+
+TEST(FasesDeVecindad, SinFuncionesElAOISePasaPorAltoYElDRFalla) {
+    Corrida corrida;
+    corrida.opciones().ChAOIActivar.Value = 1;
+    corrida.correr();
+    EXPECT_EQ(corrida.resultados().IndAOI.limite(), -1);
+    EXPECT_TRUE(corrida.programa.tocar<FrmCrearArchivo>().Visible());
+    EXPECT_EQ(corrida.cabecera(), "");
+    corrida.opciones().ChDRActivar.Value = 1;
+    corrida.servicios.esperarFallo(9);
+    corrida.correr();
+    EXPECT_EQ(corrida.servicios.fallos().back().lugar(), "familia DR");
+}
+
+TEST(FasesDeVecindad, UnaListaDeLimitesVaciaOUnBarridoHaciaAtrasNoTienenColumnas) {
+    Corrida corrida;
+    corrida.opciones().ChIDPActivar.Value = 1;
+    corrida.opciones().OptFunc(0).Value = true;
+    corrida.servicios.esperarFallo(9);
+    corrida.correr();
+    corrida.opciones().OptBAF(0).Value = true;
+    corrida.barrer(0, "3", "1", "1");
+    corrida.servicios.esperarFallo(9);
+    corrida.correr();
+    corrida.barrer(0, "3", "4", "0");
+    corrida.servicios.esperarFallo(11);
+    corrida.correr();
+    EXPECT_TRUE(corrida.servicios.todoPedido());
+}
+
+TEST(FasesDeVecindad, DemasiadasColumnasDesbordan) {
+    Corrida corrida;
+    corrida.pedirIDP();
+    corrida.barrer(0, "0", "40000", "1");
+    corrida.servicios.esperarFallo(6);
+    corrida.correr();
+    EXPECT_TRUE(corrida.servicios.todoPedido());
+}
+
+TEST(FasesDeVecindad, UnBarridoQuePierdeSuUltimoValorDejaUnaColumnaDeCerosSinRotulo) {
+    Corrida corrida;
+    corrida.pedirIDP();
+    corrida.barrer(0, "0,1", "0,3", "0,1");
+    corrida.correr();
+    EXPECT_EQ(corrida.resultados().IndIDP.limite(), 2);
+    EXPECT_EQ(corrida.resultados().IndIDP(0, 0), -1);
+    EXPECT_EQ(corrida.resultados().IndIDP(2, 0), 0);
+    const std::string texto = DeWindows1252(corrida.guardar());
+    EXPECT_NE(texto.find("Arbol\tIDP(R:0,1;Bil.;Sí)\tIDP(R:0,2;Bil.;Sí)\r\n1\t1\t-1,00\t-1,00\t0,00\r"),
+              std::string::npos)
+        << texto;
+}
+
+TEST(FasesDeVecindad, LosLadosApagadosCalculanElBilateralYRotulanElUnilateral) {
+    Corrida corrida;
+    auto& opciones = corrida.opciones();
+    opciones.Optcirc.Value = true;
+    opciones.ChSupCopa.Value = 1;
+    corrida.pedirIDP("2");
+    opciones.ChAOIActivar.Value = 1;
+    opciones.LstAOI.AddItem(radioUno);
+    for (Casilla* const casilla :
+         {&opciones.ChISCBil, &opciones.ChAOIBil, &opciones.ChIDPBil, &opciones.ChIDPSi}) {
+        casilla->Value = 0;
+    }
+    corrida.correr();
+    EXPECT_EQ(corrida.resultados().IndISC.limite(), 0);
+    EXPECT_EQ(corrida.cabecera(), "\tISC(Uni.)\tAOI(k:0;Ec:1;Uni.)\tIDP(R:2;Uni.;No)");
+}
+
+TEST(FasesDeVecindad, ElLadoDeUnaSolaPasadaDelDRSeRotulaConLaCasillaDelIDP) {
+    Corrida corrida;
+    corrida.pedirDR();
+    corrida.opciones().ChIDPBil.Value = 0;
+    corrida.correr();
+    EXPECT_EQ(corrida.cabecera(), "\tDR(k:0;n:1;Fdis:1;Uni.)\tDR(k:0;n:2;Fdis:1;Uni.)");
+}
+
+TEST(FasesDeVecindad, SiYNoApagadosTomanLaFormaDeSi) {
+    Corrida corrida;
+    corrida.pedirIDP("3");
+    corrida.opciones().ChIDPSi.Value = 0;
+    corrida.programa.tocar<Hojadedatos>().MSFlexGrid1.TextMatrix(1, 2, "4");
+    corrida.programa.tocar<Hojadedatos>().MSFlexGrid1.TextMatrix(1, 3, "8");
+    corrida.programa.tocar<Hojadedatos>().MSFlexGrid1.TextMatrix(1, 9, "0,5");
+    corrida.correr();
+    // One competitor of 0.5 m at 2 m: (1 + 1/2) 2500 (0.5 / 2)^2.
+    EXPECT_EQ(corrida.resultados().IndIDP(0, 4), 234.375);
+    EXPECT_EQ(corrida.cabecera(), "\tIDP(R:3;Bil.;No)");
+}
+
+TEST(FasesDeVecindad, GuardarDosVecesConFuncionesCuentaLaSegundaDesdeDos) {
+    Corrida corrida;
+    corrida.pedirDR();
+    auto& opciones = corrida.opciones();
+    opciones.ChIDPActivar.Value = 1;
+    for (int familia : {0, 1}) {
+        opciones.OptFunc(familia).Value = true;
+        opciones.LstRich(familia).AddItem(richards);
+    }
+    corrida.correr();
+    EXPECT_EQ(corrida.cabecera(), "\tIDP(Ec:1;Bil.;Sí)\tDR(k:0;Ec:1;Fdis:1;Bil.)");
+    EXPECT_EQ(corrida.cabecera(), "\tIDP(Ec:2;Bil.;Sí)\tDR(k:0;Ec:2;Fdis:1;Bil.)");
+    corrida.correr();
+    EXPECT_EQ(corrida.cabecera(), "\tIDP(Ec:1;Bil.;Sí)\tDR(k:0;Ec:1;Fdis:1;Bil.)");
+}
+
+TEST(FasesDeVecindad, UnaCasillaEncendidaTrasLaCorridaNoTieneColumnas) {
+    Corrida corrida;
+    corrida.correr();
+    auto& opciones = corrida.opciones();
+    for (Casilla* const casilla : {&opciones.ChSupCopa, &opciones.ChAOIActivar, &opciones.ChIDPActivar,
+                                   &opciones.ChDRActivar, &opciones.ChAPA}) {
+        casilla->Value = 1;
+    }
+    EXPECT_EQ(corrida.cabecera(), "");
+}
+
+TEST(FasesDeVecindad, ElISCLlevaCuatroDecimales) {
+    Corrida corrida;
+    corrida.opciones().Optcirc.Value = true;
+    corrida.opciones().ChSupCopa.Value = 1;
+    corrida.correr();
+    EXPECT_NE(corrida.guardar().find("\r5\t5\t0,0000\r"), std::string::npos);
+}
+
+TEST(FasesDeVecindad, UnaRejillaConSoloCabeceraDaLaCabeceraYNingunaFila) {
+    Corrida corrida;
+    corrida.pedirIDP();
+    corrida.pedirDR();
+    corrida.programa.tocar<Hojadedatos>().MSFlexGrid1.Rows(1);
+    corrida.correr();
+    EXPECT_EQ(
+        DeWindows1252(corrida.guardar()),
+        "NºOrden\tNºArbol\tIDP(R:20;Bil.;Sí)\tDR(k:0;n:1;Fdis:1;Bil.)\tDR(k:0;n:2;Fdis:1;Bil.)\r\n\r\n");
+}
+
+TEST(FasesDeVecindad, UnFalloDiceFamiliaColumnaYArboles) {
+    Corrida corrida;
+    corrida.pedirIDP("2");
+    corrida.programa.tocar<Hojadedatos>().MSFlexGrid1.TextMatrix(2, 9, "grande");
+    corrida.programa.tocar<Hojadedatos>().MSFlexGrid1.TextMatrix(1, 2, "5");
+    corrida.servicios.esperarFallo(13);
+    corrida.correr();
+    EXPECT_EQ(corrida.servicios.fallos().back().lugar(),
+              "familia IDP, columna IDP(R:2;Bil.;Sí), fila 1, vecino de la fila 2, árbol de la fila 2, "
+              "columna «CAP»");
+}
+
+} // namespace
+} // namespace varo::prueba
