@@ -100,6 +100,7 @@ TEST(FasesDeVecindad, ElRelojQuedaPuestoTrasUnaFamiliaYSeQuitaTrasUnFallo) {
     corrida.pedirIDP();
     corrida.correr();
     EXPECT_EQ(corrida.mapa().MousePointer(), Formulario::relojDeArena);
+    corrida.servicios.esperarMensaje("El valor debe ser numérico");
     corrida.opciones().TxtBAF1(0).Text = "x";
     corrida.servicios.esperarFallo(13);
     corrida.correr();

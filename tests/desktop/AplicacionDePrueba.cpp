@@ -1,0 +1,36 @@
+// The application object that real windows need. It is made when tests run, not when they are only listed.
+#include "desktop/Aplicacion.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+#include <string>
+
+namespace varo::prueba {
+
+namespace {
+
+class AplicacionDePrueba : public testing::Environment {
+public:
+    void SetUp() override {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
+        aplicacion_ = std::make_unique<Aplicacion>(cuantos_, argumentos_.data());
+    }
+    void TearDown() override { aplicacion_.reset(); }
+
+private:
+    std::string nombre_ = "varo";
+    std::array<char*, 2> argumentos_{nombre_.data(), nullptr};
+    int cuantos_ = 1;
+    std::unique_ptr<Aplicacion> aplicacion_;
+};
+
+[[maybe_unused]] const testing::Environment* const entorno =
+    testing::AddGlobalTestEnvironment(new AplicacionDePrueba);
+
+} // namespace
+
+} // namespace varo::prueba

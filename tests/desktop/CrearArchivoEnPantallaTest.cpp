@@ -1,0 +1,131 @@
+// The window that names the results file: folders, files, a name, and the file that comes of it.
+#include "desktop/Pantalla.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+
+#include <filesystem>
+
+namespace varo::prueba {
+
+/// The window comes up in the folder of the test, which holds "viejo.txt" and the folder "dentro" with
+/// "otro.txt".
+class CrearArchivoEnPantalla : public Pantalla {
+protected:
+    CrearArchivoEnPantalla() {
+        std::filesystem::create_directory(carpeta / "dentro");
+        carpeta.Escribir("viejo.txt", "lo de antes");
+        carpeta.Escribir("dentro/otro.txt", "x");
+        std::filesystem::current_path(carpeta.ruta());
+        llegarA(Etapa::CrearArchivo);
+    }
+    ~CrearArchivoEnPantalla() override { std::filesystem::current_path(aqui_); }
+
+    QListWidget& lista(const std::string& nombre) const {
+        return widget<QListWidget>("FrmCrearArchivo", nombre);
+    }
+    QLineEdit& nombre() const { return widget<QLineEdit>("FrmCrearArchivo", "TxtLista"); }
+    static QStringList lineas(const QListWidget& lista) {
+        QStringList textos;
+        for (int i = 0; i < lista.count(); ++i) {
+            textos << lista.item(i)->text();
+        }
+        return textos;
+    }
+    static QPoint lugar(const QListWidget& lista, const QString& texto) {
+        return lista.visualItemRect(lista.findItems(texto, Qt::MatchExactly).at(0)).center();
+    }
+    void entrarEn(const QString& texto) const {
+        QListWidget& carpetas = lista("DirLista");
+        QTest::mouseClick(carpetas.viewport(), Qt::LeftButton, Qt::NoModifier, lugar(carpetas, texto));
+        QTest::mouseDClick(carpetas.viewport(), Qt::LeftButton, Qt::NoModifier, lugar(carpetas, texto));
+        Reposar();
+    }
+    void clicArchivo(const QString& texto) const {
+        QListWidget& archivos = lista("FilLista");
+        Clic(*archivos.viewport(), lugar(archivos, texto));
+    }
+    void entrar() const {
+        QTest::keyClick(&nombre(), Qt::Key_Return);
+        Reposar();
+    }
+
+    /// No index was asked for: the order and the number of each tree of the square with its centre.
+    const std::string indices_ = "N\xBAOrden\tN\xBA"
+                                 "Arbol\r\n1\t1\r2\t2\r3\t3\r4\t4\r5\t5\r\r\n";
+
+private:
+    std::filesystem::path aqui_ = std::filesystem::current_path();
+};
+
+TEST_F(CrearArchivoEnPantalla, EmpiezaEnLaCarpetaActualConUnNombrePorPoner) {
+    EXPECT_EQ(nombre().text(), "*.txt");
+    EXPECT_TRUE(lineas(lista("FilLista")).contains("viejo.txt"));
+    EXPECT_FALSE(lineas(lista("FilLista")).contains("dentro"));
+    EXPECT_EQ(lineas(lista("DirLista")), (QStringList{"..", "dentro"}));
+}
+
+TEST_F(CrearArchivoEnPantalla, UnDobleClicEntraEnLaCarpetaYMuestraSusArchivos) {
+    entrarEn("dentro");
+    EXPECT_EQ(lineas(lista("FilLista")), QStringList{"otro.txt"});
+    EXPECT_EQ(lineas(lista("DirLista")), QStringList{".."});
+    entrarEn("..");
+    EXPECT_TRUE(lineas(lista("FilLista")).contains("viejo.txt"));
+}
+
+TEST_F(CrearArchivoEnPantalla, UnClicSoloNoCambiaDeCarpeta) {
+    QListWidget& carpetas = lista("DirLista");
+    Clic(*carpetas.viewport(), lugar(carpetas, "dentro"));
+    EXPECT_TRUE(lineas(lista("FilLista")).contains("viejo.txt"));
+}
+
+TEST_F(CrearArchivoEnPantalla, UnArchivoElegidoPoneSuNombre) {
+    clicArchivo("viejo.txt");
+    EXPECT_EQ(nombre().text(), "viejo.txt");
+}
+
+TEST_F(CrearArchivoEnPantalla, EntrarEscribeElArchivoYLoDice) {
+    entrarEn("dentro");
+    Escribir(nombre(), "nuevo.txt");
+    contestador.pulsar("Aceptar");
+    entrar();
+    const auto ruta = std::filesystem::current_path() / "dentro" / "nuevo.txt";
+    ASSERT_EQ(contestador.cajas().size(), 1U);
+    EXPECT_EQ(contestador.cajas()[0].texto.toStdString(), ruta.string() + " fue creado correctamente");
+    EXPECT_EQ(contestador.cajas()[0].titulo, "Creado archivo");
+    EXPECT_EQ(contestador.cajas()[0].icono, QMessageBox::NoIcon);
+    EXPECT_EQ(modelo("FrmCrearArchivo"), nullptr);
+    EXPECT_EQ(LeerArchivo(ruta), indices_);
+    EXPECT_TRUE(alaVista("FrmMapa"));
+}
+
+TEST_F(CrearArchivoEnPantalla, AnteUnArchivoQueYaExisteSePreguntaYNoLoDejaComoEstaba) {
+    clicArchivo("viejo.txt");
+    contestador.pulsar("No");
+    clic("FrmCrearArchivo", "CmdAceptar");
+    ASSERT_EQ(contestador.cajas().size(), 1U);
+    EXPECT_EQ(contestador.cajas()[0].texto.toStdString(), "viejo.txt ya existe. ¿Desea escribir sobre él?");
+    EXPECT_EQ(contestador.cajas()[0].titulo, "El archivo ya existe");
+    EXPECT_EQ(contestador.cajas()[0].icono, QMessageBox::Information);
+    EXPECT_TRUE(alaVista("FrmCrearArchivo"));
+    EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), "lo de antes");
+}
+
+TEST_F(CrearArchivoEnPantalla, CancelarLaPreguntaEscribeComoSi) {
+    clicArchivo("viejo.txt");
+    contestador.pulsar("Cancelar");
+    contestador.pulsar("Aceptar");
+    clic("FrmCrearArchivo", "CmdAceptar");
+    EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), indices_);
+}
+
+TEST_F(CrearArchivoEnPantalla, EscaparSeVaSinEscribirNada) {
+    Escribir(nombre(), "nuevo.txt");
+    QTest::keyClick(&nombre(), Qt::Key_Escape);
+    Reposar();
+    EXPECT_EQ(modelo("FrmCrearArchivo"), nullptr);
+    EXPECT_FALSE(std::filesystem::exists(carpeta / "nuevo.txt"));
+}
+
+} // namespace varo::prueba

@@ -1,0 +1,165 @@
+// The main window: its title and menus, what stands inside it and what beside it, and its hourglass.
+#include "desktop/Pantalla.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+namespace varo::prueba {
+
+class ElMarco : public Pantalla {
+protected:
+    bool conReloj(const std::string& nombre) const {
+        return ventana(nombre).cursor().shape() == Qt::WaitCursor;
+    }
+    QMdiArea& zona() const { return widget<QMdiArea>("VAROMAIN", ""); }
+    void esperarDentro(const std::string& nombre) const {
+        auto* const hija = qobject_cast<QMdiSubWindow*>(&ventana(nombre));
+        ASSERT_NE(hija, nullptr) << nombre;
+        EXPECT_TRUE(zona().subWindowList().contains(hija)) << nombre;
+        EXPECT_FALSE(hija->isWindow()) << nombre;
+    }
+    void esperarFuera(const std::string& nombre) const {
+        EXPECT_TRUE(ventana(nombre).isWindow()) << nombre;
+        EXPECT_EQ(qobject_cast<QMdiSubWindow*>(&ventana(nombre)), nullptr) << nombre;
+        EXPECT_FALSE(ventana(nombre).isModal()) << nombre;
+    }
+    void cancelarApertura() {
+        contestador.tecla(Qt::Key_Escape);
+        clicMenu("VAROMAIN", "mnuAbrir");
+    }
+};
+
+TEST_F(ElMarco, SeLlamaVaro) {
+    EXPECT_EQ(ventana("VAROMAIN").windowTitle(), "VARO 1.0");
+    EXPECT_EQ(&ventana("VAROMAIN"), &escritorio.marco());
+}
+
+TEST_F(ElMarco, LlevaSusMenusEnOrdenConSusAceleradores) {
+    const auto arriba = escritorio.marco().menuBar()->actions();
+    ASSERT_EQ(arriba.size(), 3);
+    EXPECT_EQ(arriba[0]->text(), "&Archivo");
+    EXPECT_EQ(arriba[1]->text(), "&Mapa de copas");
+    EXPECT_EQ(arriba[2]->text(), "&Opciones");
+    ASSERT_NE(arriba[0]->menu(), nullptr);
+    const auto archivo = arriba[0]->menu()->actions();
+    ASSERT_EQ(archivo.size(), 3);
+    EXPECT_EQ(archivo[0]->text(), "&Abrir");
+    EXPECT_EQ(archivo[1]->text(), "&Cerrar");
+    EXPECT_EQ(archivo[2]->text(), "&Salir");
+}
+
+TEST_F(ElMarco, AlEmpezarSoloSePuedeAbrirYSalir) {
+    EXPECT_TRUE(menu("mnuArchivo").isEnabled());
+    EXPECT_TRUE(menu("mnuAbrir").isEnabled());
+    EXPECT_FALSE(menu("mnuCerrar").isEnabled());
+    EXPECT_TRUE(menu("mnuSalir").isEnabled());
+    EXPECT_FALSE(menu("mnuMapa").isEnabled());
+    EXPECT_FALSE(menu("mnuOpciones").isEnabled());
+}
+
+TEST_F(ElMarco, UnMenuInhabilitadoNoHaceNada) {
+    clicMenu("VAROMAIN", "mnuOpciones");
+    clicMenu("VAROMAIN", "mnuCerrar");
+    EXPECT_EQ(ventanasALaVista(), (std::vector<std::string>{"VAROMAIN"}));
+}
+
+TEST_F(ElMarco, LasHijasEstanDentroYLasDemasFuera) {
+    llegarA(Etapa::CrearArchivo);
+    for (const char* nombre : {"Hojadedatos", "SelCol4R", "FrmFormato", "FrmMapa", "FrmMapa2"}) {
+        esperarDentro(nombre);
+    }
+    for (const char* nombre : {"FrmSeleccion", "OpcionesPrograma", "FrmCrearArchivo"}) {
+        esperarFuera(nombre);
+    }
+}
+
+TEST_F(ElMarco, ElDialogoDeColumnasNoSeMinimizaNiMaximizaYLaHojaSi) {
+    llegarA(Etapa::Columnas);
+    const auto dialogo = ventana("SelCol4R").windowFlags();
+    EXPECT_FALSE(dialogo.testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_FALSE(dialogo.testFlag(Qt::WindowMaximizeButtonHint));
+    EXPECT_TRUE(dialogo.testFlag(Qt::WindowCloseButtonHint));
+    const auto hoja = ventana("Hojadedatos").windowFlags();
+    EXPECT_TRUE(hoja.testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_TRUE(hoja.testFlag(Qt::WindowMaximizeButtonHint));
+}
+
+TEST_F(ElMarco, LaSeleccionDeHojaNoSeMinimizaNiMaximiza) {
+    llegarA(Etapa::Seleccion);
+    const auto dialogo = ventana("FrmSeleccion").windowFlags();
+    EXPECT_FALSE(dialogo.testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_FALSE(dialogo.testFlag(Qt::WindowMaximizeButtonHint));
+    EXPECT_TRUE(dialogo.testFlag(Qt::WindowCloseButtonHint));
+}
+
+TEST_F(ElMarco, ElModeloConoceLasMedidasDelMarcoEnTwips) {
+    EXPECT_EQ(modelo("VAROMAIN")->Width(), static_cast<float>(escritorio.marco().width() * 15));
+    escritorio.marco().resize(1000, 700);
+    Reposar();
+    EXPECT_EQ(modelo("VAROMAIN")->Width(), 15000.0F);
+    EXPECT_EQ(modelo("VAROMAIN")->Height(), 10500.0F);
+}
+
+// --- The hourglass ---
+
+TEST_F(ElMarco, AlEmpezarNoHayReloj) {
+    EXPECT_FALSE(conReloj("VAROMAIN"));
+}
+
+TEST_F(ElMarco, MientrasSeEligeElArchivoHayReloj) {
+    contestador.preparar([this](QWidget& dialogo) {
+        EXPECT_TRUE(conReloj("VAROMAIN"));
+        QTest::keyClick(&dialogo, Qt::Key_Escape);
+    });
+    clicMenu("VAROMAIN", "mnuAbrir");
+}
+
+TEST_F(ElMarco, TrasUnaAperturaCanceladaElRelojSeQueda) {
+    cancelarApertura();
+    EXPECT_TRUE(conReloj("VAROMAIN"));
+    EXPECT_EQ(menusHabilitados(), "mnuAbrir");
+    EXPECT_EQ(ventanasALaVista(), (std::vector<std::string>{"VAROMAIN"}));
+}
+
+TEST_F(ElMarco, LaAperturaSiguienteQuitaElReloj) {
+    cancelarApertura();
+    llegarA(Etapa::Seleccion);
+    EXPECT_FALSE(conReloj("VAROMAIN"));
+    EXPECT_TRUE(alaVista("FrmSeleccion"));
+}
+
+TEST_F(ElMarco, UnaHojaQueNoSeEncuentraQuitaElRelojAntesDeDecirlo) {
+    llegarA(Etapa::Seleccion);
+    contestador.preparar([this](QWidget& caja) {
+        EXPECT_FALSE(conReloj("FrmSeleccion"));
+        PulsarBoton(caja, "Aceptar");
+    });
+    clic("FrmSeleccion", "CmdAceptar");
+    EXPECT_FALSE(conReloj("FrmSeleccion"));
+}
+
+// --- What cannot go on ---
+
+TEST_F(ElMarco, UnArchivoQueNoSeEntiendeSeDiceYElProgramaTermina) {
+    carpeta.Escribir("roto.xls", "esto no es un libro");
+    const QString ruta = QString::fromStdString(carpeta.archivo("roto.xls"));
+    contestador.preparar([ruta](QWidget& dialogo) {
+        auto* const campo = dialogo.findChild<QLineEdit*>("fileNameEdit");
+        QTest::keyClicks(campo, ruta);
+        QTest::keyClick(campo, Qt::Key_Return);
+    });
+    contestador.preparar([](QWidget& caja) {
+        EXPECT_EQ(caja.objectName(), "CajaDeFallo");
+        PulsarBoton(caja, "Aceptar");
+    });
+    clicMenu("VAROMAIN", "mnuAbrir");
+    EXPECT_EQ(terminaciones, 1);
+    EXPECT_TRUE(programa.terminado());
+}
+
+} // namespace varo::prueba

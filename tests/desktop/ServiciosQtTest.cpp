@@ -1,0 +1,297 @@
+// The platform as a person sees it: message boxes, faults, and the choice of files, fonts and colours.
+#include "desktop/ServiciosQt.h"
+#include "desktop/Pantalla.h"
+#include "desktop/Texto.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include <optional>
+
+namespace varo::prueba {
+
+namespace {
+
+class LaPlataforma : public testing::Test {
+protected:
+    CarpetaTemporal carpeta;
+    Contestador contestador;
+    ServiciosQt servicios;
+};
+
+/// What the file dialog is asked for when a plot is opened.
+DialogoAbrir AbrirDatos() {
+    return {"Abrir fichero de datos", "", "xls", "Hoja de cálculo (*.xls)|*.xls|Base de datos (*.mdb)|*.mdb|",
+            4096};
+}
+
+QLineEdit& Nombre(QWidget& dialogo) {
+    return *dialogo.findChild<QLineEdit*>("fileNameEdit");
+}
+
+Contestador::Acto TeclearRuta(const std::string& ruta) {
+    return [ruta](QWidget& dialogo) {
+        QTest::keyClicks(&Nombre(dialogo), QString::fromStdString(ruta));
+        QTest::keyClick(&Nombre(dialogo), Qt::Key_Return);
+    };
+}
+
+} // namespace
+
+// --- Message boxes ---
+
+TEST_F(LaPlataforma, UnaCajaMuestraTextoYTituloTalCual) {
+    contestador.pulsar("Aceptar");
+    servicios.mensaje("Razón <b>1</b> & 2\nsegunda línea", "Título", mensaje::aceptar);
+    ASSERT_EQ(contestador.cajas().size(), 1U);
+    EXPECT_EQ(contestador.cajas()[0].texto.toStdString(), "Razón <b>1</b> & 2\nsegunda línea");
+    EXPECT_EQ(contestador.cajas()[0].titulo.toStdString(), "Título");
+}
+
+TEST_F(LaPlataforma, ElTextoDeUnaCajaNoEsFormato) {
+    contestador.preparar([](QWidget& caja) {
+        EXPECT_EQ(dynamic_cast<QMessageBox&>(caja).textFormat(), Qt::PlainText);
+        PulsarBoton(caja, "Aceptar");
+    });
+    servicios.mensaje("a < b", "t", mensaje::aceptar);
+}
+
+TEST_F(LaPlataforma, CadaIconoEsElSuyo) {
+    const std::vector<std::pair<int, QMessageBox::Icon>> iconos{{0, QMessageBox::NoIcon},
+                                                                {16, QMessageBox::Critical},
+                                                                {32, QMessageBox::Question},
+                                                                {48, QMessageBox::Warning},
+                                                                {64, QMessageBox::Information}};
+    for (const auto& [opciones, icono] : iconos) {
+        contestador.pulsar("Aceptar");
+        EXPECT_EQ(servicios.mensaje("x", "t", opciones), 1);
+        EXPECT_EQ(contestador.cajas().back().icono, icono) << opciones;
+    }
+}
+
+TEST_F(LaPlataforma, CadaJuegoDeBotonesYSusRespuestas) {
+    struct Juego {
+        int opciones;
+        QStringList botones;
+        std::vector<int> respuestas; ///< in the order of the buttons
+    };
+    const std::vector<Juego> juegos{{0, {"Aceptar"}, {1}},
+                                    {16, {"Aceptar"}, {1}},
+                                    {21, {"Reintentar", "Cancelar"}, {4, 2}},
+                                    {36, {"Sí", "No"}, {6, 7}},
+                                    {67, {"Sí", "No", "Cancelar"}, {6, 7, 2}}};
+    for (const auto& juego : juegos) {
+        for (qsizetype i = 0; i < juego.botones.size(); ++i) {
+            contestador.pulsar(juego.botones[i]);
+            EXPECT_EQ(servicios.mensaje("x", "t", juego.opciones),
+                      juego.respuestas[static_cast<std::size_t>(i)])
+                << juego.opciones;
+            QStringList vistos = contestador.cajas().back().botones;
+            QStringList esperados = juego.botones;
+            vistos.sort();
+            esperados.sort();
+            EXPECT_EQ(vistos, esperados) << juego.opciones;
+        }
+    }
+}
+
+TEST_F(LaPlataforma, EntrarPulsaElPrimerBoton) {
+    for (const auto& [opciones, respuesta] :
+         std::vector<std::pair<int, int>>{{48, 1}, {21, 4}, {36, 6}, {67, 6}}) {
+        contestador.tecla(Qt::Key_Return);
+        EXPECT_EQ(servicios.mensaje("x", "t", opciones), respuesta) << opciones;
+    }
+}
+
+TEST_F(LaPlataforma, EscaparNuncaDiceQueSi) {
+    for (const auto& [opciones, respuesta] :
+         std::vector<std::pair<int, int>>{{48, 1}, {21, 2}, {36, 7}, {67, 2}}) {
+        contestador.tecla(Qt::Key_Escape);
+        EXPECT_EQ(servicios.mensaje("x", "t", opciones), respuesta) << opciones;
+    }
+}
+
+TEST_F(LaPlataforma, CerrarUnaCajaEsComoEscapar) {
+    for (const auto& [opciones, respuesta] :
+         std::vector<std::pair<int, int>>{{48, 1}, {21, 2}, {36, 7}, {67, 2}}) {
+        contestador.preparar([](QWidget& caja) { caja.close(); });
+        EXPECT_EQ(servicios.mensaje("x", "t", opciones), respuesta) << opciones;
+    }
+}
+
+TEST_F(LaPlataforma, SiYNoTienenAcelerador) {
+    contestador.preparar([](QWidget& caja) {
+        QTest::keyClick(&caja, Qt::Key_N, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !caja.isVisible(); })); // the toolkit shows the press first
+    });
+    EXPECT_EQ(servicios.mensaje("x", "t", 36), 7);
+}
+
+// --- Faults ---
+
+TEST_F(LaPlataforma, UnFalloDiceNumeroDescripcionYLugarYSePuedeCopiar) {
+    ErrorEjecucion error{11, "División por cero"};
+    error.en("campo DAP");
+    error.en("fila 7");
+    contestador.preparar([](QWidget& modal) {
+        auto& caja = dynamic_cast<QMessageBox&>(modal);
+        const auto interaccion = caja.textInteractionFlags();
+        EXPECT_TRUE(interaccion.testFlag(Qt::TextSelectableByMouse));
+        EXPECT_TRUE(interaccion.testFlag(Qt::TextSelectableByKeyboard));
+        EXPECT_TRUE(caja.findChild<QLabel*>("qt_msgbox_label")
+                        ->textInteractionFlags()
+                        .testFlag(Qt::TextSelectableByMouse));
+        PulsarBoton(caja, "Aceptar");
+    });
+    servicios.fallo(error);
+    ASSERT_EQ(contestador.cajas().size(), 1U);
+    const CajaVista& caja = contestador.cajas()[0];
+    EXPECT_EQ(caja.titulo, "VARO 1.0");
+    EXPECT_EQ(caja.icono, QMessageBox::Critical);
+    EXPECT_EQ(caja.botones, (QStringList{"Aceptar", "Copiar"}));
+    for (const char* parte : {"11", "División por cero", "campo DAP", "fila 7"}) {
+        EXPECT_TRUE(caja.texto.contains(QString::fromUtf8(parte))) << caja.texto.toStdString();
+    }
+}
+
+TEST_F(LaPlataforma, CopiarUnFalloLoLlevaAlPortapapelesYDejaLaCaja) {
+    QApplication::clipboard()->setText("antes");
+    contestador.pulsar("Copiar");
+    contestador.pulsar("Aceptar");
+    servicios.fallo(ErrorEjecucion{11, "División por cero"});
+    ASSERT_EQ(contestador.cajas().size(), 1U);
+    EXPECT_EQ(QApplication::clipboard()->text(), contestador.cajas()[0].texto);
+}
+
+TEST_F(LaPlataforma, UnFalloSinLugarNoPreguntaDonde) {
+    contestador.tecla(Qt::Key_Return);
+    servicios.fallo(ErrorEjecucion{6, "Desbordamiento"});
+    const QString texto = contestador.cajas().at(0).texto;
+    EXPECT_TRUE(texto.contains("Error 6 ")) << texto.toStdString();
+    EXPECT_TRUE(texto.contains("Desbordamiento"));
+    EXPECT_FALSE(texto.contains(QString::fromUtf8("Dónde")));
+}
+
+TEST_F(LaPlataforma, UnFalloSeDespachaConEscape) {
+    contestador.tecla(Qt::Key_Escape);
+    servicios.fallo(ErrorEjecucion{6, "Desbordamiento"});
+    EXPECT_EQ(contestador.cajas().size(), 1U);
+}
+
+// --- Files ---
+
+TEST_F(LaPlataforma, ElDialogoDeArchivosLlevaSuTituloYSusDosFiltros) {
+    DialogoAbrir dialogo = AbrirDatos();
+    contestador.preparar([](QWidget& modal) {
+        auto& ventana = dynamic_cast<QFileDialog&>(modal);
+        EXPECT_EQ(ventana.windowTitle(), "Abrir fichero de datos");
+        EXPECT_EQ(ventana.nameFilters(),
+                  (QStringList{QString::fromUtf8("Hoja de cálculo (*.xls)"), "Base de datos (*.mdb)"}));
+        EXPECT_EQ(ventana.fileMode(), QFileDialog::ExistingFile);
+        EXPECT_EQ(ventana.acceptMode(), QFileDialog::AcceptOpen);
+        QTest::keyClick(&modal, Qt::Key_Escape);
+    });
+    servicios.elegirArchivo(dialogo);
+    EXPECT_EQ(dialogo.FileName, "");
+}
+
+TEST_F(LaPlataforma, UnArchivoElegidoDaSuRutaEntera) {
+    carpeta.Escribir("parcela.xls", "x");
+    DialogoAbrir dialogo = AbrirDatos();
+    contestador.preparar(TeclearRuta(carpeta.archivo("parcela.xls")));
+    servicios.elegirArchivo(dialogo);
+    EXPECT_EQ(dialogo.FileName, carpeta.archivo("parcela.xls"));
+}
+
+TEST_F(LaPlataforma, LaExtensionQueFaltaSePone) {
+    carpeta.Escribir("parcela.xls", "x");
+    DialogoAbrir dialogo = AbrirDatos();
+    contestador.preparar(TeclearRuta(carpeta.archivo("parcela")));
+    servicios.elegirArchivo(dialogo);
+    EXPECT_EQ(dialogo.FileName, carpeta.archivo("parcela.xls"));
+}
+
+TEST_F(LaPlataforma, UnArchivoQueNoExisteNoSePuedeElegir) {
+    DialogoAbrir dialogo = AbrirDatos();
+    contestador.preparar(TeclearRuta(carpeta.archivo("ninguno.xls")));
+    contestador.tecla(Qt::Key_Return); // the toolkit says that it is not there
+    contestador.tecla(Qt::Key_Escape);
+    servicios.elegirArchivo(dialogo);
+    EXPECT_EQ(dialogo.FileName, "");
+    EXPECT_EQ(contestador.cajas().size(), 1U);
+}
+
+TEST_F(LaPlataforma, AlCancelarNoQuedaElArchivoDeAntes) {
+    DialogoAbrir dialogo = AbrirDatos();
+    dialogo.FileName = "antes.xls";
+    contestador.tecla(Qt::Key_Escape);
+    servicios.elegirArchivo(dialogo);
+    EXPECT_EQ(dialogo.FileName, "");
+}
+
+// --- Colours and fonts ---
+
+TEST(ColoresDeLaPlataforma, ElRojoEsElByteBajoYElAzulElAlto) {
+    EXPECT_EQ(ColorQt(0x00FF8001), QColor(0x01, 0x80, 0xFF));
+    EXPECT_EQ(ColorDe(QColor(0x01, 0x80, 0xFF)), 0x00FF8001);
+    EXPECT_EQ(ColorQt(0x000000FF), QColor(Qt::red));
+    EXPECT_EQ(ColorDe(QColor(Qt::blue)), 0x00FF0000);
+}
+
+TEST_F(LaPlataforma, ElDialogoDeColorEmpiezaEnElActualYDaElElegido) {
+    contestador.preparar([](QWidget& modal) {
+        auto& dialogo = dynamic_cast<QColorDialog&>(modal);
+        EXPECT_EQ(dialogo.currentColor(), QColor(0x01, 0x80, 0xFF));
+        dialogo.setCurrentColor(QColor(0x10, 0x20, 0x30));
+        dialogo.accept();
+    });
+    EXPECT_EQ(servicios.elegirColor(0x00FF8001), std::optional<Color>{0x00302010});
+}
+
+TEST_F(LaPlataforma, CancelarElColorNoDaNinguno) {
+    contestador.tecla(Qt::Key_Escape);
+    EXPECT_EQ(servicios.elegirColor(0), std::nullopt);
+}
+
+TEST_F(LaPlataforma, LaFuenteElegidaVaYVieneConTodosSusRasgos) {
+    const Fuente actual{"DejaVu Sans Mono", 9, true, false, true, false};
+    contestador.preparar([](QWidget& modal) {
+        auto& dialogo = dynamic_cast<QFontDialog&>(modal);
+        const QFont letra = dialogo.currentFont();
+        EXPECT_EQ(letra.family(), "DejaVu Sans Mono");
+        EXPECT_EQ(letra.pointSizeF(), 9.0);
+        EXPECT_TRUE(letra.bold());
+        EXPECT_FALSE(letra.italic());
+        EXPECT_TRUE(letra.strikeOut());
+        EXPECT_FALSE(letra.underline());
+        QFont otra{"DejaVu Serif"};
+        otra.setPointSize(14);
+        otra.setItalic(true);
+        otra.setUnderline(true);
+        dialogo.setCurrentFont(otra);
+        dialogo.accept();
+    });
+    EXPECT_EQ(servicios.elegirFuente(actual),
+              (std::optional<Fuente>{Fuente{"DejaVu Serif", 14, false, true, false, true}}));
+}
+
+TEST_F(LaPlataforma, CancelarLaFuenteNoDaNinguna) {
+    contestador.tecla(Qt::Key_Escape);
+    EXPECT_EQ(servicios.elegirFuente(Fuente{}), std::nullopt);
+}
+
+TEST_F(LaPlataforma, ElAnchoDeUnTextoVaEnTwips) {
+    const QFontMetricsF medidas{QApplication::font()};
+    EXPECT_FLOAT_EQ(servicios.anchoTexto("Radio medio"),
+                    static_cast<float>(medidas.horizontalAdvance("Radio medio") * 15));
+    EXPECT_EQ(servicios.anchoTexto(""), 0.0F);
+}
+
+} // namespace varo::prueba
