@@ -70,6 +70,27 @@ TEST(Plantilla, LaDeUnaParcelaCorrienteCorreSinTocarla) {
     EXPECT_EQ(informe.superficie, 100);
 }
 
+/// The template with the lines of the families taken in: "# ChAPA = 1" becomes "ChAPA = 1".
+std::string ConLasFamilias(std::string plantilla) {
+    for (const char* const principio : {"Ch", "Txt", "Lst", "Opt", "\"Txt", "\"Opt"}) {
+        const std::string comentado = std::string{"\n# "} + principio;
+        for (auto lugar = plantilla.find(comentado); lugar != std::string::npos;
+             lugar = plantilla.find(comentado)) {
+            plantilla.erase(lugar + 1, 2);
+        }
+    }
+    const std::string elipse = "OptElipse = true";
+    return plantilla.replace(plantilla.find(elipse), elipse.size(), "Optcirc = true");
+}
+
+TEST(Plantilla, SusRenglonesDeFamiliasCorrenSinElComentario) {
+    const CarpetaTemporal carpeta;
+    const auto ejemplo = std::filesystem::path{VARO_DATOS_PRUEBA}.parent_path() / "ejemplos" / "parcela.xls";
+    const std::string plantilla = ConLasFamilias(PlantillaDeTrabajo(ejemplo));
+    const auto informe = CorrerTrabajo(InterpretarTrabajo(plantilla, carpeta / "trabajo.toml"));
+    EXPECT_EQ(informe.columnas, 17 + 5);
+}
+
 TEST(Plantilla, SinPropuestasQuedaUnTrabajoQueDiceQuePapelesFaltan) {
     Filas filas{{std::string{"uno"}, std::string{"dos \"y\" \\ \n tres"}, std::string{"nota"}},
                 {1.0, 2.0, 3.0}};
