@@ -11,7 +11,14 @@ declare -rA paquetes=(
 )
 
 como_root() {
-    if ((EUID == 0)); then "$@"; else sudo "$@"; fi
+    if ((EUID == 0)); then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "Para instalar lo que falta hay que ser root o tener sudo." >&2
+        exit 1
+    fi
 }
 
 instalado() {
@@ -20,7 +27,7 @@ instalado() {
 
 # The tests of the decimal comma run under it.
 generar_es_ES() {
-    if ! locale -a | grep -qix 'es_ES\.utf-\?8'; then
+    if ! locale -a | grep -ix 'es_ES\.utf-\?8' >/dev/null; then
         como_root localedef -i es_ES -f UTF-8 es_ES.UTF-8
     fi
 }

@@ -11,5 +11,8 @@ shift
 openbox --sm-disable &
 gestor=$!
 trap 'kill "$gestor"' EXIT
-until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.05; done # the manager has taken the screen over
+until xdotool get_num_desktops >/dev/null 2>&1; do # the manager has not taken the screen over yet
+    kill -0 "$gestor"
+    sleep 0.05
+done
 "$@"

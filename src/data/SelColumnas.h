@@ -46,6 +46,11 @@ public:
     void Form_Activate() override;
     void Form_Unload() override;
 
+    static constexpr int papelX = 0;
+    static constexpr int papelY = 1;
+    static constexpr int primerPapelDeCopa = 2;
+    [[nodiscard]] int papelIndice() const { return papelCodigo() - 1; }
+    [[nodiscard]] int papelCodigo() const { return static_cast<int>(papeles_.papeles.size()) - 1; }
     /// The button of the tree code role.
     [[nodiscard]] Boton& botonCodigo() const { return Command1(papelCodigo()); }
     [[nodiscard]] const PapelesDeColumnas& papeles() const { return papeles_; }
@@ -54,7 +59,6 @@ protected:
     SelColumnas(Programa& programa, PapelesDeColumnas papeles);
 
 private:
-    [[nodiscard]] int papelCodigo() const { return static_cast<int>(papeles_.papeles.size()) - 1; }
     void anadirLinea(const std::string& prefijo, int columna);
     void comprobarRepeticion(Boton& boton, int columna);
     void comprobarComplecion();

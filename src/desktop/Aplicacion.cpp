@@ -20,6 +20,9 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication{argc, argv} {
 }
 
 bool Aplicacion::notify(QObject* objeto, QEvent* suceso) {
+    if (objeto->thread() != thread()) {
+        return QApplication::notify(objeto, suceso); // a worker of the toolkit, where no box can be shown
+    }
     try {
         return QApplication::notify(objeto, suceso);
     } catch (const std::exception& error) {

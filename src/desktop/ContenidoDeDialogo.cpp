@@ -1,5 +1,6 @@
 #include "desktop/ContenidoDeDialogo.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 namespace varo {
@@ -16,19 +17,25 @@ QLayout* ContenidoDeDialogo::pie(QPushButton* aceptar, QPushButton* cancelar) {
 }
 
 void ContenidoDeDialogo::keyPressEvent(QKeyEvent* suceso) {
+    QPushButton* pulsado = nullptr;
     switch (suceso->key()) {
     case Qt::Key_Enter:
-    case Qt::Key_Return: {
-        auto* const enfocado = qobject_cast<QPushButton*>(focusWidget());
-        (enfocado != nullptr && enfocado->hasFocus() ? enfocado : aceptar_)->click();
+    case Qt::Key_Return:
+        pulsado = qobject_cast<QPushButton*>(QApplication::focusWidget());
+        if (pulsado == nullptr) {
+            pulsado = aceptar_;
+        }
         break;
-    }
     case Qt::Key_Escape:
-        cancelar_->click();
+        pulsado = cancelar_;
         break;
     default:
-        QWidget::keyPressEvent(suceso);
         break;
+    }
+    if (pulsado == nullptr) {
+        QWidget::keyPressEvent(suceso);
+    } else {
+        pulsado->click();
     }
 }
 

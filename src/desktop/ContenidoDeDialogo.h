@@ -1,4 +1,4 @@
-// What lies in a window that a person ends with "Aceptar" or "Cancelar".
+// What lies in a window that a person works through by its buttons.
 #pragma once
 
 #include <QHBoxLayout>
@@ -7,7 +7,8 @@
 
 namespace varo {
 
-/// Enter presses the first button, unless another one has the focus, and Escape the second.
+/// Enter presses the button that has the focus. At the foot there may be two more: Enter presses the first
+/// one when no button has the focus, and Escape the second.
 class ContenidoDeDialogo : public QWidget {
 public:
     using QWidget::QWidget;

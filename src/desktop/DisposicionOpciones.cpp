@@ -1,4 +1,5 @@
 #include "desktop/ContenidoDeDialogo.h"
+#include "desktop/Desplazable.h"
 #include "desktop/Disposiciones.h"
 #include "desktop/FichasLaterales.h"
 #include "desktop/PaginasDeOpciones.h"
@@ -14,8 +15,11 @@ QWidget* DisponerOpciones(OpcionesPrograma& ventana, Vinculos& vinculos) {
     auto* const columna = new QVBoxLayout{contenido};
     const PiezasDeOpciones piezas{ventana, vinculos};
     QTabWidget* const fichas = vinculos.fichas(
-        ventana.SSTab1, {PaginaDeUnidades(piezas), PaginaDeIndependientes(piezas), PaginaDeISC(piezas),
-                         PaginaDeAOI(piezas), PaginaDeDP(piezas), PaginaDeDR(piezas), PaginaDeAPA(piezas)});
+        ventana.SSTab1,
+        {new Desplazable{PaginaDeUnidades(piezas)}, new Desplazable{PaginaDeIndependientes(piezas)},
+         new Desplazable{PaginaDeISC(piezas)}, new Desplazable{PaginaDeAOI(piezas)},
+         new Desplazable{PaginaDeDP(piezas)}, new Desplazable{PaginaDeDR(piezas)},
+         new Desplazable{PaginaDeAPA(piezas)}});
     PonerFichasAlLado(*fichas);
     columna->addWidget(fichas);
 

@@ -4,6 +4,7 @@
 #include "data/Hojadedatos.h"
 #include "data/SelColumnas.h"
 #include "desktop/ContenidoDeDialogo.h"
+#include "desktop/Desplazable.h"
 #include "desktop/Texto.h"
 #include "desktop/Vinculos.h"
 #include "indices/FrmCrearArchivo.h"
@@ -19,8 +20,6 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -81,18 +80,21 @@ QWidget* DisponerHoja(Hojadedatos& ventana, Vinculos& vinculos) {
 namespace {
 
 /// The crown buttons under the list; four radii stand as on a compass.
-QLayout* BotonesDeCopa(SelColumnas& ventana, Vinculos& vinculos, int papeles) {
+QLayout* BotonesDeCopa(SelColumnas& ventana, Vinculos& vinculos) {
     auto* const copa = new QGridLayout;
-    const int ultimoDeCopa = papeles - 3;
-    const auto boton = [&](int papel) { return vinculos.boton(ventana.Command1(papel)); };
-    if (ultimoDeCopa == 5) {
-        copa->addWidget(boton(2), 0, 1);
-        copa->addWidget(boton(5), 1, 0);
-        copa->addWidget(boton(3), 1, 2);
-        copa->addWidget(boton(4), 2, 1);
+    const int primero = SelColumnas::primerPapelDeCopa;
+    const int medidas = ventana.papelIndice() - primero;
+    const auto poner = [&](int medida, int fila, int columna) {
+        copa->addWidget(vinculos.boton(ventana.Command1(primero + medida)), fila, columna);
+    };
+    if (medidas == 4) {
+        poner(0, 0, 1); // north
+        poner(3, 1, 0); // west
+        poner(1, 1, 2); // east
+        poner(2, 2, 1); // south
     } else {
-        for (int papel = 2; papel <= ultimoDeCopa; ++papel) {
-            copa->addWidget(boton(papel), 0, papel - 2);
+        for (int medida = 0; medida < medidas; ++medida) {
+            poner(medida, 0, medida);
         }
     }
     return copa;
@@ -101,13 +103,13 @@ QLayout* BotonesDeCopa(SelColumnas& ventana, Vinculos& vinculos, int papeles) {
 } // namespace
 
 QWidget* DisponerColumnas(SelColumnas& ventana, Vinculos& vinculos) {
-    auto* const contenido = new QWidget;
+    auto* const contenido = new ContenidoDeDialogo;
     auto* const rejilla = new QGridLayout{contenido};
-    const int papeles = static_cast<int>(ventana.papeles().papeles.size());
     rejilla->addWidget(vinculos.etiqueta(ventana.Label1), 0, 0, 1, 3);
 
     auto* const izquierda = new QVBoxLayout;
-    for (const int papel : {papeles - 2, 0, 1, papeles - 1}) {
+    for (const int papel :
+         {ventana.papelIndice(), SelColumnas::papelX, SelColumnas::papelY, ventana.papelCodigo()}) {
         izquierda->addWidget(vinculos.boton(ventana.Command1(papel)));
     }
     izquierda->addStretch();
@@ -116,7 +118,7 @@ QWidget* DisponerColumnas(SelColumnas& ventana, Vinculos& vinculos) {
     auto* const lista = vinculos.lista(ventana.List1);
     lista->setMinimumSize(300, 180);
     rejilla->addWidget(lista, 1, 1);
-    rejilla->addLayout(BotonesDeCopa(ventana, vinculos, papeles), 2, 1);
+    rejilla->addLayout(BotonesDeCopa(ventana, vinculos), 2, 1);
 
     auto* const derecha = new QVBoxLayout;
     derecha->addWidget(vinculos.boton(ventana.CmdQuitar));
@@ -130,18 +132,6 @@ QWidget* DisponerColumnas(SelColumnas& ventana, Vinculos& vinculos) {
 }
 
 namespace {
-
-/// As wide as its content, which is moved up and down where it does not fit.
-QScrollArea* Desplazable(QWidget* contenido) {
-    auto* const zona = new QScrollArea;
-    zona->setWidget(contenido);
-    zona->setWidgetResizable(true);
-    zona->setFrameShape(QFrame::NoFrame);
-    zona->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    zona->setMinimumWidth(contenido->minimumSizeHint().width() +
-                          zona->verticalScrollBar()->sizeHint().width());
-    return zona;
-}
 
 QComboBox* Eleccion(Vinculos& vinculos, Desplegable& control, int letras) {
     QComboBox* const combo = vinculos.desplegable(control);
@@ -191,7 +181,7 @@ QWidget* DisponerFormato(FrmFormato& ventana, Vinculos& vinculos) {
     hoja->setContentsMargins(0, 0, 0, 0);
     hoja->addLayout(campos);
     hoja->addStretch();
-    columna->addWidget(Desplazable(filas));
+    columna->addWidget(new Desplazable{filas});
     columna->addLayout(
         contenido->pie(vinculos.boton(ventana.CmdAceptar), vinculos.boton(ventana.CmdCancelar)));
     return contenido;
@@ -202,6 +192,7 @@ QWidget* DisponerMapa(FrmMapa& ventana, Vinculos& vinculos) {
     auto* const columna = new QVBoxLayout{contenido};
     columna->setContentsMargins(0, 0, 0, 0);
     auto* const barra = new QMenuBar;
+    barra->setNativeMenuBar(false); // the one of the frame may stand at the top of the screen
     vinculos.menus(*barra, ventana);
     columna->setMenuBar(barra);
     columna->addStretch();
@@ -224,7 +215,7 @@ QWidget* DisponerCrearArchivo(FrmCrearArchivo& ventana, Vinculos& vinculos) {
     carpeta->setTextFormat(Qt::PlainText);
     carpeta->setTextInteractionFlags(Qt::TextSelectableByMouse);
     carpeta->setWordWrap(true);
-    vinculos.seguir(ventana.DirLista,
+    vinculos.seguir(ventana.FilLista,
                     [carpeta, &ventana] { carpeta->setText(AQt(ventana.FilLista.Path())); });
 
     const auto rotulo = [&](const QString& texto, QWidget* campo, int fila, int lugar) {

@@ -13,6 +13,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,6 +23,7 @@ namespace varo {
 namespace {
 
 constexpr QSize medidasAlEmpezar{1180, 800};
+constexpr int plazoDePedida = 1000; ///< in milliseconds: what has not become active by then will not
 constexpr int estadoMinimizado = 1;
 constexpr int estadoMaximizado = 2;
 
@@ -29,6 +31,19 @@ QRect Medidas(const Formulario& modelo) {
     return {static_cast<int>(modelo.Left()), static_cast<int>(modelo.Top()), static_cast<int>(modelo.Width()),
             static_cast<int>(modelo.Height())};
 }
+
+/// What a window may take of its screen, its frame and the panels of the system left aside.
+QSize SitioEnPantalla(const QWidget& ventana) {
+    constexpr QSize marcos{40, 80};
+    return ventana.screen()->availableGeometry().size() - marcos;
+}
+
+/// Whatever closes it goes the way of its close box.
+class Dialogo : public QDialog {
+public:
+    using QDialog::QDialog;
+    void reject() override { close(); }
+};
 
 int EstadoDe(const QWidget& ventana) {
     if (ventana.isMinimized()) {
@@ -45,10 +60,16 @@ Escritorio::Escritorio(ServiciosQt& servicios)
     marco_.setCentralWidget(zona_);
     zona_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     zona_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    marco_.resize(medidasAlEmpezar);
+    zona_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    marco_.resize(medidasAlEmpezar.boundedTo(SitioEnPantalla(marco_)));
+    esperaDePedida_.setSingleShot(true);
+    connect(&esperaDePedida_, &QTimer::timeout, this, [this] { pedida_ = nullptr; });
     programa_.alCargar = [this](Formulario& modelo) { alCargar(modelo); };
     programa_.alDescargar = [this](Formulario& modelo) { alDescargar(modelo); };
-    programa_.alActivar = [this](Formulario&) { cambioDeActiva_ = true; };
+    programa_.alActivar = [this](Formulario& modelo) {
+        cambioDeActiva_ = true;
+        vistas_.at(&modelo).ventana->raise(); // each one over the others in its turn, not the last one alone
+    };
     programa_.alTerminarActo = [this] { alTerminarActo(); };
     connect(zona_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* subventana) {
         Formulario* const modelo = modeloDe(subventana);
@@ -115,12 +136,13 @@ QWidget* Escritorio::crearHija(QWidget& contenido, const Formulario& modelo) {
 }
 
 QWidget* Escritorio::crearDialogo(QWidget& contenido) {
-    auto* const dialogo = new QDialog{&marco_};
+    auto* const dialogo = new Dialogo{&marco_};
     dialogo->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     auto* const columna = new QVBoxLayout{dialogo};
     columna->setContentsMargins(0, 0, 0, 0);
     columna->addWidget(&contenido);
+    dialogo->resize(dialogo->sizeHint().boundedTo(SitioEnPantalla(marco_)));
     return dialogo;
 }
 
@@ -130,7 +152,6 @@ void Escritorio::alDescargar(Formulario& modelo) {
     vistas_.erase(lugar);
     modelo.dejarDeObservar(vista.observador);
     vista.vinculos->soltar();
-    vista.vinculos.release()->deleteLater(); // one of its own signals may still be on the way up
     const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
     if (pedida_ == vista.ventana) {
         pedida_ = nullptr;
@@ -139,9 +160,17 @@ void Escritorio::alDescargar(Formulario& modelo) {
     if (modelo.tipo() == TipoVentana::Hija) {
         zona_->removeSubWindow(vista.ventana);
     }
-    if (vista.ventana != &marco_) {
-        vista.ventana->deleteLater();
+    retiradas_.push_back(std::move(vista)); // one of its own signals may still be on the way up
+}
+
+void Escritorio::soltarRetiradas() {
+    for (Vista& vista : retiradas_) {
+        vista.vinculos.release()->deleteLater();
+        if (vista.ventana != &marco_) {
+            vista.ventana->deleteLater();
+        }
     }
+    retiradas_.clear();
 }
 
 void Escritorio::mostrar(Formulario& modelo) {
@@ -186,6 +215,7 @@ void Escritorio::aplicarMedidas(const Formulario& modelo, Vista& vista) {
 }
 
 void Escritorio::alTerminarActo() {
+    soltarRetiradas();
     if (programa_.terminado()) {
         if (alTerminar) {
             alTerminar();
@@ -200,19 +230,21 @@ void Escritorio::alTerminarActo() {
 }
 
 void Escritorio::darActivacion() {
-    const Formulario* const activa = programa_.activa();
+    Formulario* const activa = programa_.activa();
     if (activa == nullptr) {
         return;
     }
     const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
-    QWidget* const ventana = vistas_.at(const_cast<Formulario*>(activa)).ventana;
+    QWidget* const ventana = vistas_.at(activa).ventana;
     QWidget* superior = ventana;
     if (activa->tipo() == TipoVentana::Hija) {
         zona_->setActiveSubWindow(static_cast<QMdiSubWindow*>(ventana));
         superior = &marco_;
     }
+    pedida_ = nullptr;
     if (QApplication::activeWindow() != superior) {
         pedida_ = superior;
+        esperaDePedida_.start(plazoDePedida);
         superior->raise();
         superior->activateWindow();
     }
@@ -221,16 +253,9 @@ void Escritorio::darActivacion() {
 void Escritorio::darFoco() {
     Control* const foco = programa_.foco();
     if (foco == nullptr) {
-        // The act left the focus nowhere: it is where the toolkit has put it. While a window that was asked
-        // for is still to come, the focus is in the one that was left.
+        // The act left the focus nowhere: it is where the toolkit has put it.
         QMetaObject::invokeMethod(
-            this,
-            [this] {
-                if (pedida_ == nullptr) {
-                    alEnfocarse(QApplication::focusWidget());
-                }
-            },
-            Qt::QueuedConnection);
+            this, [this] { alEnfocarse(QApplication::focusWidget()); }, Qt::QueuedConnection);
         return;
     }
     QWidget* const widget = widgetDe(*foco);
@@ -256,6 +281,9 @@ void Escritorio::alEnfocarse(QWidget* widget) {
     Control* const control = controlDe(widget);
     if (control == nullptr || control == programa_.foco() || !control->ventana().Visible()) {
         return;
+    }
+    if (pedida_ != nullptr && pedida_ != widget->window()) {
+        return; // a window on the way to the one that the model asked for
     }
     actuar([&] {
         programa_.atender([&] {
@@ -385,10 +413,15 @@ Control* Escritorio::controlDe(QWidget* widget) const {
     return nullptr;
 }
 
-/// A click on the frame activates the child that is active in it; null once the frame is closed.
+/// A click on the frame activates the child that was active last in it; null once the frame is closed.
 Formulario* Escritorio::modeloActivoDelMarco() const {
-    Formulario* const hija = modeloDe(zona_->activeSubWindow());
-    return hija != nullptr && hija->Visible() ? hija : modeloDe(&marco_);
+    const auto subventanas = zona_->subWindowList(QMdiArea::ActivationHistoryOrder);
+    const auto hija =
+        std::find_if(subventanas.rbegin(), subventanas.rend(), [this](const QObject* subventana) {
+            const Formulario* const modelo = modeloDe(subventana);
+            return modelo != nullptr && modelo->Visible();
+        });
+    return modeloDe(hija == subventanas.rend() ? static_cast<const QObject*>(&marco_) : *hija);
 }
 
 } // namespace varo

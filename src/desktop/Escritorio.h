@@ -4,13 +4,16 @@
 #include "desktop/ServiciosQt.h"
 #include "shell/Programa.h"
 
+#include <QCoreApplication>
 #include <QMainWindow>
 #include <QObject>
 #include <QRect>
+#include <QTimer>
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 class QMdiArea;
 class QMdiSubWindow;
@@ -35,8 +38,8 @@ public:
     /// The widget of a control; null when it has none.
     [[nodiscard]] QWidget* widgetDe(const Control& control) const;
 
-    /// Told when the program is over.
-    std::function<void()> alTerminar;
+    /// Told when the program is over; it ends the event loop.
+    std::function<void()> alTerminar = [] { QCoreApplication::exit(); };
 
     bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
@@ -52,6 +55,7 @@ private:
     void alCargar(Formulario& modelo);
     void alDescargar(Formulario& modelo);
     void alTerminarActo();
+    void soltarRetiradas();
     void darActivacion();
     void darFoco();
 
@@ -80,9 +84,11 @@ private:
     QMainWindow marco_;
     QMdiArea* zona_;
     std::map<Formulario*, Vista> vistas_;
+    std::vector<Vista> retiradas_; ///< unloaded by the act that goes on
     bool desdeElModelo_ = false;
     bool cambioDeActiva_ = false; ///< the act that goes on has moved the activation
     QWidget* pedida_ = nullptr;   ///< the window that was asked to become active and has not yet
+    QTimer esperaDePedida_;
 };
 
 } // namespace varo

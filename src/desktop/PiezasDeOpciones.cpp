@@ -46,7 +46,8 @@ PiezasDeOpciones::Pagina PiezasDeOpciones::pagina(Marco& marco, Pie pie) const {
 QLayout* PiezasDeOpciones::bajoTitulo(QGroupBox* grupo) {
     auto* const columna = new QVBoxLayout;
     columna->setSpacing(0);
-    columna->addSpacing(AltoHastaElContenido(*grupo, "k") - AltoHastaElContenido(*grupo, QString{}));
+    const QString unTitulo = QStringLiteral("k"); // any one takes the same height
+    columna->addSpacing(AltoHastaElContenido(*grupo, unTitulo) - AltoHastaElContenido(*grupo, QString{}));
     columna->addWidget(grupo);
     return columna;
 }

@@ -2,6 +2,7 @@
 
 #include "desktop/Texto.h"
 #include "desktop/VistaDeRejilla.h"
+#include "desktop/Widgets.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -72,9 +73,34 @@ std::vector<bool> Seleccion(const QListWidget& widget) {
     return seleccion;
 }
 
+/// What a person has selected in the widget goes to the list; where one line is selected at a time, also the
+/// one that is selected already.
+void Elegir(Usuario& usuario, const QListWidget& widget, Lista& control) {
+    const std::vector<bool> seleccion = Seleccion(widget);
+    for (int i = 0; i < control.ListCount() && i < static_cast<int>(seleccion.size()); ++i) {
+        const bool elegida = seleccion[static_cast<std::size_t>(i)];
+        if (control.variasALaVez() ? control.Selected(i) != elegida : elegida) {
+            usuario.elegir(control, i, elegida);
+        }
+    }
+}
+
+/// The option of the group, `paso` places on, that a person could use.
+Opcion& Siguiente(Opcion& actual, int paso) {
+    const GrupoOpciones& grupo = actual.grupo();
+    const auto lugar = std::find(grupo.begin(), grupo.end(), &actual) - grupo.begin();
+    const auto cuantas = static_cast<std::ptrdiff_t>(grupo.size());
+    auto siguiente = lugar;
+    do {
+        siguiente = (siguiente + paso + cuantas) % cuantas;
+    } while (siguiente != lugar && Usuario::impedimento(*grupo[static_cast<std::size_t>(siguiente)]));
+    return *grupo[static_cast<std::size_t>(siguiente)];
+}
+
 } // namespace
 
-Vinculos::Vinculos(Ventanas& ventanas, QObject* padre) : QObject{padre}, usuario_{ventanas} {}
+Vinculos::Vinculos(Ventanas& ventanas, QObject* padre)
+    : QObject{padre}, ventanas_{ventanas}, usuario_{ventanas} {}
 
 Vinculos::~Vinculos() {
     soltar();
@@ -138,8 +164,20 @@ void Vinculos::actuar(const std::function<void(Usuario&)>& acto, const std::func
     }
 }
 
+/// A press that does not get past the field that was left, since a box told of it and took the release, does
+/// not leave the button pressed.
+void Vinculos::noHundir(QAbstractButton& widget, const Control& control) {
+    connect(&widget, &QAbstractButton::pressed, this, [this, &widget, &control] {
+        const Control* const foco = suelto_ ? nullptr : ventanas_.foco();
+        if (foco != nullptr && foco != &control && &foco->ventana() == &control.ventana()) {
+            widget.setDown(false);
+        }
+    });
+}
+
 QLabel* Vinculos::etiqueta(Etiqueta& control) {
     auto* const widget = new QLabel;
+    widget->setTextFormat(Qt::PlainText); // a tree code of the sheet stays as it is written
     enlazar(*widget, control, [widget, &control] { widget->setText(AQt(control.Caption())); });
     return widget;
 }
@@ -149,6 +187,7 @@ QPushButton* Vinculos::boton(Boton& control) {
     enlazar(*widget, control, [widget, &control] { widget->setText(AQt(control.Caption())); });
     connect(widget, &QPushButton::clicked, this,
             [this, &control] { actuar([&](Usuario& usuario) { usuario.clic(control); }); });
+    noHundir(*widget, control);
     return widget;
 }
 
@@ -177,12 +216,12 @@ QCheckBox* Vinculos::casilla(Casilla& control) {
     enlazar(*widget, control, mostrar);
     connect(widget, &QCheckBox::clicked, this,
             [this, &control, mostrar] { actuar([&](Usuario& usuario) { usuario.clic(control); }, mostrar); });
+    noHundir(*widget, control);
     return widget;
 }
 
 QRadioButton* Vinculos::opcion(Opcion& control) {
-    auto* const widget = new QRadioButton;
-    widget->setAutoExclusive(false); // the model keeps the group
+    auto* const widget = new BotonDeOpcion;
     const auto mostrar = [widget, &control] {
         widget->setText(AQt(control.Caption()));
         widget->setChecked(control.Value());
@@ -190,53 +229,31 @@ QRadioButton* Vinculos::opcion(Opcion& control) {
     enlazar(*widget, control, mostrar);
     connect(widget, &QRadioButton::clicked, this,
             [this, &control, mostrar] { actuar([&](Usuario& usuario) { usuario.clic(control); }, mostrar); });
+    widget->alMover = [this, &control, mostrar](int paso) {
+        actuar([&](Usuario& usuario) { usuario.clic(Siguiente(control, paso)); }, mostrar);
+    };
+    noHundir(*widget, control);
     return widget;
 }
 
 QListWidget* Vinculos::lista(Lista& control) {
-    auto* const widget = new QListWidget;
+    auto* const widget = new ListaDeLineas;
     widget->setSelectionMode(control.variasALaVez() ? QAbstractItemView::ExtendedSelection
                                                     : QAbstractItemView::SingleSelection);
     const auto mostrar = [widget, &control] { MostrarLista(*widget, control); };
     enlazar(*widget, control, mostrar);
-    connect(widget, &QListWidget::itemSelectionChanged, this, [this, widget, &control, mostrar] {
-        const std::vector<bool> seleccion = Seleccion(*widget);
-        actuar(
-            [&](Usuario& usuario) {
-                for (int i = 0; i < control.ListCount() && i < static_cast<int>(seleccion.size()); ++i) {
-                    const bool elegida = seleccion[static_cast<std::size_t>(i)];
-                    // Of a list with one line at a time the new one takes the place of the old one.
-                    if (control.Selected(i) != elegida && (elegida || control.variasALaVez())) {
-                        usuario.elegir(control, i, elegida);
-                    }
-                }
-            },
-            mostrar);
-    });
+    widget->alElegir = [this, widget, &control, mostrar] {
+        actuar([&](Usuario& usuario) { Elegir(usuario, *widget, control); }, mostrar);
+    };
     if (control.DblClick) {
-        connect(widget, &QListWidget::itemActivated, this, [this, &control, mostrar] {
+        widget->alActivar = [this, &control, mostrar] {
             actuar([&](Usuario& usuario) { usuario.dobleClic(control); }, mostrar);
-        });
+        };
     }
     return widget;
 }
 
 namespace {
-
-/// A drop-down whose opening may be an act of its own, a choice in a dialog instead of a list.
-class Combo : public QComboBox {
-public:
-    std::function<void()> alDesplegar;
-
-    void showPopup() override {
-        if (!alDesplegar) {
-            QComboBox::showPopup();
-            return;
-        }
-        // Once the mouse press that opened it is over: a dialog may come up.
-        QMetaObject::invokeMethod(this, alDesplegar, Qt::QueuedConnection);
-    }
-};
 
 QColor ColorLegible(const QColor& fondo) {
     constexpr int medio = 128;
@@ -280,17 +297,21 @@ QComboBox* Vinculos::desplegable(Desplegable& control) {
             actuar([&](Usuario& usuario) { usuario.desplegar(control); }, mostrar);
         };
     }
-    connect(widget, &QComboBox::editTextChanged, this, [this, &control, mostrar](const QString& texto) {
+    if (control.editable()) {
+        connect(widget->lineEdit(), &QLineEdit::textEdited, this,
+                [this, &control, mostrar](const QString& texto) {
+                    actuar([&](Usuario& usuario) { usuario.escribir(control, DeQt(texto)); }, mostrar);
+                });
+    }
+    connect(widget, &QComboBox::activated, this, [this, &control, mostrar](int linea) {
         actuar(
             [&](Usuario& usuario) {
-                if (DeQt(texto) != control.Text()) {
-                    usuario.escribir(control, DeQt(texto));
+                // A field that is left with the text of a line tells it too, and nobody has chosen it.
+                if (control.Text() != control.List(linea)) {
+                    usuario.elegir(control, linea);
                 }
             },
             mostrar);
-    });
-    connect(widget, &QComboBox::activated, this, [this, &control, mostrar](int linea) {
-        actuar([&](Usuario& usuario) { usuario.elegir(control, linea); }, mostrar);
     });
     return widget;
 }
@@ -302,18 +323,15 @@ QGroupBox* Vinculos::marco(Marco& control) {
 }
 
 QTabWidget* Vinculos::fichas(Fichas& control, const std::vector<QWidget*>& paginas) {
-    auto* const widget = new QTabWidget;
+    auto* const widget = new FichasPedidas;
     for (int i = 0; i < control.Tabs(); ++i) {
         widget->addTab(paginas[static_cast<std::size_t>(i)], AQt(control.TabCaption(i)));
     }
-    const auto mostrar = [widget, &control] {
-        const QSignalBlocker sinSenales{widget};
-        widget->setCurrentIndex(control.Tab());
-    };
+    const auto mostrar = [widget, &control] { widget->setCurrentIndex(control.Tab()); };
     enlazar(*widget, control, mostrar);
-    connect(widget, &QTabWidget::currentChanged, this, [this, &control, mostrar](int ficha) {
+    widget->alPedir = [this, &control, mostrar](int ficha) {
         actuar([&](Usuario& usuario) { usuario.mostrarFicha(control, ficha); }, mostrar);
-    });
+    };
     return widget;
 }
 

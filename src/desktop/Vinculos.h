@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-class QAction;
+class QAbstractButton;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
@@ -63,11 +63,13 @@ public:
     void soltar();
 
 private:
+    void noHundir(QAbstractButton& widget, const Control& control);
     void enlazar(QWidget& widget, Control& control, const std::function<void()>& mostrar);
     /// Hands on what a person did. The widget shows the control anew afterwards: the model has the last word.
     void actuar(
         const std::function<void(Usuario&)>& acto, const std::function<void()>& mostrar = [] {});
 
+    Ventanas& ventanas_;
     Usuario usuario_;
     std::vector<std::pair<Observable*, int>> observados_;
     std::map<const Control*, QWidget*> widgets_;

@@ -5,7 +5,6 @@
 int main(int argc, char** argv) {
     varo::Aplicacion aplicacion{argc, argv};
     varo::ServiciosQt servicios;
-    varo::Escritorio escritorio{servicios};
-    escritorio.alTerminar = [] { QApplication::quit(); };
+    const varo::Escritorio escritorio{servicios};
     return QApplication::exec();
 }

@@ -93,6 +93,15 @@ void ConLineas::Clear() {
     avisar();
 }
 
+void ConLineas::Lineas(const std::vector<std::string>& textos) {
+    lineas_.clear();
+    lineas_.reserve(textos.size());
+    for (const auto& texto : textos) {
+        lineas_.push_back({texto, false});
+    }
+    avisar();
+}
+
 void Lista::Selected(int linea, bool seleccionada) {
     Linea& elegida = lineas_[comprobada(linea)];
     if (seleccionada && !variasALaVez_) {

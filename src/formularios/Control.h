@@ -193,6 +193,8 @@ public:
     void AddItem(std::string texto);
     void RemoveItem(int linea);
     void Clear();
+    /// These lines in place of all.
+    void Lineas(const std::vector<std::string>& textos);
 
 protected:
     struct Linea {

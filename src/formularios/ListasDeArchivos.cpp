@@ -17,28 +17,18 @@ template <class Condicion>
 std::vector<std::string> Nombres(const std::string& ruta, Condicion condicion) {
     std::error_code error;
     fs::directory_iterator entrada{fs::path{ruta}, fs::directory_options::skip_permission_denied, error};
-    if (error) {
-        throw ErrorEjecucion{fallo::dispositivoNoDisponible, "No se puede leer la carpeta «" + ruta + "»"};
-    }
     std::vector<std::string> nombres;
-    for (; entrada != fs::directory_iterator{}; entrada.increment(error)) {
+    for (; !error && entrada != fs::directory_iterator{}; entrada.increment(error)) {
         std::error_code sinTipo;
         if (condicion(*entrada, sinTipo)) {
             nombres.push_back(entrada->path().filename().string());
         }
-        if (error) {
-            break;
-        }
+    }
+    if (error) {
+        throw ErrorEjecucion{fallo::dispositivoNoDisponible, "No se puede leer la carpeta «" + ruta + "»"};
     }
     std::sort(nombres.begin(), nombres.end());
     return nombres;
-}
-
-void Listar(Lista& lista, const std::vector<std::string>& nombres) {
-    lista.Clear();
-    for (const auto& nombre : nombres) {
-        lista.AddItem(nombre);
-    }
 }
 
 /// The selected line; the empty text when none is.
@@ -113,7 +103,7 @@ void ListaCarpetas::Path(const std::string& ruta) {
     }
     const auto carpetas = Carpetas(ruta);
     ruta_ = ruta;
-    Listar(*this, carpetas);
+    Lineas(carpetas);
     lanzar(Change);
 }
 
@@ -125,7 +115,7 @@ ListaArchivos::ListaArchivos(Formulario& ventana, Identidad identidad)
 void ListaArchivos::Path(const std::string& ruta) {
     const auto archivos = Archivos(ruta);
     ruta_ = ruta;
-    Listar(*this, archivos);
+    Lineas(archivos);
 }
 
 std::string ListaArchivos::FileName() const {

@@ -170,9 +170,6 @@ void Ventanas::darFoco(Control& control) {
     // The control that was left may have taken the focus back, or taken the window away.
     if (foco_ == nullptr && control.ventana().Visible()) {
         foco_ = &control;
-        if (alEnfocar) {
-            alEnfocar(control);
-        }
     }
 }
 

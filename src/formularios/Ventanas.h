@@ -88,8 +88,7 @@ public:
     /// Told of each window that is loaded and of each that is about to go.
     std::function<void(Formulario&)> alCargar;
     std::function<void(Formulario&)> alDescargar;
-    /// Told when a control has got the focus and when a window has become active, before their handlers run.
-    std::function<void(Control&)> alEnfocar;
+    /// Told when a window has become active, before the handlers run.
     std::function<void(Formulario&)> alActivar;
     /// Told when the outermost act is over.
     std::function<void()> alTerminarActo;

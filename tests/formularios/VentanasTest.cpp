@@ -565,26 +565,6 @@ TEST(Ventanas, AlActivarSeEnteraAntesQueLosManejadores) {
     EXPECT_EQ(banco.visto(), Diario{"Deactivate A"});
 }
 
-TEST(Ventanas, AlEnfocarSeEnteraDeQuienTomaElFocoTambienSiLoRecupera) {
-    ConVentanas banco;
-    auto& a = banco.mostrada<VentanaA>();
-    auto& oculta = banco.programa.tocar<VentanaB>();
-    banco.visto();
-    banco.programa.alEnfocar = [&](Control& control) {
-        EXPECT_EQ(banco.programa.foco(), &control);
-        banco.programa.anotar("foco " + control.Name());
-    };
-    a.Texto.LostFocus = [&] { a.Texto.SetFocus(); };
-    a.Texto.SetFocus();
-    a.Texto.SetFocus();
-    EXPECT_EQ(banco.visto(), Diario{"foco Texto"});
-    a.Otro.SetFocus();
-    EXPECT_EQ(banco.visto(), Diario{"foco Texto"});
-    a.Texto.LostFocus = nullptr;
-    oculta.Texto.SetFocus();
-    EXPECT_EQ(banco.visto(), Diario{});
-}
-
 TEST(Ventanas, UnFalloEnUnActoLoAcabaYSeCuenta) {
     ConVentanas banco;
     banco.servicios.esperarFallo(11);
