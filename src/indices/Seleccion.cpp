@@ -106,9 +106,7 @@ void Seleccion::dejarLosPrimeros(double puesto) {
     const double umbral = claves_[static_cast<std::size_t>(puesto) - 1];
     std::erase_if(cercanas_, [&](Fila j) { return clave(j) < umbral; });
     candidatos_ = cercanas_;
-    if (orden_ == OrdenDeRango::PorDistancia) {
-        alcance_ = -umbral;
-    }
+    alcance_ = orden_ == OrdenDeRango::PorDistancia ? -umbral : 0;
 }
 
 /// The first competitor settles whether the subject is a border tree, however far it stands.

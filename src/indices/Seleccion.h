@@ -56,8 +56,8 @@ public:
     /// Takes a subject, and works out its candidates.
     void empezar(std::size_t i, bool unilateral);
     /// In the order of the rows; the subject itself and trees without a size may be among them. A tree that
-    /// is left out is farther than `alcance`, would be rejected without a fault and is not the first that the
-    /// side rule lets through.
+    /// is left out is farther than `alcance` and would be rejected without a fault, or its turn never comes,
+    /// since the first one that the side rule lets through ends the subject.
     [[nodiscard]] std::span<const Fila> candidatos() const { return candidatos_; }
     [[nodiscard]] double alcance() const { return alcance_; }
     /// Makes every tree a candidate, for who does with a rejected one what may fault.
