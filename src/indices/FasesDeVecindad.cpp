@@ -183,10 +183,7 @@ private:
         r.IndDR.redimensionar(r.NumColDR.valor() - 1, cuantosArboles() - 1);
         const ReglaDeSeleccion regla = ReglaElegida(opciones_, 1);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorDistancia};
-        std::vector<EntradaDeDistancia> entradas;
-        for (int linea = 0; linea < r.NumFuncDR.valor(); ++linea) {
-            entradas.emplace_back(opciones_.LstDist.List(linea));
-        }
+        std::vector<EntradaDeDistancia> entradas = entradasDeDistancia();
         int numero = -1;
         for (int pasada = 1; pasada <= r.NumLadosDR.valor(); ++pasada) {
             const Lado lado = LadoDe(pasada, opciones_.ChDRBil, opciones_.ChDRUni);
@@ -204,6 +201,16 @@ private:
                 }
             }
         }
+    }
+
+    [[nodiscard]] std::vector<EntradaDeDistancia> entradasDeDistancia() const {
+        const int cuantas = opciones_.LstDist.ListCount();
+        std::vector<EntradaDeDistancia> entradas;
+        entradas.reserve(static_cast<std::size_t>(cuantas));
+        for (int linea = 0; linea < cuantas; ++linea) {
+            entradas.emplace_back(opciones_.LstDist.List(linea));
+        }
+        return entradas;
     }
 
     void faseAPA() {
