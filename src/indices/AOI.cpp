@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
+#include <span>
 
 namespace varo {
 
@@ -38,10 +38,7 @@ class ColumnaAOI {
 public:
     ColumnaAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, bool unilateral, double k)
         : arboles_{vecindad.arboles}, vecindad_{vecindad}, unilateral_{unilateral}, radios_{radios}, k_{k},
-          todas_(arboles_.cuantos()), sinFallos_{vecindad.vecindario.fiable() && radios_.todosSinFallo() &&
-                                                 PesosSinFallo(arboles_, k)} {
-        std::iota(todas_.begin(), todas_.end(), Vecindario::Fila{0});
-    }
+          sinFallos_{vecindad.vecindario.fiable() && radios_.todosSinFallo() && PesosSinFallo(arboles_, k)} {}
 
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
@@ -75,7 +72,7 @@ private:
     std::span<const Vecindario::Fila> vecinos(std::size_t i, double Ri) {
         const bool sinFallos = sinFallos_ && arboles_.tamano(i) > 0 && Pi * (Ri * Ri) > 0;
         if (!sinFallos) {
-            return todas_;
+            return vecindad_.todas;
         }
         vecindad_.vecindario.buscar(i, Ri + radios_.mayor(), cercanas_);
         return cercanas_;
@@ -98,7 +95,6 @@ private:
     bool unilateral_;
     const RadiosDeInfluencia& radios_;
     double k_;
-    std::vector<Vecindario::Fila> todas_;
     std::vector<Vecindario::Fila> cercanas_;
     bool sinFallos_;
 };

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "indices/FuncionesDeLista.h"
-#include "indices/Seleccion.h"
+#include "indices/Vecindad.h"
 
 #include <vector>
 

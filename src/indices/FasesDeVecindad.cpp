@@ -99,7 +99,7 @@ private:
     void faseISC() {
         resultados_.NumISC = Pasadas(opciones_.ChISCBil, opciones_.ChISCUni);
         const int variantes = static_cast<int>(resultados_.NumISC);
-        resultados_.IndISC.redimensionar(variantes - 1, filas());
+        resultados_.IndISC.redimensionar(variantes - 1, cuantosArboles());
         const RadiosDeCopa radios{arboles(), FormaDeLaCopa(opciones_), programa_.sesion.FactorRadios.valor()};
         for (int variante = 0; variante < variantes; ++variante) {
             const Lado lado = LadoDe(variante + 1, opciones_.ChISCBil, opciones_.ChISCUni);
@@ -114,7 +114,7 @@ private:
         r.NumFuncAOI = opciones_.LstAOI.ListCount();
         r.NumLadosAOI = Pasadas(opciones_.ChAOIBil, opciones_.ChAOIUni);
         r.NumColAOI = Entero16{CuantosCaben(r.AOIk) * r.NumFuncAOI.valor() * r.NumLadosAOI.valor()};
-        r.IndAOI.redimensionar(r.NumColAOI.valor() - 1, filas() - 1);
+        r.IndAOI.redimensionar(r.NumColAOI.valor() - 1, cuantosArboles() - 1);
         int numero = -1;
         for (int pasada = 1; pasada <= r.NumLadosAOI.valor(); ++pasada) {
             const Lado lado = LadoDe(pasada, opciones_.ChAOIBil, opciones_.ChAOIUni);
@@ -144,7 +144,7 @@ private:
         r.NumLadosIDP = Pasadas(opciones_.ChIDPBil, opciones_.ChIDPUni);
         r.NumCentralIDP = Pasadas(opciones_.ChIDPSi, opciones_.ChIDPNo);
         r.NumColIDP = Entero16{r.NumLadosIDP.valor() * r.NumParamIDP * r.NumCentralIDP.valor()};
-        r.IndIDP.redimensionar(r.NumColIDP.valor() - 1, filas() - 1);
+        r.IndIDP.redimensionar(r.NumColIDP.valor() - 1, cuantosArboles() - 1);
         const ReglaDeSeleccion regla = ReglaElegida(opciones_, 0);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorAngulo};
         int numero = -1;
@@ -180,13 +180,10 @@ private:
         r.NumFuncDR = opciones_.LstDist.ListCount();
         r.NumColDR =
             Entero16{r.NumLadosDR.valor() * r.NumParamDR * r.NumFuncDR.valor() * CuantosCaben(r.DRk)};
-        r.IndDR.redimensionar(r.NumColDR.valor() - 1, filas() - 1);
+        r.IndDR.redimensionar(r.NumColDR.valor() - 1, cuantosArboles() - 1);
         const ReglaDeSeleccion regla = ReglaElegida(opciones_, 1);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorDistancia};
-        std::vector<EntradaDeDistancia> entradas;
-        for (int linea = 0; linea < r.NumFuncDR.valor(); ++linea) {
-            entradas.emplace_back(opciones_.LstDist.List(linea));
-        }
+        std::vector<EntradaDeDistancia> entradas = entradasDeDistancia();
         int numero = -1;
         for (int pasada = 1; pasada <= r.NumLadosDR.valor(); ++pasada) {
             const Lado lado = LadoDe(pasada, opciones_.ChDRBil, opciones_.ChDRUni);
@@ -206,11 +203,21 @@ private:
         }
     }
 
+    [[nodiscard]] std::vector<EntradaDeDistancia> entradasDeDistancia() const {
+        const int cuantas = opciones_.LstDist.ListCount();
+        std::vector<EntradaDeDistancia> entradas;
+        entradas.reserve(static_cast<std::size_t>(cuantas));
+        for (int linea = 0; linea < cuantas; ++linea) {
+            entradas.emplace_back(opciones_.LstDist.List(linea));
+        }
+        return entradas;
+    }
+
     void faseAPA() {
         auto& r = resultados_;
         r.APAk = LeerIntervalo(opciones_, 8);
         r.NumColAPA = Entero16{CuantosCaben(r.APAk)};
-        r.IndAPA.redimensionar(r.NumColAPA.valor() - 1, filas() - 1);
+        r.IndAPA.redimensionar(r.NumColAPA.valor() - 1, cuantosArboles() - 1);
         int numero = -1;
         for (const double k : ValoresDe(r.APAk)) {
             columna(r.IndAPA, ++numero, RotuloAPA(k),
@@ -244,8 +251,7 @@ private:
         }
     }
 
-    /// How many trees.
-    [[nodiscard]] int filas() { return static_cast<int>(arboles().cuantos()); }
+    [[nodiscard]] int cuantosArboles() { return static_cast<int>(arboles().cuantos()); }
 
     const Arboles& arboles() {
         if (!arboles_) {

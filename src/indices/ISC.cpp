@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
+#include <span>
 
 namespace varo {
 
@@ -23,10 +23,7 @@ float ASimple(double numero) {
 class VarianteISC {
 public:
     VarianteISC(Vecindad& vecindad, const RadiosDeCopa& radios, bool unilateral)
-        : arboles_{vecindad.arboles}, vecindad_{vecindad}, radios_{radios}, unilateral_{unilateral},
-          todas_(arboles_.cuantos()) {
-        std::iota(todas_.begin(), todas_.end(), Vecindario::Fila{0});
-    }
+        : arboles_{vecindad.arboles}, vecindad_{vecindad}, radios_{radios}, unilateral_{unilateral} {}
 
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
@@ -65,7 +62,7 @@ private:
     /// wrong.
     std::span<const Vecindario::Fila> vecinos(std::size_t i, double ri) {
         if (!vecindad_.vecindario.fiable() || !radios_.todosSinFallo()) {
-            return todas_;
+            return vecindad_.todas;
         }
         vecindad_.vecindario.buscar(i, ri + static_cast<double>(radios_.mayor()), cercanas_);
         return cercanas_;
@@ -84,7 +81,6 @@ private:
     Vecindad& vecindad_;
     const RadiosDeCopa& radios_;
     bool unilateral_;
-    std::vector<Vecindario::Fila> todas_;
     std::vector<Vecindario::Fila> cercanas_;
 };
 

@@ -3,7 +3,7 @@
 // the crowns as the circles of competition.
 #pragma once
 
-#include "indices/Seleccion.h"
+#include "indices/Vecindad.h"
 
 #include <vector>
 

@@ -7,7 +7,6 @@
 #include <functional>
 #include <limits>
 #include <numbers>
-#include <numeric>
 #include <utility>
 
 namespace varo {
@@ -21,18 +20,8 @@ constexpr Veredicto borde{Veredicto::Clase::Borde};
 
 } // namespace
 
-Vecindad::Vecindad(const Arboles& arboles_, const ContornoXY& contorno)
-    : arboles{arboles_}, borde{arboles_, contorno}, vecindario{arboles_} {
-    if (vecindario.fiable()) {
-        primero.emplace(arboles_);
-    }
-}
-
 Seleccion::Seleccion(Vecindad& vecindad, ReglaDeSeleccion regla, OrdenDeRango orden)
-    : vecindad_{vecindad}, arboles_{vecindad.arboles}, regla_{regla}, orden_{orden},
-      todas_(vecindad.arboles.cuantos()) {
-    std::iota(todas_.begin(), todas_.end(), Fila{0});
-}
+    : vecindad_{vecindad}, arboles_{vecindad.arboles}, regla_{regla}, orden_{orden} {}
 
 void Seleccion::poner(std::string entrada) {
     entrada_ = std::move(entrada);
@@ -47,7 +36,7 @@ void Seleccion::empezar(std::size_t i, bool unilateral) {
     pasoAPaso_ = !vecindario.fiable() || (orden_ == OrdenDeRango::PorAngulo && vecindario.comparteSitio(i));
     if (pasoAPaso_) {
         alcance_ = sinLimite;
-        candidatos_ = todas_;
+        candidatos_ = vecindad_.todas;
         return;
     }
     switch (regla_) {
@@ -106,9 +95,7 @@ void Seleccion::dejarLosPrimeros(double puesto) {
     const double umbral = claves_[static_cast<std::size_t>(puesto) - 1];
     std::erase_if(cercanas_, [&](Fila j) { return clave(j) < umbral; });
     candidatos_ = cercanas_;
-    if (orden_ == OrdenDeRango::PorDistancia) {
-        alcance_ = -umbral;
-    }
+    alcance_ = orden_ == OrdenDeRango::PorDistancia ? -umbral : 0;
 }
 
 /// The first competitor settles whether the subject is a border tree, however far it stands.

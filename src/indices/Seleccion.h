@@ -2,11 +2,8 @@
 // detection and the ranks that belong to them.
 #pragma once
 
-#include "indices/Arboles.h"
-#include "indices/Borde.h"
 #include "indices/FuncionesDeLista.h"
-#include "indices/PrimerCompetidor.h"
-#include "indices/Vecindario.h"
+#include "indices/Vecindad.h"
 
 #include <optional>
 #include <span>
@@ -32,16 +29,6 @@ struct Veredicto {
     int rango = 1; ///< meant only for an accepted candidate, ranked by angle or under a fixed number
 };
 
-/// What the selections of a run share.
-struct Vecindad {
-    Vecindad(const Arboles& arboles_, const ContornoXY& contorno);
-
-    const Arboles& arboles;
-    Borde borde;
-    Vecindario vecindario;
-    std::optional<PrimerCompetidor> primero; ///< where the vicinity is reliable
-};
-
 /// Distances in metres. Faults of two trees in one place: 11 under BAF, and wherever angles are ranked.
 class Seleccion {
 public:
@@ -56,12 +43,12 @@ public:
     /// Takes a subject, and works out its candidates.
     void empezar(std::size_t i, bool unilateral);
     /// In the order of the rows; the subject itself and trees without a size may be among them. A tree that
-    /// is left out is farther than `alcance`, would be rejected without a fault and is not the first that the
-    /// side rule lets through.
+    /// is left out is farther than `alcance` and would be rejected without a fault, or its turn never comes,
+    /// since the first one that the side rule lets through ends the subject.
     [[nodiscard]] std::span<const Fila> candidatos() const { return candidatos_; }
     [[nodiscard]] double alcance() const { return alcance_; }
     /// Makes every tree a candidate, for who does with a rejected one what may fault.
-    void mirarTodos() { candidatos_ = todas_; }
+    void mirarTodos() { candidatos_ = vecindad_.todas; }
 
     /// Judges a candidate that the side rule let through.
     Veredicto juzgar(std::size_t j);
@@ -106,7 +93,6 @@ private:
     bool clavesListas_ = false;
     std::vector<double> claves_; ///< of the trees that count in ranks, from the best to the worst
 
-    std::vector<Fila> todas_;
     std::vector<Fila> cercanas_;
 };
 

@@ -47,7 +47,7 @@ TEST(AOI, ElTextoCeroNoEsArbolPeroElCeroConDecimalesSi) {
     EXPECT_EQ(FalloDe([] { AOI(Parcelita{{{"0", "0", "0,0"}, {"2", "0", "1"}}}, {1, 0, 0, 0, 0}, 1); }), 11);
 }
 
-TEST(AOI, UnRadioNuloDivideporCeroSiHayCompetidor) {
+TEST(AOI, UnRadioNuloDividePorCeroSiHayCompetidor) {
     EXPECT_EQ(FalloDe([] {
                   AOI(Parcelita{{{"0", "0", "1"}, {"50", "0", "1"}}}, {-1, 0.01, 1, 0, 0}, 1);
               }),

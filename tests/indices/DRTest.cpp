@@ -48,7 +48,7 @@ TEST(DR, ElNumeroFijoTomaLosMasCercanosYNoLosMasGruesos) {
     EXPECT_EQ(PrimerDR(tres, numero, 1, inversa, 1, true), 0) << "el menor ocupa el sitio aunque no sume";
 }
 
-TEST(DR, ElNumeroFijoNoDivideporNingunaDistancia) {
+TEST(DR, ElNumeroFijoNoDividePorNingunaDistancia) {
     const std::vector<ArbolDado> juntos{{"0", "0", "1"}, {"0", "0", "0,5"}, {"2", "0", "1"}};
     EXPECT_EQ(PrimerDR(juntos, numero, 1, "HIP, a: 2,0000; b: 1,0000; c: 1,0000; d: 0,0000; e: 0,0000"),
               0.25);

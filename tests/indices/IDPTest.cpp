@@ -126,7 +126,7 @@ TEST(IDP, UnaCeldaQueNoEsNumeroDiceSuColumnaYSuFila) {
     }
 }
 
-TEST(IDP, UnBAFDe0DivideporCero) {
+TEST(IDP, UnBAFDe0DividePorCero) {
     EXPECT_EQ(FalloDe([] { PrimerIDP({{"0", "0", "1"}, {"2", "0", "1"}}, baf, 0); }), 11);
 }
 

@@ -83,7 +83,7 @@ TEST(Vecindario, NoEsFiableSiUnArbolConTamanoTieneUnaCeldaMala) {
     EXPECT_TRUE(fiable({"x", "1", ""})) << "sin tamaño no hay árbol";
 }
 
-TEST(Vecindario, LosTresLejosDeLosDemasNoLlenanLaRejilla) {
+TEST(Vecindario, UnArbolMuyLejosDeLosDemasSeEncuentraIgual) {
     // Trees far apart on one line; the cells stay in proportion to them.
     const Parcelita parcela{{{"0", "0", "1"}, {"1", "0", "1"}, {"1000000", "0", "1"}}};
     Filas filas;
