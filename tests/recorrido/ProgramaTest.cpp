@@ -1,0 +1,56 @@
+// The program as it is started: a process of its own at a screen.
+#include "apoyo/CarpetaTemporal.h"
+#include "recorrido/Manos.h"
+
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+
+namespace {
+
+constexpr int plazo = 30'000;
+
+/// The windows with this title that can be seen.
+qsizetype VentanasCon(const QString& titulo) {
+    QProcess proceso;
+    proceso.start("xdotool", {"search", "--onlyvisible", "--name", "^" + titulo + "$"});
+    proceso.waitForFinished(plazo);
+    return proceso.readAllStandardOutput().split('\n').size() - 1;
+}
+
+void EsperarVentanas(const QString& titulo, qsizetype cuantas) {
+    const QDeadlineTimer limite{plazo};
+    while (VentanasCon(titulo) != cuantas) {
+        ASSERT_FALSE(limite.hasExpired()) << titulo.toStdString();
+        QThread::msleep(20);
+    }
+}
+
+} // namespace
+
+TEST(Programa, UnArchivoQueNoSePuedeLeerSeDiceYElProgramaAcabaSinPreguntar) {
+    const CarpetaTemporal carpeta;
+    const auto roto = carpeta.Escribir("roto.xls", "esto no es un libro de cálculo");
+    QProcess varo;
+    varo.start(VARO, QStringList{});
+    ASSERT_TRUE(varo.waitForStarted(plazo));
+    const Manos manos;
+    EsperarVentanas("VARO 1.0", 1);
+    manos.tecla("alt+a");
+    manos.tecla("a");
+    EsperarVentanas("Abrir fichero de datos", 1);
+    manos.teclear(roto.string());
+    manos.tecla("Return");
+    EsperarVentanas("Abrir fichero de datos", 0);
+    EsperarVentanas("VARO 1.0", 2); // the frame and the box of the fault
+    manos.tecla("Return");
+    EXPECT_TRUE(varo.waitForFinished(plazo));
+    EXPECT_EQ(varo.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(varo.exitCode(), 0);
+}
+
+} // namespace varo::prueba
