@@ -185,12 +185,12 @@ private:
     static constexpr std::array renglonesDeFamilias{
         "# Índices de competencia entre vecinos: un renglón sin su # entra en el trabajo. Cada tres TxtBAF "
         "son",
-        "# el primer valor, el último y el paso de un barrido; con un solo valor, el paso es 0.",
+        "# el primer valor, el último y el paso de un barrido; con un solo valor, el paso es 1.",
         "# ChSupCopa = 1           # ISC, superposición de copas; con Optcirc en vez de OptElipse",
         "# ChAOIActivar = 1        # AOI, superposición de áreas de influencia",
         "# \"TxtBAF1(6)\" = 1.0      # exponente k",
         "# \"TxtBAF2(6)\" = 1.0",
-        "# \"TxtBAF3(6)\" = 0.0",
+        "# \"TxtBAF3(6)\" = 1.0",
         "# LstAOI = [ { a = 0.5, b = 0.1, c = 1.0, d = 0.0, e = 0.0 } ]   # radio = a + b d^c + d d^e, d en "
         "cm",
         "# ChIDPActivar = 1        # IDP, densidad puntual",
@@ -198,7 +198,7 @@ private:
         "LstRich(0)",
         "# \"TxtBAF1(0)\" = 4.0      # factor de área basimétrica, m2/ha",
         "# \"TxtBAF2(0)\" = 4.0",
-        "# \"TxtBAF3(0)\" = 0.0",
+        "# \"TxtBAF3(0)\" = 1.0",
         "# ChDRActivar = 1         # DR, distancias ponderadas por dimensiones",
         "# \"OptNumFijo(1)\" = true  # o OptBAF(1), OptRadioFijo(1) con TxtBAF1(2), OptFunc(1) con "
         "LstRich(1)",
@@ -207,12 +207,12 @@ private:
         "# \"TxtBAF3(3)\" = 1",
         "# \"TxtBAF1(4)\" = 1.0      # exponente k",
         "# \"TxtBAF2(4)\" = 1.0",
-        "# \"TxtBAF3(4)\" = 0.0",
+        "# \"TxtBAF3(4)\" = 1.0",
         "# LstDist = [ { tipo = \"HIP\", a = 1.0, b = 1.0, c = 1.0, d = 0.0, e = 0.0 } ]   # o \"EXP\"",
         "# ChAPA = 1               # APA, área potencialmente disponible",
         "# \"TxtBAF1(8)\" = 2.0      # exponente k",
         "# \"TxtBAF2(8)\" = 2.0",
-        "# \"TxtBAF3(8)\" = 0.0"};
+        "# \"TxtBAF3(8)\" = 1.0"};
 
     const std::filesystem::path& archivo_;
     const Coleccion<Tabla>& tablas_;

@@ -257,6 +257,7 @@ def de_dr():
         caso("dr_k_ultimo_cero", claro("dr_k", 7, 5), dr([HIP], "RadioFijo", "5", "6", k=("0,1", "0,3", "0,1"))),
         caso("dr_num_empate", empate, dr([EXP], "NumFijo", "1", "2", "1", uni=1), tamano="DAP cm"),
         caso("dr_num_en_un_lugar", mismo, dr([HIP], "NumFijo", "1", "2", "1")),
+        caso("dr_num_en_un_lugar_potencia", mismo, dr([hip(1, 1, -1)], "NumFijo", "1", "2", "1")),
         caso("dr_baf_en_un_lugar", mismo, dr([HIP], "BAF", "4", "4")),
         caso("dr_radio_en_un_lugar", mismo, dr([HIP, EXP], "RadioFijo", "6", "7", "1")),
         caso("dr_tamanos_cero", en_anillo(cerca, [30, 0, None, 24]),

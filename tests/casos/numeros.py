@@ -43,7 +43,9 @@ def raiz(x):
 
 
 def potencia(base, exponente):
-    if base == 0 and exponente < 0 or base < 0 and exponente != math.floor(exponente):
+    if base == 0 and exponente < 0:
+        raise Fallo(11)
+    if base < 0 and exponente != math.floor(exponente):
         raise Fallo(5)
     try:
         return math.pow(base, exponente)
