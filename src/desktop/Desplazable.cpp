@@ -8,18 +8,19 @@ Desplazable::Desplazable(QWidget* contenido) {
     setWidget(contenido);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus); // the keyboard is for the controls and the tabs
     contenido->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
 }
 
 QSize Desplazable::sizeHint() const {
-    return {minimumSizeHint().width(), widget()->sizeHint().height()};
+    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+            widget()->sizeHint().height()};
 }
 
 QSize Desplazable::minimumSizeHint() const {
-    constexpr int altoMinimo = 120;
-    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), altoMinimo};
+    constexpr QSize minimo{320, 120};
+    return minimo;
 }
 
 } // namespace varo

@@ -1,11 +1,11 @@
-// A part of a window that is moved up and down where the screen is too small for it.
+// A part of a window that is moved about where the screen is too small for it.
 #pragma once
 
 #include <QScrollArea>
 
 namespace varo {
 
-/// Takes the room of its content when there is room, and never less than its width.
+/// Takes the room of its content when there is room.
 class Desplazable : public QScrollArea {
 public:
     explicit Desplazable(QWidget* contenido);

@@ -68,7 +68,7 @@ Escritorio::Escritorio(ServiciosQt& servicios)
     programa_.alDescargar = [this](Formulario& modelo) { alDescargar(modelo); };
     programa_.alActivar = [this](Formulario& modelo) {
         cambioDeActiva_ = true;
-        vistas_.at(&modelo).ventana->raise(); // each one over the others in its turn, not the last one alone
+        ponerEncima(modelo);
     };
     programa_.alTerminarActo = [this] { alTerminarActo(); };
     connect(zona_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* subventana) {
@@ -212,6 +212,17 @@ void Escritorio::aplicarMedidas(const Formulario& modelo, Vista& vista) {
     const QPoint lugar{std::clamp(APuntos(medidas.x()), 0, std::max(0, sitio.width() - tamano.width())),
                        std::clamp(APuntos(medidas.y()), 0, std::max(0, sitio.height() - tamano.height()))};
     vista.ventana->setGeometry(QRect{lugar, tamano});
+}
+
+/// Each one over the others in its turn, not the last one of an act alone. A child has to be active for it:
+/// the toolkit raises once more the one that it takes the activation from.
+void Escritorio::ponerEncima(Formulario& modelo) {
+    const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
+    QWidget* const ventana = vistas_.at(&modelo).ventana;
+    if (modelo.tipo() == TipoVentana::Hija) {
+        zona_->setActiveSubWindow(static_cast<QMdiSubWindow*>(ventana));
+    }
+    ventana->raise();
 }
 
 void Escritorio::alTerminarActo() {

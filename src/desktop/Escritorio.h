@@ -56,6 +56,7 @@ private:
     void alDescargar(Formulario& modelo);
     void alTerminarActo();
     void soltarRetiradas();
+    void ponerEncima(Formulario& modelo);
     void darActivacion();
     void darFoco();
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <fstream>
 #include <initializer_list>
@@ -260,6 +261,20 @@ Trabajo LeerTrabajo(const fs::path& ruta, const Cambios& cambios) {
     return InterpretarTrabajo(texto, ruta, cambios);
 }
 
+namespace {
+
+/// The shortest digits of a number, as a person writes them: 0,00005.
+std::string SinExponente(double numero) {
+    std::array<char, 400> letras{};
+    const auto fin =
+        std::to_chars(letras.data(), letras.data() + letras.size(), numero, std::chars_format::fixed);
+    std::string texto{letras.data(), fin.ptr};
+    std::replace(texto.begin(), texto.end(), '.', ',');
+    return texto;
+}
+
+} // namespace
+
 std::optional<std::string> TextoTecleado(const ValorPedido& valor) {
     if (const auto* const texto = std::get_if<std::string>(&valor)) {
         return *texto;
@@ -268,7 +283,7 @@ std::optional<std::string> TextoTecleado(const ValorPedido& valor) {
         return std::to_string(*entero);
     }
     if (const auto* const decimal = std::get_if<double>(&valor)) {
-        return ATextoCorto(*decimal);
+        return SinExponente(*decimal);
     }
     return std::nullopt;
 }

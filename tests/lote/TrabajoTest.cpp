@@ -184,6 +184,8 @@ TEST(Trabajo, UnNumeroSeTecleaConComaDecimal) {
     EXPECT_EQ(TextoTecleado(1.5), "1,5");
     EXPECT_EQ(TextoTecleado(0.1), "0,1");
     EXPECT_EQ(TextoTecleado(-2.0), "-2");
+    EXPECT_EQ(TextoTecleado(0.00005), "0,00005");
+    EXPECT_EQ(TextoTecleado(1e21), "1000000000000000000000");
     EXPECT_EQ(TextoTecleado(std::int64_t{1000000}), "1000000");
     EXPECT_EQ(TextoTecleado(std::string{"0,5"}), "0,5");
     EXPECT_EQ(TextoTecleado(true), std::nullopt);

@@ -38,11 +38,14 @@ public:
 struct Intento {
     int control = 0;
     std::string texto;
+    int numero = 0;              ///< which line, or which tab
     bool porOtraVentana = false; ///< before, the person goes to the main window and comes back
+    bool porElCierre = false;    ///< before, the person closes the dialog with its close box
 };
 
 void showValue(const Intento& intento, std::ostream& salida) {
-    salida << intento.control << " «" << intento.texto << "»" << (intento.porOtraVentana ? " <-" : "");
+    salida << intento.control << " «" << intento.texto << "» " << intento.numero
+           << (intento.porOtraVentana ? " <-" : "") << (intento.porElCierre ? " x" : "");
 }
 
 rc::Gen<Intento> IntentoAlAzar(int controles) {
@@ -51,7 +54,9 @@ rc::Gen<Intento> IntentoAlAzar(int controles) {
                                                      "1,004", "0,00004", " 3 ", "ñ", "1E400");
     return rc::gen::build<Intento>(
         rc::gen::set(&Intento::control, rc::gen::inRange(0, controles)), rc::gen::set(&Intento::texto, texto),
-        rc::gen::set(&Intento::porOtraVentana, rc::gen::weightedElement<bool>({{9, false}, {1, true}})));
+        rc::gen::set(&Intento::numero, rc::gen::inRange(0, 7)),
+        rc::gen::set(&Intento::porOtraVentana, rc::gen::weightedElement<bool>({{9, false}, {1, true}})),
+        rc::gen::set(&Intento::porElCierre, rc::gen::weightedElement<bool>({{19, false}, {1, true}})));
 }
 
 class Manos {
@@ -61,7 +66,7 @@ public:
         opciones.Show();
         for (Control* control : opciones.controles()) {
             if (control->tipo() != TipoControl::Etiqueta && control->tipo() != TipoControl::Marco &&
-                control->tipo() != TipoControl::Imagen && control->tipo() != TipoControl::Fichas) {
+                control->tipo() != TipoControl::Imagen) {
                 controles.push_back(control);
             }
         }
@@ -73,10 +78,14 @@ public:
             usuario.activar(principal);
             usuario.activar(opciones);
         }
+        if (intento.porElCierre) {
+            usuario.cerrar(opciones);
+            opciones.Show();
+        }
         Control& control = *controles[static_cast<std::size_t>(intento.control)];
         const bool posible = !Usuario::impedimento(control);
         try {
-            hacer(control, intento.texto);
+            hacer(control, intento);
         } catch (const ActoImposible&) {
             RC_ASSERT(!posible);
         }
@@ -94,11 +103,15 @@ public:
     std::vector<Control*> controles;
 
 private:
-    void hacer(Control& control, const std::string& texto) {
+    void hacer(Control& control, const Intento& intento) {
         if (control.tipo() == TipoControl::CajaTexto) {
-            usuario.escribir(static_cast<CajaTexto&>(control), texto);
+            usuario.escribir(static_cast<CajaTexto&>(control), intento.texto);
+        } else if (control.tipo() == TipoControl::Fichas) {
+            usuario.mostrarFicha(static_cast<Fichas&>(control), intento.numero);
         } else if (control.tipo() == TipoControl::Lista && static_cast<Lista&>(control).ListCount() > 0) {
-            usuario.elegir(static_cast<Lista&>(control), 0);
+            auto& lista = static_cast<Lista&>(control);
+            const int linea = intento.numero % lista.ListCount();
+            usuario.elegir(lista, linea, !lista.Selected(linea));
         } else {
             usuario.clic(control);
         }

@@ -117,20 +117,27 @@ TEST_F(CamposNumericos, VaciarUnIntervaloNoDiceNadaYVaciarUnCoeficienteSi) {
 }
 
 TEST_F(CamposNumericos, CadaCampoDeCadaFamiliaAtiendeASuRegla) {
+    // While it is typed, and again when the field is left, which it then is not.
+    const auto rechazado = [&](CajaTexto& campo, const std::string& texto, const Aviso& reparo) {
+        SCOPED_TRACE(campo.nombreCompleto());
+        conAvisos({reparo}, [&] { teclear(campo, texto); });
+        conAvisos({reparo}, [&] { dejar(); });
+        EXPECT_EQ(programa.foco(), &campo);
+    };
     for (int i = 0; i < 5; ++i) {
         for (CajaTexto* campo : {&opciones.TxtEXP(i), &opciones.TxtRm(i)}) {
-            conAvisos({avisoNumerico}, [&] { teclear(*campo, "x"); });
+            rechazado(*campo, "x", avisoNumerico);
             conAvisos({}, [&] { teclear(*campo, "-1"); });
         }
     }
     for (int i = 0; i < 6; ++i) {
-        conAvisos({avisoNegativo}, [&] { teclear(opciones.TxtRich(i), "-1"); });
+        rechazado(opciones.TxtRich(i), "-1", avisoNegativo);
         conAvisos({}, [&] { teclear(opciones.TxtRich(i), "1"); });
     }
     usuario.clic(opciones.OptHiper(0));
     usuario.clic(opciones.OptHiper(1));
     for (int i = 0; i < 14; ++i) {
-        conAvisos({avisoSeparacion}, [&] { teclear(opciones.TxtHIP(i), "1."); });
+        rechazado(opciones.TxtHIP(i), "1.", avisoSeparacion);
         conAvisos({}, [&] { teclear(opciones.TxtHIP(i), "-1"); });
     }
     usuario.clic(opciones.OptBAF(0));

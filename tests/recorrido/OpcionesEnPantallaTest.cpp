@@ -129,6 +129,7 @@ void EscribirEnDP(const Manos& manos) {
     Activar(manos, 4, "ChIDPActivar");
     Comprobar(manos, "TxtBAF1(0)",
               {{"1.5", conPunto}, {"1,5", ninguno}, {"-1", ninguno}, {"", ninguno}, {"abc", noEsNumero}});
+    ComprobarAlDejar(manos, "TxtBAF1(0)", noEsNumero);
     EXPECT_EQ(Escribir(manos, "TxtBAF1(0)", "1"), ninguno);
     manos.clic(opciones, "OptNumFijo(0)", EnLaMarca);
     manos.foto("opciones-4-numero-fijo");
