@@ -123,7 +123,7 @@ void FichasPedidas::keyPressEvent(QKeyEvent* suceso) {
         pedirLaSiguiente(suceso->key() == Qt::Key_Tab ? 1 : -1);
         return;
     }
-    QWidget::keyPressEvent(suceso);
+    QTabWidget::keyPressEvent(suceso);
 }
 
 } // namespace varo

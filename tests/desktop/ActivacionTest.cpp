@@ -230,6 +230,26 @@ TEST_F(TresVentanas, ElTabuladorVuelveAlCampoQueRecuperaElFoco) {
     libre.CboHoja.LostFocus = nullptr;
 }
 
+TEST_F(TresVentanas, UnNombreEscritoComoUnaLineaNoEsUnaEleccionYElBotonSePulsa) {
+    int elecciones = 0;
+    libre.CboHoja.AddItem("Notas$");
+    libre.CboHoja.AddItem("Parcela1$");
+    libre.CboHoja.Click = [&elecciones] { ++elecciones; };
+    Escribir(campo(), "Parcela1$");
+    int cambios = 0;
+    libre.CboHoja.Change = [&cambios] { ++cambios; };
+    Clic(boton());
+    EXPECT_EQ(clics, 1);
+    EXPECT_EQ(salidas, 1);
+    EXPECT_EQ(elecciones, 0);
+    EXPECT_EQ(cambios, 0);
+    EXPECT_EQ(programa.foco(), &libre.CmdAceptar);
+    EXPECT_TRUE(boton().hasFocus());
+    EXPECT_EQ(libre.CboHoja.Text(), "Parcela1$");
+    libre.CboHoja.Click = nullptr;
+    libre.CboHoja.Change = nullptr;
+}
+
 TEST_F(TresVentanas, ElFocoQueDaElProgramaSeVe) {
     programa.atender([this] { libre.CmdCancelar.SetFocus(); });
     Reposar();
@@ -247,6 +267,20 @@ TEST_F(ActivacionDeLosDialogos, ElDeColumnasSePreparaCadaVezQueSeActiva) {
     programa.sesion.UltimaColumna = 0;
     clicColumna(3);
     EXPECT_EQ(programa.sesion.UltimaColumna, 0); // the dialog is on show, but the sheet is active
+    clic("SelCol4R", "Label1");
+    EXPECT_EQ(programa.sesion.UltimaColumna, 7);
+}
+
+TEST_F(ActivacionDeLosDialogos, TrasElegirArchivoLaSeleccionDeHojaEstaActivaSinPasarPorElDeColumnas) {
+    llegarA(Etapa::Columnas);
+    cerrar("Hojadedatos");
+    clic("SelCol4R", "List1"); // the focus of the frame lies in it
+    ASSERT_EQ(programa.activa(), modelo("SelCol4R"));
+    programa.sesion.UltimaColumna = 0;
+    abrirArchivo();
+    EXPECT_EQ(programa.activa(), modelo("FrmSeleccion"));
+    EXPECT_TRUE(ventana("FrmSeleccion").isActiveWindow());
+    EXPECT_EQ(programa.sesion.UltimaColumna, 0); // its activation would have set it
     clic("SelCol4R", "Label1");
     EXPECT_EQ(programa.sesion.UltimaColumna, 7);
 }

@@ -1,10 +1,12 @@
 // The window that names the results file: folders, files, a name, and the file that comes of it.
 #include "desktop/Pantalla.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace varo::prueba {
@@ -41,6 +43,13 @@ protected:
         QTest::mouseClick(carpetas.viewport(), Qt::LeftButton, Qt::NoModifier, lugar(carpetas, texto));
         QTest::mouseDClick(carpetas.viewport(), Qt::LeftButton, Qt::NoModifier, lugar(carpetas, texto));
         Reposar();
+    }
+    /// The labels of the window that show this path.
+    auto rotulosCon(const std::filesystem::path& ruta) const {
+        const auto rotulos = ventana("FrmCrearArchivo").findChildren<QLabel*>();
+        return std::count_if(rotulos.begin(), rotulos.end(), [&](const QLabel* rotulo) {
+            return rotulo->isVisible() && rotulo->text().toStdString() == ruta.string();
+        });
     }
     void clicArchivo(const QString& texto) const {
         QListWidget& archivos = lista("FilLista");
@@ -80,7 +89,38 @@ TEST_F(CrearArchivoEnPantalla, UnClicSoloNoCambiaDeCarpeta) {
     EXPECT_TRUE(lineas(lista("FilLista")).contains("viejo.txt"));
 }
 
+TEST_F(CrearArchivoEnPantalla, EntrarEnUnaCarpetaNoEscribeNada) {
+    Escribir(nombre(), "nuevo.txt");
+    QListWidget& carpetas = lista("DirLista");
+    Clic(*carpetas.viewport(), lugar(carpetas, "dentro"));
+    QTest::keyClick(&carpetas, Qt::Key_Return);
+    Reposar();
+    EXPECT_EQ(lineas(lista("FilLista")), QStringList{"otro.txt"});
+    EXPECT_TRUE(contestador.cajas().empty());
+    EXPECT_TRUE(alaVista("FrmCrearArchivo"));
+    EXPECT_EQ(nombre().text(), "nuevo.txt");
+    EXPECT_FALSE(std::filesystem::exists(carpeta / "nuevo.txt"));
+    EXPECT_FALSE(std::filesystem::exists(carpeta / "dentro/nuevo.txt"));
+}
+
+TEST_F(CrearArchivoEnPantalla, LaCarpetaALaVistaEsLaDeLosArchivos) {
+    const auto aqui = std::filesystem::current_path();
+    EXPECT_EQ(rotulosCon(aqui), 1);
+    entrarEn("dentro");
+    EXPECT_EQ(rotulosCon(aqui / "dentro"), 1);
+    EXPECT_EQ(rotulosCon(aqui), 0);
+    entrarEn("..");
+    EXPECT_EQ(rotulosCon(aqui), 1);
+}
+
 TEST_F(CrearArchivoEnPantalla, UnArchivoElegidoPoneSuNombre) {
+    clicArchivo("viejo.txt");
+    EXPECT_EQ(nombre().text(), "viejo.txt");
+}
+
+TEST_F(CrearArchivoEnPantalla, UnClicEnElArchivoYaElegidoDevuelveSuNombre) {
+    clicArchivo("viejo.txt");
+    Escribir(nombre(), "nuevo.txt");
     clicArchivo("viejo.txt");
     EXPECT_EQ(nombre().text(), "viejo.txt");
 }

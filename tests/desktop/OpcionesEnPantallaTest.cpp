@@ -4,6 +4,7 @@
 #include "desktop/Pantalla.h"
 #include "options/OpcionesPrograma.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -12,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTest>
 
 #include <algorithm>
 #include <array>
@@ -98,6 +100,16 @@ protected:
         EXPECT_TRUE(de(otro).isVisible()) << otro;
         EXPECT_EQ(de(otro).geometry(), sitio) << otro;
         EXPECT_EQ(de("CmdAceptar").mapTo(de("CmdAceptar").window(), QPoint{}), pie);
+    }
+    /// It alone of the kinds of crown data, in the model and on the screen, and with the focus.
+    void esperarElegida(const std::string& nombre) const {
+        for (const Opcion* const opcion : opciones().datosDeCopa) {
+            const bool esta = opcion->nombreCompleto() == nombre;
+            EXPECT_EQ(opcion->Value(), esta) << opcion->nombreCompleto();
+            EXPECT_EQ(dynamic_cast<QRadioButton&>(de(opcion->nombreCompleto())).isChecked(), esta);
+        }
+        EXPECT_EQ(QApplication::focusWidget(), &de(nombre));
+        EXPECT_EQ(programa.foco(), buscar(nombre));
     }
     Control* buscar(const std::string& nombre) const {
         for (Control* const control : opciones().controles()) {
@@ -187,6 +199,38 @@ TEST_F(LasOpcionesEnPantalla, UnRadioMedioSoloDejaElegirCirculos) {
     // The other groups keep their own.
     EXPECT_TRUE(dynamic_cast<QRadioButton&>(de("Optdecim")).isChecked());
     EXPECT_TRUE(dynamic_cast<QRadioButton&>(de("OptCAP")).isChecked());
+}
+
+TEST_F(LasOpcionesEnPantalla, LasFlechasEligenLaOpcionSiguienteDeSuGrupo) {
+    clicFicha(0);
+    clic("OpcionesPrograma", "Opt4R");
+    const std::vector<std::pair<Qt::Key, const char*>> pasos{
+        {Qt::Key_Down, "Opt2D"}, {Qt::Key_Right, "OptRM"}, {Qt::Key_Down, "Opt4R"},
+        {Qt::Key_Up, "OptRM"},   {Qt::Key_Left, "Opt2D"},  {Qt::Key_Up, "Opt4R"}};
+    for (const auto& [flecha, elegida] : pasos) {
+        QTest::keyClick(QApplication::focusWidget(), flecha);
+        Reposar();
+        esperarElegida(elegida);
+    }
+    EXPECT_TRUE(opciones().Optdecim.Value()); // the group that stands beside it keeps its own
+}
+
+TEST_F(LasOpcionesEnPantalla, LasFlechasPasanPorAltoLaOpcionInhabilitada) {
+    clicFicha(0);
+    opciones().Opt2D.Enabled = false;
+    clic("OpcionesPrograma", "Opt4R");
+    for (const auto& [flecha, elegida] : {std::pair{Qt::Key_Down, "OptRM"}, {Qt::Key_Up, "Opt4R"}}) {
+        QTest::keyClick(QApplication::focusWidget(), flecha);
+        Reposar();
+        esperarElegida(elegida);
+    }
+    clic("OpcionesPrograma", "OptRM"); // leaves circles as the only shape
+    clic("OpcionesPrograma", "Optcirc");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    Reposar();
+    EXPECT_TRUE(opciones().Optcirc.Value());
+    EXPECT_FALSE(opciones().OptElipse.Value());
+    EXPECT_TRUE(de("Optcirc").hasFocus());
 }
 
 // --- Sets that share a place ---

@@ -183,6 +183,12 @@ TEST_F(UnControlYSuWidget, LosRotulosMuestranSuLeyendaYLaQueSeLesDe) {
     EXPECT_EQ(marco->title().toStdString(), "otra ñ");
 }
 
+TEST_F(UnControlYSuWidget, UnRotuloSeVeComoEstaEscrito) {
+    modelo.etiqueta.Caption = "<b>x</b>";
+    EXPECT_EQ(etiqueta->text(), "<b>x</b>");
+    EXPECT_GE(etiqueta->sizeHint().width(), etiqueta->fontMetrics().horizontalAdvance("<b>x</b>"));
+}
+
 // --- Buttons, checks and options ---
 
 TEST_F(UnControlYSuWidget, UnBotonPulsadoLlegaUnaVez) {
@@ -356,6 +362,13 @@ TEST_F(UnControlYSuWidget, EnUnaListaDeUnaSolaCadaClicLlegaUnaVez) {
     clicEnLinea(*una, 2);
     EXPECT_EQ(seleccion(modelo.Una), (Seleccion{false, false, true}));
     EXPECT_EQ(seleccion(*una), (Seleccion{false, false, true}));
+    EXPECT_EQ(modelo.clics, 2);
+}
+
+TEST_F(UnControlYSuWidget, EnUnaListaDeUnaSolaTambienLlegaElClicEnLaElegida) {
+    clicEnLinea(*una, 1);
+    clicEnLinea(*una, 1);
+    EXPECT_EQ(seleccion(modelo.Una), (Seleccion{false, true, false}));
     EXPECT_EQ(modelo.clics, 2);
 }
 
