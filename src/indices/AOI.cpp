@@ -6,6 +6,7 @@
 #include "plot/AreaInterseccionCirculos.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <span>
 
@@ -70,7 +71,8 @@ public:
 private:
     /// The trees whose circle may meet the subject's. The others would add 0, unless a step with them faults.
     std::span<const Vecindario::Fila> vecinos(std::size_t i, double Ri) {
-        const bool sinFallos = sinFallos_ && arboles_.tamano(i) > 0 && Pi * (Ri * Ri) > 0;
+        const double propia = Pi * (Ri * Ri);
+        const bool sinFallos = sinFallos_ && arboles_.tamano(i) > 0 && propia > 0 && std::isfinite(propia);
         if (!sinFallos) {
             return vecindad_.todas;
         }
@@ -87,7 +89,7 @@ private:
         const double xj = arboles_.x(j);
         const double yj = arboles_.y(j);
         const double area = AreaInterseccionCirculos(xi, yi, xj, yj, Ri, Rj);
-        return Dividir(area, Pi * (Ri * Ri)) * w;
+        return Dividir(area, ExigirFinito(Pi * (Ri * Ri))) * w;
     }
 
     const Arboles& arboles_;

@@ -66,8 +66,8 @@ void Trazar(const ContornoXY& contorno, const Punto& dentro, const Punto& otro, 
     }
 }
 
-/// Whether a side goes from the inside to the outside. A side with both ends outside says nothing: it is
-/// meant.
+/// Whether a side goes from the inside to the outside. A side with both ends outside says nothing, so a cell
+/// that lies wholly outside counts as whole; published values have been worked out so.
 bool LaCortaElContorno(std::span<const Punto> vertices, const ContornoXY& contorno,
                        std::vector<TrazoAPA>* trazos) {
     bool cortada = false;

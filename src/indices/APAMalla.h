@@ -27,7 +27,6 @@ public:
     /// A distance that no two trees exceed, and the largest coordinate without its sign.
     [[nodiscard]] double extension() const { return extension_; }
     [[nodiscard]] double mayorCoordenada() const { return mayorCoordenada_; }
-    [[nodiscard]] double mayorPeso() const { return mayorPeso_; }
     /// The side of a cell, which holds two trees on average.
     [[nodiscard]] double lado() const { return lado_; }
 

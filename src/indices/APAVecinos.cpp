@@ -36,7 +36,7 @@ Punto ColocarVecino(const PesosAPA& pesos, std::size_t i, std::size_t j) {
     if (xj > xi && yj < yi) {
         return {xi + dx, yi - dy};
     }
-    // A tree straight to the left lands to the right: it is meant.
+    // A tree straight to the left lands to the right; published values have been worked out so.
     return {xi + dx, yi + dy};
 }
 

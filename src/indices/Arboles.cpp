@@ -13,7 +13,8 @@ namespace {
 
 constexpr double sinNumero = std::numeric_limits<double>::quiet_NaN();
 
-/// The texts of a point as one key; a cell holds no line feed between two numbers that equal a vertex's.
+/// The texts of a point as one key. Those of a vertex hold no line feed, so that only its own two texts make
+/// its key.
 std::string Clave(const std::string& x, const std::string& y) {
     return x + '\n' + y;
 }

@@ -68,7 +68,7 @@ Rotulos RotulosDR(const OpcionesPrograma& opciones, ResultadosIndices& r) {
     const std::string prefijo = PrefijoDeRegla(ReglaElegida(opciones, 1));
     Rotulos rotulos;
     for (int pasada = 1; pasada <= r.NumLadosDR.valor(); ++pasada) {
-        // The check of IDP is meant, whatever the one of DR says.
+        // The check of IDP, whatever the one of DR says: files in use are labelled so.
         const Lado lado = LadoEnRotulo(pasada, r.NumLadosDR.valor(), opciones.ChIDPBil);
         for (const double k : ValoresDe(r.DRk)) {
             for (int entrada = 1; entrada <= r.NumFuncDR.valor(); ++entrada) {

@@ -31,10 +31,6 @@ double TamanoDeCelda(const std::string& celda) {
     return Val(Reemplazar(celda, ",", "."));
 }
 
-bool EsRazon(Independiente familia) {
-    return familia >= Independiente::Dmed;
-}
-
 std::string ConsultaEstadistico(Independiente familia, const std::string& campo, const std::string& tabla) {
     const std::string origen = "FROM [" + tabla + "]";
     const std::string conTamano = origen + " WHERE [" + campo + "] <> 0";

@@ -18,9 +18,6 @@ namespace varo {
 /// The size of a tree as these families read its cell: every comma a point, then the leading number.
 double TamanoDeCelda(const std::string& celda);
 
-/// True for the families that divide a size by a statistic: all but N, AB and ABj.
-bool EsRazon(Independiente familia);
-
 /// The query for the statistic of a family; not for the dominant trees.
 std::string ConsultaEstadistico(Independiente familia, const std::string& campo, const std::string& tabla);
 

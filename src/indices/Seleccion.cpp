@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
-#include <numbers>
 #include <utility>
 
 namespace varo {
@@ -74,7 +73,7 @@ void Seleccion::empezarPorNumero() {
                                                     : std::max(vecindario.mayorD(), 0.0) / radio * (1 + 1E-9);
     };
     const double abundantes = std::min(2 * puesto + 6, static_cast<double>(vecindario.cuantos()));
-    double radio = vecindario.lado() * std::sqrt(abundantes / (2 * std::numbers::pi));
+    double radio = vecindario.lado() * std::sqrt(abundantes / (2 * Pi));
     for (;; radio *= 1.5) {
         proponer(radio);
         ordenarClaves();

@@ -1,4 +1,4 @@
-// APA step by step, as it is told: every search over all rows, every table rebuilt for each subject, nothing
+// APA step by step: every search over all rows, every table rebuilt for each subject, nothing
 // left out. The judge of the fast one.
 #pragma once
 

@@ -225,6 +225,35 @@ TEST(FasesDeVecindad, UnaCasillaEncendidaTrasLaCorridaNoTieneColumnas) {
     EXPECT_EQ(corrida.cabecera(), "");
 }
 
+TEST(FasesDeVecindad, ElAOISinFuncionesConservaLasColumnasDeLaCorridaAnterior) {
+    Corrida corrida;
+    corrida.opciones().ChAOIActivar.Value = 1;
+    corrida.opciones().LstAOI.AddItem(radioUno);
+    corrida.correr();
+    const std::string antes = corrida.guardar();
+    EXPECT_NE(antes.find("\tAOI(k:0;Ec:1;Bil.)\r\n1\t1\t-1,00\r"), std::string::npos);
+    corrida.opciones().LstAOI.Clear();
+    corrida.correr();
+    EXPECT_EQ(corrida.guardar(), antes);
+}
+
+TEST(FasesDeVecindad, UnaCasillaEncendidaTrasLaCorridaLeeLaTablaDeOtraConLaReglaDeAhora) {
+    Corrida corrida;
+    auto& rejilla = corrida.programa.tocar<Hojadedatos>().MSFlexGrid1;
+    rejilla.Rows(3);
+    corrida.pedirIDP();
+    corrida.correr();
+    rejilla.Rows(6);
+    corrida.opciones().ChIDPActivar.Value = 0;
+    corrida.correr();
+    corrida.opciones().ChIDPActivar.Value = 1;
+    corrida.opciones().OptBAF(0).Value = true;
+    // The table has two trees; the cells of the others are left out with their tabs.
+    EXPECT_EQ(DeWindows1252(corrida.guardar()),
+              "NºOrden\tNºArbol\tIDP(BAF:20;Bil.;Sí)\r\n1\t1\t-1,00\r2\t2\t-1,00\r3\t\r4\t\r5\t\r\r\n");
+    EXPECT_EQ(corrida.programa.fallosAlGuardar.size(), 3U);
+}
+
 TEST(FasesDeVecindad, ElISCLlevaCuatroDecimales) {
     Corrida corrida;
     corrida.opciones().Optcirc.Value = true;

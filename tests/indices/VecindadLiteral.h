@@ -216,7 +216,7 @@ private:
             const double w = Potencia(Dividir(ANumero(p_.tamano[j]), ANumero(p_.tamano[i])), k);
             const double Rj = radio.en(Dj);
             const double area = interseccion(i, j, Ri, Rj);
-            suma = ExigirFinito(suma + Dividir(area, 3.1415927 * (Ri * Ri)) * w);
+            suma = ExigirFinito(suma + Dividir(area, ExigirFinito(3.1415927 * (Ri * Ri))) * w);
         }
         return suma;
     }
