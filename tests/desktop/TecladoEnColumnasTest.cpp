@@ -1,0 +1,64 @@
+// The column dialog under the keyboard: it has no button of its own for Enter and none for Escape.
+#include "data/SelColumnas.h"
+#include "desktop/Pantalla.h"
+
+#include <QApplication>
+#include <QTest>
+
+namespace varo::prueba {
+
+class ElDialogoDeColumnas : public Pantalla {
+protected:
+    ElDialogoDeColumnas() {
+        llegarA(Etapa::Columnas);
+        clicColumna(2);
+    }
+
+    SelColumnas& dialogo() const { return dynamic_cast<SelColumnas&>(*modelo("SelCol4R")); }
+    QWidget& de(const std::string& control) const { return widget("SelCol4R", control); }
+    void enfocar(const std::string& control) const {
+        activar("SelCol4R");
+        de(control).setFocus();
+        Reposar();
+        ASSERT_EQ(QApplication::focusWidget(), &de(control));
+    }
+    static void tecla(Qt::Key tecla) {
+        QTest::keyClick(QApplication::focusWidget(), tecla);
+        Reposar();
+    }
+};
+
+TEST_F(ElDialogoDeColumnas, EntrarPulsaElBotonQueTieneElFocoUnaVez) {
+    enfocar("Command1(0)");
+    tecla(Qt::Key_Return);
+    ASSERT_EQ(dialogo().List1.ListCount(), 1);
+    EXPECT_EQ(dialogo().List1.List(0), "Coordenada X: Columna: 3 (X)");
+    EXPECT_FALSE(de("Command1(0)").isEnabled());
+    enfocar("CmdQuitarTodo");
+    tecla(Qt::Key_Enter);
+    EXPECT_EQ(dialogo().List1.ListCount(), 0);
+    EXPECT_TRUE(de("Command1(0)").isEnabled());
+}
+
+TEST_F(ElDialogoDeColumnas, EntrarYEscaparFueraDeUnBotonNoHacenNada) {
+    clic("SelCol4R", "Command1(0)");
+    enfocar("List1");
+    for (const Qt::Key nada : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+        tecla(nada);
+        EXPECT_TRUE(alaVista("SelCol4R"));
+        EXPECT_EQ(dialogo().List1.ListCount(), 1);
+        EXPECT_EQ(programa.activa(), &dialogo());
+        EXPECT_EQ(programa.foco(), &dialogo().List1);
+    }
+    EXPECT_TRUE(alaVista("Hojadedatos"));
+    EXPECT_EQ(menusHabilitados(), "mnuCerrar mnuOpciones");
+}
+
+TEST_F(ElDialogoDeColumnas, EscaparEnUnBotonNoLoPulsaNiCierraElDialogo) {
+    enfocar("Command1(0)");
+    tecla(Qt::Key_Escape);
+    EXPECT_TRUE(alaVista("SelCol4R"));
+    EXPECT_EQ(dialogo().List1.ListCount(), 0);
+}
+
+} // namespace varo::prueba
