@@ -204,11 +204,11 @@ void Escritorio::aplicarMedidas(const Formulario& modelo, Vista& vista) {
         return;
     }
     vista.medidas = medidas;
-    // Never smaller than what lies in it, and within the frame as long as that has room.
+    // As wide as what lies in it, and within the frame as long as that has room.
     const QSize sitio = zona_->viewport()->size();
+    const int ancho = std::max(APuntos(medidas.width()), vista.ventana->sizeHint().width());
     const QSize tamano =
-        QSize{APuntos(medidas.width()), APuntos(medidas.height())}.boundedTo(sitio).expandedTo(
-            vista.ventana->minimumSizeHint());
+        QSize{ancho, APuntos(medidas.height())}.boundedTo(sitio).expandedTo(vista.ventana->minimumSizeHint());
     const QPoint lugar{std::clamp(APuntos(medidas.x()), 0, std::max(0, sitio.width() - tamano.width())),
                        std::clamp(APuntos(medidas.y()), 0, std::max(0, sitio.height() - tamano.height()))};
     vista.ventana->setGeometry(QRect{lugar, tamano});

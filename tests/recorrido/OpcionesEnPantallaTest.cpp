@@ -110,6 +110,7 @@ void Activar(const Manos& manos, int ficha, const QString& casilla) {
     manos.esperar(casilla.toStdString() + " encendida",
                   [&] { return dynamic_cast<QCheckBox&>(*ControlDe(opciones, casilla)).isChecked(); });
     manos.foto("opciones-" + std::to_string(ficha) + "-encendida");
+    EXPECT_EQ(manos.leer(opciones, "", LoQueNoCabe), "") << ficha;
 }
 
 void EscribirEnAOI(const Manos& manos) {

@@ -1,6 +1,8 @@
 #include "recorrido/Pasos.h"
 
 #include <QHeaderView>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
 
@@ -47,6 +49,18 @@ Manos::Sitio EnLaFicha(int ficha) {
         auto* const barra = widget.findChild<QTabBar*>();
         return barra->mapTo(&widget, barra->tabRect(ficha).center());
     };
+}
+
+QString LoQueNoCabe(QWidget& ventana) {
+    QStringList partes;
+    for (const QScrollArea* const zona : ventana.findChildren<QScrollArea*>()) {
+        const bool cabe =
+            !zona->horizontalScrollBar()->isVisible() && !zona->verticalScrollBar()->isVisible();
+        if (zona->isVisible() && !cabe) {
+            partes << zona->widget()->metaObject()->className();
+        }
+    }
+    return partes.join(' ');
 }
 
 void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo) {

@@ -25,6 +25,9 @@ void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo);
 /// Accepts "(ninguna)", reads what that is answered with, and then chooses the first sheet.
 void ElegirHoja(const Manos& manos);
 
+/// The parts of a window that can be seen and do not show all that lies in them.
+QString LoQueNoCabe(QWidget& ventana);
+
 /// The program, started as main() starts it.
 struct Programado {
     Programado();

@@ -55,6 +55,7 @@ void ElegirColumnas(const Manos& manos) {
 void GuardarIndices(const Manos& manos, const std::filesystem::path& resultados) {
     manos.esperarVentana("FrmFormato");
     manos.foto("10-formato");
+    EXPECT_EQ(manos.leer("FrmFormato", "", LoQueNoCabe), "");
     manos.clic("FrmFormato", "CmdAceptar");
     manos.esperarVentana("FrmMapa");
     manos.foto("11-mapa");
