@@ -40,8 +40,8 @@ Mensaje Responder(const Manos& manos) {
         return manos.leer(caja, "",
                           [&](QWidget& widget) { return parte(dynamic_cast<QMessageBox&>(widget)); });
     };
-    const Mensaje mensaje{leer([](QMessageBox& widget) { return widget.text(); }),
-                          leer([](QMessageBox& widget) { return widget.windowTitle(); })};
+    Mensaje mensaje{leer([](QMessageBox& widget) { return widget.text(); }),
+                    leer([](QMessageBox& widget) { return widget.windowTitle(); })};
     if (!(mensaje == ninguno)) {
         manos.esperarVentana(caja);
         manos.tecla("Return");
