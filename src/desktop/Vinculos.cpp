@@ -99,8 +99,7 @@ Opcion& Siguiente(Opcion& actual, int paso) {
 
 } // namespace
 
-Vinculos::Vinculos(Ventanas& ventanas, QObject* padre)
-    : QObject{padre}, ventanas_{ventanas}, usuario_{ventanas} {}
+Vinculos::Vinculos(Ventanas& ventanas) : ventanas_{ventanas}, usuario_{ventanas} {}
 
 Vinculos::~Vinculos() {
     soltar();

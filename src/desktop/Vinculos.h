@@ -32,7 +32,7 @@ namespace varo {
 /// control by Usuario, as without a screen. A widget is named after its control: "TxtBAF1(6)".
 class Vinculos : public QObject {
 public:
-    explicit Vinculos(Ventanas& ventanas, QObject* padre = nullptr);
+    explicit Vinculos(Ventanas& ventanas);
     ~Vinculos() override;
 
     QLabel* etiqueta(Etiqueta& control);

@@ -47,9 +47,9 @@ bool EsDeSuClase(const QWidget& widget, TipoControl tipo) {
     }
 }
 
-/// A formula as it may be set in one line, without blanks and marks of subscripts.
+/// A formula as it may be set in one line, without blanks.
 QString SinAdornos(QString formula) {
-    return formula.remove(' ').remove('_').replace(QString::fromUtf8("²"), "^2");
+    return formula.remove(' ').replace(QString::fromUtf8("²"), "^2");
 }
 
 } // namespace
@@ -285,8 +285,8 @@ TEST_F(LasOpcionesEnPantalla, CadaFormulaDiceLoQueMuestra) {
         {"Image6(1)", "dist = A − k (1 / (a + b DBH^c + d DBH^e))"},
         {"Image7", "DR_ksf = Σ (j = 1..n) (R_sij)^k f(D_ij)"},
         {"ImgAPA", "W_k = d_i^k / (d_i^k + d_j^k)"},
-        {"ImgExp2", "f(Dij) = e^(−(a + b Dij^c + d Dij^e))"},
-        {"ImgHiper2", "f(Dij) = 1 / (a + b Dij^c + d Dij^e)"},
+        {"ImgExp2", "f(D_ij) = e^(−(a + b D_ij^c + d D_ij^e))"},
+        {"ImgHiper2", "f(D_ij) = 1 / (a + b D_ij^c + d D_ij^e)"},
         {"ImgRm", "Rm = a + b (DBH)^c + d (DBH)^e"}};
     for (const auto& [nombre, formula] : formulas) {
         EXPECT_EQ(SinAdornos(de(nombre).accessibleName()).toStdString(),
