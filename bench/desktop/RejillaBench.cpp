@@ -1,7 +1,7 @@
 // What a large sheet costs at the desktop: the width of each cell when it is read in, and each picture of the
 // grid.
 #include "desktop/ServiciosQt.h"
-#include "desktop/VistaDeRejilla.h"
+#include "desktop/widgets/VistaDeRejilla.h"
 #include "formularios/ServiciosPreparados.h"
 #include "formularios/Ventanas.h"
 

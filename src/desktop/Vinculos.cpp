@@ -1,8 +1,8 @@
 #include "desktop/Vinculos.h"
 
 #include "desktop/Texto.h"
-#include "desktop/VistaDeRejilla.h"
-#include "desktop/Widgets.h"
+#include "desktop/widgets/VistaDeRejilla.h"
+#include "desktop/widgets/Widgets.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 // The options of the families of neighbours, as plain values for the run and for the labels of the file.
 #pragma once
 
-#include "indices/Intervalo.h"
-#include "indices/Rotulos.h"
+#include "indices/archivo/Rotulos.h"
+#include "indices/vecinos/Intervalo.h"
 #include "options/OpcionesPrograma.h"
 
 namespace varo {

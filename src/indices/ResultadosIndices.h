@@ -3,7 +3,7 @@
 
 #include "basico/Entero16.h"
 #include "basico/MatrizDinamica.h"
-#include "indices/Intervalo.h"
+#include "indices/vecinos/Intervalo.h"
 
 #include <array>
 #include <string_view>

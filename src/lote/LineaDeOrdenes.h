@@ -1,7 +1,7 @@
 // The command line of varo-lote.
 #pragma once
 
-#include "lote/Trabajo.h"
+#include "lote/trabajo/Trabajo.h"
 
 #include <filesystem>
 #include <optional>

@@ -2,10 +2,10 @@
 
 #include "basico/ErrorEjecucion.h"
 #include "lote/LineaDeOrdenes.h"
-#include "lote/Plantilla.h"
-#include "lote/Recorrido.h"
-#include "lote/Salidas.h"
-#include "lote/Tablas.h"
+#include "lote/plantilla/Plantilla.h"
+#include "lote/plantilla/Tablas.h"
+#include "lote/recorrido/Recorrido.h"
+#include "lote/trabajo/Salidas.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,7 +1,7 @@
 // The command varo-lote: jobs in the order of the command line, several at once when asked.
 #pragma once
 
-#include "lote/ErrorTrabajo.h"
+#include "lote/trabajo/ErrorTrabajo.h"
 
 #include <iosfwd>
 #include <string>

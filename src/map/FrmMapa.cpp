@@ -7,7 +7,7 @@
 #include "map/FrmFormato.h"
 #include "options/OpcionesPrograma.h"
 #include "options/Unidades.h"
-#include "plot/PorHectarea.h"
+#include "plot/calculo/PorHectarea.h"
 #include "shell/Programa.h"
 #include "shell/VAROMAIN.h"
 

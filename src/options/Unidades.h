@@ -2,7 +2,7 @@
 #pragma once
 
 #include "options/OpcionesPrograma.h"
-#include "plot/Unidades.h"
+#include "plot/calculo/Unidades.h"
 
 namespace varo {
 

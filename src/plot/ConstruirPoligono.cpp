@@ -3,8 +3,8 @@
 #include "basico/Numeros.h"
 #include "data/Hojadedatos.h"
 #include "options/Unidades.h"
-#include "plot/AreaBasimetrica.h"
-#include "plot/Envolvente.h"
+#include "plot/calculo/AreaBasimetrica.h"
+#include "plot/calculo/Envolvente.h"
 #include "shell/Programa.h"
 
 namespace varo {

@@ -4,7 +4,7 @@
 
 #include "basico/Entero16.h"
 #include "basico/MatrizDinamica.h"
-#include "plot/Poligono.h"
+#include "plot/calculo/Poligono.h"
 
 #include <string>
 #include <vector>

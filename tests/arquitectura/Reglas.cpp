@@ -1,6 +1,7 @@
 #include "arquitectura/Reglas.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <map>
 #include <set>
@@ -16,11 +17,9 @@ const Salas cimientos{"basico", "formularios", "motor", "lienzo"};
 const Salas programa{"shell", "data", "options", "map", "plot", "indices"};
 const Salas conPlataforma{"desktop", "lote"};
 
-/// Files of plot/ and indices/ that gather from windows or store for them; all the others compute.
-const std::set<std::string_view> conVentanas{"indices/CabecerasDeVecindad", "indices/CorridaIndices",
-                                             "indices/FasesDeVecindad",     "indices/FrmCrearArchivo",
-                                             "indices/OpcionesDeVecindad",  "indices/TextoResultados",
-                                             "plot/ConstruirPoligono"};
+/// What computes: plain values in, plain values out.
+constexpr std::array<std::string_view, 4> calculo{"plot/calculo/", "indices/independientes/",
+                                                  "indices/vecinos/", "indices/apa/"};
 const Salas ventanas{"formularios", "options", "data", "map"};
 
 bool Conocida(const std::string& sala) {
@@ -49,13 +48,9 @@ bool EsCabeceraDeCpp(std::string_view cabecera) {
 const std::set<std::string_view> cabecerasConIdioma{"clocale", "codecvt",  "cstdio", "cwchar", "format",
                                                     "iomanip", "iostream", "locale", "regex",  "sstream"};
 
-std::string SinExtension(std::string_view ruta) {
-    return std::string{ruta.substr(0, ruta.rfind('.'))};
-}
-
 bool Calcula(const Fuente& fuente) {
-    const auto donde = Sala(fuente.ruta);
-    return (donde == "plot" || donde == "indices") && !conVentanas.contains(SinExtension(fuente.ruta));
+    return std::ranges::any_of(calculo,
+                               [&](std::string_view carpeta) { return fuente.ruta.starts_with(carpeta); });
 }
 
 std::string Dicho(const std::string& quien, const std::string& que, const std::string& aQuien) {

@@ -22,7 +22,8 @@ Infracciones FlechasProhibidas(const std::vector<Fuente>& fuentes);
 /// follow the locale.
 Infracciones CabecerasAjenas(const std::vector<Fuente>& fuentes);
 
-/// Files that compute reach no window, not even through another header.
+/// The folders that compute (plot/calculo, indices/independientes, indices/vecinos, indices/apa) reach no
+/// window, not even through another header.
 Infracciones CalculoQueConoceVentanas(const std::vector<Fuente>& fuentes);
 
 /// UTF-8 with composed letters inside, plain ASCII in the path.

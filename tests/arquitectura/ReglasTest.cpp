@@ -74,11 +74,15 @@ TEST(Reglas, FueraDeDesktopYLoteSoloEntranCabecerasDeCpp) {
 TEST(Reglas, UnaVentanaSeVeAunqueLlegueATravesDeOtraCabecera) {
     const Fuente ventana{"options/OpcionesPrograma.h", ""};
     const Fuente puente{"shell/Programa.h", "#include \"options/OpcionesPrograma.h\"\n"};
-    EXPECT_EQ(
-        CalculoQueConoceVentanas({{"indices/APA.cpp", "#include \"shell/Programa.h\"\n"}, ventana, puente}),
-        (Lineas{"indices/APA.cpp calcula y llega a options/OpcionesPrograma.h"}));
     EXPECT_EQ(CalculoQueConoceVentanas(
-                  {{"indices/FrmCrearArchivo.cpp", "#include \"shell/Programa.h\"\n"}, ventana, puente}),
+                  {{"indices/apa/APA.cpp", "#include \"shell/Programa.h\"\n"}, ventana, puente}),
+              (Lineas{"indices/apa/APA.cpp calcula y llega a options/OpcionesPrograma.h"}));
+    EXPECT_EQ(
+        CalculoQueConoceVentanas(
+            {{"indices/archivo/FrmCrearArchivo.cpp", "#include \"shell/Programa.h\"\n"}, ventana, puente}),
+        Lineas{});
+    EXPECT_EQ(CalculoQueConoceVentanas(
+                  {{"indices/CorridaIndices.cpp", "#include \"shell/Programa.h\"\n"}, ventana, puente}),
               Lineas{});
 }
 

@@ -1,6 +1,6 @@
 // The golden plots: each folder is a plot, a job and its right answer, worked out apart from the program.
 #include "apoyo/Jornada.h"
-#include "lote/Recorrido.h"
+#include "lote/recorrido/Recorrido.h"
 
 #include <gtest/gtest.h>
 

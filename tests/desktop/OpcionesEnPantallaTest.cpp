@@ -1,7 +1,7 @@
 // The options on the screen: each control with its widget on the page of its tab, the sets that share a
 // place, and the formulas.
-#include "desktop/Formulas.h"
 #include "desktop/Pantalla.h"
+#include "desktop/formulas/Formulas.h"
 #include "options/OpcionesPrograma.h"
 
 #include <QApplication>

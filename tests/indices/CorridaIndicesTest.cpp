@@ -2,7 +2,7 @@
 
 #include "apoyo/Jornada.h"
 #include "data/Hojadedatos.h"
-#include "indices/FrmCrearArchivo.h"
+#include "indices/archivo/FrmCrearArchivo.h"
 #include "map/FrmMapa.h"
 
 #include <gtest/gtest.h>

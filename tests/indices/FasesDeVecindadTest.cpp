@@ -3,7 +3,7 @@
 #include "apoyo/Jornada.h"
 #include "basico/Texto.h"
 #include "data/Hojadedatos.h"
-#include "indices/FrmCrearArchivo.h"
+#include "indices/archivo/FrmCrearArchivo.h"
 #include "map/FrmMapa.h"
 
 #include <gtest/gtest.h>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "apoyo/Jornada.h"
-#include "lote/Recorrido.h"
-#include "lote/Trabajo.h"
+#include "lote/recorrido/Recorrido.h"
+#include "lote/trabajo/Trabajo.h"
 
 #include <filesystem>
 #include <optional>

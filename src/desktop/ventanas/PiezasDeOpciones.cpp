@@ -1,0 +1,136 @@
+#include "desktop/ventanas/PiezasDeOpciones.h"
+
+#include "desktop/formulas/Formulas.h"
+
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionGroupBox>
+
+#include <utility>
+
+namespace varo {
+
+namespace {
+
+constexpr int espacio = 6; ///< between the parts of one piece
+
+int AltoHastaElContenido(const QGroupBox& grupo, const QString& titulo) {
+    QStyleOptionGroupBox opcion;
+    opcion.initFrom(&grupo);
+    opcion.rect = QRect{0, 0, 100, 100};
+    opcion.text = titulo;
+    opcion.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    return grupo.style()
+        ->subControlRect(QStyle::CC_GroupBox, &opcion, QStyle::SC_GroupBoxContents, &grupo)
+        .top();
+}
+
+} // namespace
+
+PiezasDeOpciones::Pagina PiezasDeOpciones::pagina(Marco& marco, Pie pie) const {
+    auto* const pagina = new QWidget;
+    auto* const columna = new QVBoxLayout{pagina};
+    QGroupBox* const grupo = vinculos_.marco(marco);
+    columna->addWidget(grupo);
+    if (pie == Pie::BajoElContenido) {
+        columna->addStretch(1);
+    }
+    auto* const contenido = new QVBoxLayout{grupo};
+    contenido->setSpacing(separacion);
+    return {pagina, contenido};
+}
+
+QLayout* PiezasDeOpciones::bajoTitulo(QGroupBox* grupo) {
+    auto* const columna = new QVBoxLayout;
+    columna->setSpacing(0);
+    const QString unTitulo = QStringLiteral("k"); // any one takes the same height
+    columna->addSpacing(AltoHastaElContenido(*grupo, unTitulo) - AltoHastaElContenido(*grupo, QString{}));
+    columna->addWidget(grupo);
+    return columna;
+}
+
+void PiezasDeOpciones::reservarSitio(QWidget& widget) {
+    QSizePolicy politica = widget.sizePolicy();
+    politica.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(politica);
+}
+
+QLineEdit* PiezasDeOpciones::campo(CajaTexto& control) const {
+    auto* const campo = vinculos_.caja(control);
+    campo->setAlignment(Qt::AlignRight);
+    campo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("00000,00000")));
+    return campo;
+}
+
+QWidget* PiezasDeOpciones::formula(Imagen& imagen, Parte formula) const {
+    auto* const cuadro = new CuadroDeFormula{std::move(formula)};
+    vinculos_.seguirEstado(*cuadro, imagen);
+    return conSitioFijo(cuadro);
+}
+
+QGroupBox* PiezasDeOpciones::intervalo(Marco& marco, const std::array<Etiqueta*, 3>& rotulos,
+                                       const std::vector<int>& miembros) const {
+    const std::array<const Matriz<CajaTexto>*, 3> campos{&ventana_.TxtBAF1, &ventana_.TxtBAF2,
+                                                         &ventana_.TxtBAF3};
+    auto* const grupo = vinculos_.marco(marco);
+    auto* const rejilla = new QGridLayout{grupo};
+    int columna = 0;
+    for (std::size_t i = 0; i < campos.size(); ++i) {
+        QLabel* const rotulo = vinculos_.etiqueta(*rotulos[i]);
+        rejilla->addWidget(rotulo, 0, columna++);
+        for (const int miembro : miembros) {
+            QLineEdit* const caja = conSitioFijo(campo((*campos[i])(miembro)));
+            rejilla->addWidget(caja, 0, columna);
+            if (miembro == miembros.front()) {
+                rotulo->setBuddy(caja);
+            }
+            caja->lower();
+        }
+        ++columna;
+    }
+    rejilla->setColumnStretch(columna, 1);
+    rejilla->setRowStretch(1, 1);
+    return grupo;
+}
+
+QLayout* PiezasDeOpciones::parametros(const std::vector<Renglon>& renglones) const {
+    auto* const rejilla = new QGridLayout;
+    rejilla->setSpacing(espacio);
+    int fila = 0;
+    int columna = 0;
+    for (const Renglon& renglon : renglones) {
+        columna = 0;
+        for (const auto& [rotulo, control] : renglon) {
+            QLabel* const etiqueta = vinculos_.etiqueta(rotulo);
+            QLineEdit* const caja = campo(control);
+            etiqueta->setBuddy(caja);
+            etiqueta->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            rejilla->addWidget(etiqueta, fila, columna++);
+            rejilla->addWidget(caja, fila, columna++);
+        }
+        ++fila;
+    }
+    rejilla->setColumnStretch(columna, 1);
+    return rejilla;
+}
+
+QLayout* PiezasDeOpciones::lista(Lista& lista, const std::vector<Boton*>& botones) const {
+    auto* const fila = new QHBoxLayout;
+    QListWidget* const lineas = vinculos_.lista(lista);
+    lineas->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    fila->addWidget(conSitioFijo(lineas), 1);
+    auto* const columna = new QVBoxLayout;
+    columna->setSpacing(espacio);
+    for (Boton* const boton : botones) {
+        columna->addWidget(conSitioFijo(vinculos_.boton(*boton)));
+    }
+    columna->addStretch();
+    fila->addLayout(columna);
+    return fila;
+}
+
+} // namespace varo

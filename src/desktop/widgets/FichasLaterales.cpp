@@ -1,0 +1,67 @@
+#include "desktop/widgets/FichasLaterales.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleOptionTab>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace varo {
+
+namespace {
+
+/// The style of the program, but for the text of tabs, which it would turn by a quarter at the side.
+class EstiloDeFichas : public QProxyStyle {
+public:
+    EstiloDeFichas() : QProxyStyle{QApplication::style()->name()} {}
+
+    QSize sizeFromContents(ContentsType clase, const QStyleOption* opcion, const QSize& medida,
+                           const QWidget* widget) const override {
+        const auto* const ficha = qstyleoption_cast<const QStyleOptionTab*>(opcion);
+        if (clase != CT_TabBarTab || ficha == nullptr) {
+            return QProxyStyle::sizeFromContents(clase, opcion, medida, widget);
+        }
+        const int ancho = caracteres * ficha->fontMetrics.averageCharWidth();
+        const QRect texto = ficha->fontMetrics.boundingRect(QRect{0, 0, ancho, 0}, alineacion, ficha->text);
+        return {ancho + 2 * margenLateral, texto.height() + 2 * margen};
+    }
+
+    void drawControl(ControlElement parte, const QStyleOption* opcion, QPainter* pintor,
+                     const QWidget* widget) const override {
+        const auto* const ficha = qstyleoption_cast<const QStyleOptionTab*>(opcion);
+        if (parte != CE_TabBarTabLabel || ficha == nullptr) {
+            QProxyStyle::drawControl(parte, opcion, pintor, widget);
+            return;
+        }
+        const QRect lugar = ficha->rect.adjusted(margenLateral, 0, -margenLateral, 0);
+        drawItemText(pintor, lugar, alineacion, ficha->palette, ficha->state.testFlag(State_Enabled),
+                     ficha->text, QPalette::WindowText);
+        if (ficha->state.testFlag(State_HasFocus)) {
+            QStyleOptionFocusRect foco;
+            foco.QStyleOption::operator=(*ficha);
+            foco.rect = ficha->rect.adjusted(borde, borde, -borde, -borde);
+            drawPrimitive(PE_FrameFocusRect, &foco, pintor, widget);
+        }
+    }
+
+private:
+    static constexpr int caracteres = 26; ///< of a line of a caption
+    static constexpr int alineacion = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+    static constexpr int margenLateral = 12;
+    static constexpr int margen = 9;
+    static constexpr int borde = 4;
+};
+
+} // namespace
+
+void PonerFichasAlLado(QTabWidget& fichas) {
+    auto* const estilo = new EstiloDeFichas;
+    estilo->setParent(&fichas);
+    fichas.setTabPosition(QTabWidget::West);
+    fichas.setUsesScrollButtons(false);
+    fichas.setElideMode(Qt::ElideNone);
+    fichas.tabBar()->setStyle(estilo);
+}
+
+} // namespace varo

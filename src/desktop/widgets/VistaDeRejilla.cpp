@@ -1,0 +1,96 @@
+#include "desktop/widgets/VistaDeRejilla.h"
+
+#include "desktop/Texto.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QProxyStyle>
+
+namespace varo {
+
+namespace {
+
+/// The style of the program with narrower margins in cells and headers: the width of a column is its widest
+/// text and little more.
+class EstiloDeRejilla : public QProxyStyle {
+public:
+    EstiloDeRejilla() : QProxyStyle{QApplication::style()->name()} {}
+
+    int pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QWidget* widget) const override {
+        switch (medida) {
+        case PM_HeaderMargin:
+        case PM_FocusFrameHMargin:
+            return 1;
+        default:
+            return QProxyStyle::pixelMetric(medida, opcion, widget);
+        }
+    }
+};
+
+} // namespace
+
+VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
+    : rejilla_{rejilla}, modelo_{new ModeloDeRejilla{rejilla, this}} {
+    auto* const estilo = new EstiloDeRejilla;
+    estilo->setParent(this);
+    setStyle(estilo);
+    horizontalHeader()->setStyle(estilo);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    setModel(modelo_);
+    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectColumns);
+    setSelectionMode(SingleSelection);
+    setTextElideMode(Qt::ElideNone);
+    setWordWrap(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setTabKeyNavigation(false); // the tabulator leaves the grid
+    connect(selectionModel(), &QItemSelectionModel::currentColumnChanged, this,
+            [this](const QModelIndex& actual) {
+                if (actual.isValid() && actual.column() != rejilla_.ColSel() && alElegirColumna) {
+                    alElegirColumna(actual.column());
+                    // The toolkit has yet to select what was clicked, be it refused or not.
+                    QMetaObject::invokeMethod(
+                        this, [this] { mostrarSeleccion(); }, Qt::QueuedConnection);
+                }
+            });
+}
+
+void VistaDeRejilla::mostrar() {
+    if (!rejilla_.Visible()) {
+        return; // while it is being filled nobody sees it
+    }
+    modelo_->ponerAlDia();
+    mostrarAnchos();
+    mostrarSeleccion();
+}
+
+void VistaDeRejilla::mostrarSeleccion() {
+    if (model() == nullptr) {
+        return; // the window of the grid is gone
+    }
+    const int columna = rejilla_.ColSel();
+    if (columna < rejilla_.Cols() &&
+        (currentIndex().column() != columna || !selectionModel()->isColumnSelected(columna))) {
+        selectColumn(columna);
+    }
+}
+
+void VistaDeRejilla::mostrarAnchos() {
+    for (int columna = 0; columna < rejilla_.Cols(); ++columna) {
+        const int ancho = APuntos(rejilla_.ColWidth(columna));
+        if (isColumnHidden(columna) != (ancho == 0)) {
+            setColumnHidden(columna, ancho == 0);
+        }
+        if (ancho > 0 && columnWidth(columna) != ancho) {
+            setColumnWidth(columna, ancho);
+        }
+    }
+}
+
+} // namespace varo

@@ -1,0 +1,31 @@
+// The grid of a window on the screen: its header row, its rows and the column that is selected.
+#pragma once
+
+#include "desktop/widgets/ModeloDeRejilla.h"
+
+#include <QTableView>
+
+#include <functional>
+
+namespace varo {
+
+/// A click on a header or on any cell, or the keyboard, selects the whole column.
+class VistaDeRejilla : public QTableView {
+public:
+    explicit VistaDeRejilla(const Rejilla& rejilla);
+
+    /// Told when a person moves to another column.
+    std::function<void(int)> alElegirColumna;
+
+    /// Brings the cells, the widths and the selected column up to date.
+    void mostrar();
+
+private:
+    void mostrarAnchos();
+    void mostrarSeleccion();
+
+    const Rejilla& rejilla_;
+    ModeloDeRejilla* modelo_;
+};
+
+} // namespace varo

@@ -1,0 +1,87 @@
+#include "indices/apa/APA.h"
+
+#include "basico/Saltando.h"
+#include "indices/apa/APACercanos.h"
+#include "indices/vecinos/Marcas.h"
+
+#include <optional>
+
+namespace varo {
+
+namespace {
+
+class ColumnaAPA {
+public:
+    ColumnaAPA(const Arboles& arboles, const ContornoXY& contorno, double k, const DibujoAPA& dibujo)
+        : arboles_{arboles}, contorno_{contorno}, dibujo_{dibujo}, pesos_{arboles, k} {
+        for (std::size_t j = 0; j < arboles.cuantos(); ++j) {
+            if (!arboles.sinTamano(j)) {
+                conTamano_.push_back(static_cast<VecinosAPA::Fila>(j));
+            }
+        }
+        if (todoEsLegible()) {
+            cercanos_.emplace(pesos_);
+        }
+    }
+
+    double indice(Pareja& pareja) {
+        const std::size_t i = pareja.sujeto;
+        if (arboles_.sinTamano(i)) {
+            return SinArbol;
+        }
+        static_cast<void>(arboles_.d(i)); // a size that is no number faults even at a vertex
+        if (arboles_.esVertice(i)) {
+            return ArbolDeContorno;
+        }
+        girar(pareja);
+        if (!dibujo_) {
+            return MedirCelda(giro_.lados(), contorno_, nullptr);
+        }
+        trazos_.clear();
+        const double valor = MedirCelda(giro_.lados(), contorno_, &trazos_);
+        dibujo_(i, trazos_);
+        return valor;
+    }
+
+private:
+    void girar(Pareja& pareja) {
+        if (cercanos_ && cercanos_->girar(pareja, vecinos_, giro_)) {
+            return;
+        }
+        ReunirVecinos(pesos_, conTamano_, pareja, vecinos_);
+        giro_.dar(vecinos_, pareja);
+    }
+
+    [[nodiscard]] bool todoEsLegible() const {
+        bool legible = true;
+        for (const auto j : conTamano_) {
+            legible = legible && !saltando([&] {
+                          static_cast<void>(arboles_.x(j));
+                          static_cast<void>(arboles_.y(j));
+                          static_cast<void>(pesos_.de(j));
+                      });
+            legible = legible && arboles_.d(j) >= 0;
+        }
+        return legible;
+    }
+
+    const Arboles& arboles_;
+    const ContornoXY& contorno_;
+    const DibujoAPA& dibujo_;
+    PesosAPA pesos_;
+    std::vector<VecinosAPA::Fila> conTamano_;
+    std::optional<CercanosAPA> cercanos_;
+    VecinosAPA vecinos_;
+    GiroAPA giro_;
+    std::vector<TrazoAPA> trazos_;
+};
+
+} // namespace
+
+std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contorno, double k,
+                                const DibujoAPA& dibujo) {
+    ColumnaAPA columna{arboles, contorno, k, dibujo};
+    return ParaCadaArbol(arboles.cuantos(), [&](Pareja& pareja) { return columna.indice(pareja); });
+}
+
+} // namespace varo

@@ -1,0 +1,47 @@
+// The virtual neighbours of APA: where a tree sees the others, each one drawn nearer or pushed away along the
+// line to it, so that the plain bisector of the two points is the weighted one of the two trees.
+#pragma once
+
+#include "indices/vecinos/Arboles.h"
+#include "indices/vecinos/Marcas.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace varo {
+
+/// d^k of every tree with a size, d in metres; each one is worked out once.
+class PesosAPA {
+public:
+    PesosAPA(const Arboles& arboles, double k);
+
+    [[nodiscard]] const Arboles& arboles() const { return arboles_; }
+    /// Faults of the size cell and of the power.
+    [[nodiscard]] double de(std::size_t i) const;
+
+private:
+    const Arboles& arboles_;
+    double k_;
+    std::vector<double> pesos_; ///< NaN where it faults
+};
+
+/// The virtual neighbours of one subject, in the order of the rows.
+struct VecinosAPA {
+    using Fila = std::uint32_t; ///< a tree, numbered as in Arboles
+
+    double xSujeto = 0, ySujeto = 0;
+    std::vector<Fila> filas;
+    std::vector<double> x, y;
+
+    [[nodiscard]] std::size_t cuantos() const { return filas.size(); }
+};
+
+/// Places the virtual neighbours of the subject that stand in the given rows: trees with a size, the subject
+/// itself among them, in ascending order. A size of 0 is placed, with its faults, and left out. Faults: those
+/// of the cells and of the weights; 11 on a tree of the same x.
+void ReunirVecinos(const PesosAPA& pesos, std::span<const VecinosAPA::Fila> filas, Pareja& pareja,
+                   VecinosAPA& vecinos);
+
+} // namespace varo

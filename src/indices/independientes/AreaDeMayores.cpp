@@ -1,0 +1,163 @@
+#include "indices/independientes/AreaDeMayores.h"
+
+#include "basico/Aritmetica.h"
+#include "basico/Numeros.h"
+#include "basico/Texto.h"
+#include "plot/calculo/AreaBasimetrica.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <optional>
+
+namespace varo {
+
+namespace {
+
+/// The rows of the table that count as numbers, in its order: size and basal area (m2).
+struct Tallos {
+    std::vector<double> tamano;
+    std::vector<double> area;
+    double mayor = -std::numeric_limits<double>::infinity();
+    bool desmedidos = false; ///< some size is so large that its basal area may overflow
+};
+
+/// Null and texts that are no number compare as not larger, so they never enter a sum.
+std::optional<double> Tamano(const Valor& valor) {
+    const auto* const texto = std::get_if<std::string>(&valor);
+    if (EsNulo(valor) || (texto != nullptr && !EsNumerico(*texto))) {
+        return std::nullopt;
+    }
+    return ANumero(valor);
+}
+
+Tallos LeerTallos(const BaseDatos& base, const std::string& campo, const std::string& tabla,
+                  const UnidadesTallo& unidades) {
+    constexpr double desmedido = 1E+150;
+    Tallos tallos;
+    auto filas = base.OpenRecordset("SELECT [" + campo + "] FROM [" + tabla + "]");
+    for (; !filas.Eof(); filas.MoveNext()) {
+        const auto tamano = Tamano(filas.Fields(0).Value);
+        if (!tamano) {
+            continue;
+        }
+        if (std::abs(*tamano) > desmedido) {
+            tallos.desmedidos = true;
+            return tallos;
+        }
+        tallos.tamano.push_back(*tamano);
+        tallos.area.push_back(TerminoAreaBasimetrica(*tamano, unidades));
+        tallos.mayor = std::max(tallos.mayor, *tamano);
+    }
+    return tallos;
+}
+
+/// A text that the query language reads as one number: digits, one point between digits, an exponent.
+bool EsLiteral(const std::string& texto) {
+    const bool soloCifras = texto.find_first_not_of("0123456789.") == std::string::npos;
+    return soloCifras && std::count(texto.begin(), texto.end(), '.') <= 1 && texto.front() != '.' &&
+           texto.back() != '.';
+}
+
+/// The sums over the rows larger than each bound. Adding 0 for the others changes no bit, and a bound's own
+/// additions keep the order of the rows.
+constexpr std::size_t aLaVez = 8;
+using Bloque = std::array<double, aLaVez>;
+
+Bloque SumarMayores(const Tallos& tallos, const Bloque& cotas) {
+    Bloque sumas{};
+    for (std::size_t j = 0; j < tallos.tamano.size(); ++j) {
+        for (std::size_t k = 0; k < aLaVez; ++k) {
+            sumas[k] += tallos.tamano[j] > cotas[k] ? tallos.area[j] : 0.0;
+        }
+    }
+    return sumas;
+}
+
+/// The sum for each different size, absent where no tree is larger.
+using SumaPorTamano = std::map<double, std::optional<double>>;
+
+void SumarTodos(const Tallos& tallos, SumaPorTamano& sumas) {
+    for (auto primera = sumas.begin(); primera != sumas.end();) {
+        Bloque cotas{};
+        auto siguiente = primera;
+        for (std::size_t k = 0; k < aLaVez && siguiente != sumas.end(); ++k, ++siguiente) {
+            cotas[k] = siguiente->first;
+        }
+        const Bloque bloque = SumarMayores(tallos, cotas);
+        for (std::size_t k = 0; primera != siguiente; ++k, ++primera) {
+            if (tallos.mayor > primera->first) {
+                primera->second = bloque[k];
+            }
+        }
+    }
+}
+
+/// The text of a size cell as it goes into the query.
+std::string ConPunto(const std::string& celda) {
+    return Reemplazar(celda, ",", ".");
+}
+
+/// A size that is empty, no number or 0 has no larger trees.
+bool Cuenta(const std::string& texto) {
+    return EsNumerico(texto) && ANumero(texto) != 0;
+}
+
+/// The sums for all sizes that can be had without the engine.
+SumaPorTamano SumasSinConsulta(const Tallos& tallos, std::span<const std::string> celdas) {
+    SumaPorTamano sumas;
+    if (tallos.desmedidos) {
+        return sumas;
+    }
+    for (const std::string& celda : celdas) {
+        const std::string texto = ConPunto(celda);
+        if (Cuenta(texto) && EsLiteral(texto)) {
+            sumas.emplace(Val(texto), std::nullopt);
+        }
+    }
+    SumarTodos(tallos, sumas);
+    return sumas;
+}
+
+} // namespace
+
+std::string ConsultaMayores(const std::string& campo, const std::string& tabla, const UnidadesTallo& unidades,
+                            const std::string& tamano) {
+    return ConsultaAreaBasimetrica(campo, tabla, unidades) + "] WHERE [" + campo + "] > " + tamano;
+}
+
+std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo, const std::string& tabla,
+                                const UnidadesTallo& unidades, std::span<const std::string> celdas,
+                                double supPoligono) {
+    const SumaPorTamano sumas = SumasSinConsulta(LeerTallos(base, campo, tabla, unidades), celdas);
+    const auto suma = [&](const std::string& texto) -> std::optional<double> {
+        const auto calculada = EsLiteral(texto) ? sumas.find(Val(texto)) : sumas.end();
+        if (calculada != sumas.end()) {
+            return calculada->second;
+        }
+        const auto consulta = base.OpenRecordset(ConsultaMayores(campo, tabla, unidades, texto));
+        const Valor& valor = consulta.Fields(0).Value;
+        return EsNulo(valor) ? std::nullopt : std::optional{ANumero(valor)};
+    };
+
+    std::vector<double> indices(celdas.size());
+    for (std::size_t i = 0; i < celdas.size(); ++i) {
+        const std::string texto = ConPunto(celdas[i]);
+        if (!Cuenta(texto)) {
+            continue;
+        }
+        try {
+            if (const auto mayores = suma(texto)) {
+                indices[i] = Dividir(*mayores, supPoligono) * 10000;
+            }
+        } catch (ErrorEjecucion& error) {
+            error.en("fila " + std::to_string(i + 1));
+            throw;
+        }
+    }
+    return indices;
+}
+
+} // namespace varo

@@ -1,0 +1,27 @@
+// Basal area per hectare of the trees larger than each tree (BAL; Wykoff, Crookston and Stage 1982).
+#pragma once
+
+#include "motor/BaseDatos.h"
+#include "plot/calculo/Unidades.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace varo {
+
+/// "... WHERE [campo] > tamano": the sum over the trees strictly larger than a size, which is pasted as it
+/// stands.
+std::string ConsultaMayores(const std::string& campo, const std::string& tabla, const UnidadesTallo& unidades,
+                            const std::string& tamano);
+
+/// For the text of each stem size cell, the basal area per hectare (m2/ha) of the larger trees of the table;
+/// 0 for a cell that is empty or no number, for the size 0 and where no tree is larger. An area of 0
+/// throws 11.
+///
+/// The sums are added in the order of the table's rows, as the engine adds them, several trees side by side.
+std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo, const std::string& tabla,
+                                const UnidadesTallo& unidades, std::span<const std::string> celdas,
+                                double supPoligono);
+
+} // namespace varo

@@ -1,0 +1,126 @@
+#include "indices/vecinos/AOI.h"
+
+#include "basico/Aritmetica.h"
+#include "basico/Saltando.h"
+#include "indices/vecinos/Marcas.h"
+#include "plot/calculo/AreaInterseccionCirculos.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <span>
+
+namespace varo {
+
+namespace {
+
+constexpr double sinRadio = std::numeric_limits<double>::quiet_NaN();
+
+/// Whether (cell j / cell i)^k cannot fault for any subject whose own cell is above 0.
+bool PesosSinFallo(const Arboles& arboles, double k) {
+    double menor = std::numeric_limits<double>::infinity(); // of the sizes above 0
+    double mayor = 0;
+    for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
+        if (arboles.sinTamano(i)) {
+            continue;
+        }
+        const double tamano = arboles.tamano(i);
+        if (tamano < 0 || (tamano == 0 && k < 0)) {
+            return false;
+        }
+        mayor = std::max(mayor, tamano);
+        menor = tamano > 0 ? std::min(menor, tamano) : menor;
+    }
+    constexpr double desmedido = 1E+290;
+    return mayor == 0 || (mayor / menor < desmedido && std::pow(mayor / menor, std::abs(k)) < desmedido);
+}
+
+class ColumnaAOI {
+public:
+    ColumnaAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, bool unilateral, double k)
+        : arboles_{vecindad.arboles}, vecindad_{vecindad}, unilateral_{unilateral}, radios_{radios}, k_{k},
+          sinFallos_{vecindad.vecindario.fiable() && radios_.todosSinFallo() && PesosSinFallo(arboles_, k)} {}
+
+    double indice(Pareja& pareja) {
+        const std::size_t i = pareja.sujeto;
+        if (arboles_.sinTamano(i) || arboles_.celdas().tamano.texto(i) == "0") {
+            return SinArbol;
+        }
+        const double Ri = radios_.de(i);
+        if (arboles_.esVertice(i)) {
+            return ArbolDeContorno;
+        }
+        if (vecindad_.borde.algunaAlturaMenorOIgual(i, Ri)) {
+            return EfectoBorde;
+        }
+        double suma = 0;
+        for (const std::size_t j : vecinos(i, Ri)) {
+            if (j == i || arboles_.sinTamano(j)) {
+                continue;
+            }
+            pareja.vecino = j;
+            const double Dj = arboles_.diametro(j);
+            if (unilateral_ && Dj < arboles_.diametro(i)) {
+                continue;
+            }
+            suma = ExigirFinito(suma + parte(i, j, Ri));
+        }
+        return suma;
+    }
+
+private:
+    /// The trees whose circle may meet the subject's. The others would add 0, unless a step with them faults.
+    std::span<const Vecindario::Fila> vecinos(std::size_t i, double Ri) {
+        const double propia = Pi * (Ri * Ri);
+        const bool sinFallos = sinFallos_ && arboles_.tamano(i) > 0 && propia > 0 && std::isfinite(propia);
+        if (!sinFallos) {
+            return vecindad_.todas;
+        }
+        vecindad_.vecindario.buscar(i, Ri + radios_.mayor(), cercanas_);
+        return cercanas_;
+    }
+
+    [[nodiscard]] double parte(std::size_t i, std::size_t j, double Ri) const {
+        const double tamanoJ = arboles_.tamano(j);
+        const double w = Potencia(Dividir(tamanoJ, arboles_.tamano(i)), k_);
+        const double Rj = radios_.de(j);
+        const double xi = arboles_.x(i);
+        const double yi = arboles_.y(i);
+        const double xj = arboles_.x(j);
+        const double yj = arboles_.y(j);
+        const double area = AreaInterseccionCirculos(xi, yi, xj, yj, Ri, Rj);
+        return Dividir(area, ExigirFinito(Pi * (Ri * Ri))) * w;
+    }
+
+    const Arboles& arboles_;
+    Vecindad& vecindad_;
+    bool unilateral_;
+    const RadiosDeInfluencia& radios_;
+    double k_;
+    std::vector<Vecindario::Fila> cercanas_;
+    bool sinFallos_;
+};
+
+} // namespace
+
+RadiosDeInfluencia::RadiosDeInfluencia(const Arboles& arboles, const SumaDePotencias& funcion)
+    : arboles_{arboles}, funcion_{funcion}, radios_(arboles.cuantos(), sinRadio) {
+    for (std::size_t i = 0; i < radios_.size(); ++i) {
+        if (arboles.sinTamano(i)) {
+            continue;
+        }
+        if (saltando([&] { radios_[i] = funcion.en(arboles.diametro(i)); })) {
+            todosSinFallo_ = false;
+        } else {
+            mayor_ = std::max(mayor_, radios_[i]);
+        }
+    }
+}
+
+std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, bool unilateral,
+                                double k) {
+    ColumnaAOI columna{vecindad, radios, unilateral, k};
+    return ParaCadaArbol(vecindad.arboles.cuantos(), [&](Pareja& pareja) { return columna.indice(pareja); });
+}
+
+} // namespace varo

@@ -1,0 +1,44 @@
+// Border detection: whether what a tree needs reaches beyond the plot boundary.
+#pragma once
+
+#include "indices/vecinos/Arboles.h"
+#include "plot/calculo/Module1.h"
+
+#include <cstddef>
+#include <limits>
+#include <vector>
+
+namespace varo {
+
+/// The heights of a tree over the lines of the sides, each one an infinite line, are worked out once per
+/// tree. A side whose height cannot be worked out throws, unless an earlier side has answered already: two
+/// vertices in one place 11, a tree in line with a side maybe 5, by rounding.
+class Borde {
+public:
+    Borde(const Arboles& arboles, const ContornoXY& contorno);
+
+    /// Whether the height of tree i over some side is below the limit. Sides are asked in turn.
+    [[nodiscard]] bool algunaAlturaMenor(std::size_t i, double limite);
+    /// The same with equality.
+    [[nodiscard]] bool algunaAlturaMenorOIgual(std::size_t i, double limite);
+
+private:
+    static constexpr std::size_t ninguno = std::numeric_limits<std::size_t>::max();
+
+    struct Alturas {
+        bool calculadas = false;
+        double minima = std::numeric_limits<double>::infinity(); ///< of the sides before the faulty one
+        std::size_t ladoConFallo = ninguno;
+    };
+
+    const Alturas& alturas(std::size_t i);
+    Alturas calcular(std::size_t i) const;
+    void exigirSinFallo(std::size_t i, const Alturas& alturas) const;
+
+    const Arboles& arboles_;
+    ContornoXY contorno_;
+    std::vector<double> lados_; ///< their lengths
+    std::vector<Alturas> porArbol_;
+};
+
+} // namespace varo

@@ -1,0 +1,84 @@
+// A uniform grid over the trees of a plot, to look at those of one part of it alone.
+#pragma once
+
+#include "indices/vecinos/Arboles.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace varo {
+
+/// A place is where a tree stands in the order of the cells, which go up column by column. Two trees to a
+/// cell on average, and never more than some cells for each tree, however narrow the plot.
+class Cuadricula {
+public:
+    using Fila = std::uint32_t; ///< a tree, numbered as in Arboles
+
+    /// Cells in a row of them, both ends included.
+    struct Tramo {
+        std::size_t desde = 0, hasta = 0;
+    };
+    /// The smallest and the largest coordinates, in metres.
+    struct Extremos {
+        double x0 = 0, y0 = 0, x1 = 0, y1 = 0;
+    };
+
+    /// An empty one.
+    Cuadricula() = default;
+    /// Takes these trees; their coordinates are numbers.
+    Cuadricula(const Arboles& arboles, std::vector<Fila> filas);
+
+    [[nodiscard]] std::size_t cuantos() const { return filas_.size(); }
+    [[nodiscard]] const Extremos& extremos() const { return extremos_; }
+    /// The side of a cell.
+    [[nodiscard]] double lado() const { return lado_; }
+    [[nodiscard]] std::size_t columnas() const { return columnas_; }
+    [[nodiscard]] std::size_t hileras() const { return hileras_; }
+
+    /// What stands in a place.
+    [[nodiscard]] Fila fila(std::size_t lugar) const { return filas_[lugar]; }
+    [[nodiscard]] double x(std::size_t lugar) const { return x_[lugar]; }
+    [[nodiscard]] double y(std::size_t lugar) const { return y_[lugar]; }
+    [[nodiscard]] const std::vector<Fila>& filas() const { return filas_; }
+
+    /// The cells, of a row of `cuantas`, that hold what stands between two distances from its beginning, and
+    /// what rounding may have put beside it.
+    [[nodiscard]] Tramo tramo(double desde, double hasta, std::size_t cuantas) const;
+
+    /// Visits the places of some cells of a column.
+    template <class Visita>
+    void recorrer(std::size_t columna, const Tramo& hileras, Visita visita) const {
+        const std::size_t fin = comienzo_[columna * hileras_ + hileras.hasta + 1];
+        for (std::size_t lugar = comienzo_[columna * hileras_ + hileras.desde]; lugar < fin; ++lugar) {
+            visita(lugar);
+        }
+    }
+
+    /// Visits the places of all the trees in the square of that half side about a point, and of some round
+    /// it.
+    template <class Visita>
+    void recorrerCuadro(double x, double y, double medioLado, Visita visita) const {
+        const double dx = x - extremos_.x0;
+        const double dy = y - extremos_.y0;
+        const Tramo enX = tramo(dx - medioLado, dx + medioLado, columnas_);
+        const Tramo enY = tramo(dy - medioLado, dy + medioLado, hileras_);
+        for (std::size_t columna = enX.desde; columna <= enX.hasta; ++columna) {
+            recorrer(columna, enY, visita);
+        }
+    }
+
+private:
+    void medir(const Arboles& arboles);
+    void repartir(const Arboles& arboles);
+    [[nodiscard]] std::size_t casilla(double distancia, std::size_t cuantas) const;
+
+    Extremos extremos_;
+    double lado_ = 1;
+    std::size_t columnas_ = 1, hileras_ = 1;
+    std::vector<std::size_t> comienzo_{0, 0}; ///< the first place of each cell; one more at the end
+    std::vector<Fila> filas_;
+    std::vector<double> x_, y_;
+};
+
+} // namespace varo

@@ -1,0 +1,149 @@
+#include "indices/vecinos/FuncionesDeLista.h"
+
+#include "basico/Aritmetica.h"
+#include "basico/ErrorEjecucion.h"
+#include "basico/Numeros.h"
+#include "basico/Texto.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace varo {
+
+namespace {
+
+/// What an entry holds, by the positions of its letters. Parameters stand as "letter: number; ".
+class Entrada {
+public:
+    explicit Entrada(const std::string& texto) : texto_{texto} {}
+
+    [[nodiscard]] bool contiene(const char* buscado) const { return posicion(buscado) != 0; }
+
+    /// The text in front of `siguiente`, from the first parameter of all on.
+    [[nodiscard]] std::string primero(const char* siguiente) const {
+        return trozo(4, posicion(siguiente) - 6);
+    }
+    [[nodiscard]] double medio(const char* letra, const char* siguiente) const {
+        return redondeado(ANumero(trozo(posicion(letra) + 3, posicion(siguiente) - posicion(letra) - 5)));
+    }
+    [[nodiscard]] double ultimo(const char* letra) const {
+        const auto largo = static_cast<int>(Longitud(texto_));
+        return redondeado(ANumero(trozo(posicion(letra) + 3, largo - posicion(letra) - 2)));
+    }
+
+    static double redondeado(double numero) { return ANumero(Formato(numero, "#0.0000")); }
+
+private:
+    [[nodiscard]] int posicion(const char* buscado) const {
+        return static_cast<int>(Posicion(texto_, buscado));
+    }
+
+    [[nodiscard]] std::string trozo(int desde, int cuantos) const {
+        if (desde < 1 || cuantos < 0) {
+            throw ErrorEjecucion{fallo::argumentoNoValido};
+        }
+        return Medio(texto_, static_cast<std::size_t>(desde), static_cast<std::size_t>(cuantos));
+    }
+
+    const std::string& texto_;
+};
+
+/// From b on; a stands where each list has it.
+SumaDePotencias LeerSuma(const Entrada& entrada, double a) {
+    SumaDePotencias suma;
+    suma.a = a;
+    suma.b = entrada.medio("b", "c");
+    suma.c = entrada.medio("c", "d");
+    suma.d = entrada.medio("d", "e");
+    suma.e = entrada.ultimo("e");
+    return suma;
+}
+
+/// Least and greatest value of something.
+struct Cotas {
+    double menor = 0;
+    double mayor = 0;
+};
+
+/// factor * x^exponente between two positive values of x, in which it is monotonic.
+Cotas CotasDeTermino(double factor, double exponente, double desde, double hasta) {
+    const double uno = factor == 0 ? 0 : factor * std::pow(desde, exponente);
+    const double otro = factor == 0 ? 0 : factor * std::pow(hasta, exponente);
+    return {std::min(uno, otro), std::max(uno, otro)};
+}
+
+bool PotenciaAcotada(double exponente, double desde, double hasta) {
+    constexpr double desmedida = 1E+290;
+    return std::pow(desde, exponente) < desmedida && std::pow(hasta, exponente) < desmedida;
+}
+
+} // namespace
+
+double SumaDePotencias::en(double x) const {
+    const double deC = Potencia(x, c);
+    const double deE = Potencia(x, e);
+    return ExigirFinito(a + b * deC + d * deE);
+}
+
+SumaDePotencias LeerRadioDeInfluencia(const std::string& entrada) {
+    const Entrada partes{entrada};
+    return LeerSuma(partes, Entrada::redondeado(ANumero(partes.primero("b"))));
+}
+
+double FuncionDeDistancia::en(double L) const {
+    const double s = suma.en(L);
+    return exponencial ? ExigirFinito(std::exp(-s)) : Dividir(1, s);
+}
+
+bool FuncionDeDistancia::sinFallosEntre(double desde, double hasta) const {
+    if (!(desde > 0) || !PotenciaAcotada(suma.c, desde, hasta) || !PotenciaAcotada(suma.e, desde, hasta)) {
+        return false;
+    }
+    const Cotas b = CotasDeTermino(suma.b, suma.c, desde, hasta);
+    const Cotas d = CotasDeTermino(suma.d, suma.e, desde, hasta);
+    const double mayorTermino = std::max(
+        {std::abs(suma.a), std::abs(b.menor), std::abs(b.mayor), std::abs(d.menor), std::abs(d.mayor)});
+    const double holgura = 1E-9 * mayorTermino; // far beyond what rounding can move the sum
+    const Cotas s{suma.a + b.menor + d.menor - holgura, suma.a + b.mayor + d.mayor + holgura};
+    if (exponencial) {
+        constexpr double exponenteQueCabe = 700;
+        return s.mayor < 1E+290 && -s.menor < exponenteQueCabe;
+    }
+    constexpr double casiNulo = 1E-290;
+    return std::isfinite(s.menor) && std::isfinite(s.mayor) && (s.menor > casiNulo || s.mayor < -casiNulo);
+}
+
+FuncionDeDistancia LeerFuncionDeDistancia(const std::string& entrada) {
+    const Entrada partes{entrada};
+    FuncionDeDistancia funcion;
+    funcion.suma = LeerSuma(partes, partes.medio("a", "b"));
+    funcion.exponencial = partes.contiene("EXP");
+    return funcion;
+}
+
+double FuncionDeLimite::en(double D) const {
+    if (hiperbolica) {
+        return ExigirFinito(A - k * Dividir(1, denominador.en(D)));
+    }
+    const double base = ExigirFinito(1 - std::exp(-k * D));
+    return ExigirFinito(A * Potencia(base, Dividir(1, 1 - m)));
+}
+
+FuncionDeLimite LeerFuncionDeLimite(const std::string& entrada) {
+    const Entrada partes{entrada};
+    FuncionDeLimite funcion;
+    funcion.hiperbolica = partes.contiene("e");
+    if (funcion.hiperbolica) {
+        funcion.A = Entrada::redondeado(ANumero(partes.primero("k")));
+        funcion.k = partes.medio("k", "a");
+        funcion.denominador = LeerSuma(partes, partes.medio("a", "b"));
+        return funcion;
+    }
+    // Read with a decimal point, so a comma ends it: it is meant.
+    funcion.A = Entrada::redondeado(Val(partes.primero("k")));
+    funcion.k = partes.medio("k", "m");
+    funcion.m = partes.ultimo("m");
+    return funcion;
+}
+
+} // namespace varo

@@ -1,0 +1,23 @@
+// IDP, the point density of a tree: basal area round it as its competitors show it (Spurr 1962, "A measure of
+// point density"). Each competitor, ranked by the angle under which it is seen, gives an estimate of the
+// basal area per hectare, and the index is their mean.
+#pragma once
+
+#include "indices/vecinos/Seleccion.h"
+
+#include <vector>
+
+namespace varo {
+
+/// The two forms of the estimate from the tree of rank n.
+enum class FormaIDP {
+    ConArbolCentral, ///< n + 1/2
+    SinArbolCentral  ///< n - 1/2
+};
+
+/// One column, in m2/ha: for every tree its index, 0 where it has no competitor, or a marker. The selection
+/// has its parameter and ranks by angle. Faults of the selection; 11 on a competitor at distance 0.
+std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, bool unilateral,
+                                FormaIDP forma);
+
+} // namespace varo

@@ -1,0 +1,132 @@
+#include "indices/vecinos/ISC.h"
+
+#include "basico/Aritmetica.h"
+#include "basico/Saltando.h"
+#include "indices/vecinos/Marcas.h"
+#include "plot/calculo/AreaInterseccionCirculos.h"
+
+#include <algorithm>
+#include <limits>
+#include <span>
+
+namespace varo {
+
+namespace {
+
+/// Rounded to a 32-bit float; out of its range throws 6.
+float ASimple(double numero) {
+    const auto simple = static_cast<float>(numero);
+    ExigirFinito(static_cast<double>(simple));
+    return simple;
+}
+
+class VarianteISC {
+public:
+    VarianteISC(Vecindad& vecindad, const RadiosDeCopa& radios, bool unilateral)
+        : arboles_{vecindad.arboles}, vecindad_{vecindad}, radios_{radios}, unilateral_{unilateral} {}
+
+    double indice(Pareja& pareja) {
+        const std::size_t i = pareja.sujeto;
+        if (arboles_.sinTamano(i)) {
+            return SinArbol;
+        }
+        const double di = arboles_.diametro(i);
+        const double ri = radios_.de(i);
+        if (ri == 0) {
+            return SinArbol;
+        }
+        if (arboles_.esVertice(i)) {
+            return ArbolDeContorno;
+        }
+        if (vecindad_.borde.algunaAlturaMenor(i, ri)) {
+            return EfectoBorde;
+        }
+        float suma = 0;
+        for (const std::size_t j : vecinos(i, ri)) {
+            if (j == i || arboles_.sinTamano(j)) {
+                continue;
+            }
+            pareja.vecino = j;
+            const double dj = arboles_.diametro(j);
+            if (unilateral_ && dj < di) {
+                continue;
+            }
+            suma = ASimple(static_cast<double>(suma) + interseccion(i, j, ri));
+        }
+        pareja.vecino = i;
+        return Dividir(static_cast<double>(suma), Pi * (ri * ri));
+    }
+
+private:
+    /// The trees whose crown may meet the subject's. The others would add 0, unless a cell of theirs is
+    /// wrong.
+    std::span<const Vecindario::Fila> vecinos(std::size_t i, double ri) {
+        if (!vecindad_.vecindario.fiable() || !radios_.todosSinFallo()) {
+            return vecindad_.todas;
+        }
+        vecindad_.vecindario.buscar(i, ri + static_cast<double>(radios_.mayor()), cercanas_);
+        return cercanas_;
+    }
+
+    [[nodiscard]] double interseccion(std::size_t i, std::size_t j, double ri) const {
+        const double rj = radios_.de(j);
+        const double xi = arboles_.x(i);
+        const double yi = arboles_.y(i);
+        const double xj = arboles_.x(j);
+        const double yj = arboles_.y(j);
+        return AreaInterseccionCirculos(xi, yi, xj, yj, ri, rj);
+    }
+
+    const Arboles& arboles_;
+    Vecindad& vecindad_;
+    const RadiosDeCopa& radios_;
+    bool unilateral_;
+    std::vector<Vecindario::Fila> cercanas_;
+};
+
+} // namespace
+
+RadiosDeCopa::RadiosDeCopa(const Arboles& arboles, FormaDeCopa forma, int factor)
+    : arboles_{arboles}, forma_{forma}, factor_{factor},
+      radios_(arboles.cuantos(), std::numeric_limits<float>::quiet_NaN()) {
+    for (std::size_t i = 0; i < radios_.size(); ++i) {
+        if (arboles.sinTamano(i)) {
+            continue;
+        }
+        if (saltando([&] { radios_[i] = calcular(i); })) {
+            todosSinFallo_ = false;
+        } else {
+            mayor_ = std::max(mayor_, radios_[i]);
+        }
+    }
+}
+
+float RadiosDeCopa::calcular(std::size_t i) const {
+    const auto metros = [&](std::size_t medida) {
+        return Dividir(arboles_.celdas().copa[medida].numero(i), factor_);
+    };
+    switch (forma_) {
+    case FormaDeCopa::CuatroRadios: {
+        const double N = metros(0);
+        const double E = metros(1);
+        const double S = metros(2);
+        const double W = metros(3);
+        return ASimple((N + E + S + W) / 4);
+    }
+    case FormaDeCopa::DosDiametros: {
+        const double D1 = metros(0);
+        const double D2 = metros(1);
+        return ASimple((D1 + D2) / 4);
+    }
+    case FormaDeCopa::RadioMedio:
+        break;
+    }
+    return ASimple(metros(0));
+}
+
+std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, bool unilateral) {
+    VarianteISC variante{vecindad, radios, unilateral};
+    return ParaCadaArbol(vecindad.arboles.cuantos(), [&](Pareja& pareja) { return variante.indice(pareja); });
+}
+
+} // namespace varo

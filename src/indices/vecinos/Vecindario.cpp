@@ -1,0 +1,88 @@
+#include "indices/vecinos/Vecindario.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace varo {
+
+namespace {
+
+bool EsMesurado(const Arboles& arboles, std::size_t i) {
+    constexpr double desmedido = 1E+100;
+    const auto& celdas = arboles.celdas();
+    return celdas.x.legible(i) && celdas.y.legible(i) && celdas.tamano.legible(i) &&
+           std::abs(arboles.x(i)) < desmedido && std::abs(arboles.y(i)) < desmedido &&
+           std::abs(arboles.tamano(i)) < desmedido;
+}
+
+/// Beyond what rounding can move a distance.
+double ConHolgura(double distancia) {
+    return distancia * (1 + 1E-9);
+}
+
+} // namespace
+
+Vecindario::Vecindario(const Arboles& arboles) : arboles_{arboles} {
+    std::vector<Fila> conTamano;
+    for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
+        if (arboles.sinTamano(i)) {
+            continue;
+        }
+        if (!EsMesurado(arboles, i)) {
+            fiable_ = false;
+            return;
+        }
+        conTamano.push_back(static_cast<Fila>(i));
+    }
+    if (conTamano.empty()) {
+        return;
+    }
+    cuadricula_ = Cuadricula{arboles, std::move(conTamano)};
+    const auto& [x0, y0, x1, y1] = cuadricula_.extremos();
+    extension_ = ConHolgura(Distancia(x0, y0, x1, y1));
+    d_.reserve(cuadricula_.cuantos());
+    for (const Fila i : cuadricula_.filas()) {
+        d_.push_back(arboles.d(i));
+    }
+    mayorD_ = *std::max_element(d_.begin(), d_.end());
+    comparteSitio_.resize(arboles.cuantos());
+    std::vector<Fila> enElSitio;
+    for (const Fila i : cuadricula_.filas()) {
+        buscar(i, 0, enElSitio);
+        comparteSitio_[i] = !enElSitio.empty();
+    }
+}
+
+/// `alcanceDe` gives the reach of the tree in a place of the grid; none of them is beyond `mayorAlcance`.
+template <class Alcance>
+void Vecindario::buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe,
+                          std::vector<Fila>& cercanas) const {
+    cercanas.clear();
+    const double x = arboles_.x(i);
+    const double y = arboles_.y(i);
+    cuadricula_.recorrerCuadro(x, y, mayorAlcance, [&](std::size_t lugar) {
+        const double dx = cuadricula_.x(lugar) - x;
+        const double dy = cuadricula_.y(lugar) - y;
+        const double alcance = alcanceDe(lugar);
+        if (dx * dx + dy * dy <= alcance * alcance && cuadricula_.fila(lugar) != i) {
+            cercanas.push_back(cuadricula_.fila(lugar));
+        }
+    });
+    std::sort(cercanas.begin(), cercanas.end());
+}
+
+void Vecindario::buscar(std::size_t i, double radio, std::vector<Fila>& cercanas) const {
+    const double alcance = ConHolgura(std::max(radio, 0.0));
+    buscarEn(
+        i, alcance, [&](std::size_t) { return alcance; }, cercanas);
+}
+
+void Vecindario::buscarPorTamano(std::size_t i, double porD, double radio,
+                                 std::vector<Fila>& cercanas) const {
+    const auto alcanceDe = [&](double d) { return ConHolgura(std::max(porD * d, radio)); };
+    buscarEn(
+        i, alcanceDe(mayorD_), [&](std::size_t lugar) { return alcanceDe(d_[lugar]); }, cercanas);
+}
+
+} // namespace varo

@@ -1,0 +1,168 @@
+#include "lote/recorrido/ElegirColumnas.h"
+
+#include "basico/Texto.h"
+#include "data/Hojadedatos.h"
+#include "data/SelColumnas.h"
+#include "options/OpcionesPrograma.h"
+#include "shell/VAROMAIN.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+namespace varo {
+
+namespace {
+
+/// The keys of the roles, by index of Command1; the last one is the tree code.
+using Papeles = std::vector<std::string>;
+
+const Papeles deCuatroRadios{"X", "Y", "N", "E", "S", "O", "Indice", "Codigo"};
+const Papeles deDosDiametros{"X", "Y", "NS", "EO", "Indice", "Codigo"};
+const Papeles deRadioMedio{"X", "Y", "Radio", "Indice", "Codigo"};
+
+std::string Enumerar(const Papeles& nombres) {
+    std::string texto;
+    for (const auto& nombre : nombres) {
+        texto += (texto.empty() ? "" : ", ") + nombre;
+    }
+    return texto;
+}
+
+struct DialogoConPapeles {
+    SelColumnas* dialogo;
+    const Papeles* papeles;
+};
+
+DialogoConPapeles DialogoALaVista(const Programa& programa) {
+    const std::array<DialogoConPapeles, 3> dialogos{{{programa.cargada<SelCol4R>(), &deCuatroRadios},
+                                                     {programa.cargada<SelCol2D>(), &deDosDiametros},
+                                                     {programa.cargada<SelColRM>(), &deRadioMedio}}};
+    for (const auto& candidato : dialogos) {
+        if (candidato.dialogo != nullptr && candidato.dialogo->Visible()) {
+            return candidato;
+        }
+    }
+    throw std::logic_error{"el menú del mapa no mostró ninguna selección de columnas"};
+}
+
+class Selector {
+public:
+    explicit Selector(PuestoDeTrabajo& puesto)
+        : puesto_{puesto}, opciones_{puesto.programa.tocar<OpcionesPrograma>()},
+          rejilla_{puesto.programa.tocar<Hojadedatos>().MSFlexGrid1} {}
+
+    void elegir() {
+        puesto_.hacer({"columnas"},
+                      [this] { puesto_.usuario.clic(puesto_.programa.tocar<VAROMAIN>().mnuMapa); });
+        const auto aLaVista = DialogoALaVista(puesto_.programa);
+        auto& dialogo = *aLaVista.dialogo;
+        papeles_ = *aLaVista.papeles;
+        exigirPapelesDelDialogo();
+        // The code goes first: afterwards a header with "Código" in it, chosen for another role, can no
+        // longer pass for the code and keep its button disabled.
+        const int ultimo = static_cast<int>(papeles_.size()) - 1;
+        darPapel(dialogo, ultimo);
+        for (int papel = 0; papel < ultimo; ++papel) {
+            darPapel(dialogo, papel);
+        }
+        if (const auto* const dap = puesto_.trabajo.columna("DAP")) {
+            pulsar(dialogo.CmdDAP, *dap);
+        }
+        exigirCompletas(dialogo);
+        puesto_.hacer({"columnas"}, [&] { puesto_.usuario.clic(dialogo.CmdDibujar); });
+    }
+
+private:
+    [[nodiscard]] bool conCodigo() const { return opciones_.ChCodigo.Value() == 1; }
+
+    void exigirPapelesDelDialogo() const {
+        for (const auto& columna : puesto_.trabajo.columnas) {
+            const bool conocido = columna.papel == "DAP" || std::find(papeles_.begin(), papeles_.end(),
+                                                                      columna.papel) != papeles_.end();
+            if (!conocido) {
+                puesto_.rechazar(columna.lugar(), "los datos de copa elegidos no tienen este papel; tienen " +
+                                                      Enumerar(papeles_) + " y DAP");
+            }
+            if (columna.papel == "Codigo" && !conCodigo()) {
+                puesto_.rechazar(columna.lugar(), "ChCodigo está a 0: la parcela no tiene código de árbol");
+            }
+        }
+    }
+
+    void darPapel(SelColumnas& dialogo, int papel) {
+        if (const auto* const columna = puesto_.trabajo.columna(papeles_[static_cast<std::size_t>(papel)])) {
+            pulsar(dialogo.Command1(papel), *columna);
+        }
+    }
+
+    void pulsar(Boton& boton, const ColumnaPedida& pedida) {
+        const int columna = columnaDeLaRejilla(pedida);
+        if (rejilla_.ColWidth(columna) == 0) {
+            puesto_.avisar(pedida.lugar(), "la columna " + std::to_string(columna) + " («" +
+                                               rejilla_.TextMatrix(0, columna) +
+                                               "») no tiene datos en la rejilla");
+        }
+        puesto_.hacer(pedida.lugar(), [&] {
+            puesto_.usuario.seleccionarColumna(rejilla_, columna);
+            puesto_.usuario.clic(boton);
+        });
+    }
+
+    [[nodiscard]] int columnaDeLaRejilla(const ColumnaPedida& pedida) const {
+        if (const auto* const numero = std::get_if<std::int64_t>(&pedida.columna)) {
+            if (*numero < 0 || *numero >= rejilla_.Cols()) {
+                puesto_.rechazar(pedida.lugar(), "no hay columna " + std::to_string(*numero) +
+                                                     ": van de la 0 a la " +
+                                                     std::to_string(rejilla_.Cols() - 1));
+            }
+            return static_cast<int>(*numero);
+        }
+        return columnaConCabecera(pedida, std::get<std::string>(pedida.columna));
+    }
+
+    [[nodiscard]] int columnaConCabecera(const ColumnaPedida& pedida, const std::string& cabecera) const {
+        Papeles cabeceras;
+        for (int columna = 0; columna < rejilla_.Cols(); ++columna) {
+            cabeceras.push_back(rejilla_.TextMatrix(0, columna));
+        }
+        auto hallada = std::find(cabeceras.begin(), cabeceras.end(), cabecera);
+        if (hallada == cabeceras.end()) {
+            hallada = std::find_if(cabeceras.begin(), cabeceras.end(),
+                                   [&](const std::string& otra) { return MismoNombre(otra, cabecera); });
+        }
+        if (hallada == cabeceras.end()) {
+            puesto_.rechazar(pedida.lugar(), "la hoja no tiene ninguna columna «" + cabecera + "»; tiene " +
+                                                 Enumerar(cabeceras));
+        }
+        return static_cast<int>(hallada - cabeceras.begin());
+    }
+
+    void exigirCompletas(const SelColumnas& dialogo) const {
+        if (dialogo.CmdDibujar.Enabled()) {
+            return;
+        }
+        Papeles faltan;
+        for (const auto& papel : papeles_) {
+            if (puesto_.trabajo.columna(papel) == nullptr && (papel != "Codigo" || conCodigo())) {
+                faltan.push_back(papel);
+            }
+        }
+        puesto_.rechazar({"columnas"}, faltan.empty()
+                                           ? "el programa no da por completa la selección de columnas"
+                                           : "faltan papeles: " + Enumerar(faltan));
+    }
+
+    PuestoDeTrabajo& puesto_;
+    const OpcionesPrograma& opciones_;
+    Rejilla& rejilla_;
+    Papeles papeles_;
+};
+
+} // namespace
+
+void ElegirColumnas(PuestoDeTrabajo& puesto) {
+    Selector{puesto}.elegir();
+}
+
+} // namespace varo

@@ -1,0 +1,51 @@
+// Where a job is done: the program, a person's hands and the job that they follow.
+#pragma once
+
+#include "formularios/Usuario.h"
+#include "lote/recorrido/ServiciosDeTrabajo.h"
+#include "lote/trabajo/ErrorTrabajo.h"
+#include "lote/trabajo/Trabajo.h"
+#include "shell/Programa.h"
+
+#include <functional>
+#include <string>
+
+namespace varo {
+
+/// Whom a running job tells how far it is and what a person should look at. Both are one line without its
+/// end.
+struct Seguimiento {
+    std::function<void(const std::string&)> etapa = [](const std::string&) {};
+    std::function<void(const std::string&)> aviso = [](const std::string&) {};
+};
+
+class PuestoDeTrabajo {
+public:
+    PuestoDeTrabajo(const Trabajo& trabajo_, const Seguimiento& seguimiento)
+        : trabajo{trabajo_}, seguimiento_{seguimiento} {}
+
+    const Trabajo& trabajo;
+    ServiciosDeTrabajo servicios;
+    Programa programa{servicios};
+    Usuario usuario{programa};
+
+    /// Does a piece of the job. What a person could not do, a message box that nobody prepared for and a
+    /// run-time fault end the job with an ErrorTrabajo that names `lugar`; a fault ends it with `siFalla`.
+    void hacer(const Lugar& lugar, const std::function<void()>& acto,
+               Estado siFalla = Estado::FalloDeCalculo);
+
+    [[nodiscard]] ErrorTrabajo error(const Lugar& lugar, const std::string& motivo,
+                                     Estado estado = Estado::Rechazado) const {
+        return {trabajo.ruta, lugar, motivo, estado};
+    }
+    [[noreturn]] void rechazar(const Lugar& lugar, const std::string& motivo) const {
+        throw error(lugar, motivo);
+    }
+    void avisar(const Lugar& lugar, const std::string& texto) const;
+    void empezar(const std::string& etapa) const;
+
+private:
+    const Seguimiento& seguimiento_;
+};
+
+} // namespace varo

@@ -1,0 +1,100 @@
+#include "lote/recorrido/Recorrido.h"
+
+#include "basico/Numeros.h"
+#include "basico/Texto.h"
+#include "data/FrmSeleccion.h"
+#include "data/Hojadedatos.h"
+#include "lote/recorrido/AplicarOpciones.h"
+#include "lote/recorrido/ElegirColumnas.h"
+#include "lote/recorrido/EscribirResultados.h"
+#include "lote/trabajo/Pendiente.h"
+#include "map/FrmFormato.h"
+#include "options/OpcionesPrograma.h"
+#include "shell/VAROMAIN.h"
+
+namespace varo {
+
+namespace {
+
+void AbrirParcela(PuestoDeTrabajo& puesto) {
+    auto& marco = puesto.programa.tocar<VAROMAIN>();
+    marco.Show();
+    puesto.servicios.prepararArchivo(puesto.trabajo.archivo.string());
+    puesto.hacer(
+        {"archivo"}, [&] { puesto.usuario.clic(marco.mnuAbrir); }, Estado::ErrorDeArchivo);
+}
+
+void ExigirTabla(const PuestoDeTrabajo& puesto, const FrmSeleccion& seleccion) {
+    std::string tablas;
+    for (int i = 0; i < seleccion.CboHoja.ListCount(); ++i) {
+        const std::string& tabla = seleccion.CboHoja.List(i);
+        if (MismoNombre(tabla, puesto.trabajo.hoja)) {
+            return;
+        }
+        tablas += (tablas.empty() ? "" : ", ") + tabla;
+    }
+    puesto.rechazar({"hoja"},
+                    "el archivo no tiene ninguna hoja «" + puesto.trabajo.hoja + "»; tiene " + tablas);
+}
+
+void AceptarHoja(PuestoDeTrabajo& puesto) {
+    auto& seleccion = puesto.programa.tocar<FrmSeleccion>();
+    ExigirTabla(puesto, seleccion);
+    puesto.hacer({"hoja"}, [&] {
+        puesto.usuario.escribir(seleccion.CboHoja, puesto.trabajo.hoja);
+        try {
+            puesto.usuario.clic(seleccion.CmdAceptar);
+        } catch (const MensajeInesperado&) {
+            // One message serves every cause; the fault behind it tells which.
+            if (!seleccion.ultimoFallo()) {
+                throw;
+            }
+            throw ErrorEjecucion{*seleccion.ultimoFallo()};
+        }
+    });
+}
+
+void CambiarOpciones(PuestoDeTrabajo& puesto) {
+    auto& marco = puesto.programa.tocar<VAROMAIN>();
+    puesto.hacer({"opciones"}, [&] { puesto.usuario.clic(marco.mnuOpciones); });
+    AplicarOpciones(puesto);
+    puesto.hacer({"opciones"},
+                 [&] { puesto.usuario.clic(puesto.programa.tocar<OpcionesPrograma>().CmdAceptar); });
+}
+
+void DibujarMapa(PuestoDeTrabajo& puesto) {
+    puesto.empezar("dibujando el mapa");
+    puesto.hacer({"dibujo del mapa"},
+                 [&] { puesto.usuario.clic(puesto.programa.tocar<FrmFormato>().CmdAceptar); });
+}
+
+} // namespace
+
+std::string Informe::texto(const Trabajo& trabajo) const {
+    std::string texto = ATexto(arboles) + (arboles == 1 ? " árbol" : " árboles") +
+                        ", superficie de la parcela: " + Formato(superficie, "###0.0") + " m2";
+    if (trabajo.resultados) {
+        texto += ", " + ATexto(columnas) + " columnas -> " + trabajo.resultados->ruta.string();
+    }
+    return texto;
+}
+
+Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento) {
+    RechazarLoPendiente(trabajo);
+    PuestoDeTrabajo puesto{trabajo, seguimiento};
+    puesto.empezar("abriendo " + trabajo.archivo.string());
+    AbrirParcela(puesto);
+    AceptarHoja(puesto);
+    CambiarOpciones(puesto);
+    ElegirColumnas(puesto);
+    DibujarMapa(puesto);
+    Informe informe;
+    informe.arboles = puesto.programa.tocar<Hojadedatos>().MSFlexGrid1.Rows() - 1;
+    informe.superficie = puesto.programa.sesion.SupPoligono;
+    if (trabajo.resultados) {
+        informe.columnas = EscribirResultados(puesto, *trabajo.resultados);
+    }
+    return informe;
+}
+
+} // namespace varo

@@ -1,0 +1,11 @@
+// What a job may ask for and the program cannot do yet.
+#pragma once
+
+#include "lote/trabajo/Trabajo.h"
+
+namespace varo {
+
+/// Refuses with ErrorTrabajo what is still to come: it is never passed over.
+void RechazarLoPendiente(const Trabajo& trabajo);
+
+} // namespace varo

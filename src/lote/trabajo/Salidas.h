@@ -1,0 +1,13 @@
+// The outputs of jobs: that none of them destroys another file of the jobs.
+#pragma once
+
+#include "lote/trabajo/Trabajo.h"
+
+#include <vector>
+
+namespace varo {
+
+/// Jobs that would write over a plot or a job file, and two that would write to one file, throw ErrorTrabajo.
+void RechazarSalidasEnConflicto(const std::vector<Trabajo>& trabajos);
+
+} // namespace varo

@@ -1,0 +1,291 @@
+#include "lote/trabajo/Trabajo.h"
+
+#include "basico/Numeros.h"
+
+#include <toml++/toml.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <fstream>
+#include <initializer_list>
+#include <iterator>
+
+namespace varo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array<std::string_view, 12> papeles{"X",  "Y",  "N",     "E",      "S",      "O",
+                                                   "NS", "EO", "Radio", "Indice", "Codigo", "DAP"};
+
+int Linea(const toml::node& nodo) {
+    return static_cast<int>(nodo.source().begin.line);
+}
+
+std::string NombreDeTipo(const toml::node& nodo) {
+    switch (nodo.type()) {
+    case toml::node_type::table:
+        return "una tabla";
+    case toml::node_type::array:
+        return "una lista";
+    case toml::node_type::string:
+        return "un texto";
+    case toml::node_type::integer:
+        return "un número entero";
+    case toml::node_type::floating_point:
+        return "un número con decimales";
+    case toml::node_type::boolean:
+        return "un valor lógico";
+    default:
+        return "una fecha o una hora";
+    }
+}
+
+/// Walks the tree of a TOML text and takes from it what a job may hold.
+class Interprete {
+public:
+    Interprete(const toml::table& raiz, const fs::path& ruta, const Cambios& cambios)
+        : raiz_{raiz}, cambios_{cambios} {
+        trabajo_.ruta = ruta;
+    }
+
+    Trabajo interpretar() {
+        rechazarAjenas(raiz_, "", {"archivo", "hoja", "columnas", "opciones", "salida"});
+        leerParcela();
+        leerColumnas();
+        leerOpciones();
+        leerSalida();
+        return std::move(trabajo_);
+    }
+
+private:
+    [[noreturn]] void rechazar(const Lugar& lugar, const std::string& motivo) const {
+        throw ErrorTrabajo{trabajo_.ruta, lugar, motivo};
+    }
+
+    [[noreturn]] void rechazarTipo(const toml::node& nodo, const std::string& clave,
+                                   const std::string& esperado) const {
+        rechazar({clave, Linea(nodo)}, "se espera " + esperado + " y hay " + NombreDeTipo(nodo));
+    }
+
+    void rechazarAjenas(const toml::table& tabla, const std::string& prefijo,
+                        std::initializer_list<std::string_view> conocidas) const {
+        for (const auto& [clave, nodo] : tabla) {
+            if (std::find(conocidas.begin(), conocidas.end(), clave.str()) == conocidas.end()) {
+                rechazar({prefijo + std::string{clave.str()}, Linea(nodo)}, "clave desconocida");
+            }
+        }
+    }
+
+    [[nodiscard]] std::string texto(const toml::node& nodo, const std::string& clave) const {
+        const auto* const valor = nodo.as_string();
+        if (valor == nullptr) {
+            rechazarTipo(nodo, clave, "un texto");
+        }
+        if (valor->get().empty()) {
+            rechazar({clave, Linea(nodo)}, "está vacío");
+        }
+        if (valor->get().find('\0') != std::string::npos) {
+            rechazar({clave, Linea(nodo)}, "contiene un carácter nulo");
+        }
+        return valor->get();
+    }
+
+    /// The text of a key that every job has, unless the command line gives it.
+    [[nodiscard]] std::string textoObligado(const char* clave) const {
+        const auto* const nodo = raiz_.get(clave);
+        if (nodo == nullptr) {
+            rechazar({clave}, "falta en el trabajo");
+        }
+        return texto(*nodo, clave);
+    }
+
+    [[nodiscard]] const toml::table& tabla(const toml::node& nodo, const std::string& clave) const {
+        const auto* const valor = nodo.as_table();
+        if (valor == nullptr) {
+            rechazarTipo(nodo, clave, "una tabla");
+        }
+        return *valor;
+    }
+
+    void leerParcela() {
+        trabajo_.archivo =
+            cambios_.archivo ? *cambios_.archivo : trabajo_.ruta.parent_path() / textoObligado("archivo");
+        trabajo_.hoja = cambios_.hoja ? *cambios_.hoja : textoObligado("hoja");
+    }
+
+    void leerColumnas() {
+        const auto* const nodo = raiz_.get("columnas");
+        if (nodo == nullptr) {
+            rechazar({"columnas"}, "falta en el trabajo");
+        }
+        for (const auto& [clave, valor] : tabla(*nodo, "columnas")) {
+            trabajo_.columnas.push_back(columna(std::string{clave.str()}, valor));
+        }
+    }
+
+    [[nodiscard]] ColumnaPedida columna(const std::string& papel, const toml::node& nodo) const {
+        ColumnaPedida columna{papel, {}, Linea(nodo)};
+        if (std::find(papeles.begin(), papeles.end(), papel) == papeles.end()) {
+            rechazar(columna.lugar(), "papel desconocido; los hay: X, Y, N, E, S, O, NS, EO, Radio, Indice, "
+                                      "Codigo y DAP");
+        }
+        if (const auto* const numero = nodo.as_integer()) {
+            columna.columna = numero->get();
+        } else if (nodo.is_string()) {
+            columna.columna = texto(nodo, columna.lugar().clave);
+        } else {
+            rechazarTipo(nodo, columna.lugar().clave, "una cabecera o un número de columna");
+        }
+        return columna;
+    }
+
+    void leerOpciones() {
+        const auto* const nodo = raiz_.get("opciones");
+        if (nodo == nullptr) {
+            return;
+        }
+        for (const auto& [clave, valor] : tabla(*nodo, "opciones")) {
+            OpcionPedida opcion{std::string{clave.str()}, {}, Linea(valor)};
+            opcion.valor = valorDe(valor, opcion.lugar().clave);
+            trabajo_.opciones.push_back(std::move(opcion));
+        }
+    }
+
+    [[nodiscard]] ValorPedido valorDe(const toml::node& nodo, const std::string& clave) const {
+        if (const auto* const logico = nodo.as_boolean()) {
+            return logico->get();
+        }
+        if (const auto* const entero = nodo.as_integer()) {
+            return entero->get();
+        }
+        if (const auto* const decimal = nodo.as_floating_point()) {
+            if (!std::isfinite(decimal->get())) {
+                rechazar({clave, Linea(nodo)}, "no es un número finito");
+            }
+            return decimal->get();
+        }
+        if (const auto* const palabras = nodo.as_string()) {
+            return palabras->get(); // an empty text too is something that a person can type
+        }
+        if (const auto* const lista = nodo.as_array()) {
+            return funciones(*lista, clave);
+        }
+        rechazarTipo(nodo, clave, "un número, un texto, un valor lógico o una lista de tablas");
+    }
+
+    [[nodiscard]] std::vector<FuncionPedida> funciones(const toml::array& lista,
+                                                       const std::string& clave) const {
+        std::vector<FuncionPedida> pedidas;
+        for (const auto& nodo : lista) {
+            FuncionPedida funcion;
+            for (const auto& [nombre, valor] : tabla(nodo, clave)) {
+                const std::string claveDeParametro = clave + "." + std::string{nombre.str()};
+                const auto tecleado = TextoTecleado(valorDe(valor, claveDeParametro));
+                if (!tecleado) {
+                    rechazarTipo(valor, claveDeParametro, "un número o un texto");
+                }
+                funcion.emplace(std::string{nombre.str()}, *tecleado);
+            }
+            pedidas.push_back(std::move(funcion));
+        }
+        return pedidas;
+    }
+
+    void leerSalida() {
+        const auto* const nodo = raiz_.get("salida");
+        if (nodo == nullptr) {
+            return;
+        }
+        const auto& salidas = tabla(*nodo, "salida");
+        rechazarAjenas(salidas, "salida.", {"resultados", "datos", "mapa"});
+        trabajo_.resultados = salida(salidas, "resultados");
+        trabajo_.datos = salida(salidas, "datos");
+        trabajo_.mapa = salida(salidas, "mapa");
+    }
+
+    [[nodiscard]] std::optional<SalidaPedida> salida(const toml::table& salidas, const char* nombre) const {
+        const auto* const nodo = salidas.get(nombre);
+        if (nodo == nullptr) {
+            return std::nullopt;
+        }
+        const std::string clave = std::string{"salida."} + nombre;
+        const fs::path ruta = texto(*nodo, clave);
+        if (!ruta.has_filename() || ruta.filename() == "." || ruta.filename() == "..") {
+            rechazar({clave, Linea(*nodo)}, "«" + ruta.string() + "» no es el nombre de un archivo");
+        }
+        const fs::path carpeta = cambios_.salida ? *cambios_.salida : trabajo_.ruta.parent_path();
+        return SalidaPedida{carpeta / ruta, Linea(*nodo)};
+    }
+
+    const toml::table& raiz_;
+    const Cambios& cambios_;
+    Trabajo trabajo_;
+};
+
+} // namespace
+
+const ColumnaPedida* Trabajo::columna(std::string_view papel) const {
+    const auto pedida = std::find_if(columnas.begin(), columnas.end(), [papel](const ColumnaPedida& columna) {
+        return columna.papel == papel;
+    });
+    return pedida == columnas.end() ? nullptr : &*pedida;
+}
+
+Trabajo InterpretarTrabajo(std::string_view texto, const fs::path& ruta, const Cambios& cambios) {
+    try {
+        const toml::table raiz = toml::parse(texto);
+        return Interprete{raiz, ruta, cambios}.interpretar();
+    } catch (const toml::parse_error& error) {
+        const auto& donde = error.source().begin;
+        throw ErrorTrabajo{ruta,
+                           {"", static_cast<int>(donde.line)},
+                           "no es TOML correcto, hacia la columna " + std::to_string(donde.column) + " («" +
+                               std::string{error.description()} + "»)"};
+    }
+}
+
+Trabajo LeerTrabajo(const fs::path& ruta, const Cambios& cambios) {
+    std::error_code error;
+    std::ifstream archivo{ruta, std::ios::binary};
+    if (fs::is_directory(ruta, error) || !archivo) {
+        throw ErrorTrabajo{ruta, {}, "no se puede leer el trabajo", Estado::ErrorDeArchivo};
+    }
+    const std::string texto{std::istreambuf_iterator<char>{archivo}, {}};
+    if (archivo.bad()) {
+        throw ErrorTrabajo{ruta, {}, "no se puede leer entero el trabajo", Estado::ErrorDeArchivo};
+    }
+    return InterpretarTrabajo(texto, ruta, cambios);
+}
+
+namespace {
+
+/// The shortest digits of a number, as a person writes them: 0,00005.
+std::string SinExponente(double numero) {
+    std::array<char, 400> letras{};
+    const auto fin =
+        std::to_chars(letras.data(), letras.data() + letras.size(), numero, std::chars_format::fixed);
+    std::string texto{letras.data(), fin.ptr};
+    std::replace(texto.begin(), texto.end(), '.', ',');
+    return texto;
+}
+
+} // namespace
+
+std::optional<std::string> TextoTecleado(const ValorPedido& valor) {
+    if (const auto* const texto = std::get_if<std::string>(&valor)) {
+        return *texto;
+    }
+    if (const auto* const entero = std::get_if<std::int64_t>(&valor)) {
+        return std::to_string(*entero);
+    }
+    if (const auto* const decimal = std::get_if<double>(&valor)) {
+        return SinExponente(*decimal);
+    }
+    return std::nullopt;
+}
+
+} // namespace varo

@@ -1,0 +1,50 @@
+#include "plot/calculo/AreaBasimetrica.h"
+
+#include "basico/Aritmetica.h"
+
+namespace varo {
+
+double AreaBasimetrica(double tamano, const UnidadesTallo& unidades) {
+    const double cuadrado = Potencia(tamano, 2);
+    switch (unidades.unidad) {
+    case UnidadLongitud::Centimetros:
+        return unidades.circunferencia ? cuadrado / 125663.708 : (cuadrado * Pi) / 40000.0;
+    case UnidadLongitud::Decimetros:
+        return unidades.circunferencia ? cuadrado / 1256.63708 : (cuadrado * Pi) / 400.0;
+    case UnidadLongitud::Metros:
+        break;
+    }
+    return unidades.circunferencia ? cuadrado / 12.5663708 : (cuadrado * Pi) / 4.0;
+}
+
+std::string ConsultaAreaBasimetrica(const std::string& campo, const std::string& hoja,
+                                    const UnidadesTallo& unidades) {
+    std::string expresion;
+    switch (unidades.unidad) {
+    case UnidadLongitud::Centimetros:
+        expresion = unidades.circunferencia ? "]^2/(4*3.1415927*10000)" : "]^2*3.1415927/(4*10000)";
+        break;
+    case UnidadLongitud::Decimetros:
+        expresion = unidades.circunferencia ? "]^2/(4*3.1415927*100)" : "]^2*3.1415927/(4*100)";
+        break;
+    case UnidadLongitud::Metros:
+        expresion = unidades.circunferencia ? "]^2/(4*3.1415927)" : "]^2*3.1415927/4";
+        break;
+    }
+    return "SELECT Sum ( [" + campo + expresion + " ) as [AB] FROM [" + hoja;
+}
+
+double TerminoAreaBasimetrica(double tamano, const UnidadesTallo& unidades) {
+    const double cuadrado = Potencia(tamano, 2);
+    switch (unidades.unidad) {
+    case UnidadLongitud::Centimetros:
+        return unidades.circunferencia ? cuadrado / (4 * Pi * 10000) : cuadrado * Pi / (4 * 10000);
+    case UnidadLongitud::Decimetros:
+        return unidades.circunferencia ? cuadrado / (4 * Pi * 100) : cuadrado * Pi / (4 * 100);
+    case UnidadLongitud::Metros:
+        break;
+    }
+    return unidades.circunferencia ? cuadrado / (4 * Pi) : cuadrado * Pi / 4;
+}
+
+} // namespace varo

@@ -1,0 +1,279 @@
+#include "indices/apa/APA.h"
+
+#include "apoyo/Fallos.h"
+#include "indices/apa/APAParcela.h"
+#include "indices/apa/APAVecinos.h"
+#include "indices/vecinos/Marcas.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace varo {
+namespace {
+
+std::vector<double> Columna(const ParcelaAPA& parcela, double k) {
+    return CalcularAPA(parcela.arboles(), parcela.contorno(), k);
+}
+
+int Fallo(const ParcelaAPA& parcela, double k = 0) {
+    return FalloDe([&] { Columna(parcela, k); });
+}
+
+/// A tree at the origin amid four at the corners of a square, which stand on the boundary. No two trees share
+/// an x or a y; the boundary leaves room for the largest cell that the middle tree can have.
+ParcelaAPA CuatroAlrededorDeUno(const std::string& tamano = "0,1") {
+    ParcelaAPA parcela;
+    parcela.anadir(0, 0, tamano);
+    parcela.anadir(2, 1, "0,1");
+    parcela.anadir(-1, 2, "0,1");
+    parcela.anadir(-2, -1, "0,1");
+    parcela.anadir(1, -2, "0,1");
+    parcela.contornoX = {-3.6, -1, 1.2, 2, 3.6, 1, -1.2, -2, -3.6};
+    parcela.contornoY = {1.2, 2, 3.6, 1, -1.2, -2, -3.6, -1, 1.2};
+    return parcela;
+}
+
+/// Where tree j is seen from tree i.
+std::pair<double, double> Visto(const ParcelaAPA& parcela, double k, VecinosAPA::Fila i, VecinosAPA::Fila j) {
+    const Arboles arboles = parcela.arboles();
+    const PesosAPA pesos{arboles, k};
+    VecinosAPA vecinos;
+    Pareja pareja{i, i};
+    std::vector<VecinosAPA::Fila> filas{std::min(i, j), std::max(i, j)};
+    ReunirVecinos(pesos, filas, pareja, vecinos);
+    return {vecinos.x.at(0), vecinos.y.at(0)};
+}
+
+// The corners lie at root 5 from the middle: at W of that way stand the sides of a square of (2 W root 5)^2.
+
+TEST(APA, ConExponenteCeroLaCeldaEsLaDeVoronoi) {
+    const std::vector<double> columna = Columna(CuatroAlrededorDeUno("0,3"), 0);
+    EXPECT_NEAR(columna[0], 5, 1E-13);
+    EXPECT_EQ((std::vector<double>(columna.begin() + 1, columna.end())),
+              std::vector<double>(4, ArbolDeContorno));
+}
+
+TEST(APA, UnArbolTresVecesMasGruesoEmpujaElLadoATresCuartos) {
+    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), 1)[0], 11.25, 1E-12);
+}
+
+TEST(APA, UnExponenteNegativoDaLaVentajaAlMasDelgado) {
+    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), -1)[0], 1.25, 1E-13);
+}
+
+TEST(APA, ConUnExponenteGrandeElLadoLlegaHastaElVecinoMasDelgado) {
+    // W = 1 / (1 + 3^-200): the side passes through the neighbour itself.
+    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), 200)[0], 20, 1E-12);
+    const auto [x, y] = Visto(CuatroAlrededorDeUno("0,3"), 200, 0, 1);
+    EXPECT_NEAR(x, 4, 1E-14);
+    EXPECT_NEAR(y, 2, 1E-14);
+}
+
+TEST(APA, ElDibujoDeCadaCeldaLlegaCuandoEstaAcabada) {
+    const ParcelaAPA parcela = CuatroAlrededorDeUno();
+    std::vector<std::size_t> arboles;
+    std::vector<TrazoAPA> lados;
+    CalcularAPA(parcela.arboles(), parcela.contorno(), 0,
+                [&](std::size_t arbol, std::span<const TrazoAPA> trazos) {
+                    arboles.push_back(arbol);
+                    lados.assign(trazos.begin(), trazos.end());
+                });
+    EXPECT_EQ(arboles, std::vector<std::size_t>{0}); // the others have a marker and no cell
+    ASSERT_EQ(lados.size(), 4U);
+    for (std::size_t v = 0; v < 4; ++v) {
+        EXPECT_NEAR(Distancia(lados[v].x1, lados[v].y1, lados[v].x2, lados[v].y2), std::sqrt(5.0), 1E-13);
+        EXPECT_EQ(lados[v].x2, lados[(v + 1) % 4].x1);
+        EXPECT_EQ(lados[v].y2, lados[(v + 1) % 4].y1);
+    }
+}
+
+TEST(APA, ElVecinoVirtualGuardaElCuadranteDelArbol) {
+    // Three trees four times as thick at five metres: W = 1/5, so each one is seen at two metres.
+    ParcelaAPA parcela;
+    parcela.anadir(1, 1, "0,1");
+    for (const auto& [dx, dy] : {std::pair{3, 4}, {-3, 4}, {-3, -4}, {3, -4}}) {
+        parcela.anadir(1 + dx, 1 + dy, "0,4");
+    }
+    parcela.cuadrar(-20, 20);
+    for (VecinosAPA::Fila j = 1; j <= 4; ++j) {
+        const auto [x, y] = Visto(parcela, 1, 0, j);
+        EXPECT_NEAR(x - 1, (parcela.x[j] - 1) * 2 / 5, 1E-14);
+        EXPECT_NEAR(y - 1, (parcela.y[j] - 1) * 2 / 5, 1E-14);
+    }
+}
+
+TEST(APA, UnArbolJustoALaIzquierdaSeVeALaDerecha) {
+    ParcelaAPA parcela;
+    parcela.anadir(1, 7);
+    parcela.anadir(-2, 7);
+    parcela.cuadrar(-20, 20);
+    EXPECT_EQ(Visto(parcela, 0, 0, 1), (std::pair{4.0, 7.0}));
+}
+
+TEST(APA, UnaCeldaSinTamanoEsSinArbolYNoEsVecina) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.anadir(0.5, 0.25, "");
+    const std::vector<double> columna = Columna(parcela, 0);
+    EXPECT_NEAR(columna[0], 5, 1E-13);
+    EXPECT_EQ(columna[5], SinArbol);
+}
+
+TEST(APA, UnArbolSinTamanoNoNecesitaSitio) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.anadir(0, 1, ""); // the x of the middle tree
+    EXPECT_NEAR(Columna(parcela, 0)[0], 5, 1E-13);
+}
+
+TEST(APA, UnTamanoCeroNoEsVecinoPeroSuSitioSeMira) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.anadir(-1.2, -3.6, "0"); // on the boundary
+    EXPECT_NEAR(Columna(parcela, 0)[0], 5, 1E-13);
+    parcela.anadir(0, 1, "0");
+    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+}
+
+TEST(APA, ConExponenteCeroUnTamanoCeroTieneCelda) {
+    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0"), 0)[0], 5, 1E-13); // 0^0 is 1
+}
+
+TEST(APA, UnSujetoDeTamanoCeroDivideEntreCero) {
+    // Its neighbours are seen where it stands itself.
+    EXPECT_EQ(Fallo(CuatroAlrededorDeUno("0"), 1), fallo::divisionPorCero);
+    EXPECT_EQ(Fallo(CuatroAlrededorDeUno("0"), -1), fallo::divisionPorCero);
+}
+
+TEST(APA, SinTamanoVaAntesQueElVertice) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.tamano[1] = "";
+    parcela.tamano[0] = "";
+    EXPECT_EQ(Columna(parcela, 0),
+              (std::vector<double>{SinArbol, SinArbol, ArbolDeContorno, ArbolDeContorno, ArbolDeContorno}));
+}
+
+TEST(APA, DosArbolesConLaMismaXFallanYSeNombran) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.anadir(0, 1);
+    try {
+        Columna(parcela, 0);
+        FAIL();
+    } catch (const ErrorEjecucion& error) {
+        EXPECT_EQ(error.numero(), fallo::divisionPorCero);
+        EXPECT_EQ(error.lugar(), "fila 1, vecino de la fila 6");
+    }
+}
+
+TEST(APA, DosArbolesConLaMismaXEnElContornoNoSeMiranEntreSi) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.anadir(2, -3.6);
+    parcela.contornoX.insert(parcela.contornoX.begin() + 6, 2);
+    parcela.contornoY.insert(parcela.contornoY.begin() + 6, -3.6);
+    EXPECT_NEAR(Columna(parcela, 0)[0], 5, 1E-13);
+}
+
+TEST(APA, UnVecinoConLaMismaYFalla) {
+    ParcelaAPA cercano = CuatroAlrededorDeUno();
+    cercano.anadir(0.5, 0); // the nearest: the first side
+    EXPECT_EQ(Fallo(cercano), fallo::divisionPorCero);
+    ParcelaAPA lejano = CuatroAlrededorDeUno();
+    lejano.anadir(16, 0); // tried in the turn
+    EXPECT_EQ(Fallo(lejano), fallo::divisionPorCero);
+}
+
+TEST(APA, DosVecinosEnLineaConElArbolFallan) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.anadir(4, 2);
+    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+}
+
+TEST(APA, SinNingunVecinoFalla) {
+    ParcelaAPA parcela;
+    parcela.anadir(1, 1);
+    parcela.cuadrar(-20, 20);
+    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+    parcela.anadir(2, 3, "");
+    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+}
+
+TEST(APA, UnSoloVecinoNoCierraLaCelda) {
+    ParcelaAPA parcela;
+    parcela.anadir(1, 1);
+    parcela.anadir(2, 3);
+    parcela.cuadrar(-20, 20);
+    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+}
+
+TEST(APA, UnVecinoAMilKilometrosNoEsNinguno) {
+    ParcelaAPA parcela;
+    parcela.anadir(0, 0);
+    parcela.anadir(800000, 600000);
+    parcela.cuadrar(-20, 20);
+    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+}
+
+TEST(APA, UnCandidatoRechazadoNoVuelve) {
+    // From the nearest tree (-0,5; 2) the turn takes (-4; 3) and then tries (3; 2,5), across more than half a
+    // turn: that circle holds (-0,5; 2). With it the tree would have a triangle; without, two sides that meet
+    // in one point.
+    ParcelaAPA parcela;
+    parcela.anadir(0, 0);
+    parcela.anadir(3, 2.5);
+    parcela.anadir(-0.5, 2);
+    parcela.anadir(-4, 3);
+    parcela.contornoX = {-4, -0.5, 3, 0, -3, -4};
+    parcela.contornoY = {3, 2, 2.5, -5, -4, 3};
+    EXPECT_EQ(Columna(parcela, 0),
+              (std::vector<double>{0, ArbolDeContorno, ArbolDeContorno, ArbolDeContorno}));
+}
+
+TEST(APA, UnaParcelaSinArbolesNoTieneValores) {
+    EXPECT_TRUE(Columna(ParcelaAPA{}, 0).empty());
+}
+
+/// What a cell that is no number does, and where it says it stands.
+std::string Lugar(const ParcelaAPA& parcela, int numero) {
+    try {
+        Columna(parcela, 0);
+    } catch (const ErrorEjecucion& error) {
+        EXPECT_EQ(error.numero(), numero);
+        return error.lugar();
+    }
+    return {};
+}
+
+TEST(APA, UnTamanoQueNoEsNumeroFallaAlLeerlo) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.tamano[3] = "grueso";
+    EXPECT_EQ(Lugar(parcela, fallo::tiposDistintos),
+              "fila 1, vecino de la fila 4, árbol de la fila 4, columna «D»");
+}
+
+TEST(APA, UnTamanoQueNoEsNumeroFallaTambienEnElContorno) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.tamano[0] = "";
+    parcela.tamano[3] = "grueso";
+    EXPECT_EQ(Lugar(parcela, fallo::tiposDistintos), "fila 4, árbol de la fila 4, columna «D»");
+}
+
+TEST(APA, UnaCeldaIlegibleQueNadieLeeNoFalla) {
+    // Nobody asks for the place of a tree without a size, nor for a neighbour where no cell is worked out.
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    const CeldasDeArboles celdas{{"X", {"0", "2", "x"}}, {"Y", {"0", "1", "y"}}, {"D", {"", "0,1", ""}}, {}};
+    const Arboles arboles{celdas, {false, UnidadLongitud::Metros}, parcela.contorno()};
+    EXPECT_EQ(CalcularAPA(arboles, parcela.contorno(), 0),
+              (std::vector<double>{SinArbol, ArbolDeContorno, SinArbol}));
+}
+
+TEST(APA, UnTamanoNegativoConExponenteFraccionarioFalla) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.tamano[2] = "-0,1";
+    EXPECT_EQ(Fallo(parcela, 0.5), fallo::argumentoNoValido);
+    EXPECT_EQ(Fallo(parcela, 1), fallo::divisionPorCero); // 0,1 + -0,1
+}
+
+TEST(APA, UnaPotenciaDesmedidaFalla) {
+    EXPECT_EQ(Fallo(CuatroAlrededorDeUno(), -400), fallo::desbordamiento);
+}
+
+} // namespace
+} // namespace varo

@@ -1,0 +1,196 @@
+#include "lote/trabajo/Trabajo.h"
+
+#include "lote/TrabajoDePrueba.h"
+
+#include <gtest/gtest.h>
+
+namespace varo::prueba {
+namespace {
+
+const char* const entero = R"toml(archivo = "parcela.xls"
+hoja = "Parcela1$"
+
+[columnas]
+X = "Coord X"
+Indice = 1
+
+[opciones]
+Opt2D = true
+ChN = 1
+"TxtBAF1(6)" = "0,5"
+"TxtBAF2(6)" = 1.5
+LstDist = [ { tipo = "HIP", a = 1.0, b = 2, c = "3,5" } ]
+
+[salida]
+resultados = "salidas/indices.txt"
+mapa = "mapa.svg"
+)toml";
+
+const OpcionPedida& Pedida(const Trabajo& trabajo, const std::string& control) {
+    for (const auto& opcion : trabajo.opciones) {
+        if (opcion.control == control) {
+            return opcion;
+        }
+    }
+    throw std::out_of_range{control};
+}
+
+TEST(Trabajo, UnTrabajoSeLeeEnteroConSusLineas) {
+    const auto trabajo = InterpretarTrabajo(entero, "trabajos/uno.toml");
+    EXPECT_EQ(trabajo.ruta, "trabajos/uno.toml");
+    EXPECT_EQ(trabajo.archivo, "trabajos/parcela.xls");
+    EXPECT_EQ(trabajo.hoja, "Parcela1$");
+    ASSERT_EQ(trabajo.columnas.size(), 2U);
+    EXPECT_EQ(std::get<std::string>(trabajo.columna("X")->columna), "Coord X");
+    EXPECT_EQ(trabajo.columna("X")->linea, 5);
+    EXPECT_EQ(std::get<std::int64_t>(trabajo.columna("Indice")->columna), 1);
+    EXPECT_EQ(trabajo.columna("Y"), nullptr);
+    ASSERT_EQ(trabajo.opciones.size(), 5U);
+    EXPECT_EQ(Pedida(trabajo, "Opt2D").valor, ValorPedido{true});
+    EXPECT_EQ(Pedida(trabajo, "ChN").valor, ValorPedido{std::int64_t{1}});
+    EXPECT_EQ(Pedida(trabajo, "ChN").linea, 10);
+    EXPECT_EQ(Pedida(trabajo, "TxtBAF1(6)").valor, ValorPedido{std::string{"0,5"}});
+    EXPECT_EQ(Pedida(trabajo, "TxtBAF2(6)").valor, ValorPedido{1.5});
+    const FuncionPedida hiperbola{{"tipo", "HIP"}, {"a", "1"}, {"b", "2"}, {"c", "3,5"}};
+    EXPECT_EQ(Pedida(trabajo, "LstDist").valor, ValorPedido{std::vector<FuncionPedida>{hiperbola}});
+    EXPECT_EQ(trabajo.resultados->ruta, "trabajos/salidas/indices.txt");
+    EXPECT_EQ(trabajo.resultados->linea, 16);
+    EXPECT_EQ(trabajo.mapa->ruta, "trabajos/mapa.svg");
+    EXPECT_FALSE(trabajo.datos);
+}
+
+TEST(Trabajo, LasOpcionesYLasSalidasPuedenFaltar) {
+    const auto trabajo = InterpretarTrabajo("archivo = 'a.xls'\nhoja = 'H'\n[columnas]\n", "t.toml");
+    EXPECT_TRUE(trabajo.columnas.empty());
+    EXPECT_TRUE(trabajo.opciones.empty());
+    EXPECT_FALSE(trabajo.resultados);
+    EXPECT_EQ(trabajo.archivo, "a.xls");
+}
+
+TEST(Trabajo, LasRutasAbsolutasNoDependenDeLaCarpetaDelTrabajo) {
+    const auto trabajo = InterpretarTrabajo(
+        "archivo = '/datos/a.xls'\nhoja = 'H'\n[columnas]\n[salida]\nresultados = '/tmp/i.txt'\n", "d/t.toml",
+        {.archivo = {}, .hoja = {}, .salida = "otra"});
+    EXPECT_EQ(trabajo.archivo, "/datos/a.xls");
+    EXPECT_EQ(trabajo.resultados->ruta, "/tmp/i.txt");
+}
+
+TEST(Trabajo, LaLineaDeOrdenesPuedePonerElArchivoLaHojaYLaCarpetaDeSalida) {
+    const Cambios cambios{"suelta.xls", "Otra$", "salidas"};
+    const auto cambiado = InterpretarTrabajo(entero, "trabajos/uno.toml", cambios);
+    EXPECT_EQ(cambiado.archivo, "suelta.xls");
+    EXPECT_EQ(cambiado.hoja, "Otra$");
+    EXPECT_EQ(cambiado.resultados->ruta, "salidas/salidas/indices.txt");
+    const auto sinClaves = InterpretarTrabajo("[columnas]\n", "trabajos/uno.toml", cambios);
+    EXPECT_EQ(sinClaves.archivo, "suelta.xls");
+    EXPECT_EQ(sinClaves.hoja, "Otra$");
+}
+
+TEST(Trabajo, CadaErrorNombraElTrabajoLaClaveYLaRazon) {
+    const std::string parcela = "archivo = 'a.xls'\nhoja = 'H'\n";
+    const std::string base = parcela + "[columnas]\n";
+    struct Caso {
+        std::string texto;
+        std::string error;
+    };
+    const std::vector<Caso> casos{
+        {"hoja = 'H'\n[columnas]\n", "t.toml: archivo: falta en el trabajo"},
+        {"archivo = 'a'\n[columnas]\n", "t.toml: hoja: falta en el trabajo"},
+        {parcela, "t.toml: columnas: falta en el trabajo"},
+        {"archivo = 3\n", "t.toml: línea 1: archivo: se espera un texto y hay un número entero"},
+        {"archivo = ''\n", "t.toml: línea 1: archivo: está vacío"},
+        {"archivo = \"a\\u0000b\"\n", "t.toml: línea 1: archivo: contiene un carácter nulo"},
+        {"archivo = 'a'\nhoja = false\n", "t.toml: línea 2: hoja: se espera un texto y hay un valor lógico"},
+        {parcela + "columnas = 'X'\n", "t.toml: línea 3: columnas: se espera una tabla y hay un texto"},
+        {parcela + "otra = 1\n[columnas]\n", "t.toml: línea 3: otra: clave desconocida"},
+        {base + "Z = 'z'\n",
+         "t.toml: línea 4: columnas.Z: papel desconocido; los hay: X, Y, N, E, S, O, NS, EO, "
+         "Radio, Indice, Codigo y DAP"},
+        {base + "x = 'X'\n",
+         "t.toml: línea 4: columnas.x: papel desconocido; los hay: X, Y, N, E, S, O, NS, EO, "
+         "Radio, Indice, Codigo y DAP"},
+        {base + "X = 1.5\n", "t.toml: línea 4: columnas.X: se espera una cabecera o un número de columna y "
+                             "hay un número con decimales"},
+        {base + "X = ''\n", "t.toml: línea 4: columnas.X: está vacío"},
+        {base + "[[opciones]]\n", "t.toml: línea 4: opciones: se espera una tabla y hay una lista"},
+        {base + "[opciones]\nChN = 1979-05-27\n", "t.toml: línea 5: opciones.ChN: se espera un número, un "
+                                                  "texto, un valor lógico o una lista de tablas y hay "
+                                                  "una fecha o una hora"},
+        {base + "[opciones]\nChN = { a = 1 }\n", "t.toml: línea 5: opciones.ChN: se espera un número, un "
+                                                 "texto, un valor lógico o una lista de tablas y hay "
+                                                 "una tabla"},
+        {base + "[opciones]\nT = nan\n", "t.toml: línea 5: opciones.T: no es un número finito"},
+        {base + "[opciones]\nL = [ 1 ]\n",
+         "t.toml: línea 5: opciones.L: se espera una tabla y hay un número entero"},
+        {base + "[opciones]\nL = [ { a = true } ]\n",
+         "t.toml: línea 5: opciones.L.a: se espera un número o un texto y hay un valor lógico"},
+        {base + "[opciones]\nL = [ { a = inf } ]\n", "t.toml: línea 5: opciones.L.a: no es un número finito"},
+        {base + "[salida]\nindices = 'i.txt'\n", "t.toml: línea 5: salida.indices: clave desconocida"},
+        {base + "[salida]\nresultados = 1\n",
+         "t.toml: línea 5: salida.resultados: se espera un texto y hay un número entero"},
+        {base + "[salida]\nresultados = 'carpeta/'\n",
+         "t.toml: línea 5: salida.resultados: «carpeta/» no es el nombre de un archivo"},
+        {base + "[salida]\nmapa = '..'\n",
+         "t.toml: línea 5: salida.mapa: «..» no es el nombre de un archivo"},
+        {base + "salida = 3\n",
+         "t.toml: línea 4: columnas.salida: papel desconocido; los hay: X, Y, N, E, S, O, NS, "
+         "EO, Radio, Indice, Codigo y DAP"},
+        {"salida = 3\n" + base, "t.toml: línea 1: salida: se espera una tabla y hay un número entero"},
+    };
+    for (const auto& caso : casos) {
+        EXPECT_EQ(ErrorDe([&] { InterpretarTrabajo(caso.texto, "t.toml"); }), caso.error) << caso.texto;
+    }
+}
+
+TEST(Trabajo, UnTextoQueNoEsTomlDiceDonde) {
+    try {
+        InterpretarTrabajo("archivo = 'a'\nTxtBAF1(6) = 1\n", "t.toml");
+        FAIL() << "debía rechazarse";
+    } catch (const ErrorTrabajo& error) {
+        EXPECT_PRED_FORMAT2(::testing::IsSubstring,
+                            "t.toml: línea 2: no es TOML correcto, hacia la columna 8", error.what());
+        EXPECT_EQ(error.estado(), Estado::Rechazado);
+    }
+    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "t.toml: línea 2: no es TOML correcto",
+                        ErrorDe([] { InterpretarTrabajo("archivo = 'a'\narchivo = 'b'\n", "t.toml"); }));
+    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "t.toml: línea 1: no es TOML correcto",
+                        ErrorDe([] { InterpretarTrabajo("hoja = 'Parcela\xE1'\n", "t.toml"); }));
+}
+
+TEST(Trabajo, UnaMarcaDeUtf8AlPrincipioNoEstorba) {
+    const auto trabajo = InterpretarTrabajo("\xEF\xBB\xBF" + std::string{entero}, "t.toml");
+    EXPECT_EQ(trabajo.hoja, "Parcela1$");
+}
+
+TEST(Trabajo, UnErrorCabeEnUnaLineaAunqueLaClaveTengaVarias) {
+    EXPECT_EQ(ErrorDe([] { InterpretarTrabajo("\"a\\nb\" = 1\n", "t.toml"); }),
+              "t.toml: línea 1: a b: clave desconocida");
+}
+
+TEST(Trabajo, UnTrabajoQueNoSePuedeLeerEsUnErrorDeArchivo) {
+    const CarpetaTemporal carpeta;
+    for (const auto& ruta : {carpeta.ruta() / "no_esta.toml", carpeta.ruta()}) {
+        try {
+            LeerTrabajo(ruta);
+            ADD_FAILURE() << "debía fallar con " << ruta;
+        } catch (const ErrorTrabajo& error) {
+            EXPECT_EQ(error.estado(), Estado::ErrorDeArchivo);
+            EXPECT_EQ(std::string{error.what()}, ruta.string() + ": no se puede leer el trabajo");
+        }
+    }
+}
+
+TEST(Trabajo, UnNumeroSeTecleaConComaDecimal) {
+    EXPECT_EQ(TextoTecleado(1.5), "1,5");
+    EXPECT_EQ(TextoTecleado(0.1), "0,1");
+    EXPECT_EQ(TextoTecleado(-2.0), "-2");
+    EXPECT_EQ(TextoTecleado(0.00005), "0,00005");
+    EXPECT_EQ(TextoTecleado(1e21), "1000000000000000000000");
+    EXPECT_EQ(TextoTecleado(std::int64_t{1000000}), "1000000");
+    EXPECT_EQ(TextoTecleado(std::string{"0,5"}), "0,5");
+    EXPECT_EQ(TextoTecleado(true), std::nullopt);
+    EXPECT_EQ(TextoTecleado(std::vector<FuncionPedida>{}), std::nullopt);
+}
+
+} // namespace
+} // namespace varo::prueba
