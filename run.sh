@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
-herramientas/instalar.sh construir medir
+herramientas/instalar.sh construir
 herramientas/preset.sh release --target varo-lote varo
 
 salida=build/ejemplo

@@ -1,4 +1,5 @@
 // The source tree keeps the rules of the architecture (docs/arquitectura.md).
+#include "apoyo/Lugares.h"
 #include "arquitectura/Fuente.h"
 #include "arquitectura/Reglas.h"
 
@@ -14,8 +15,7 @@ class Arquitectura : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_FALSE(fuentes.empty()) << "No hay fuentes bajo src/"; }
 
-    const std::vector<Fuente> fuentes =
-        LeerFuentes(std::filesystem::path{VARO_DATOS_PRUEBA}.parent_path() / "src");
+    const std::vector<Fuente> fuentes = LeerFuentes(prueba::Proyecto() / "src");
 };
 
 TEST_F(Arquitectura, LosIncludesSeEscribenDesdeSrcYExisten) {

@@ -1,5 +1,6 @@
 // The golden plots: each folder is a plot, a job and its right answer, worked out apart from the program.
 #include "apoyo/Jornada.h"
+#include "apoyo/Lugares.h"
 #include "lote/recorrido/Recorrido.h"
 
 #include <gtest/gtest.h>
@@ -128,7 +129,7 @@ void CorrerCaso(const fs::path& caso) {
 }
 
 TEST(Casos, CadaParcelaDaSuRespuesta) {
-    const auto casos = CasosDe(VARO_DATOS_PRUEBA "/casos");
+    const auto casos = CasosDe(DatosDePrueba() / "casos");
     ASSERT_FALSE(casos.empty());
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.filename().string());
@@ -196,7 +197,7 @@ void CorrerCasoDeAlLado(const fs::path& caso) {
 }
 
 TEST(Casos, LasParcelasDeAlLadoDanSuRespuesta) {
-    const fs::path compartidas = fs::path{VARO_COMPARTIDO} / "casos";
+    const fs::path compartidas = AlLado() / "casos";
     if (!fs::exists(compartidas)) {
         GTEST_SKIP() << "no hay parcelas al lado del proyecto";
     }

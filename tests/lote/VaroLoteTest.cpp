@@ -1,4 +1,5 @@
 // The command itself, as a person or a script runs it.
+#include "apoyo/Lugares.h"
 #include "apoyo/Proceso.h"
 #include "basico/Texto.h"
 #include "lote/TrabajoDePrueba.h"
@@ -13,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 Proceso VaroLote(const std::vector<std::string>& argumentos) {
-    return Ejecutar(VARO_LOTE, argumentos);
+    return Ejecutar(ProgramaLote(), argumentos);
 }
 
 /// Writes a job into the plot's folder, with its own results file, and hands back its path.

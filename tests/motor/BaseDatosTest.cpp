@@ -3,6 +3,7 @@
 #include "apoyo/CarpetaTemporal.h"
 #include "apoyo/EscritorXls.h"
 #include "apoyo/Fallos.h"
+#include "apoyo/Lugares.h"
 #include "motor/TablasDePrueba.h"
 
 #include <gtest/gtest.h>
@@ -200,7 +201,7 @@ TEST(BaseDatosAbrir, LoQueNadieConoceSeRechaza) {
 }
 
 TEST(BaseDatosAbrir, LasMuestrasBuenasSeLeenYLasMalasSeRechazan) {
-    const std::filesystem::path muestras{VARO_COMPARTIDO "/muestras"};
+    const auto muestras = prueba::AlLado() / "muestras";
     if (!std::filesystem::exists(muestras)) {
         GTEST_SKIP() << "no están las muestras";
     }

@@ -1,5 +1,7 @@
 #include "recorrido/Pasos.h"
 
+#include "apoyo/Lugares.h"
+
 #include <QHeaderView>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -11,7 +13,7 @@
 namespace varo::prueba {
 
 std::filesystem::path Ejemplos() {
-    return std::filesystem::path{VARO_DATOS_PRUEBA}.parent_path() / "ejemplos";
+    return Proyecto() / "ejemplos";
 }
 
 Programado::Programado() {

@@ -1,5 +1,6 @@
 // The program as it is started: a process of its own at a screen.
 #include "apoyo/CarpetaTemporal.h"
+#include "apoyo/Lugares.h"
 #include "recorrido/Manos.h"
 
 #include <QDeadlineTimer>
@@ -36,7 +37,7 @@ TEST(Programa, UnArchivoQueNoSePuedeLeerSeDiceYElProgramaAcabaSinPreguntar) {
     const CarpetaTemporal carpeta;
     const auto roto = carpeta.Escribir("roto.xls", "esto no es un libro de cálculo");
     QProcess varo;
-    varo.start(VARO, QStringList{});
+    varo.start(QString::fromStdString(ProgramaEscritorio().string()), QStringList{});
     ASSERT_TRUE(varo.waitForStarted(plazo));
     const Manos manos;
     EsperarVentanas("VARO 1.0", 1);

@@ -1,6 +1,7 @@
 // The whole way from a plot file to the file of its indices, at a screen, with mouse and keyboard.
 #include "apoyo/CarpetaTemporal.h"
 #include "apoyo/Jornada.h"
+#include "apoyo/Lugares.h"
 #include "apoyo/Proceso.h"
 #include "recorrido/Pasos.h"
 
@@ -95,8 +96,8 @@ void Salir(const Manos& manos) {
 
 TEST(RecorridoEnPantalla, ElArchivoDeIndicesEsElDeVaroLote) {
     const CarpetaTemporal carpeta;
-    const auto esperado =
-        Ejecutar(VARO_LOTE, {(Ejemplos() / "trabajo.toml").string(), "--salida", carpeta.archivo("lote")});
+    const auto esperado = Ejecutar(
+        ProgramaLote(), {(Ejemplos() / "trabajo.toml").string(), "--salida", carpeta.archivo("lote")});
     ASSERT_EQ(esperado.estado, 0) << esperado.errores;
 
     const auto aqui = std::filesystem::current_path();

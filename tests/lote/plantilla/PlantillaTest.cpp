@@ -1,5 +1,6 @@
 #include "lote/plantilla/Plantilla.h"
 
+#include "apoyo/Lugares.h"
 #include "basico/ErrorEjecucion.h"
 #include "lote/TrabajoDePrueba.h"
 #include "lote/plantilla/Propuesta.h"
@@ -85,7 +86,7 @@ std::string ConLasFamilias(std::string plantilla) {
 
 TEST(Plantilla, SusRenglonesDeFamiliasCorrenSinElComentario) {
     const CarpetaTemporal carpeta;
-    const auto ejemplo = std::filesystem::path{VARO_DATOS_PRUEBA}.parent_path() / "ejemplos" / "parcela.xls";
+    const auto ejemplo = Proyecto() / "ejemplos" / "parcela.xls";
     const std::string plantilla = ConLasFamilias(PlantillaDeTrabajo(ejemplo));
     const auto informe = CorrerTrabajo(InterpretarTrabajo(plantilla, carpeta / "trabajo.toml"));
     EXPECT_EQ(informe.columnas, 17 + 5);

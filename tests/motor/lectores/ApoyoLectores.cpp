@@ -1,5 +1,6 @@
 #include "motor/lectores/ApoyoLectores.h"
 
+#include "apoyo/Lugares.h"
 #include "motor/lectores/LectorXls.h"
 
 #include <algorithm>
@@ -43,11 +44,11 @@ std::vector<std::byte> BytesDe(const std::filesystem::path& archivo) {
 }
 
 std::vector<std::byte> BytesDeLibro(const std::string& nombre) {
-    return BytesDe(std::filesystem::path{VARO_DATOS_PRUEBA} / "datos" / "libros" / nombre);
+    return BytesDe(DatosDePrueba() / "datos" / "libros" / nombre);
 }
 
 std::vector<std::filesystem::path> Muestras(const std::string& carpeta) {
-    const auto lugar = std::filesystem::path{VARO_COMPARTIDO} / "muestras" / carpeta;
+    const auto lugar = AlLado() / "muestras" / carpeta;
     std::vector<std::filesystem::path> archivos;
     if (std::filesystem::is_directory(lugar)) {
         for (const auto& entrada : std::filesystem::directory_iterator{lugar}) {

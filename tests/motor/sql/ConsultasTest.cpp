@@ -1,4 +1,5 @@
 // Every query told by a `.test` file of this folder gives the rows or the fault that the file tells.
+#include "apoyo/Lugares.h"
 #include "motor/BaseDatos.h"
 #include "motor/sql/CasosConsulta.h"
 
@@ -20,7 +21,7 @@ namespace {
 
 std::vector<std::filesystem::path> ArchivosDeCasos() {
     std::vector<std::filesystem::path> archivos;
-    const std::filesystem::path carpeta{VARO_DATOS_PRUEBA "/motor/sql"};
+    const auto carpeta = DatosDePrueba() / "motor" / "sql";
     for (const auto& entrada : std::filesystem::directory_iterator{carpeta}) {
         if (entrada.path().extension() == ".test") {
             archivos.push_back(entrada.path());
