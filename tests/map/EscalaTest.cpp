@@ -1,6 +1,6 @@
 #include "map/Escala.h"
 
-#include "basico/ErrorEjecucion.h"
+#include "apoyo/Fallos.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +9,9 @@
 namespace varo {
 namespace {
 
+/// Metres: quotients and products of some tens of metres round in their last places.
+constexpr double redondeo = 1e-12;
+
 TEST(Escala, UnaParcelaMasAnchaQueAlta) {
     const std::vector<double> x{0, 70, 35};
     const std::vector<double> y{0, 30, 12};
@@ -16,19 +19,19 @@ TEST(Escala, UnaParcelaMasAnchaQueAlta) {
     EXPECT_DOUBLE_EQ(escala.izquierda, -15);
     EXPECT_DOUBLE_EQ(escala.derecha, 85);
     // ((100/85) * 0,7234 * 85 - 30) / 2 = (72,34 - 30) / 2
-    EXPECT_NEAR(escala.abajo, -21.17, 1e-12);
-    EXPECT_NEAR(escala.arriba, 51.17, 1e-12);
+    EXPECT_NEAR(escala.abajo, -21.17, redondeo);
+    EXPECT_NEAR(escala.arriba, 51.17, redondeo);
 }
 
 TEST(Escala, UnaParcelaCuadradaVaPorLaAltura) {
     const std::vector<double> x{0, 50};
     const std::vector<double> y{0, 50};
     const Escala escala = CalcularEscala(x, y);
-    EXPECT_NEAR(escala.abajo, -50.0 * 15 / 70, 1e-12);
-    EXPECT_NEAR(escala.arriba, 50 + 50.0 * 15 / 70, 1e-12);
+    EXPECT_NEAR(escala.abajo, -50.0 * 15 / 70, redondeo);
+    EXPECT_NEAR(escala.arriba, 50 + 50.0 * 15 / 70, redondeo);
     const double exceso = (100.0 / (85 * 0.7234) * (50 + 50.0 * 15 / 70) - 50) / 2;
-    EXPECT_NEAR(escala.izquierda, -exceso, 1e-12);
-    EXPECT_NEAR(escala.derecha, 50 + exceso, 1e-12);
+    EXPECT_NEAR(escala.izquierda, -exceso, redondeo);
+    EXPECT_NEAR(escala.derecha, 50 + exceso, redondeo);
     EXPECT_LT(escala.alto(), 0) << "la y crece hacia arriba";
 }
 
@@ -49,8 +52,8 @@ TEST(Escala, UnSoloPuntoDaUnaEscalaSinExtension) {
 }
 
 TEST(Escala, SinArbolesNoHayExtremos) {
-    EXPECT_THROW(MaximoColumna({}), ErrorEjecucion);
-    EXPECT_THROW(MinimoColumna({}), ErrorEjecucion);
+    EXPECT_EQ(FalloDe([] { MaximoColumna({}); }), fallo::fueraDeIndice);
+    EXPECT_EQ(FalloDe([] { MinimoColumna({}); }), fallo::fueraDeIndice);
 }
 
 } // namespace

@@ -11,6 +11,7 @@ namespace varo {
 
 namespace {
 
+using prueba::FallaCon;
 using prueba::TablaCon;
 
 Recordset ConTresArboles() {
@@ -97,7 +98,8 @@ TEST(Recordset, UnCampoSinFilaFalla) {
 
 TEST(Recordset, SusFallosSonDelMotor) {
     auto filas = Vacio();
-    EXPECT_THROW(filas.MoveFirst(), ErrorMotor);
+    EXPECT_TRUE(
+        FallaCon(fallo::sinRegistroActual, "No hay ningún registro activo", [&] { filas.MoveFirst(); }));
 }
 
 TEST(Recordset, LosCamposSeConocenSinFilas) {

@@ -1,5 +1,6 @@
 #include "plot/ConstruirPoligono.h"
 
+#include "apoyo/Fallos.h"
 #include "apoyo/Jornada.h"
 #include "data/Hojadedatos.h"
 #include "map/FrmFormato.h"
@@ -53,7 +54,7 @@ TEST(ConstruirPoligono, ConCodigoLasColumnasSonSeis) {
     EXPECT_EQ(poligono(3, 1), Valor{6400 / 125663.708});
     EXPECT_EQ(poligono(4, 1), Valor{1.0}) << "diez decímetros";
     EXPECT_EQ(poligono(5, 1), texto("2"));
-    EXPECT_THROW(static_cast<void>(poligono(6, 1)), ErrorEjecucion);
+    EXPECT_EQ(FalloDe([&] { static_cast<void>(poligono(6, 1)); }), fallo::fueraDeIndice);
 }
 
 TEST(ConstruirPoligono, SinCodigoLasColumnasVanUnaALaIzquierda) {
@@ -62,7 +63,7 @@ TEST(ConstruirPoligono, SinCodigoLasColumnasVanUnaALaIzquierda) {
     EXPECT_EQ(poligono(2, 1), Valor{6400 / 125663.708});
     EXPECT_EQ(poligono(3, 1), Valor{1.0});
     EXPECT_EQ(poligono(4, 1), texto("2"));
-    EXPECT_THROW(static_cast<void>(poligono(5, 1)), ErrorEjecucion);
+    EXPECT_EQ(FalloDe([&] { static_cast<void>(poligono(5, 1)); }), fallo::fueraDeIndice);
 }
 
 /// The same square with its crown in other measures: roles from 2 on in these grid columns, then index and

@@ -13,6 +13,9 @@ namespace {
 /// (-2; 1,5), (0; -2,5) and (2; -1,5) in the order of its sides.
 const std::vector<LadoAPA> rectangulo{{0, -2, 2.5}, {1, 0.5, 2.5}, {2, -2, -2.5}, {3, 0.5, -2.5}};
 
+/// m2: the roots of Heron's formula round in their last places.
+constexpr double redondeoDeArea = 1E-14;
+
 struct Contorno {
     std::vector<double> x, y;
     [[nodiscard]] ContornoXY xy() const { return {x, y}; }
@@ -24,7 +27,7 @@ const Contorno porEncimaDeMenosUno{{-10, -9, 9, 10, -10}, {-1, 10, 10, -1, -1}};
 
 TEST(APACelda, UnaCeldaDentroDeLaParcelaTieneSuAreaYDibujaSusLados) {
     std::vector<TrazoAPA> trazos;
-    EXPECT_NEAR(MedirCelda(rectangulo, amplio.xy(), &trazos), 10, 1E-14); // Heron's roots round
+    EXPECT_NEAR(MedirCelda(rectangulo, amplio.xy(), &trazos), 10, redondeoDeArea);
     const std::vector<TrazoAPA> lados{
         {0, 2.5, -2, 1.5}, {-2, 1.5, 0, -2.5}, {0, -2.5, 2, -1.5}, {2, -1.5, 0, 2.5}};
     EXPECT_EQ(trazos, lados);
@@ -41,7 +44,7 @@ TEST(APACelda, UnaCeldaQueSaleDeLaParcelaEsEfectoDeBordeYSeDibujaHastaElContorno
 
 TEST(APACelda, UnaCeldaConTodosSusVerticesFueraConservaSuAreaYNoSeDibuja) {
     std::vector<TrazoAPA> trazos;
-    EXPECT_NEAR(MedirCelda(rectangulo, lejano.xy(), &trazos), 10, 1E-14);
+    EXPECT_NEAR(MedirCelda(rectangulo, lejano.xy(), &trazos), 10, redondeoDeArea);
     EXPECT_TRUE(trazos.empty());
 }
 

@@ -12,6 +12,11 @@
 namespace varo {
 namespace {
 
+// The slopes of the sides, the vertices and the roots of Heron's formula round in their last places.
+constexpr double redondeoDeArea = 1E-13;      // m2, and metres along a side
+constexpr double redondeoDeAreaMayor = 1E-12; // m2, cells above 10 m2
+constexpr double redondeoDePunto = 1E-14;     // metres, a coordinate below 8 m
+
 std::vector<double> Columna(const ParcelaAPA& parcela, double k) {
     return CalcularAPA(parcela.arboles(), parcela.contorno(), k);
 }
@@ -49,25 +54,25 @@ std::pair<double, double> Visto(const ParcelaAPA& parcela, double k, VecinosAPA:
 
 TEST(APA, ConExponenteCeroLaCeldaEsLaDeVoronoi) {
     const std::vector<double> columna = Columna(CuatroAlrededorDeUno("0,3"), 0);
-    EXPECT_NEAR(columna[0], 5, 1E-13);
+    EXPECT_NEAR(columna[0], 5, redondeoDeArea);
     EXPECT_EQ((std::vector<double>(columna.begin() + 1, columna.end())),
               std::vector<double>(4, ArbolDeContorno));
 }
 
 TEST(APA, UnArbolTresVecesMasGruesoEmpujaElLadoATresCuartos) {
-    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), 1)[0], 11.25, 1E-12);
+    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), 1)[0], 11.25, redondeoDeAreaMayor);
 }
 
 TEST(APA, UnExponenteNegativoDaLaVentajaAlMasDelgado) {
-    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), -1)[0], 1.25, 1E-13);
+    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), -1)[0], 1.25, redondeoDeArea);
 }
 
 TEST(APA, ConUnExponenteGrandeElLadoLlegaHastaElVecinoMasDelgado) {
     // W = 1 / (1 + 3^-200): the side passes through the neighbour itself.
-    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), 200)[0], 20, 1E-12);
+    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0,3"), 200)[0], 20, redondeoDeAreaMayor);
     const auto [x, y] = Visto(CuatroAlrededorDeUno("0,3"), 200, 0, 1);
-    EXPECT_NEAR(x, 4, 1E-14);
-    EXPECT_NEAR(y, 2, 1E-14);
+    EXPECT_NEAR(x, 4, redondeoDePunto);
+    EXPECT_NEAR(y, 2, redondeoDePunto);
 }
 
 TEST(APA, ElDibujoDeCadaCeldaLlegaCuandoEstaAcabada) {
@@ -82,7 +87,8 @@ TEST(APA, ElDibujoDeCadaCeldaLlegaCuandoEstaAcabada) {
     EXPECT_EQ(arboles, std::vector<std::size_t>{0}); // the others have a marker and no cell
     ASSERT_EQ(lados.size(), 4U);
     for (std::size_t v = 0; v < 4; ++v) {
-        EXPECT_NEAR(Distancia(lados[v].x1, lados[v].y1, lados[v].x2, lados[v].y2), std::sqrt(5.0), 1E-13);
+        EXPECT_NEAR(Distancia(lados[v].x1, lados[v].y1, lados[v].x2, lados[v].y2), std::sqrt(5.0),
+                    redondeoDeArea);
         EXPECT_EQ(lados[v].x2, lados[(v + 1) % 4].x1);
         EXPECT_EQ(lados[v].y2, lados[(v + 1) % 4].y1);
     }
@@ -98,8 +104,8 @@ TEST(APA, ElVecinoVirtualGuardaElCuadranteDelArbol) {
     parcela.cuadrar(-20, 20);
     for (VecinosAPA::Fila j = 1; j <= 4; ++j) {
         const auto [x, y] = Visto(parcela, 1, 0, j);
-        EXPECT_NEAR(x - 1, (parcela.x[j] - 1) * 2 / 5, 1E-14);
-        EXPECT_NEAR(y - 1, (parcela.y[j] - 1) * 2 / 5, 1E-14);
+        EXPECT_NEAR(x - 1, (parcela.x[j] - 1) * 2 / 5, redondeoDePunto);
+        EXPECT_NEAR(y - 1, (parcela.y[j] - 1) * 2 / 5, redondeoDePunto);
     }
 }
 
@@ -115,26 +121,26 @@ TEST(APA, UnaCeldaSinTamanoEsSinArbolYNoEsVecina) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.anadir(0.5, 0.25, "");
     const std::vector<double> columna = Columna(parcela, 0);
-    EXPECT_NEAR(columna[0], 5, 1E-13);
+    EXPECT_NEAR(columna[0], 5, redondeoDeArea);
     EXPECT_EQ(columna[5], SinArbol);
 }
 
 TEST(APA, UnArbolSinTamanoNoNecesitaSitio) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.anadir(0, 1, ""); // the x of the middle tree
-    EXPECT_NEAR(Columna(parcela, 0)[0], 5, 1E-13);
+    EXPECT_NEAR(Columna(parcela, 0)[0], 5, redondeoDeArea);
 }
 
 TEST(APA, UnTamanoCeroNoEsVecinoPeroSuSitioSeMira) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.anadir(-1.2, -3.6, "0"); // on the boundary
-    EXPECT_NEAR(Columna(parcela, 0)[0], 5, 1E-13);
+    EXPECT_NEAR(Columna(parcela, 0)[0], 5, redondeoDeArea);
     parcela.anadir(0, 1, "0");
     EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
 }
 
 TEST(APA, ConExponenteCeroUnTamanoCeroTieneCelda) {
-    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0"), 0)[0], 5, 1E-13); // 0^0 is 1
+    EXPECT_NEAR(Columna(CuatroAlrededorDeUno("0"), 0)[0], 5, redondeoDeArea); // 0^0 is 1
 }
 
 TEST(APA, UnSujetoDeTamanoCeroDivideEntreCero) {
@@ -168,7 +174,7 @@ TEST(APA, DosArbolesConLaMismaXEnElContornoNoSeMiranEntreSi) {
     parcela.anadir(2, -3.6);
     parcela.contornoX.insert(parcela.contornoX.begin() + 6, 2);
     parcela.contornoY.insert(parcela.contornoY.begin() + 6, -3.6);
-    EXPECT_NEAR(Columna(parcela, 0)[0], 5, 1E-13);
+    EXPECT_NEAR(Columna(parcela, 0)[0], 5, redondeoDeArea);
 }
 
 TEST(APA, UnVecinoConLaMismaYFalla) {

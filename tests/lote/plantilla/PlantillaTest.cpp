@@ -1,7 +1,7 @@
 #include "lote/plantilla/Plantilla.h"
 
+#include "apoyo/Fallos.h"
 #include "apoyo/Lugares.h"
-#include "basico/ErrorEjecucion.h"
 #include "lote/TrabajoDePrueba.h"
 #include "lote/plantilla/Propuesta.h"
 
@@ -127,7 +127,8 @@ TEST(Plantilla, EntreVariasHojasSeElijeLaQueMasPapelesTiene) {
 }
 
 TEST(Plantilla, UnArchivoQueNoSePuedeLeerEsUnFalloDelMotor) {
-    EXPECT_THROW(PlantillaDeTrabajo("/no/esta.xls"), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoNoEncontrado, "«/no/esta.xls»: el archivo no existe",
+                         [] { PlantillaDeTrabajo("/no/esta.xls"); }));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "lote/recorrido/ArchivoEntero.h"
 
+#include "apoyo/Fallos.h"
 #include "apoyo/Jornada.h"
-#include "basico/ErrorEjecucion.h"
 
 #include <gtest/gtest.h>
 
@@ -75,7 +75,10 @@ TEST(ArchivoEntero, PublicarLoQueNoSeEscribioFallaYNoQuedaNada) {
     const CarpetaTemporal carpeta;
     {
         ArchivoEntero archivo{carpeta.ruta() / "salida.txt"};
-        EXPECT_THROW(archivo.publicar(), ErrorEjecucion);
+        EXPECT_TRUE(FallaCon<ErrorEjecucion>(fallo::accesoAlArchivo,
+                                             "No se puede escribir en «" +
+                                                 (carpeta.ruta() / "salida.txt").string() + "»",
+                                             [&] { archivo.publicar(); }));
     }
     EXPECT_EQ(Entradas(carpeta.ruta()), 0);
 }

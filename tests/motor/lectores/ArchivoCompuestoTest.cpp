@@ -1,11 +1,13 @@
 #include "motor/lectores/ArchivoCompuesto.h"
 
 #include "apoyo/EscritorCompuesto.h"
-#include "basico/ErrorEjecucion.h"
+#include "apoyo/Fallos.h"
 
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <string_view>
+#include <utility>
 
 namespace varo {
 namespace {
@@ -24,15 +26,13 @@ void Poner32(std::vector<std::byte>& bytes, std::size_t lugar, std::uint32_t val
     }
 }
 
-/// The fault that reading the stream "Libro" gives.
-int Fallo(const std::vector<std::byte>& archivo) {
-    try {
-        (void)ArchivoCompuesto{archivo}.Flujo("Libro");
-        return 0;
-    } catch (const ErrorMotor& error) {
-        return error.numero();
-    }
+/// Reading the stream "Libro" ends in a damaged file that tells this.
+testing::AssertionResult Danado(const std::vector<std::byte>& archivo, std::string_view defecto) {
+    return prueba::FallaCon(fallo::archivoDanado, defecto,
+                            [&] { (void)ArchivoCompuesto{archivo}.Flujo("Libro"); });
 }
+
+constexpr const char* cadenaRota = "una cadena de sectores está rota";
 
 // In a file of 512-byte sectors with one stream of 5,000 bytes: ten sectors of stream, one of directory, one
 // of FAT.
@@ -93,38 +93,41 @@ TEST(ArchivoCompuesto, ElUltimoSectorPuedeEstarSinRellenar) {
     archivo.insert(archivo.end(), copia.begin(), copia.end());
     EXPECT_EQ(Contenido(5000), ArchivoCompuesto{archivo}.Flujo("Libro"));
     archivo.pop_back();
-    EXPECT_EQ(fallo::archivoDanado, Fallo(archivo));
+    EXPECT_TRUE(Danado(archivo, "faltan bytes"));
 }
 
 TEST(ArchivoCompuesto, UnaCadenaQueDaVueltasEstaDanada) {
     auto archivo = Grande();
     Poner32(archivo, Enlace(3), 1);
-    EXPECT_EQ(fallo::archivoDanado, Fallo(archivo));
+    EXPECT_TRUE(Danado(archivo, cadenaRota));
 }
 
 TEST(ArchivoCompuesto, UnaCadenaCortaEstaDanada) {
     auto archivo = Grande();
     Poner32(archivo, Enlace(3), 0xFFFFFFFE);
-    EXPECT_EQ(fallo::archivoDanado, Fallo(archivo));
+    EXPECT_TRUE(Danado(archivo, cadenaRota));
 }
 
 TEST(ArchivoCompuesto, UnaCadenaFueraDelArchivoEstaDanada) {
-    for (const std::uint32_t siguiente : {13U, 127U, 128U, 0xFFFFFFFAU}) {
+    for (const auto& [siguiente, defecto] : {std::pair{13U, "le faltan sectores"},
+                                             {127U, "le faltan sectores"},
+                                             {128U, cadenaRota},
+                                             {0xFFFFFFFAU, cadenaRota}}) {
         auto archivo = Grande();
         Poner32(archivo, Enlace(3), siguiente);
-        EXPECT_EQ(fallo::archivoDanado, Fallo(archivo)) << siguiente;
+        EXPECT_TRUE(Danado(archivo, defecto)) << siguiente;
     }
 }
 
 TEST(ArchivoCompuesto, UnDirectorioQueDaVueltasEstaDanado) {
     auto cadena = Grande();
     Poner32(cadena, Enlace(10), 10);
-    EXPECT_EQ(fallo::archivoDanado, Fallo(cadena));
+    EXPECT_TRUE(Danado(cadena, cadenaRota));
 
     auto arbol = Grande();
     arbol[lugarDelDirectorio + 128] = std::byte{'X'};
     Poner32(arbol, lugarDelDirectorio + 128 + 68, 1);
-    EXPECT_EQ(fallo::archivoDanado, Fallo(arbol));
+    EXPECT_TRUE(Danado(arbol, "su directorio da vueltas"));
 }
 
 TEST(ArchivoCompuesto, UnaDifatQueDaVueltasEstaDanada) {
@@ -134,20 +137,22 @@ TEST(ArchivoCompuesto, UnaDifatQueDaVueltasEstaDanada) {
     std::vector<std::byte> difat(sector, std::byte{0xFF});
     Poner32(difat, 508, 12);
     archivo.insert(archivo.end(), difat.begin(), difat.end());
-    EXPECT_EQ(fallo::archivoDanado, Fallo(archivo));
+    EXPECT_TRUE(Danado(archivo, cadenaRota));
 }
 
 TEST(ArchivoCompuesto, UnNombreDemasiadoLargoEstaDanado) {
     auto archivo = Grande();
     archivo[lugarDelDirectorio + 128 + 64] = std::byte{66};
-    EXPECT_EQ(fallo::archivoDanado, Fallo(archivo));
+    EXPECT_TRUE(Danado(archivo, "un nombre de su directorio es demasiado largo"));
 }
 
 TEST(ArchivoCompuesto, UnTamanoMayorQueElArchivoEstaDanado) {
-    for (const std::uint32_t tamano : {5121U, 100'000U, 0xFFFFFFFFU}) {
+    const char* const larga = "una secuencia es más larga que el archivo";
+    for (const auto& [tamano, defecto] :
+         {std::pair{5121U, cadenaRota}, {100'000U, larga}, {0xFFFFFFFFU, larga}}) {
         auto archivo = Grande();
         Poner32(archivo, lugarDelDirectorio + 128 + 120, tamano);
-        EXPECT_EQ(fallo::archivoDanado, Fallo(archivo)) << tamano;
+        EXPECT_TRUE(Danado(archivo, defecto)) << tamano;
     }
 }
 
@@ -155,14 +160,14 @@ TEST(ArchivoCompuesto, UnTamanoDeSectorDesconocidoEstaDanado) {
     for (const std::size_t lugar : {30U, 32U}) {
         auto archivo = Grande();
         archivo[lugar] = std::byte{60};
-        EXPECT_EQ(fallo::archivoDanado, Fallo(archivo)) << lugar;
+        EXPECT_TRUE(Danado(archivo, "el tamaño de sus sectores no es válido")) << lugar;
     }
 }
 
 TEST(ArchivoCompuesto, SinRaizEstaDanado) {
     auto archivo = Grande();
     archivo[lugarDelDirectorio + 66] = std::byte{2};
-    EXPECT_EQ(fallo::archivoDanado, Fallo(archivo));
+    EXPECT_TRUE(Danado(archivo, "su directorio no tiene raíz"));
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "apoyo/BytesDePrueba.h"
 #include "apoyo/EscritorXls.h"
-#include "basico/ErrorEjecucion.h"
+#include "apoyo/Fallos.h"
 #include "motor/lectores/ApoyoLectores.h"
 #include "motor/lectores/RegistrosBiff.h"
 
@@ -20,6 +20,7 @@ using prueba::AnadirRegistro;
 using prueba::AnadirU16;
 using prueba::AnadirU32;
 using prueba::AnadirU8;
+using prueba::FallaCon;
 using Contenido = std::vector<std::byte>;
 
 constexpr int formatoGeneral = 0;
@@ -112,6 +113,11 @@ TEST(HojaBiff, LeeLosNumerosCortos) {
     EXPECT_EQ("0,0=536870911", HojaAMano{}.Rk(0x7FFFFFFE).Celdas());
 }
 
+/// A sheet whose only record is this one ends in a damaged file that tells this.
+testing::AssertionResult RegistroDanado(int tipo, const Contenido& contenido, std::string_view texto) {
+    return FallaCon(fallo::archivoDanado, texto, [&] { HojaAMano{}.Registro(tipo, contenido).Celdas(); });
+}
+
 TEST(HojaBiff, LeeUnaFilaDeNumerosCortos) {
     Contenido contenido;
     for (const int palabra : {4, 2}) {
@@ -125,11 +131,11 @@ TEST(HojaBiff, LeeUnaFilaDeNumerosCortos) {
     EXPECT_EQ("4,2=7 4,3=#43831", HojaAMano{}.Registro(biff::mulRk, contenido).Celdas());
 
     contenido.back() = std::byte{1};
-    EXPECT_THROW(HojaAMano{}.Registro(biff::mulRk, contenido).Celdas(), ErrorMotor);
+    EXPECT_TRUE(RegistroDanado(biff::mulRk, contenido, "una fila de números no es válida"));
     contenido.resize(contenido.size() - 3);
-    EXPECT_THROW(HojaAMano{}.Registro(biff::mulRk, contenido).Celdas(), ErrorMotor);
+    EXPECT_TRUE(RegistroDanado(biff::mulRk, contenido, "una fila de números no es válida"));
     contenido.resize(5);
-    EXPECT_THROW(HojaAMano{}.Registro(biff::mulRk, contenido).Celdas(), ErrorMotor);
+    EXPECT_TRUE(RegistroDanado(biff::mulRk, contenido, "una fila de números no es válida"));
 }
 
 TEST(HojaBiff, LosNumerosConFormatoDeFechaSonFechas) {
@@ -158,7 +164,7 @@ TEST(HojaBiff, LeeTextosPropiosYCompartidos) {
                                                .Registro(biff::rString, Texto("b", Comienzo(0, 2)))
                                                .Celdas());
     compartido[6] = std::byte{2};
-    EXPECT_THROW(HojaAMano{}.Registro(biff::labelSst, compartido).Celdas(), ErrorMotor);
+    EXPECT_TRUE(RegistroDanado(biff::labelSst, compartido, "una celda pide un texto que no hay"));
 }
 
 TEST(HojaBiff, LosErroresSonNulosYLasVerdadesVerdades) {
@@ -182,8 +188,8 @@ TEST(HojaBiff, LasFormulasDanSuResultadoGuardado) {
                   .Registro(biff::formula, Formula(0, 4, resultadoVacio))
                   .Registro(biff::formula, Formula(0, 5, std::bit_cast<std::uint64_t>(43831.0), formatoFecha))
                   .Celdas());
-    EXPECT_THROW(HojaAMano{}.Registro(biff::formula, Formula(0, 0, 0xFFFF'0000'0000'0004)).Celdas(),
-                 ErrorMotor);
+    EXPECT_TRUE(RegistroDanado(biff::formula, Formula(0, 0, 0xFFFF'0000'0000'0004),
+                               "el resultado de una fórmula no es válido"));
 }
 
 TEST(HojaBiff, ElTextoDeUnaFormulaVieneDetras) {
@@ -207,9 +213,10 @@ TEST(HojaBiff, ElTextoDeUnaFormulaVieneDetras) {
 TEST(HojaBiff, UnaFormulaSinSuTextoEstaDanada) {
     HojaAMano hoja;
     hoja.Registro(biff::formula, Formula(3, 1, resultadoTexto));
-    EXPECT_THROW(hoja.Celdas(), ErrorMotor);
+    const std::string falta = "falta el resultado de una fórmula";
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, falta, [&] { hoja.Celdas(); }));
     hoja.Numero(3, 2, 1).Registro(biff::cadena, Texto("abc"));
-    EXPECT_THROW(hoja.Celdas(), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, falta, [&] { hoja.Celdas(); }));
 }
 
 TEST(HojaBiff, UnTextoDeFormulaSueltoNoCambiaNada) {
@@ -251,14 +258,21 @@ TEST(HojaBiff, LaZonaUsadaRodeaLoQueTieneContenido) {
 
 TEST(HojaBiff, UnaColumnaFueraDeLaHojaEstaDanada) {
     EXPECT_EQ("65535,255=1", HojaAMano{}.Numero(65535, 255, 1).Celdas());
-    EXPECT_THROW(HojaAMano{}.Numero(0, 256, 1).Celdas(), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "una celda está fuera de la hoja",
+                         [] { HojaAMano{}.Numero(0, 256, 1).Celdas(); }));
 }
 
 TEST(HojaBiff, UnRegistroCortoEstaDanado) {
-    for (const int tipo :
-         {biff::numero, biff::rk, biff::labelSst, biff::label, biff::boolErr, biff::formula, biff::mulRk}) {
-        EXPECT_THROW(HojaAMano{}.Registro(tipo, Contenido(7)).Celdas(), ErrorMotor) << tipo;
-        EXPECT_THROW(HojaAMano{}.Registro(tipo).Celdas(), ErrorMotor) << tipo;
+    const std::string faltan = "faltan bytes";
+    for (const auto& [tipo, conSieteBytes] : {std::pair{biff::numero, faltan},
+                                              {biff::rk, faltan},
+                                              {biff::labelSst, faltan},
+                                              {biff::label, "un texto está cortado"},
+                                              {biff::boolErr, faltan},
+                                              {biff::formula, faltan},
+                                              {biff::mulRk, "una fila de números no es válida"}}) {
+        EXPECT_TRUE(RegistroDanado(tipo, Contenido(7), conSieteBytes)) << tipo;
+        EXPECT_TRUE(RegistroDanado(tipo, {}, faltan)) << tipo;
     }
 }
 
@@ -268,7 +282,8 @@ TEST(HojaBiff, UnSubflujoDeOtraClaseEstaDanado) {
     AnadirRegistro(flujo, biff::eof, {});
     LimitesDeLectura limites{flujo.size()};
     const LibroBiff libro{CadenasBiff{true}, false, {}, {}, {}, {}};
-    EXPECT_THROW(LeerHoja(flujo, 0, libro, limites), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "una hoja no es de la clase que el libro dice",
+                         [&] { LeerHoja(flujo, 0, libro, limites); }));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "motor/lectores/LimitesDeLectura.h"
 
-#include "basico/ErrorEjecucion.h"
+#include "apoyo/Fallos.h"
 
 #include <gtest/gtest.h>
 
@@ -10,24 +10,30 @@
 namespace varo {
 namespace {
 
+using prueba::FallaCon;
+
+constexpr const char* celdasDeMas = "sus tablas ocupan demasiado para su tamaño";
+
 TEST(LimitesDeLectura, LasCeldasVanEnProporcionAlTamano) {
     LimitesDeLectura limites{1000};
     limites.ContarCeldas(600'000);
     limites.ContarCeldas(400'500);
-    EXPECT_THROW(limites.ContarCeldas(1), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.ContarCeldas(1); }));
 }
 
 TEST(LimitesDeLectura, LosTextosVanEnProporcionAlTamano) {
     LimitesDeLectura limites{1000};
     limites.ContarTexto(64'016'000);
-    EXPECT_THROW(limites.ContarTexto(1), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "sus textos ocupan demasiado para su tamaño",
+                         [&] { limites.ContarTexto(1); }));
     limites.ContarCeldas(1);
 }
 
 TEST(LimitesDeLectura, UnaCuentaInmensaNoDaLaVuelta) {
     LimitesDeLectura limites{1000};
     limites.ContarCeldas(1);
-    EXPECT_THROW(limites.ContarCeldas(std::numeric_limits<std::size_t>::max()), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas,
+                         [&] { limites.ContarCeldas(std::numeric_limits<std::size_t>::max()); }));
 }
 
 } // namespace

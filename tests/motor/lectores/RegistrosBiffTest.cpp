@@ -1,12 +1,14 @@
 #include "motor/lectores/RegistrosBiff.h"
 
 #include "apoyo/EscritorXls.h"
-#include "basico/ErrorEjecucion.h"
+#include "apoyo/Fallos.h"
 
 #include <gtest/gtest.h>
 
 namespace varo {
 namespace {
+
+using prueba::FallaCon;
 
 const std::vector<std::byte> comienzo{std::byte{0}, std::byte{6}, std::byte{0x10}, std::byte{0}};
 
@@ -36,8 +38,8 @@ TEST(RegistrosBiff, SaltaLosGraficosIncrustados) {
 }
 
 TEST(RegistrosBiff, SinFinalEstaDanado) {
-    EXPECT_THROW(Tipos({biff::numero}), ErrorMotor);
-    EXPECT_THROW(Tipos({biff::bof, biff::eof}), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "faltan bytes", [] { Tipos({biff::numero}); }));
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "faltan bytes", [] { Tipos({biff::bof, biff::eof}); }));
 }
 
 TEST(RegistrosBiff, UnRegistroMasLargoQueElFlujoEstaDanado) {
@@ -46,7 +48,7 @@ TEST(RegistrosBiff, UnRegistroMasLargoQueElFlujoEstaDanado) {
     prueba::AnadirRegistro(flujo, biff::numero, comienzo);
     flujo.pop_back();
     Subflujo registros{flujo, 0};
-    EXPECT_THROW(registros.Siguiente(), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "faltan bytes", [&] { registros.Siguiente(); }));
 }
 
 TEST(RegistrosBiff, DiceSuVersionSuClaseYSuLongitud) {
@@ -63,8 +65,10 @@ TEST(RegistrosBiff, DiceSuVersionSuClaseYSuLongitud) {
 TEST(RegistrosBiff, DondeNoHayComienzoEstaDanado) {
     std::vector<std::byte> flujo;
     prueba::AnadirRegistro(flujo, biff::eof, comienzo);
-    EXPECT_THROW((Subflujo{flujo, 0}), ErrorMotor);
-    EXPECT_THROW((Subflujo{flujo, 1000}), ErrorMotor);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "una hoja no está donde el libro dice", [&] {
+        Subflujo{flujo, 0};
+    }));
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "faltan bytes", [&] { Subflujo{flujo, 1000}; }));
 }
 
 TEST(RegistrosBiff, JuntaUnRegistroConSusContinuaciones) {

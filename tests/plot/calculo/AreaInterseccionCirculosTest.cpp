@@ -9,10 +9,13 @@ namespace {
 
 constexpr double pi = 3.1415927; // the literal of the whole program
 
+/// The last bits of arc cosine and sine belong to the mathematics library.
+constexpr double redondeo = 1E-14;
+
 TEST(AreaInterseccionCirculos, DosCirculosDeRadio1ADistancia1) {
     // 2 pi / 3 - sqrt(3) / 2
-    EXPECT_NEAR(AreaInterseccionCirculos(0, 0, 1, 0, 1, 1), 1.228369698608757, 1E-14);
-    EXPECT_NEAR(AreaInterseccionCirculos(5, 7, 5, 8, 1, 1), 1.228369698608757, 1E-14);
+    EXPECT_NEAR(AreaInterseccionCirculos(0, 0, 1, 0, 1, 1), 1.228369698608757, redondeo);
+    EXPECT_NEAR(AreaInterseccionCirculos(5, 7, 5, 8, 1, 1), 1.228369698608757, redondeo);
 }
 
 TEST(AreaInterseccionCirculos, SeparadosNoCompartenNada) {
@@ -28,7 +31,7 @@ TEST(AreaInterseccionCirculos, UnoDentroDeOtroEsElPequenoConElPiDelPrograma) {
 TEST(AreaInterseccionCirculos, LosTangentesPasanPorLosArcos) {
     // Outside: both cosines are 1. Inside: 1 and -1, so the whole small circle but for the rounding of pi.
     EXPECT_EQ(AreaInterseccionCirculos(0, 0, 3, 0, 1, 2), 0);
-    EXPECT_NEAR(AreaInterseccionCirculos(0, 0, 1, 0, 2, 1), 3.141592653589793, 1E-14);
+    EXPECT_NEAR(AreaInterseccionCirculos(0, 0, 1, 0, 2, 1), 3.141592653589793, redondeo);
 }
 
 TEST(AreaInterseccionCirculos, UnRadioNuloPasaPorLasMismasPruebas) {

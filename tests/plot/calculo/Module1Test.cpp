@@ -99,13 +99,16 @@ TEST(AlturaTriangulo, SinBaseFalta) {
 
 // --- Angles -------------------------------------------------------------------------------------------
 
+/// The area rounds, and the last bit of the arc sine belongs to the mathematics library.
+constexpr double redondeoDeAngulo = 1e-12;
+
 TEST(AnguloVertice, UnAnguloAgudoSaleDeSuSeno) {
-    EXPECT_NEAR(AnguloVertice(0, 0, 2, 1, 3, 9), 0.78539816339744830962, 1e-12);
+    EXPECT_NEAR(AnguloVertice(0, 0, 2, 1, 3, 9), 0.78539816339744830962, redondeoDeAngulo);
 }
 
 TEST(AnguloVertice, UnAnguloObtusoSeRestaDelPiDelPrograma) {
     // 3,1415927 - pi / 4, not 3 pi / 4 = 2,35619449...
-    EXPECT_NEAR(AnguloVertice(0, 0, 2, 1, -3, 1), 2.35619453660255169038, 1e-12);
+    EXPECT_NEAR(AnguloVertice(0, 0, 2, 1, -3, 1), 2.35619453660255169038, redondeoDeAngulo);
 }
 
 TEST(AnguloVertice, FaltaDondeLaConstruccionNoExiste) {
@@ -126,23 +129,26 @@ TEST(AnguloVertice, UnAnguloRectoPuedeFaltarPorRedondeo) {
 
 TEST(AnguloDireccion, CreceDesdeElEjeXContraElReloj) {
     const double t = 44.99999933522276637923781534365598; // (180 / 3,1415927) * pi / 4
-    EXPECT_NEAR(AnguloDireccion(0, 0, 1, 1), t, 1e-12);
-    EXPECT_NEAR(AnguloDireccion(0, 0, -1, 1), 180 - t, 1e-12);
-    EXPECT_NEAR(AnguloDireccion(0, 0, -1, -1), 180 + t, 1e-12);
-    EXPECT_NEAR(AnguloDireccion(0, 0, 1, -1), 360 - t, 1e-12);
+    EXPECT_NEAR(AnguloDireccion(0, 0, 1, 1), t, redondeoDeAngulo);
+    EXPECT_NEAR(AnguloDireccion(0, 0, -1, 1), 180 - t, redondeoDeAngulo);
+    EXPECT_NEAR(AnguloDireccion(0, 0, -1, -1), 180 + t, redondeoDeAngulo);
+    EXPECT_NEAR(AnguloDireccion(0, 0, 1, -1), 360 - t, redondeoDeAngulo);
 }
 
+/// Degrees: near 1 the arc sine turns a sine that is short by 3,3e-16 into 1,5e-6, and 180 over the literal
+/// pi takes 1,3e-6 more.
+constexpr double redondeoEnElRecto = 4e-6;
+
 TEST(AnguloDireccion, EnLosEjesNoDistingueAbajoDeArribaNiIzquierdaDeDerecha) {
-    // Near 1 the arc sine turns a sine that is short by 3,3e-16 into 1,5e-6 degrees.
-    EXPECT_NEAR(AnguloDireccion(0, 0, 0, 1), 90, 4e-6);
-    EXPECT_NEAR(AnguloDireccion(0, 0, 0, -1), 90, 4e-6);
+    EXPECT_NEAR(AnguloDireccion(0, 0, 0, 1), 90, redondeoEnElRecto);
+    EXPECT_NEAR(AnguloDireccion(0, 0, 0, -1), 90, redondeoEnElRecto);
     EXPECT_EQ(AnguloDireccion(0, 0, 1, 0), 0);
     EXPECT_EQ(AnguloDireccion(0, 0, -1, 0), 0);
 }
 
 TEST(AnguloDireccion, UnaDiferenciaQueNoSobreviveARestarUnoNoCuenta) {
     // To the left by 1e-17 and down: not 270, since -1e-17 - 1 equals 0 - 1.
-    EXPECT_NEAR(AnguloDireccion(0, 0, -1e-17, -1), 90, 4e-6);
+    EXPECT_NEAR(AnguloDireccion(0, 0, -1e-17, -1), 90, redondeoEnElRecto);
 }
 
 TEST(AnguloDireccion, ElMismoPuntoFalta) {
@@ -158,9 +164,10 @@ TEST(AnguloDireccion, UnAnguloRectoPuedeFaltarPorRedondeo) {
 
 TEST(RadioCircunscrito, DaElRadioYElCentro) {
     const CirculoCircunscrito circulo = RadioCircunscrito(3, 4, -4, 3, 0, -5);
-    EXPECT_NEAR(circulo.radio, 5, 1e-12);
-    EXPECT_NEAR(circulo.CentroCircX, 0, 1e-12);
-    EXPECT_NEAR(circulo.CentroCircY, 0, 1e-12);
+    constexpr double redondeo = 1e-12; // bisectors of slopes -7 and -1/3 meet where their intercepts round
+    EXPECT_NEAR(circulo.radio, 5, redondeo);
+    EXPECT_NEAR(circulo.CentroCircX, 0, redondeo);
+    EXPECT_NEAR(circulo.CentroCircY, 0, redondeo);
 }
 
 TEST(RadioCircunscrito, ElSegundoYElTercerPuntoPuedenEstarALaMismaAltura) {
@@ -180,11 +187,11 @@ TEST(RadioCircunscrito, FaltaConElPrimerPuntoALaAlturaDeOtroYConPuntosAlineados)
 // --- The polygon --------------------------------------------------------------------------------------
 
 TEST(AreaPoligono, LaDelCuadradoUnidadEsUno) {
-    EXPECT_NEAR(Area(cuadrado), 1, 1e-15);
+    EXPECT_NEAR(Area(cuadrado), 1, 1e-15); // Heron's roots round
 }
 
 TEST(AreaPoligono, LaDeUnCuadradoDeDiezEsCien) {
-    EXPECT_NEAR(Area({{0, 0, 10, 10, 0}, {0, 10, 10, 0, 0}}), 100, 1e-12);
+    EXPECT_NEAR(Area({{0, 0, 10, 10, 0}, {0, 10, 10, 0, 0}}), 100, 1e-12); // Heron's roots round
 }
 
 TEST(AreaPoligono, ConTresFilasOMenosEsCero) {
