@@ -1,25 +1,33 @@
 #include "motor/BaseDatos.h"
 
 #include "apoyo/CarpetaTemporal.h"
+#include "apoyo/EscritorCompuesto.h"
 #include "apoyo/EscritorXls.h"
 #include "apoyo/Fallos.h"
 #include "apoyo/Lugares.h"
 #include "motor/TablasDePrueba.h"
+#include "motor/lectores/ApoyoLectores.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
+#include <vector>
 
 namespace varo {
 
 namespace {
 
 using prueba::CarpetaTemporal;
+using prueba::FallaCon;
 using prueba::MensajeDe;
 using prueba::TablaCon;
 
@@ -68,11 +76,16 @@ TEST(BaseDatos, UnTopDeCeroFilasFallaAlMoverseALaPrimera) {
 
 TEST(BaseDatos, LosFallosDeUnaConsultaSonDelMotor) {
     const auto base = ConDosTablas();
-    EXPECT_THROW((void)base.OpenRecordset("SELECT"), ErrorMotor);
-    EXPECT_THROW((void)base.OpenRecordset(""), ErrorMotor);
-    EXPECT_THROW((void)base.OpenRecordset("SELECT [x] FROM [Parcela1$]"), ErrorMotor);
-    EXPECT_THROW((void)base.OpenRecordset("SELECT 'x' + 1 FROM [Parcela1$]"), ErrorMotor);
-    EXPECT_THROW((void)base.OpenRecordset("SELECT 1 FROM [x]"), ErrorMotor);
+    for (const auto& [sql, numero, texto] :
+         {std::tuple{"SELECT", fallo::sintaxisDeConsulta, "al final: se esperaba"},
+          {"", fallo::sintaxisDeConsulta, "al final: se esperaba «SELECT»"},
+          {"SELECT [x] FROM [Parcela1$]", fallo::nombreDesconocido,
+           "La tabla «Parcela1$» no tiene ningún campo «x»"},
+          {"SELECT 'x' + 1 FROM [Parcela1$]", fallo::tiposDistintosEnConsulta,
+           "el texto «x» no es un número"},
+          {"SELECT 1 FROM [x]", fallo::tablaDesconocida, "No se encuentra la tabla «x»"}}) {
+        EXPECT_TRUE(FallaCon(numero, texto, [&, consulta = sql] { (void)base.OpenRecordset(consulta); }));
+    }
 }
 
 // --- Files ---
@@ -88,6 +101,15 @@ void EsperarFallo(const std::filesystem::path& archivo, int numero, std::string_
         EXPECT_NE(mensaje.find(archivo.filename().string()), std::string::npos) << mensaje;
         EXPECT_NE(mensaje.find(dice), std::string::npos) << mensaje;
     }
+}
+
+/// A file with this workbook stream.
+std::filesystem::path Guardado(const std::filesystem::path& archivo, const std::vector<std::byte>& flujo) {
+    const auto bytes = prueba::EscribirCompuesto({{"Workbook", flujo}});
+    std::ofstream salida{archivo, std::ios::binary};
+    std::transform(bytes.begin(), bytes.end(), std::ostreambuf_iterator<char>{salida},
+                   [](std::byte byte) { return static_cast<char>(byte); });
+    return archivo;
 }
 
 TEST(BaseDatosAbrir, UnLibroSeLeeConSusHojasEnOrden) {
@@ -124,9 +146,9 @@ TEST(BaseDatosAbrir, UnArchivoQueNoHay) {
 TEST(BaseDatosAbrir, UnaRutaQuePasaPorUnArchivo) {
     const CarpetaTemporal carpeta;
     const auto archivo = carpeta.Escribir("a.txt", "a");
-    EXPECT_THROW((void)BaseDatos::Abrir(archivo / "b.xls"), ErrorMotor);
-    EXPECT_THROW((void)BaseDatos::Abrir(carpeta / std::string(5000, 'a')), ErrorMotor);
-    EXPECT_THROW((void)BaseDatos::Abrir(""), ErrorMotor);
+    EsperarFallo(archivo / "b.xls", fallo::archivoNoEncontrado, "no existe");
+    EsperarFallo(carpeta / std::string(5000, 'a'), fallo::accesoAlArchivo, "no se puede llegar a él");
+    EsperarFallo("", fallo::archivoNoEncontrado, "«»: el archivo no existe");
 }
 
 TEST(BaseDatosAbrir, UnaCarpeta) {
@@ -182,6 +204,15 @@ TEST(BaseDatosAbrir, LosArchivosComprimidosYLosDeTextoSeDicen) {
     const CarpetaTemporal carpeta;
     EsperarFallo(carpeta.Escribir("hoja.xlsx", "PK\3\4\x14\0\6\0"sv), fallo::formatoNoReconocido, ".xlsx");
     EsperarFallo(carpeta.Escribir("nada.zip", "PK\5\6\0\0"sv), fallo::formatoNoReconocido, ".xlsx");
+    EsperarFallo(carpeta.Escribir("renombrado.xls",
+                                  "PK\3\4\x14\0\0\x08"
+                                  "mimetypeapplication/vnd.oasis.opendocument.spreadsheet"sv),
+                 fallo::formatoNoReconocido, "archivo comprimido, como los .xlsx y los .ods");
+    EsperarFallo(carpeta.Escribir("corto.xls", "a,b\n"), fallo::formatoNoReconocido, "archivo de texto");
+    EsperarFallo(carpeta.Escribir("xml.xls",
+                                  "<?xml version=\"1.0\"?>\r\n<?mso-application progid=\"Excel.Sheet\"?>"
+                                  "<Workbook xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\"/>"),
+                 fallo::formatoNoReconocido, "archivo de texto");
     EsperarFallo(carpeta.Escribir("hoja.csv", "Árbol;CAP\r\n1;12,5\r\n"), fallo::formatoNoReconocido,
                  "archivo de texto");
     EsperarFallo(carpeta.Escribir("una.csv", "1"), fallo::formatoNoReconocido, "archivo de texto");
@@ -198,6 +229,25 @@ TEST(BaseDatosAbrir, LoQueNadieConoceSeRechaza) {
     // A header of a database that is cut short is none.
     EsperarFallo(carpeta.Escribir("corto.mdb", "\0\1\0\0Standard Jet"sv), fallo::formatoNoReconocido,
                  "no se reconoce su formato");
+}
+
+TEST(BaseDatosAbrir, LosLibrosDeOtrosProgramasSeLeen) {
+    for (const auto& archivo : prueba::LibrosPropios()) {
+        EXPECT_GT(BaseDatos::Abrir(archivo).TableDefs().Count(), 0) << archivo;
+    }
+}
+
+TEST(BaseDatosAbrir, UnLibroDanadoOCifradoDiceSuNombreYLoQueTiene) {
+    const CarpetaTemporal carpeta;
+    auto flujo = prueba::EscribirFlujoXls({{"Hoja", {{std::string{"X"}}}}});
+    constexpr std::size_t tamanoDelComienzo = 20; // the BOF of the workbook, before any other record
+    std::vector<std::byte> cifrado{flujo.begin(), flujo.begin() + tamanoDelComienzo};
+    prueba::AnadirRegistro(cifrado, 0x002F, std::vector<std::byte>(54));
+    EsperarFallo(Guardado(carpeta / "cifrado.xls", cifrado), fallo::archivoCifrado,
+                 "el libro está protegido con una contraseña");
+    flujo.pop_back();
+    EsperarFallo(Guardado(carpeta / "cortado.xls", flujo), fallo::archivoDanado,
+                 "está dañado (faltan bytes)");
 }
 
 TEST(BaseDatosAbrir, LasMuestrasBuenasSeLeenYLasMalasSeRechazan) {

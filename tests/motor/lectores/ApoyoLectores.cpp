@@ -30,6 +30,19 @@ std::string Unidos(const Elementos& elementos, Texto texto) {
     return linea;
 }
 
+std::filesystem::path CarpetaDeLibros() {
+    return DatosDePrueba() / "datos" / "libros";
+}
+
+std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpeta) {
+    std::vector<std::filesystem::path> archivos;
+    for (const auto& entrada : std::filesystem::directory_iterator{carpeta}) {
+        archivos.push_back(entrada.path());
+    }
+    std::sort(archivos.begin(), archivos.end());
+    return archivos;
+}
+
 } // namespace
 
 std::vector<std::byte> BytesDe(const std::filesystem::path& archivo) {
@@ -44,19 +57,16 @@ std::vector<std::byte> BytesDe(const std::filesystem::path& archivo) {
 }
 
 std::vector<std::byte> BytesDeLibro(const std::string& nombre) {
-    return BytesDe(DatosDePrueba() / "datos" / "libros" / nombre);
+    return BytesDe(CarpetaDeLibros() / nombre);
+}
+
+std::vector<std::filesystem::path> LibrosPropios() {
+    return ArchivosDe(CarpetaDeLibros());
 }
 
 std::vector<std::filesystem::path> Muestras(const std::string& carpeta) {
     const auto lugar = AlLado() / "muestras" / carpeta;
-    std::vector<std::filesystem::path> archivos;
-    if (std::filesystem::is_directory(lugar)) {
-        for (const auto& entrada : std::filesystem::directory_iterator{lugar}) {
-            archivos.push_back(entrada.path());
-        }
-    }
-    std::sort(archivos.begin(), archivos.end());
-    return archivos;
+    return std::filesystem::is_directory(lugar) ? ArchivosDe(lugar) : std::vector<std::filesystem::path>{};
 }
 
 std::string Escrito(const Valor& valor) {

@@ -17,6 +17,9 @@ std::vector<std::byte> BytesDe(const std::filesystem::path& archivo);
 /// The project's own workbook of that name.
 std::vector<std::byte> BytesDeLibro(const std::string& nombre);
 
+/// All of them, in order of name.
+std::vector<std::filesystem::path> LibrosPropios();
+
 /// The files of a folder of ../shared/muestras in order of name; none when it is not there.
 std::vector<std::filesystem::path> Muestras(const std::string& carpeta);
 

@@ -23,7 +23,7 @@ TEST(FechasBiff, UnFormatoConDiaMesAnoUHoraEsDeFecha) {
 TEST(FechasBiff, TextosEscapesColoresYCondicionesNoHacenFecha) {
     for (const char* formato :
          {"", "General", "0.00", "[Red]0.00", "[Magenta]0", "0 \"días\"", "0\\h", "_d0", "*s0", "[>=100]0",
-          "[$m-C0A]0", "\"sin cerrar d", "[d sin cerrar", "0\\", "[]0"}) {
+          "[$m-C0A]0", "\"Verdadero d\";\"h\";\"Falso\"", "\"sin cerrar d", "[d sin cerrar", "0\\", "[]0"}) {
         EXPECT_FALSE(EsFormatoDeFecha(std::string_view{formato})) << formato;
     }
 }

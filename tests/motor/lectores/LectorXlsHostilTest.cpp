@@ -1,12 +1,15 @@
 // Cut and mutated workbooks: whole tables or an error, never anything between.
 #include "apoyo/EscritorXls.h"
+#include "apoyo/Fallos.h"
 #include "motor/lectores/ApoyoLectores.h"
 #include "motor/lectores/LectorXls.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <random>
+#include <span>
 #include <vector>
 
 namespace varo {
@@ -14,14 +17,11 @@ namespace {
 
 /// The project's own workbooks and, where they are, those of other programs.
 std::vector<std::vector<std::byte>> LibrosBuenos() {
+    auto archivos = prueba::LibrosPropios();
+    const auto muestras = prueba::Muestras("xls");
+    archivos.insert(archivos.end(), muestras.begin(), muestras.end());
     std::vector<std::vector<std::byte>> libros;
-    for (const char* nombre :
-         {"valores.xls", "fechas_1900.xls", "fechas_1904.xls", "huecos.xls", "nombres.xls", "textos.xls"}) {
-        libros.push_back(prueba::BytesDeLibro(nombre));
-    }
-    for (const auto& muestra : prueba::Muestras("xls")) {
-        libros.push_back(prueba::BytesDe(muestra));
-    }
+    std::transform(archivos.begin(), archivos.end(), std::back_inserter(libros), prueba::BytesDe);
     return libros;
 }
 
@@ -34,6 +34,28 @@ TEST(LectorXlsHostil, UnLibroCortadoSeLeeEnteroONoSeLee) {
                 EXPECT_EQ(entero, prueba::Lineas(LeerXls(trozo, "libro.xls"))) << corte;
             }
         }
+    }
+}
+
+/// Reading it ends in a damaged file with its name.
+testing::AssertionResult EstaDanado(std::span<const std::byte> libro) {
+    return prueba::FallaCon(fallo::archivoDanado, "«libro.xls»: el archivo está dañado (",
+                            [&] { LeerXls(libro, "libro.xls"); });
+}
+
+TEST(LectorXlsHostil, MedioLibroEstaDanado) {
+    for (const auto& libro : LibrosBuenos()) {
+        for (const std::size_t corte : {std::size_t{300}, std::size_t{600}, libro.size() / 2}) {
+            EXPECT_TRUE(EstaDanado(std::span{libro.data(), corte})) << corte << " bytes de " << libro.size();
+        }
+    }
+}
+
+TEST(LectorXlsHostil, UnLibroConOtraCosaDetrasDeSuComienzoEstaDanado) {
+    std::mt19937 azar{19990101}; // NOLINT(cert-msc51-cpp): the same bytes every time
+    for (auto libro : LibrosBuenos()) {
+        std::generate(libro.begin() + 512, libro.end(), [&] { return static_cast<std::byte>(azar()); });
+        EXPECT_TRUE(EstaDanado(libro));
     }
 }
 

@@ -2,13 +2,16 @@
 
 #include "apoyo/EscritorCompuesto.h"
 #include "apoyo/EscritorXls.h"
+#include "apoyo/Fallos.h"
 #include "motor/lectores/ApoyoLectores.h"
+#include "motor/lectores/RegistrosBiff.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace varo {
@@ -174,7 +177,11 @@ TEST(LectorXls, DosCeldasLejanasNoLlenanLaMemoria) {
     celdas.front()[0] = "X";
     celdas.back().resize(256);
     celdas.back()[255] = 1.0;
-    EXPECT_THROW(LineasDe(prueba::EscribirXls({{"Lejos", celdas}})), ErrorMotor);
+    EXPECT_TRUE(prueba::FallaCon(
+        fallo::archivoDanado,
+        "«libro.xls»: el archivo está dañado (sus tablas ocupan demasiado para su tamaño)", [&] {
+            LineasDe(prueba::EscribirXls({{"Lejos", celdas}}));
+        }));
 }
 
 /// The number of the fault and what it says behind the file's name.
@@ -188,6 +195,15 @@ std::pair<int, std::string> FalloDe(const std::vector<std::byte>& bytes) {
         return {error.numero(),
                 error.descripcion().substr(std::min(comienzo.size(), error.descripcion().size()))};
     }
+}
+
+/// Where the first record of this type begins in a workbook stream; its content stands four bytes behind.
+std::ptrdiff_t LugarDelRegistro(const std::vector<std::byte>& flujo, int tipo) {
+    std::size_t lugar = 0;
+    while (LeerU16(flujo, lugar) != tipo) {
+        lugar += 4U + LeerU16(flujo, lugar + 2);
+    }
+    return static_cast<std::ptrdiff_t>(lugar);
 }
 
 std::vector<std::byte> ConTexto(std::string_view texto) {
@@ -213,11 +229,20 @@ TEST(LectorXls, UnArchivoCompuestoSinLibroLoDice) {
 
 TEST(LectorXls, UnaHojaDeExcel2A4LoDice) {
     using namespace std::string_view_literals;
+    // A text, a whole number, a blank cell and a number as Excel 2.0 wrote them, and the end.
+    constexpr std::string_view cuatroCeldas = "\x04\x00\x09\x00\x00\x00\x00\x00\x00\x00\x00\x01X"
+                                              "\x02\x00\x09\x00\x01\x00\x00\x00\x00\x00\x00\x05\x00"
+                                              "\x01\x00\x07\x00\x02\x00\x00\x00\x00\x00\x00"
+                                              "\x03\x00\x0F\x00\x03\x00\x00\x00\x00\x00\x00"
+                                              "\x00\x00\x00\x00\x00\x00\xF8\x3F"
+                                              "\x0A\x00\x00\x00"sv;
     for (const auto& [bytes, version] : {std::pair{"\x09\x00\x04\x00\x02\x00\x10\x00"sv, "2"},
                                          {"\x09\x02\x06\x00\x00\x03\x10\x00\x00\x00"sv, "3"},
-                                         {"\x09\x04\x06\x00\x00\x04\x10\x00\x00\x00"sv, "4"}}) {
-        EXPECT_TRUE(PareceXls(ConTexto(bytes)));
-        const auto [numero, texto] = FalloDe(ConTexto(bytes));
+                                         {"\x09\x04\x06\x00\x00\x04\x10\x00\x00\x00"sv, "4"},
+                                         {"\x09\x04\x06\x00\x00\x04\x00\x01\x00\x00"sv, "4"}}) { // a workbook
+        const auto hoja = ConTexto(std::string{bytes} + std::string{cuatroCeldas});
+        EXPECT_TRUE(PareceXls(hoja));
+        const auto [numero, texto] = FalloDe(hoja);
         EXPECT_EQ(fallo::formatoNoReconocido, numero);
         EXPECT_EQ("es una hoja de Excel " + std::string{version}, texto.substr(0, 22));
     }
@@ -225,33 +250,49 @@ TEST(LectorXls, UnaHojaDeExcel2A4LoDice) {
 
 TEST(LectorXls, UnLibroCifradoLoDice) {
     auto flujo = prueba::EscribirFlujoXls({{"Hoja", {{"X"}}}});
+    // All that stands behind the record of the password, which comes after the first BOF, is unreadable.
+    const auto detras = flujo.begin() + LugarDelRegistro(flujo, biff::codePage);
+    std::transform(detras, flujo.end(), detras, [](std::byte byte) { return byte ^ std::byte{0x5A}; });
     std::vector<std::byte> contrasena;
-    prueba::AnadirRegistro(contrasena, 0x002F, std::vector<std::byte>(6));
-    flujo.insert(flujo.begin() + 20, contrasena.begin(), contrasena.end()); // behind the first BOF
+    prueba::AnadirRegistro(contrasena, biff::filePass, std::vector<std::byte>(6));
+    flujo.insert(detras, contrasena.begin(), contrasena.end());
     EXPECT_EQ((std::pair{fallo::archivoCifrado, std::string{"el libro está protegido con una contraseña"}}),
               FalloDe(prueba::EscribirCompuesto({{"Workbook", flujo}})));
 }
-
-// Where the first sheet's place stands in a stream of EscribirFlujoXls: in the record behind the BOF, the
-// code page and four formats. That record has eight bytes and the name.
-constexpr std::ptrdiff_t lugarDeLaPrimeraHoja = 20 + 6 + 4 * 24 + 4;
 
 TEST(LectorXls, UnaHojaFueraDeSuSitioEstaDanada) {
     const auto flujo = prueba::EscribirFlujoXls({{"Hoja", {{"X"}}}});
     for (const int comienzo : {0, 1, 255}) {
         auto movido = flujo;
-        auto& byte = movido[lugarDeLaPrimeraHoja];
+        auto& byte = movido.at(static_cast<std::size_t>(LugarDelRegistro(flujo, biff::boundSheet)) + 4);
         ASSERT_NE(static_cast<std::byte>(comienzo), byte);
         byte = static_cast<std::byte>(comienzo);
         EXPECT_EQ(fallo::archivoDanado, FalloDe(prueba::EscribirCompuesto({{"Workbook", movido}})).first);
     }
 }
 
+TEST(LectorXls, UnaCuentaQueNoCuadraConSuRegistroEstaDanada) {
+    const auto flujo = prueba::EscribirFlujoXls({{"Hoja", {{"X"}}}});
+    const std::string cortado = "el archivo está dañado (un texto está cortado)";
+    for (const auto& [que, lugar, defecto] :
+         {std::tuple{"la cuenta de textos", LugarDelRegistro(flujo, biff::sst) + 8, cortado},
+          {"la longitud de un texto", LugarDelRegistro(flujo, biff::sst) + 12, cortado},
+          {"la longitud de un nombre de hoja", LugarDelRegistro(flujo, biff::boundSheet) + 10, cortado},
+          {"la longitud de un registro", LugarDelRegistro(flujo, biff::codePage) + 3,
+           "el archivo está dañado (faltan bytes)"}}) {
+        auto roto = flujo;
+        roto.at(static_cast<std::size_t>(lugar)) = std::byte{0xFF};
+        EXPECT_EQ((std::pair{fallo::archivoDanado, std::string{defecto}}),
+                  FalloDe(prueba::EscribirCompuesto({{"Workbook", roto}})))
+            << que;
+    }
+}
+
 TEST(LectorXls, DosHojasEnElMismoSitioEstanDanadas) {
     const std::vector<std::vector<Valor>> muchas(200, std::vector<Valor>{1.0});
     auto flujo = prueba::EscribirFlujoXls({{"Uno", {{"X"}}}, {"Dos", muchas}});
-    const auto primera = flujo.begin() + lugarDeLaPrimeraHoja;
-    const auto segunda = primera + 8 + 3 + 4;
+    const auto primera = flujo.begin() + LugarDelRegistro(flujo, biff::boundSheet) + 4;
+    const auto segunda = primera + 8 + 3 + 4; // the record has eight bytes and the name
     std::copy_n(segunda, 4, primera);
     EXPECT_EQ(
         (std::pair{fallo::archivoDanado, std::string{"el archivo está dañado (unas hojas pisan a otras)"}}),
