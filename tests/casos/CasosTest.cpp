@@ -1,55 +1,22 @@
 // The golden plots: each folder is a plot, a job and its right answer, worked out apart from the program.
+#include "apoyo/CarpetaTemporal.h"
 #include "apoyo/Jornada.h"
 #include "apoyo/Lugares.h"
+#include "casos/Caso.h"
 #include "lote/recorrido/Recorrido.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 #include <set>
-#include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace varo::prueba {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::vector<fs::path> CasosDe(const fs::path& carpeta) {
-    std::vector<fs::path> casos;
-    for (const auto& entrada : fs::directory_iterator{carpeta}) {
-        if (entrada.is_directory()) {
-            casos.push_back(entrada.path());
-        }
-    }
-    std::sort(casos.begin(), casos.end());
-    return casos;
-}
-
-/// What a case expects: the bytes of the results file, or the fault that leaves none.
-struct Esperado {
-    std::string bytes;
-    std::optional<int> fallo;
-};
-
-Esperado LeerEsperado(const fs::path& caso) {
-    const fs::path indices = caso / "esperado-indices.txt";
-    const fs::path fallo = caso / "esperado-fallo.txt";
-    if (fs::exists(indices) == fs::exists(fallo)) {
-        throw std::runtime_error{"el caso ha de esperar un archivo de índices o un fallo, y solo uno"};
-    }
-    if (fs::exists(indices)) {
-        return {LeerArchivo(indices), std::nullopt};
-    }
-    const std::string texto = LeerArchivo(fallo);
-    int numero = 0;
-    const auto leido = std::from_chars(texto.data(), texto.data() + texto.size(), numero);
-    if (leido.ec != std::errc{} || leido.ptr == texto.data() + texto.size() || *leido.ptr != ' ') {
-        throw std::runtime_error{"esperado-fallo.txt no empieza por el número del fallo"};
-    }
-    return {{}, numero};
-}
 
 using Tabla = std::vector<std::vector<std::string>>;
 
@@ -101,48 +68,8 @@ void CompararBytes(const fs::path& resultados, const std::string& esperado) {
     }
 }
 
-/// Reads the job of a case; its results go to a folder of the test.
-Trabajo LeerTrabajoDelCaso(const fs::path& caso, const CarpetaTemporal& carpeta) {
-    return LeerTrabajo(caso / "trabajo.toml", {.archivo = {}, .hoja = {}, .salida = carpeta.ruta()});
-}
-
-void CorrerCaso(const fs::path& caso) {
-    const Esperado esperado = LeerEsperado(caso);
-    const CarpetaTemporal carpeta;
-    const Trabajo trabajo = LeerTrabajoDelCaso(caso, carpeta);
-    if (!trabajo.resultados) {
-        throw std::runtime_error{"el trabajo no pide el archivo de resultados"};
-    }
-    try {
-        CorrerTrabajo(trabajo);
-    } catch (const ErrorTrabajo& error) {
-        EXPECT_EQ(error.estado(), Estado::FalloDeCalculo) << error.what();
-        EXPECT_EQ(error.fallo(), esperado.fallo) << error.what();
-        EXPECT_TRUE(fs::is_empty(carpeta.ruta())) << "un fallo no deja archivo";
-        return;
-    }
-    if (esperado.fallo) {
-        ADD_FAILURE() << "debía fallar con " << *esperado.fallo;
-        return;
-    }
-    CompararBytes(trabajo.resultados->ruta, esperado.bytes);
-}
-
-TEST(Casos, CadaParcelaDaSuRespuesta) {
-    const auto casos = CasosDe(DatosDePrueba() / "casos");
-    ASSERT_FALSE(casos.empty());
-    for (const auto& caso : casos) {
-        SCOPED_TRACE(caso.filename().string());
-        try {
-            CorrerCaso(caso);
-        } catch (const std::exception& error) {
-            ADD_FAILURE() << error.what();
-        }
-    }
-}
-
-// The plots that came beside the project ask for more than can be done yet: their jobs and their answers are
-// cut to what can.
+// Plots that expect the plot data too ask for more than can be done yet: their jobs and their answers are cut
+// to what can.
 
 /// Takes from a job what is still to come: the data of the plot, the map, and the overlap of elliptic crowns.
 /// True when that took an index away.
@@ -176,37 +103,60 @@ std::string SinCopas(const std::string& bytes) {
     return recortada;
 }
 
-/// Their faults are told in other words than ours: that the run ends in one is what can be compared.
-void CorrerCasoDeAlLado(const fs::path& caso) {
+/// Runs the job, with its results in a folder of the test.
+void CorrerCaso(const Caso& caso) {
     const CarpetaTemporal carpeta;
-    Trabajo trabajo = LeerTrabajoDelCaso(caso, carpeta);
-    const bool recortado = RecortarTrabajo(trabajo);
-    if (!fs::exists(caso / "esperado-fallo.txt")) {
-        const std::string respuesta = LeerArchivo(caso / "esperado-indices.txt");
-        CorrerTrabajo(trabajo);
-        CompararBytes(trabajo.resultados.value().ruta, recortado ? SinCopas(respuesta) : respuesta);
-        return;
-    }
-    ASSERT_FALSE(recortado) << "el fallo puede ser de lo que se quitó";
+    Trabajo trabajo = LeerTrabajo(caso.trabajo(), {.archivo = {}, .hoja = {}, .salida = carpeta.ruta()});
+    ASSERT_TRUE(trabajo.resultados) << "el trabajo no pide el archivo de resultados";
+    ASSERT_EQ(trabajo.datos.has_value(), caso.conDatos) << "el trabajo pide los datos o el caso los espera";
+    const bool recortado = caso.conDatos && RecortarTrabajo(trabajo);
+    ASSERT_FALSE(caso.fallo && recortado) << "el fallo puede ser de lo que se quitó";
     try {
         CorrerTrabajo(trabajo);
-        ADD_FAILURE() << "debía fallar";
     } catch (const ErrorTrabajo& error) {
         EXPECT_EQ(error.estado(), Estado::FalloDeCalculo) << error.what();
+        EXPECT_EQ(error.fallo(), caso.fallo) << error.what();
+        EXPECT_TRUE(fs::is_empty(carpeta.ruta())) << "un fallo no deja archivo";
+        return;
     }
+    if (caso.fallo) {
+        ADD_FAILURE() << "debía fallar con " << *caso.fallo;
+        return;
+    }
+    CompararBytes(trabajo.resultados->ruta, recortado ? SinCopas(caso.indices) : caso.indices);
 }
 
-TEST(Casos, LasParcelasDeAlLadoDanSuRespuesta) {
+fs::path CasosPropios() {
+    return DatosDePrueba() / "casos";
+}
+
+/// Raise it with each new plot: a folder for which ctest has no test yet shows here.
+constexpr std::size_t cuantosCasos = 194;
+
+TEST(ListaDeCasos, EstanTodos) {
+    EXPECT_EQ(NombresDeCasos(CasosPropios()).size(), cuantosCasos);
+}
+
+class Parcelas : public testing::TestWithParam<std::string> {};
+
+TEST_P(Parcelas, DaSuRespuesta) {
+    CorrerCaso(LeerCaso(CasosPropios() / GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Casos, Parcelas, testing::ValuesIn(NombresDeCasos(CasosPropios())),
+                         [](const auto& caso) { return caso.param; });
+
+TEST(ListaDeCasos, LasParcelasDeAlLadoDanSuRespuesta) {
     const fs::path compartidas = AlLado() / "casos";
     if (!fs::exists(compartidas)) {
         GTEST_SKIP() << "no hay parcelas al lado del proyecto";
     }
-    const auto casos = CasosDe(compartidas);
-    ASSERT_FALSE(casos.empty());
-    for (const auto& caso : casos) {
-        SCOPED_TRACE(caso.filename().string());
+    const auto nombres = NombresDeCasos(compartidas);
+    ASSERT_FALSE(nombres.empty());
+    for (const auto& nombre : nombres) {
+        SCOPED_TRACE(nombre);
         try {
-            CorrerCasoDeAlLado(caso);
+            CorrerCaso(LeerCaso(compartidas / nombre));
         } catch (const std::exception& error) {
             ADD_FAILURE() << error.what();
         }
