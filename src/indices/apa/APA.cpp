@@ -4,6 +4,7 @@
 #include "indices/apa/APACercanos.h"
 #include "indices/vecinos/Marcas.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace varo {
@@ -19,7 +20,7 @@ public:
                 conTamano_.push_back(static_cast<VecinosAPA::Fila>(j));
             }
         }
-        if (todoEsLegible()) {
+        if (std::all_of(conTamano_.begin(), conTamano_.end(), [&](auto j) { return esLegible(j); })) {
             cercanos_.emplace(pesos_);
         }
     }
@@ -29,7 +30,7 @@ public:
         if (arboles_.sinTamano(i)) {
             return SinArbol;
         }
-        static_cast<void>(arboles_.d(i)); // a size that is no number faults even at a vertex
+        static_cast<void>(arboles_.d(i)); // A size that is no number faults even at a vertex.
         if (arboles_.esVertice(i)) {
             return ArbolDeContorno;
         }
@@ -37,7 +38,6 @@ public:
         if (!dibujo_) {
             return MedirCelda(giro_.lados(), contorno_, nullptr);
         }
-        trazos_.clear();
         const double valor = MedirCelda(giro_.lados(), contorno_, &trazos_);
         dibujo_(i, trazos_);
         return valor;
@@ -52,17 +52,14 @@ private:
         giro_.dar(vecinos_, pareja);
     }
 
-    [[nodiscard]] bool todoEsLegible() const {
-        bool legible = true;
-        for (const auto j : conTamano_) {
-            legible = legible && !saltando([&] {
-                          static_cast<void>(arboles_.x(j));
-                          static_cast<void>(arboles_.y(j));
-                          static_cast<void>(pesos_.de(j));
-                      });
-            legible = legible && arboles_.d(j) >= 0;
-        }
-        return legible;
+    /// Whether the short turn may read the tree without a fault of its cells or its weight.
+    [[nodiscard]] bool esLegible(std::size_t j) const {
+        const auto fallo = saltando([&] {
+            static_cast<void>(arboles_.x(j));
+            static_cast<void>(arboles_.y(j));
+            static_cast<void>(pesos_.de(j));
+        });
+        return !fallo && arboles_.d(j) >= 0;
     }
 
     const Arboles& arboles_;
@@ -70,7 +67,7 @@ private:
     const DibujoAPA& dibujo_;
     PesosAPA pesos_;
     std::vector<VecinosAPA::Fila> conTamano_;
-    std::optional<CercanosAPA> cercanos_;
+    std::optional<CercanosAPA> cercanos_; ///< none where a cell or a weight faults
     VecinosAPA vecinos_;
     GiroAPA giro_;
     std::vector<TrazoAPA> trazos_;

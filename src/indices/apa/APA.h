@@ -22,7 +22,7 @@ using DibujoAPA = std::function<void(std::size_t, std::span<const TrazoAPA>)>;
 /// 1004 by rounding, on a direction too near to an axis; those of the cells, of the power and of
 /// PuntoEnPoligono. The drawing may be left out.
 ///
-/// Trees far from a cell are left out of its turn where that changes no bit of it (see APACercanos.h).
+/// Trees far from a cell are left out of its turn where that changes no bit of it (docs/apa.md).
 std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contorno, double k,
                                 const DibujoAPA& dibujo = {});
 

@@ -3,20 +3,17 @@
 #include "basico/Saltando.h"
 
 #include <algorithm>
+#include <cassert>
+#include <functional>
 #include <optional>
 
 namespace varo {
 
 namespace {
 
-struct Punto {
-    double x = 0;
-    double y = 0;
-};
-
 /// Vertex v lies where sides v and v + 1 meet; the last row repeats the first.
-std::vector<Punto> Vertices(std::span<const LadoAPA> lados) {
-    std::vector<Punto> vertices;
+std::vector<PuntoAPA> Vertices(std::span<const LadoAPA> lados) {
+    std::vector<PuntoAPA> vertices;
     vertices.reserve(lados.size() + 1);
     for (std::size_t v = 0; v < lados.size(); ++v) {
         const LadoAPA& este = lados[v];
@@ -34,8 +31,8 @@ bool EstrictamenteEntre(double valor, double a, double b) {
 
 /// Where the line from one point towards another meets side k of the boundary, if it does so between the ends
 /// of the side and on the way. A vertical line and parallel ones throw 11.
-std::optional<Punto> CorteConLado(const ContornoXY& contorno, std::size_t k, const Punto& desde,
-                                  const Punto& hacia) {
+std::optional<PuntoAPA> CorteConLado(const ContornoXY& contorno, std::size_t k, const PuntoAPA& desde,
+                                     const PuntoAPA& hacia) {
     const auto& [px, py] = contorno;
     const double m = Dividir(hacia.y - desde.y, hacia.x - desde.x);
     const double b = desde.y - m * desde.x;
@@ -45,51 +42,67 @@ std::optional<Punto> CorteConLado(const ContornoXY& contorno, std::size_t k, con
     const double y = m * x + b;
     const bool enElLado = EstrictamenteEntre(x, px[k], px[k + 1]) || EstrictamenteEntre(y, py[k], py[k + 1]);
     const bool deCamino = (x - desde.x) * (hacia.x - desde.x) > 0 || (y - desde.y) * (hacia.y - desde.y) > 0;
-    return enElLado && deCamino ? std::optional{Punto{x, y}} : std::nullopt;
+    return enElLado && deCamino ? std::optional{PuntoAPA{x, y}} : std::nullopt;
 }
 
-/// The crossing serves the drawing alone: a side of the boundary that cannot be crossed is passed over.
-std::optional<Punto> CorteConElContorno(const ContornoXY& contorno, const Punto& desde, const Punto& hacia) {
-    std::optional<Punto> corte;
+/// Passes over a side of the boundary that cannot be crossed: the crossing serves the drawing alone.
+std::optional<PuntoAPA> CorteConElContorno(const ContornoXY& contorno, const PuntoAPA& desde,
+                                           const PuntoAPA& hacia) {
+    std::optional<PuntoAPA> corte;
     for (std::size_t k = 0; k + 1 < contorno.x.size() && !corte; ++k) {
         saltando([&] { corte = CorteConLado(contorno, k, desde, hacia); });
     }
     return corte;
 }
 
-void Trazar(const ContornoXY& contorno, const Punto& dentro, const Punto& otro, bool otroDentro,
-            std::vector<TrazoAPA>& trazos) {
-    if (otroDentro) {
-        trazos.push_back({dentro.x, dentro.y, otro.x, otro.y});
-    } else if (const auto corte = CorteConElContorno(contorno, dentro, otro)) {
+void TrazarHastaElContorno(const ContornoXY& contorno, const PuntoAPA& dentro, const PuntoAPA& fuera,
+                           std::vector<TrazoAPA>& trazos) {
+    if (const auto corte = CorteConElContorno(contorno, dentro, fuera)) {
         trazos.push_back({dentro.x, dentro.y, corte->x, corte->y});
     }
 }
 
-/// Whether a side goes from the inside to the outside. A side with both ends outside says nothing, so a cell
-/// that lies wholly outside counts as whole; published values have been worked out so.
-bool LaCortaElContorno(std::span<const Punto> vertices, const ContornoXY& contorno,
-                       std::vector<TrazoAPA>* trazos) {
-    bool cortada = false;
-    bool dentro = PuntoEnPoligono(contorno, vertices[0].x, vertices[0].y);
-    for (std::size_t v = 0; v + 1 < vertices.size(); ++v) {
-        const bool siguienteDentro = PuntoEnPoligono(contorno, vertices[v + 1].x, vertices[v + 1].y);
-        cortada = cortada || dentro != siguienteDentro;
-        if (trazos != nullptr && (dentro || siguienteDentro)) {
-            const bool alReves = !dentro;
-            Trazar(contorno, vertices[alReves ? v + 1 : v], vertices[alReves ? v : v + 1],
-                   dentro && siguienteDentro, *trazos);
-        }
-        dentro = siguienteDentro;
+/// Which vertices lie inside the boundary.
+std::vector<bool> Dentro(std::span<const PuntoAPA> vertices, const ContornoXY& contorno) {
+    std::vector<bool> dentro;
+    dentro.reserve(vertices.size());
+    for (const auto& [x, y] : vertices) {
+        dentro.push_back(PuntoEnPoligono(contorno, x, y));
     }
-    return cortada;
+    return dentro;
+}
+
+std::vector<TrazoAPA> Dibujar(std::span<const PuntoAPA> vertices, const std::vector<bool>& dentro,
+                              const ContornoXY& contorno) {
+    std::vector<TrazoAPA> trazos;
+    for (std::size_t v = 0; v + 1 < vertices.size(); ++v) {
+        const PuntoAPA& este = vertices[v];
+        const PuntoAPA& otro = vertices[v + 1];
+        if (dentro[v] && dentro[v + 1]) {
+            trazos.push_back({este.x, este.y, otro.x, otro.y});
+        } else if (dentro[v]) {
+            TrazarHastaElContorno(contorno, este, otro, trazos);
+        } else if (dentro[v + 1]) {
+            TrazarHastaElContorno(contorno, otro, este, trazos);
+        }
+    }
+    return trazos;
 }
 
 } // namespace
 
 double MedirCelda(std::span<const LadoAPA> lados, const ContornoXY& contorno, std::vector<TrazoAPA>* trazos) {
-    const std::vector<Punto> vertices = Vertices(lados);
-    if (LaCortaElContorno(vertices, contorno, trazos)) {
+    assert(!lados.empty());
+    assert(contorno.x.size() == contorno.y.size());
+    const std::vector<PuntoAPA> vertices = Vertices(lados);
+    const std::vector<bool> dentro = Dentro(vertices, contorno);
+    if (trazos != nullptr) {
+        *trazos = Dibujar(vertices, dentro, contorno);
+    }
+    // Meant: a side with both ends outside does not count as cut, so a cell wholly outside keeps its area.
+    const bool cortada =
+        std::adjacent_find(dentro.begin(), dentro.end(), std::not_equal_to<>{}) != dentro.end();
+    if (cortada) {
         return EfectoBorde;
     }
     double area = 0;

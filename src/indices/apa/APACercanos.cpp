@@ -3,35 +3,43 @@
 #include "basico/Saltando.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <limits>
-#include <numeric>
 
 namespace varo {
 
 namespace {
 
-constexpr double redondeo = std::numeric_limits<double>::epsilon() / 2;
-constexpr double masAllaDelRadio = 1.025;  // a circle is surely larger than R
-constexpr double masAllaDelAlcance = 1.05; // a neighbour is surely farther than 2 R
+// docs/apa.md derives these, each under the name that it has here.
+constexpr double u = std::numeric_limits<double>::epsilon() / 2; // the unit roundoff, 2^-53
+constexpr double masAllaDelAlcance = 1.05;
 constexpr double senoDesmedido = 0.05;
+constexpr double desmedido = 1E+100;
+constexpr double medidaMaxima = 1E+12; // m
+constexpr double cercaniaMinima = 1E-4;
+
+void OrdenarSinRepetir(std::vector<VecinosAPA::Fila>& filas) {
+    std::sort(filas.begin(), filas.end());
+    filas.erase(std::unique(filas.begin(), filas.end()), filas.end());
+}
 
 } // namespace
 
 CercanosAPA::CercanosAPA(const PesosAPA& pesos)
-    : pesos_{pesos}, malla_{pesos}, medida_{malla_.mayorCoordenada() + 2 * malla_.extension()},
+    : pesos_{pesos}, cuadricula_{pesos}, medida_{cuadricula_.mayorCoordenada() + 2 * cuadricula_.extension()},
       dudoso_(pesos.arboles().cuantos()) {
     marcarDudosos();
 }
 
-/// A subject without a weight to divide by, or with a tree of the same x, or almost: no search by distance
-/// knows what happens there.
+/// The subjects that no search by distance serves: those that are not in the grid, those without a weight to
+/// divide by, and those that share their x, or almost, with another tree.
 void CercanosAPA::marcarDudosos() {
-    constexpr double desmedido = 1E+100;
     const Arboles& arboles = pesos_.arboles();
     std::vector<Fila> porX;
     for (Fila i = 0; i < arboles.cuantos(); ++i) {
         if (!arboles.sinTamano(i)) {
+            assert(arboles.d(i) >= 0);
             porX.push_back(i);
             const double peso = pesos_.de(i);
             dudoso_[i] = arboles.d(i) == 0 || peso < 1 / desmedido || peso > desmedido;
@@ -48,28 +56,18 @@ void CercanosAPA::marcarDudosos() {
 
 bool CercanosAPA::girar(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
     const std::size_t i = pareja.sujeto;
-    if (dudoso_[i] || medida_ > 1E+12) {
+    assert(!pesos_.arboles().sinTamano(i));
+    if (dudoso_[i] || medida_ > medidaMaxima) {
         return false;
     }
-    double medioLado = 2 * malla_.lado();
+    double medioLado = 2 * cuadricula_.lado();
     filas_.clear();
-    malla_.cuadro(i, medioLado, filas_);
-    while (true) {
-        enOrden(filas_);
-        if (filas_.size() > malla_.cuantos() / 2) {
-            return false;
-        }
-        // A fault among some of the trees may not be the fault among all of them.
-        if (saltando([&] {
-                ReunirVecinos(pesos_, filas_, pareja, vecinos);
-                giro.dar(vecinos, pareja);
-            })) {
-            return false;
-        }
-        const auto anillo = cerrar(vecinos, giro.lados());
-        if (!anillo || giro.mayorRadio() > anillo->radio * masAllaDelRadio) {
+    cuadricula_.cuadro(i, medioLado, filas_);
+    while (girarEntreEllas(pareja, vecinos, giro)) {
+        const auto anillo = CerrarAnillo(vecinos, giro);
+        if (!anillo) {
             medioLado *= 2;
-            malla_.cuadro(i, medioLado, filas_);
+            cuadricula_.cuadro(i, medioLado, filas_);
             continue;
         }
         if (!buscarNecesarias(i, *anillo, vecinos, giro.lados())) {
@@ -80,84 +78,62 @@ bool CercanosAPA::girar(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
         }
         filas_.insert(filas_.end(), necesarias_.begin(), necesarias_.end());
     }
+    return false;
 }
 
-std::optional<CercanosAPA::Anillo> CercanosAPA::cerrar(const VecinosAPA& vecinos,
-                                                       const std::vector<LadoAPA>& lados) {
-    constexpr double senoMinimo = 1E-6;
-    constexpr double holgura = 1 + 1E-6;
-    Anillo anillo{0, std::numeric_limits<double>::infinity()};
-    for (std::size_t v = 0; v < lados.size(); ++v) {
-        const std::size_t a = lados[v].vecino;
-        const std::size_t b = lados[v + 1 < lados.size() ? v + 1 : 0].vecino;
-        const double ax = vecinos.x[a] - vecinos.xSujeto;
-        const double ay = vecinos.y[a] - vecinos.ySujeto;
-        const double bx = vecinos.x[b] - vecinos.xSujeto;
-        const double by = vecinos.y[b] - vecinos.ySujeto;
-        const double distanciaA = std::hypot(ax, ay);
-        const double distancias = distanciaA * std::hypot(bx, by);
-        const double cruz = ax * by - ay * bx;
-        if (!(cruz > senoMinimo * distancias)) {
-            return std::nullopt; // half a turn or more, or two in line
-        }
-        const double radio = distancias * std::hypot(bx - ax, by - ay) / (2 * cruz);
-        anillo.radio = std::max(anillo.radio, radio * holgura);
-        anillo.vecinoMasCercano = std::min(anillo.vecinoMasCercano, distanciaA);
+bool CercanosAPA::girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
+    OrdenarSinRepetir(filas_);
+    if (filas_.size() > cuadricula_.cuantos() / 2) {
+        return false;
     }
-    return anillo;
+    // A fault among some of the trees may not be the fault among all of them: the whole turn tells.
+    return !saltando([&] {
+        ReunirVecinos(pesos_, filas_, pareja, vecinos);
+        giro.dar(vecinos, pareja);
+    });
 }
 
-bool CercanosAPA::buscarNecesarias(std::size_t i, const Anillo& anillo, const VecinosAPA& vecinos,
+bool CercanosAPA::buscarNecesarias(std::size_t i, const AnilloAPA& anillo, const VecinosAPA& vecinos,
                                    const std::vector<LadoAPA>& lados) {
-    if (!(anillo.vecinoMasCercano > 1E-4 * anillo.radio)) {
+    if (!(anillo.vecinoMasCercano > cercaniaMinima * anillo.radio)) {
         return false;
     }
     necesarias_.clear();
-    malla_.alAlcance(i, 2 * anillo.radio * masAllaDelAlcance, necesarias_);
+    cuadricula_.alAlcance(i, 2 * anillo.radio * masAllaDelAlcance, necesarias_);
     const double senoEjes = senoDeLosEjes(anillo.radio);
-    if (!(senoEjes < senoDesmedido)) {
+    bool medible = buscarEnLinea(i, {1, 0}, senoEjes) && buscarEnLinea(i, {0, 1}, senoEjes);
+    for (std::size_t v = 0; medible && v < lados.size(); ++v) {
+        const auto [x, y] = vecinos.desdeElSujeto(lados[v].vecino);
+        const double distancia = std::hypot(x, y);
+        medible =
+            buscarEnLinea(i, {x / distancia, y / distancia}, senoDelLado(anillo, std::abs(y) / distancia));
+    }
+    OrdenarSinRepetir(necesarias_);
+    return medible;
+}
+
+bool CercanosAPA::buscarEnLinea(std::size_t i, const DireccionAPA& direccion, double seno) {
+    if (!(seno < senoDesmedido)) {
         return false;
     }
-    malla_.enfiladas(i, {1, 0}, 2 * senoEjes, necesarias_);
-    malla_.enfiladas(i, {0, 1}, 2 * senoEjes, necesarias_);
-    for (const LadoAPA& lado : lados) {
-        const double x = vecinos.x[lado.vecino] - vecinos.xSujeto;
-        const double y = vecinos.y[lado.vecino] - vecinos.ySujeto;
-        const double distancia = std::hypot(x, y);
-        const double seno = senoDelLado(anillo, std::abs(y) / distancia);
-        if (!(seno < senoDesmedido)) {
-            return false;
-        }
-        malla_.enfiladas(i, {x / distancia, y / distancia}, 2 * seno, necesarias_);
-    }
-    enOrden(necesarias_);
+    cuadricula_.enfiladas(i, direccion, 2 * seno, necesarias_);
     return true;
 }
 
-/// Farther than this from both axes, Heron's formula keeps the sign of its factors and the sine stays below
-/// 1: with u the rounding and L the distance, the factors are right to 24 u (L + 1)^2 / (L sin^2), and the
-/// base of length 1 to 2 u times the coordinate.
+/// docs/apa.md, "Directions near an axis".
 double CercanosAPA::senoDeLosEjes(double radio) const {
     const auto termino = [](double L) { return (L + 1) * (L + 1) / L; };
-    const double peor = std::max(termino(2 * radio), termino(2 * malla_.extension()));
-    return std::sqrt(512 * redondeo * (peor + medida_));
+    const double peor = std::max(termino(2 * radio), termino(2 * cuadricula_.extension()));
+    return std::sqrt(512 * u * (peor + medida_));
 }
 
-/// Farther than this from the line of a side's neighbour, the centre of the circle is found to less than
-/// 100 u (M / R + 1) / (inclinacion * seno) of its distance, M the largest coordinate. The ring needs to
-/// know it well enough not to take that neighbour for one within the circle, and near enough for
-/// the roundings of the distances not to matter.
-double CercanosAPA::senoDelLado(const Anillo& anillo, double inclinacion) const {
-    const auto [R, cercano] = anillo;
-    const double error = (masAllaDelRadio - 1) * cercano / (4 * R);
-    const double centro = 512 * redondeo * (1 + medida_ / R) / (inclinacion * error);
-    const double mayorCirculo = cercano * cercano / (64 * redondeo * R);
-    return std::max(centro, 2 * (malla_.extension() + R) / mayorCirculo);
-}
-
-void CercanosAPA::enOrden(std::vector<Fila>& filas) {
-    std::sort(filas.begin(), filas.end());
-    filas.erase(std::unique(filas.begin(), filas.end()), filas.end());
+/// docs/apa.md, "Circles through a far neighbour".
+double CercanosAPA::senoDelLado(const AnilloAPA& anillo, double inclinacion) const {
+    const auto [R, m] = anillo;
+    const double error = (AnilloAPA::masAllaDelRadio - 1) * m / (4 * R);
+    const double centro = 512 * u * (1 + medida_ / R) / (inclinacion * error);
+    const double mayorCirculo = m * m / (64 * u * R);
+    return std::max(centro, 2 * (cuadricula_.extension() + R) / mayorCirculo);
 }
 
 } // namespace varo

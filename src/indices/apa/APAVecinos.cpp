@@ -2,19 +2,17 @@
 
 #include "basico/Saltando.h"
 
+#include <algorithm>
+#include <cassert>
 #include <cmath>
+#include <functional>
 #include <limits>
 
 namespace varo {
 
 namespace {
 
-struct Punto {
-    double x = 0;
-    double y = 0;
-};
-
-Punto ColocarVecino(const PesosAPA& pesos, std::size_t i, std::size_t j) {
+PuntoAPA ColocarVecino(const PesosAPA& pesos, std::size_t i, std::size_t j) {
     const Arboles& arboles = pesos.arboles();
     const double xi = arboles.x(i);
     const double yi = arboles.y(i);
@@ -27,17 +25,9 @@ Punto ColocarVecino(const PesosAPA& pesos, std::size_t i, std::size_t j) {
     const double s = Dividir(yj - yi, xj - xi);
     const double dx = Lw * Raiz(Dividir(1.0, s * s + 1.0));
     const double dy = Lw * Raiz(Dividir(s * s, s * s + 1.0));
-    if (xj < xi && yj > yi) {
-        return {xi - dx, yi + dy};
-    }
-    if (xj < xi && yj < yi) {
-        return {xi - dx, yi - dy};
-    }
-    if (xj > xi && yj < yi) {
-        return {xi + dx, yi - dy};
-    }
-    // A tree straight to the left lands to the right; published values have been worked out so.
-    return {xi + dx, yi + dy};
+    // Meant: a tree straight to the left lands to the right.
+    const bool alaIzquierda = xj < xi && yj != yi;
+    return {alaIzquierda ? xi - dx : xi + dx, yj < yi ? yi - dy : yi + dy};
 }
 
 } // namespace
@@ -46,7 +36,7 @@ PesosAPA::PesosAPA(const Arboles& arboles, double k)
     : arboles_{arboles}, k_{k}, pesos_(arboles.cuantos(), std::numeric_limits<double>::quiet_NaN()) {
     for (std::size_t i = 0; i < pesos_.size(); ++i) {
         if (!arboles.sinTamano(i)) {
-            // The fault is kept for who asks for the weight.
+            // A weight that faults stays NaN: `de` faults when it is asked for.
             saltando([&] { pesos_[i] = Potencia(arboles.d(i), k); });
         }
     }
@@ -60,6 +50,8 @@ void ReunirVecinos(const PesosAPA& pesos, std::span<const VecinosAPA::Fila> fila
                    VecinosAPA& vecinos) {
     const Arboles& arboles = pesos.arboles();
     const std::size_t i = pareja.sujeto;
+    assert(std::adjacent_find(filas.begin(), filas.end(), std::greater_equal<>{}) == filas.end());
+    assert(std::binary_search(filas.begin(), filas.end(), i));
     vecinos.filas.clear();
     vecinos.x.clear();
     vecinos.y.clear();
@@ -71,7 +63,7 @@ void ReunirVecinos(const PesosAPA& pesos, std::span<const VecinosAPA::Fila> fila
             vecinos.ySujeto = arboles.y(i);
             continue;
         }
-        const Punto punto = ColocarVecino(pesos, i, j);
+        const PuntoAPA punto = ColocarVecino(pesos, i, j);
         if (dj != 0) {
             vecinos.filas.push_back(j);
             vecinos.x.push_back(punto.x);

@@ -3,14 +3,20 @@
 #pragma once
 
 #include "indices/vecinos/Arboles.h"
+#include "indices/vecinos/Cuadricula.h"
 #include "indices/vecinos/Marcas.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <span>
 #include <vector>
 
 namespace varo {
+
+/// A point, or the vector from one point to another (m).
+struct PuntoAPA {
+    double x = 0;
+    double y = 0;
+};
 
 /// d^k of every tree with a size, d in metres; each one is worked out once.
 class PesosAPA {
@@ -29,18 +35,21 @@ private:
 
 /// The virtual neighbours of one subject, in the order of the rows.
 struct VecinosAPA {
-    using Fila = std::uint32_t; ///< a tree, numbered as in Arboles
+    using Fila = Cuadricula::Fila;
 
-    double xSujeto = 0, ySujeto = 0;
-    std::vector<Fila> filas;
-    std::vector<double> x, y;
+    double xSujeto = 0, ySujeto = 0; ///< m
+    std::vector<Fila> filas;         ///< the trees behind them
+    std::vector<double> x, y;        ///< m
 
     [[nodiscard]] std::size_t cuantos() const { return filas.size(); }
+    [[nodiscard]] PuntoAPA desdeElSujeto(std::size_t vecino) const {
+        return {x[vecino] - xSujeto, y[vecino] - ySujeto};
+    }
 };
 
 /// Places the virtual neighbours of the subject that stand in the given rows: trees with a size, the subject
-/// itself among them, in ascending order. A size of 0 is placed, with its faults, and left out. Faults: those
-/// of the cells and of the weights; 11 on a tree of the same x.
+/// itself among them, in ascending order and each one once. A size of 0 is placed, with its faults, and left
+/// out. Faults: those of the cells and of the weights; 11 on a tree of the same x.
 void ReunirVecinos(const PesosAPA& pesos, std::span<const VecinosAPA::Fila> filas, Pareja& pareja,
                    VecinosAPA& vecinos);
 

@@ -1,5 +1,5 @@
-// A grid over the trees that can be virtual neighbours, to find those near one of them and those
-// along a line through it. Both searches may take in trees that they need not; they never leave one out.
+// The grid of APA: finds the trees near one of them and those along a line through it. A search may add trees
+// that it need not; it never leaves one out.
 #pragma once
 
 #include "indices/apa/APAVecinos.h"
@@ -16,31 +16,36 @@ struct DireccionAPA {
     double y = 0;
 };
 
-class MallaAPA {
+/// Holds the trees that can be virtual neighbours: all with a size but those of size 0. Each search starts
+/// from one of them, tree i.
+class CuadriculaAPA {
 public:
-    using Fila = Cuadricula::Fila;
+    using Fila = VecinosAPA::Fila;
 
-    /// A size of 0 is no virtual neighbour. All cells and weights of the trees with a size must be readable.
-    explicit MallaAPA(const PesosAPA& pesos);
+    /// All cells and weights of the trees with a size must be readable.
+    explicit CuadriculaAPA(const PesosAPA& pesos);
 
     /// Trees in the grid.
     [[nodiscard]] std::size_t cuantos() const { return cuadricula_.cuantos(); }
-    /// A distance that no two trees exceed, and the largest coordinate without its sign.
+    /// A distance that no two trees exceed (m).
     [[nodiscard]] double extension() const { return extension_; }
+    /// The largest coordinate without its sign (m).
     [[nodiscard]] double mayorCoordenada() const { return mayorCoordenada_; }
-    /// The side of a cell.
+    /// The side of a cell (m).
     [[nodiscard]] double lado() const { return cuadricula_.lado(); }
 
-    /// Adds the trees in the square of that half side about tree i, itself too.
+    /// Adds the trees in the square of that half side (m) about tree i, itself too.
     void cuadro(std::size_t i, double medioLado, std::vector<Fila>& halladas) const;
-    /// Adds the trees whose virtual neighbour stands within a distance of tree i.
+    /// Adds the trees whose virtual neighbour stands within a distance (m) of tree i, itself too.
     void alAlcance(std::size_t i, double alcance, std::vector<Fila>& halladas) const;
-    /// Adds the trees that are seen from tree i within an angle (its sine) of a direction or of the opposite
-    /// one.
+    /// Adds the trees that tree i sees within an angle (its sine) of a direction or of the opposite one.
     void enfiladas(std::size_t i, const DireccionAPA& direccion, double seno,
                    std::vector<Fila>& halladas) const;
 
 private:
+    /// Whether tree i is in the grid.
+    [[nodiscard]] bool tiene(std::size_t i) const;
+
     const PesosAPA& pesos_;
     Cuadricula cuadricula_;
     double extension_ = 0;

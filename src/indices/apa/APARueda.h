@@ -1,0 +1,46 @@
+// The order in which a turn of APA tries the neighbours: counter-clockwise by direction, each one once.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace varo {
+
+/// The neighbours that a turn has not tried yet, round the tree by direction. The literal turn searches all
+/// rows for the next direction before every trial. As it tries each neighbour once, and never one that it has
+/// passed, one sort by direction serves the whole turn. What rounding may tie is compared by the very
+/// differences of the search, and of those that tie the first row goes first.
+class RuedaAPA {
+public:
+    using Vecino = std::uint32_t; ///< a position among the virtual neighbours
+
+    /// Takes in all neighbours but the first, from which the turn starts. `angulos` has the direction of each
+    /// one, in degrees, and stays as it is for as long as the wheel turns.
+    void llenar(const std::vector<double>& angulos, Vecino primero);
+
+    [[nodiscard]] bool vacia() const { return quedan_ == 0; }
+
+    /// Takes off the neighbour at the smallest turn from the last side. The wheel is not empty.
+    Vecino sacar();
+    /// Makes the neighbour that was taken off last the last side.
+    void tomar();
+
+private:
+    using Lugar = std::uint32_t; ///< a place in `orden_`
+
+    /// From the last side to a direction (degrees).
+    [[nodiscard]] double giro(Lugar lugar) const;
+    [[nodiscard]] Lugar buscarElSiguiente() const;
+    void enlazar();
+
+    const std::vector<double>* angulos_ = nullptr;
+    std::vector<Vecino> orden_;               ///< by angle, then by row
+    std::vector<Lugar> siguiente_, anterior_; ///< a circular list of those that are left
+    std::size_t quedan_ = 0;
+    Lugar cabeza_ = 0;      ///< where the search begins: the first one that is left from the last side on
+    double ultimoLado_ = 0; ///< its direction (degrees)
+    Lugar sacado_ = 0;
+};
+
+} // namespace varo
