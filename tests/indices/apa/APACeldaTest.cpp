@@ -8,9 +8,8 @@
 namespace varo {
 namespace {
 
-/// A square about the origin with sides of root 5, turned so that no side is upright: its vertices are (0;
-/// 2,5),
-/// (-2; 1,5), (0; -2,5) and (2; -1,5) in the order of its sides.
+/// A rectangle about the origin, turned so that no side is upright. Its vertices, in the order of its sides,
+/// are (0; 2,5), (-2; 1,5), (0; -2,5) and (2; -1,5), its area 2 * root 5 times root 5.
 const std::vector<LadoAPA> rectangulo{{0, -2, 2.5}, {1, 0.5, 2.5}, {2, -2, -2.5}, {3, 0.5, -2.5}};
 
 /// m2: the roots of Heron's formula round in their last places.
@@ -25,6 +24,11 @@ const Contorno amplio{{-10, -9, 9, 10, -10}, {-10, 10, 10, -10, -10}};
 const Contorno lejano{{100, 101, 119, 120, 100}, {-10, 10, 10, -10, -10}};
 const Contorno porEncimaDeMenosUno{{-10, -9, 9, 10, -10}, {-1, 10, 10, -1, -1}};
 
+/// The strokes of the rectangle inside a boundary that leaves out what lies below y = -1. There its lines
+/// y = -2x - 2,5 and y = -2x + 2,5 have x = -0,75 and x = 1,75; the side that comes in is drawn from its
+/// inner end.
+const std::vector<TrazoAPA> cortadosEnMenosUno{{0, 2.5, -2, 1.5}, {-2, 1.5, -0.75, -1}, {0, 2.5, 1.75, -1}};
+
 TEST(APACelda, UnaCeldaDentroDeLaParcelaTieneSuAreaYDibujaSusLados) {
     std::vector<TrazoAPA> trazos;
     EXPECT_NEAR(MedirCelda(rectangulo, amplio.xy(), &trazos), 10, redondeoDeArea);
@@ -36,10 +40,7 @@ TEST(APACelda, UnaCeldaDentroDeLaParcelaTieneSuAreaYDibujaSusLados) {
 TEST(APACelda, UnaCeldaQueSaleDeLaParcelaEsEfectoDeBordeYSeDibujaHastaElContorno) {
     std::vector<TrazoAPA> trazos;
     EXPECT_EQ(MedirCelda(rectangulo, porEncimaDeMenosUno.xy(), &trazos), EfectoBorde);
-    // On y = -1 the lines y = -2x - 2,5 and y = -2x + 2,5 have x = -0,75 and x = 1,75. The side that comes in
-    // is drawn from its inner end.
-    const std::vector<TrazoAPA> lados{{0, 2.5, -2, 1.5}, {-2, 1.5, -0.75, -1}, {0, 2.5, 1.75, -1}};
-    EXPECT_EQ(trazos, lados);
+    EXPECT_EQ(trazos, cortadosEnMenosUno);
 }
 
 TEST(APACelda, UnaCeldaConTodosSusVerticesFueraConservaSuAreaYNoSeDibuja) {
@@ -61,8 +62,7 @@ TEST(APACelda, UnLadoDelContornoParaleloAlDeLaCeldaSePasaPorAltoAlBuscarElCorte)
     const Contorno conParalelo{{-10, -9, 4, 9.5, -10}, {-1, 10, 10, -1, -1}};
     std::vector<TrazoAPA> trazos;
     EXPECT_EQ(MedirCelda(rectangulo, conParalelo.xy(), &trazos), EfectoBorde);
-    const std::vector<TrazoAPA> lados{{0, 2.5, -2, 1.5}, {-2, 1.5, -0.75, -1}, {0, 2.5, 1.75, -1}};
-    EXPECT_EQ(trazos, lados);
+    EXPECT_EQ(trazos, cortadosEnMenosUno);
 }
 
 TEST(APACelda, DosLadosSeguidosParalelosFallan) {

@@ -31,7 +31,8 @@ literal::Columna Rapida(const Arboles& arboles, const ContornoXY& contorno, doub
     return columna;
 }
 
-/// What comes before a fault is seen in the drawing alone.
+/// Compares value for value, stroke for stroke and fault for fault. Where a column faults, only its drawing
+/// shows how far it came.
 void CompararConLaLiteral(const ParcelaAPA& parcela, double k) {
     const Arboles arboles = parcela.arboles();
     const ContornoXY contorno = parcela.contorno();
@@ -54,7 +55,8 @@ public:
     int entero(int a, int b) { return std::uniform_int_distribution<int>{a, b}(azar_); }
     bool unaDeCada(int veces) { return entero(1, veces) == 1; }
 
-    /// Every tree in a row and a column of its own: no two are in line with an axis, or almost.
+    /// Coordinates in a random order, no two of them nearer than half their mean distance: no two trees are
+    /// in line with an axis, or almost.
     std::vector<double> repartidos(int cuantos, double lado) {
         std::vector<double> sitios;
         for (int i = 0; i < cuantos; ++i) {
@@ -73,9 +75,32 @@ double Escrito(double coordenada) {
     return ANumero(ATexto(coordenada));
 }
 
+/// A boundary that half the time is the hull of the trees, and else a smaller or larger one.
+void Envolver(ParcelaAPA& parcela, Azar& azar) {
+    parcela.envolver(azar.unaDeCada(2) ? 1 : azar.entre(0.3, 1.2));
+}
+
+/// Trees in a rectangle of those sides, whose corner stands at (x0; y0).
+ParcelaAPA ParcelaRepartida(Azar& azar, int cuantos, double ancho, double alto, double x0 = 0,
+                            double y0 = 0) {
+    const auto x = azar.repartidos(cuantos, ancho);
+    const auto y = azar.repartidos(cuantos, alto);
+    ParcelaAPA parcela;
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        parcela.anadir(Escrito(x0 + x[i]), Escrito(y0 + y[i]));
+    }
+    return parcela;
+}
+
+/// 10 to 40 cm.
+std::string UnTamano(Azar& azar) {
+    return ATexto(azar.entero(10, 40) / 100.0);
+}
+
+/// A size for each tree; some are empty and, where the exponent allows it, some are 0.
 void DarTamanos(ParcelaAPA& parcela, Azar& azar, double k) {
     for (auto& tamano : parcela.tamano) {
-        tamano = ATexto(azar.entero(10, 40) / 100.0);
+        tamano = UnTamano(azar);
         if (azar.unaDeCada(40)) {
             tamano = "";
         } else if (k >= 0 && azar.unaDeCada(80)) {
@@ -97,14 +122,9 @@ RC_GTEST_PROP(APACercanos, UnaParcelaSinArbolesAlineadosDaLosMismosBits, ()) {
         *rc::gen::element(std::array{0.0, 0.0, 30.0}, std::array{500000.0, 4500000.0, 30.0},
                           std::array{0.0, 0.0, 0.03}, std::array{0.0, 0.0, 30000.0});
     const bool alargada = azar.unaDeCada(4);
-    const auto x = azar.repartidos(cuantos, lado);
-    const auto y = azar.repartidos(cuantos, alargada ? lado / 50 : lado);
-    ParcelaAPA parcela;
-    for (std::size_t i = 0; i < x.size(); ++i) {
-        parcela.anadir(Escrito(x0 + x[i]), Escrito(y0 + y[i]));
-    }
+    ParcelaAPA parcela = ParcelaRepartida(azar, cuantos, lado, alargada ? lado / 50 : lado, x0, y0);
     DarTamanos(parcela, azar, k);
-    parcela.envolver(azar.unaDeCada(2) ? 1 : azar.entre(0.3, 1.2));
+    Envolver(parcela, azar);
     CompararConLaLiteral(parcela, k);
 }
 
@@ -127,7 +147,7 @@ RC_GTEST_PROP(APACercanos, UnaReticulaGiradaDaLosMismosBits, ()) {
     if (azar.unaDeCada(2)) {
         DarTamanos(parcela, azar, k);
     }
-    parcela.envolver(azar.unaDeCada(2) ? 1 : azar.entre(0.3, 1.2));
+    Envolver(parcela, azar);
     CompararConLaLiteral(parcela, k);
 }
 
@@ -148,7 +168,7 @@ RC_GTEST_PROP(APACercanos, GruposYArbolesEnUnaCircunferenciaDanLosMismosBits, ()
         }
     }
     DarTamanos(parcela, azar, k);
-    parcela.envolver(azar.unaDeCada(2) ? 1 : azar.entre(0.3, 1.2));
+    Envolver(parcela, azar);
     CompararConLaLiteral(parcela, k);
 }
 
@@ -165,7 +185,7 @@ RC_GTEST_PROP(APACercanos, ArbolesDeLaMismaXODeLaMismaYDanElMismoFallo, ()) {
         }
     }
     DarTamanos(parcela, azar, k);
-    RC_PRE(!saltando([&] { parcela.envolver(azar.unaDeCada(2) ? 1 : azar.entre(0.3, 1.2)); }));
+    RC_PRE(!saltando([&] { Envolver(parcela, azar); }));
     CompararConLaLiteral(parcela, k);
 }
 
@@ -173,12 +193,7 @@ RC_GTEST_PROP(APACercanos, CeldasQueNoSonNumerosDanElMismoFallo, ()) {
     const int cuantos = *rc::gen::inRange(3, 40);
     Azar azar{*rc::gen::arbitrary<unsigned>()};
     const double k = Exponente();
-    const auto x = azar.repartidos(cuantos, 20);
-    const auto y = azar.repartidos(cuantos, 20);
-    ParcelaAPA parcela;
-    for (std::size_t i = 0; i < x.size(); ++i) {
-        parcela.anadir(Escrito(x[i]), Escrito(y[i]));
-    }
+    ParcelaAPA parcela = ParcelaRepartida(azar, cuantos, 20, 20);
     DarTamanos(parcela, azar, k);
     const auto fila = static_cast<std::size_t>(azar.entero(0, cuantos - 1));
     parcela.tamano[fila] =
@@ -204,11 +219,9 @@ std::vector<bool> VanPorElCaminoCorto(const ParcelaAPA& parcela, double k) {
 
 TEST(APACercanos, EnUnaParcelaCorrienteCasiTodosLosArbolesVanPorElCaminoCorto) {
     Azar azar{7};
-    const auto x = azar.repartidos(1500, 130);
-    const auto y = azar.repartidos(1500, 130);
-    ParcelaAPA parcela;
-    for (std::size_t i = 0; i < x.size(); ++i) {
-        parcela.anadir(x[i], y[i], ATexto(azar.entero(10, 40) / 100.0));
+    ParcelaAPA parcela = ParcelaRepartida(azar, 1500, 130, 130);
+    for (auto& tamano : parcela.tamano) {
+        tamano = UnTamano(azar);
     }
     parcela.envolver();
     for (const double k : {0.0, 2.0}) {
@@ -234,23 +247,22 @@ RC_GTEST_PROP(APACercanos, EnUnaParcelaGrandeElCaminoCortoDaLosLadosDelGiroEnter
     Azar azar{*rc::gen::arbitrary<unsigned>()};
     const double k = *rc::gen::element(0.0, 1.0, -1.0, 3.0);
     const double x0 = *rc::gen::element(0.0, 500000.0);
-    const auto x = azar.repartidos(cuantos, 100);
-    const auto y = azar.repartidos(cuantos, *rc::gen::element(100.0, 20.0));
-    ParcelaAPA parcela;
-    for (std::size_t i = 0; i < x.size(); ++i) {
-        parcela.anadir(x0 + x[i], 9 * x0 + y[i], ATexto(azar.entero(10, 40) / 100.0));
+    const double alto = *rc::gen::element(100.0, 20.0);
+    ParcelaAPA parcela = ParcelaRepartida(azar, cuantos, 100, alto, x0, 9 * x0);
+    for (auto& tamano : parcela.tamano) {
+        tamano = UnTamano(azar);
     }
     const Arboles arboles = parcela.arboles();
     const PesosAPA pesos{arboles, k};
     CercanosAPA cercanos{pesos};
-    std::vector<VecinosAPA::Fila> todas(x.size());
+    std::vector<VecinosAPA::Fila> todas(arboles.cuantos());
     std::iota(todas.begin(), todas.end(), VecinosAPA::Fila{0});
     VecinosAPA cerca;
     VecinosAPA enteros;
     GiroAPA corto;
     GiroAPA entero;
     int cortos = 0;
-    for (std::size_t i = 0; i < x.size(); ++i) {
+    for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
         Pareja pareja{i, i};
         if (cercanos.girar(pareja, cerca, corto)) {
             ++cortos;

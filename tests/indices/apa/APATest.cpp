@@ -1,6 +1,7 @@
 #include "indices/apa/APA.h"
 
 #include "apoyo/Fallos.h"
+#include "basico/Saltando.h"
 #include "indices/apa/APAParcela.h"
 #include "indices/apa/APAVecinos.h"
 #include "indices/vecinos/Marcas.h"
@@ -25,6 +26,13 @@ int Fallo(const ParcelaAPA& parcela, double k = 0) {
     return FalloDe([&] { Columna(parcela, k); });
 }
 
+/// The place that a fault of that number names; empty where nothing faults.
+std::string LugarDelFallo(const ParcelaAPA& parcela, int numero) {
+    const auto error = saltando([&] { Columna(parcela, 0); });
+    EXPECT_TRUE(error && error->numero() == numero);
+    return error ? error->lugar() : std::string{};
+}
+
 /// A tree at the origin amid four at the corners of a square, which stand on the boundary. No two trees share
 /// an x or a y; the boundary leaves room for the largest cell that the middle tree can have.
 ParcelaAPA CuatroAlrededorDeUno(const std::string& tamano = "0,1") {
@@ -37,6 +45,23 @@ ParcelaAPA CuatroAlrededorDeUno(const std::string& tamano = "0,1") {
     parcela.contornoX = {-3.6, -1, 1.2, 2, 3.6, 1, -1.2, -2, -3.6};
     parcela.contornoY = {1.2, 2, 3.6, 1, -1.2, -2, -3.6, -1, 1.2};
     return parcela;
+}
+
+/// The fault of those five with one tree more.
+int FalloConOtroEn(double x, double y) {
+    ParcelaAPA parcela = CuatroAlrededorDeUno();
+    parcela.anadir(x, y);
+    return Fallo(parcela);
+}
+
+/// The fault of a few equal trees well inside the boundary, none of which stands on it.
+int FalloDeUnosPocos(const std::vector<std::pair<double, double>>& sitios) {
+    ParcelaAPA parcela;
+    for (const auto& [x, y] : sitios) {
+        parcela.anadir(x, y);
+    }
+    parcela.cuadrar(-20, 20);
+    return Fallo(parcela);
 }
 
 /// Where tree j is seen from tree i.
@@ -160,13 +185,7 @@ TEST(APA, SinTamanoVaAntesQueElVertice) {
 TEST(APA, DosArbolesConLaMismaXFallanYSeNombran) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.anadir(0, 1);
-    try {
-        Columna(parcela, 0);
-        FAIL();
-    } catch (const ErrorEjecucion& error) {
-        EXPECT_EQ(error.numero(), fallo::divisionPorCero);
-        EXPECT_EQ(error.lugar(), "fila 1, vecino de la fila 6");
-    }
+    EXPECT_EQ(LugarDelFallo(parcela, fallo::divisionPorCero), "fila 1, vecino de la fila 6");
 }
 
 TEST(APA, DosArbolesConLaMismaXEnElContornoNoSeMiranEntreSi) {
@@ -178,43 +197,29 @@ TEST(APA, DosArbolesConLaMismaXEnElContornoNoSeMiranEntreSi) {
 }
 
 TEST(APA, UnVecinoConLaMismaYFalla) {
-    ParcelaAPA cercano = CuatroAlrededorDeUno();
-    cercano.anadir(0.5, 0); // the nearest: the first side
-    EXPECT_EQ(Fallo(cercano), fallo::divisionPorCero);
-    ParcelaAPA lejano = CuatroAlrededorDeUno();
-    lejano.anadir(16, 0); // tried in the turn
-    EXPECT_EQ(Fallo(lejano), fallo::divisionPorCero);
+    EXPECT_EQ(FalloConOtroEn(0.5, 0), fallo::divisionPorCero); // the nearest: the first side
+    EXPECT_EQ(FalloConOtroEn(16, 0), fallo::divisionPorCero);  // tried in the turn
 }
 
 TEST(APA, DosVecinosEnLineaConElArbolFallan) {
-    ParcelaAPA parcela = CuatroAlrededorDeUno();
-    parcela.anadir(4, 2);
-    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+    EXPECT_EQ(FalloConOtroEn(4, 2), fallo::divisionPorCero);
 }
 
 TEST(APA, SinNingunVecinoFalla) {
-    ParcelaAPA parcela;
-    parcela.anadir(1, 1);
-    parcela.cuadrar(-20, 20);
-    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
-    parcela.anadir(2, 3, "");
-    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+    EXPECT_EQ(FalloDeUnosPocos({{1, 1}}), fallo::divisionPorCero);
+    ParcelaAPA conUnaFilaSinArbol;
+    conUnaFilaSinArbol.anadir(1, 1);
+    conUnaFilaSinArbol.anadir(2, 3, "");
+    conUnaFilaSinArbol.cuadrar(-20, 20);
+    EXPECT_EQ(Fallo(conUnaFilaSinArbol), fallo::divisionPorCero);
 }
 
 TEST(APA, UnSoloVecinoNoCierraLaCelda) {
-    ParcelaAPA parcela;
-    parcela.anadir(1, 1);
-    parcela.anadir(2, 3);
-    parcela.cuadrar(-20, 20);
-    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+    EXPECT_EQ(FalloDeUnosPocos({{1, 1}, {2, 3}}), fallo::divisionPorCero);
 }
 
 TEST(APA, UnVecinoAMilKilometrosNoEsNinguno) {
-    ParcelaAPA parcela;
-    parcela.anadir(0, 0);
-    parcela.anadir(800000, 600000);
-    parcela.cuadrar(-20, 20);
-    EXPECT_EQ(Fallo(parcela), fallo::divisionPorCero);
+    EXPECT_EQ(FalloDeUnosPocos({{0, 0}, {800000, 600000}}), fallo::divisionPorCero);
 }
 
 TEST(APA, UnCandidatoRechazadoNoVuelve) {
@@ -236,21 +241,10 @@ TEST(APA, UnaParcelaSinArbolesNoTieneValores) {
     EXPECT_TRUE(Columna(ParcelaAPA{}, 0).empty());
 }
 
-/// What a cell that is no number does, and where it says it stands.
-std::string Lugar(const ParcelaAPA& parcela, int numero) {
-    try {
-        Columna(parcela, 0);
-    } catch (const ErrorEjecucion& error) {
-        EXPECT_EQ(error.numero(), numero);
-        return error.lugar();
-    }
-    return {};
-}
-
 TEST(APA, UnTamanoQueNoEsNumeroFallaAlLeerlo) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.tamano[3] = "grueso";
-    EXPECT_EQ(Lugar(parcela, fallo::tiposDistintos),
+    EXPECT_EQ(LugarDelFallo(parcela, fallo::tiposDistintos),
               "fila 1, vecino de la fila 4, árbol de la fila 4, columna «D»");
 }
 
@@ -258,11 +252,11 @@ TEST(APA, UnTamanoQueNoEsNumeroFallaTambienEnElContorno) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.tamano[0] = "";
     parcela.tamano[3] = "grueso";
-    EXPECT_EQ(Lugar(parcela, fallo::tiposDistintos), "fila 4, árbol de la fila 4, columna «D»");
+    EXPECT_EQ(LugarDelFallo(parcela, fallo::tiposDistintos), "fila 4, árbol de la fila 4, columna «D»");
 }
 
 TEST(APA, UnaCeldaIlegibleQueNadieLeeNoFalla) {
-    // Nobody asks for the place of a tree without a size, nor for a neighbour where no cell is worked out.
+    // No one reads the place of a tree without a size, or a neighbour where there is no cell to work out.
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     const CeldasDeArboles celdas{{"X", {"0", "2", "x"}}, {"Y", {"0", "1", "y"}}, {"D", {"", "0,1", ""}}, {}};
     const Arboles arboles{celdas, {false, UnidadLongitud::Metros}, parcela.contorno()};
