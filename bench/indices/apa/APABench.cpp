@@ -1,6 +1,7 @@
 #include "indices/apa/APA.h"
 
 #include "basico/Numeros.h"
+#include "indices/apa/APALiteral.h"
 
 #include <benchmark/benchmark.h>
 
@@ -61,9 +62,25 @@ void MedirAPA(benchmark::State& estado) {
     }
 }
 
+/// The same column by the literal procedure.
+void MedirAPALiteral(benchmark::State& estado) {
+    const Parcela parcela{static_cast<long>(estado.range(0))};
+    const auto k = static_cast<double>(estado.range(1));
+    const ContornoXY contorno{parcela.contornoX, parcela.contornoY};
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(literal::APA{parcela.arboles, contorno, k}.columna());
+    }
+}
+
 BENCHMARK(MedirAPA)
     ->ArgNames({"arboles", "k"})
-    ->ArgsProduct({{200, 1000, 5000, 20000}, {0, 1, 2, 4}})
+    ->ArgsProduct({{200, 500, 1000, 5000, 20000}, {0, 1, 2, 4}})
+    ->Unit(benchmark::kMillisecond);
+
+// The time grows with the cube of the trees: some minutes for 2,000.
+BENCHMARK(MedirAPALiteral)
+    ->ArgNames({"arboles", "k"})
+    ->ArgsProduct({{200, 500, 1000}, {1}})
     ->Unit(benchmark::kMillisecond);
 
 } // namespace
