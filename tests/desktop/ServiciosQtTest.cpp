@@ -4,12 +4,15 @@
 #include "desktop/Texto.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QTest>
 
@@ -19,14 +22,26 @@ namespace varo::prueba {
 
 namespace {
 
+/// What each set of buttons, by its options, answers.
+using Respuestas = std::vector<std::pair<int, int>>;
+
+const Respuestas respuestasAlSalir{{48, 1}, {21, 2}, {36, 7}, {67, 2}};
+
 class LaPlataforma : public testing::Test {
 protected:
+    void esperarRespuestas(const Contestador::Acto& acto, const Respuestas& respuestas) {
+        for (const auto& [opciones, respuesta] : respuestas) {
+            contestador.preparar(acto);
+            EXPECT_EQ(servicios.mensaje("x", "t", opciones), respuesta) << opciones;
+        }
+    }
+
     CarpetaTemporal carpeta;
     Contestador contestador;
     ServiciosQt servicios;
 };
 
-/// What the file dialog is asked for when a plot is opened.
+/// The request of the main window when it opens a plot.
 DialogoAbrir AbrirDatos() {
     return {"Abrir fichero de datos", "", "xls", "Hoja de cálculo (*.xls)|*.xls|Base de datos (*.mdb)|*.mdb|",
             4096};
@@ -34,6 +49,14 @@ DialogoAbrir AbrirDatos() {
 
 QLineEdit& Nombre(QWidget& dialogo) {
     return *dialogo.findChild<QLineEdit*>("fileNameEdit");
+}
+
+/// Chooses a line of a list by its text, as the arrow keys do.
+void ElegirLinea(QListView& lista, const QString& texto) {
+    const auto lineas =
+        lista.model()->match(lista.model()->index(0, 0), Qt::DisplayRole, texto, 1, Qt::MatchExactly);
+    ASSERT_EQ(lineas.size(), 1) << "no hay " << texto.toStdString();
+    lista.setCurrentIndex(lineas[0]);
 }
 
 Contestador::Acto TeclearRuta(const std::string& ruta) {
@@ -103,33 +126,22 @@ TEST_F(LaPlataforma, CadaJuegoDeBotonesYSusRespuestas) {
 }
 
 TEST_F(LaPlataforma, EntrarPulsaElPrimerBoton) {
-    for (const auto& [opciones, respuesta] :
-         std::vector<std::pair<int, int>>{{48, 1}, {21, 4}, {36, 6}, {67, 6}}) {
-        contestador.tecla(Qt::Key_Return);
-        EXPECT_EQ(servicios.mensaje("x", "t", opciones), respuesta) << opciones;
-    }
+    esperarRespuestas([](QWidget& caja) { QTest::keyClick(&caja, Qt::Key_Return); },
+                      {{48, 1}, {21, 4}, {36, 6}, {67, 6}});
 }
 
 TEST_F(LaPlataforma, EscaparNuncaDiceQueSi) {
-    for (const auto& [opciones, respuesta] :
-         std::vector<std::pair<int, int>>{{48, 1}, {21, 2}, {36, 7}, {67, 2}}) {
-        contestador.tecla(Qt::Key_Escape);
-        EXPECT_EQ(servicios.mensaje("x", "t", opciones), respuesta) << opciones;
-    }
+    esperarRespuestas([](QWidget& caja) { QTest::keyClick(&caja, Qt::Key_Escape); }, respuestasAlSalir);
 }
 
 TEST_F(LaPlataforma, CerrarUnaCajaEsComoEscapar) {
-    for (const auto& [opciones, respuesta] :
-         std::vector<std::pair<int, int>>{{48, 1}, {21, 2}, {36, 7}, {67, 2}}) {
-        contestador.preparar([](QWidget& caja) { caja.close(); });
-        EXPECT_EQ(servicios.mensaje("x", "t", opciones), respuesta) << opciones;
-    }
+    esperarRespuestas([](QWidget& caja) { caja.close(); }, respuestasAlSalir);
 }
 
 TEST_F(LaPlataforma, SiYNoTienenAcelerador) {
     contestador.preparar([](QWidget& caja) {
         QTest::keyClick(&caja, Qt::Key_N, Qt::AltModifier);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !caja.isVisible(); })); // the toolkit shows the press first
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !caja.isVisible(); })); // Qt shows the press first
     });
     EXPECT_EQ(servicios.mensaje("x", "t", 36), 7);
 }
@@ -221,7 +233,7 @@ TEST_F(LaPlataforma, LaExtensionQueFaltaSePone) {
 TEST_F(LaPlataforma, UnArchivoQueNoExisteNoSePuedeElegir) {
     DialogoAbrir dialogo = AbrirDatos();
     contestador.preparar(TeclearRuta(carpeta.archivo("ninguno.xls")));
-    contestador.tecla(Qt::Key_Return); // the toolkit says that it is not there
+    contestador.tecla(Qt::Key_Return); // the box of Qt that says that there is no such file
     contestador.tecla(Qt::Key_Escape);
     servicios.elegirArchivo(dialogo);
     EXPECT_EQ(dialogo.FileName, "");
@@ -261,6 +273,9 @@ TEST_F(LaPlataforma, CancelarElColorNoDaNinguno) {
 }
 
 TEST_F(LaPlataforma, LaFuenteElegidaVaYVieneConTodosSusRasgos) {
+    // The dialog offers the faces that are installed and no others.
+    ASSERT_TRUE(QFontDatabase::styles("DejaVu Sans Mono").contains("Bold")) << "falta fonts-dejavu-core";
+    ASSERT_TRUE(QFontDatabase::styles("DejaVu Serif").contains("Italic")) << "falta fonts-dejavu-extra";
     const Fuente actual{"DejaVu Sans Mono", 9, true, false, true, false};
     contestador.preparar([](QWidget& modal) {
         auto& dialogo = dynamic_cast<QFontDialog&>(modal);
@@ -271,11 +286,14 @@ TEST_F(LaPlataforma, LaFuenteElegidaVaYVieneConTodosSusRasgos) {
         EXPECT_FALSE(letra.italic());
         EXPECT_TRUE(letra.strikeOut());
         EXPECT_FALSE(letra.underline());
-        QFont otra{"DejaVu Serif"};
-        otra.setPointSize(14);
-        otra.setItalic(true);
-        otra.setUnderline(true);
-        dialogo.setCurrentFont(otra);
+        const auto listas = dialogo.findChildren<QListView*>(); // families, styles and sizes
+        ASSERT_GE(listas.size(), 3);
+        ElegirLinea(*listas[0], "DejaVu Serif");
+        ElegirLinea(*listas[1], "Italic");
+        ElegirLinea(*listas[2], "14");
+        for (QCheckBox* const rasgo : dialogo.findChildren<QCheckBox*>()) {
+            rasgo->click(); // strikeout goes off, underline on
+        }
         dialogo.accept();
     });
     EXPECT_EQ(servicios.elegirFuente(actual),
@@ -289,8 +307,8 @@ TEST_F(LaPlataforma, CancelarLaFuenteNoDaNinguna) {
 
 TEST_F(LaPlataforma, ElAnchoDeUnTextoVaEnTwips) {
     const QFontMetricsF medidas{QApplication::font()};
-    EXPECT_FLOAT_EQ(servicios.anchoTexto("Radio medio"),
-                    static_cast<float>(medidas.horizontalAdvance("Radio medio") * 15));
+    EXPECT_EQ(servicios.anchoTexto("Radio medio"),
+              static_cast<float>(medidas.horizontalAdvance("Radio medio") * 15));
     EXPECT_EQ(servicios.anchoTexto(""), 0.0F);
 }
 
