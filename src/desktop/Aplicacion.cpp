@@ -12,16 +12,15 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication{argc, argv} {
     setApplicationName("varo");
     setDesktopFileName("varo");
     setWindowIcon(QIcon{":/iconos/varo.svg"});
-    setQuitOnLastWindowClosed(false); // the program says when it is over
-    // The texts of the toolkit's own dialogs.
-    if (textosDelSistema_.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        installTranslator(&textosDelSistema_);
+    setQuitOnLastWindowClosed(false); // the model decides when the program is over
+    if (textosDeQt_.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        installTranslator(&textosDeQt_);
     }
 }
 
 bool Aplicacion::notify(QObject* objeto, QEvent* suceso) {
     if (objeto->thread() != thread()) {
-        return QApplication::notify(objeto, suceso); // a worker of the toolkit, where no box can be shown
+        return QApplication::notify(objeto, suceso); // a worker thread of Qt cannot show a box
     }
     try {
         return QApplication::notify(objeto, suceso);

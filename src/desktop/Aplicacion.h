@@ -1,4 +1,4 @@
-// The application object of the toolkit: name, icon and language of the program.
+// The Qt application object: name, icon and language of the program.
 #pragma once
 
 #include <QApplication>
@@ -6,7 +6,7 @@
 
 namespace varo {
 
-/// What no handler expects does not end the program: the person is told and may save what there is.
+/// An exception that no handler expects does not end the program: a box tells it, and the person may save.
 class Aplicacion : public QApplication {
 public:
     Aplicacion(int& argc, char** argv);
@@ -14,7 +14,7 @@ public:
     bool notify(QObject* objeto, QEvent* suceso) override;
 
 private:
-    QTranslator textosDelSistema_;
+    QTranslator textosDeQt_;
 };
 
 } // namespace varo

@@ -1,55 +1,62 @@
 #include "desktop/Escritorio.h"
 
-#include "desktop/Disposiciones.h"
+#include "desktop/Intentar.h"
 #include "desktop/Texto.h"
-#include "desktop/Vinculos.h"
+#include "desktop/ventanas/Disposiciones.h"
+#include "desktop/widgets/VentanasReales.h"
 #include "formularios/Usuario.h"
 #include "shell/VAROMAIN.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScopedValueRollback>
-#include <QScreen>
-#include <QVBoxLayout>
 
 #include <algorithm>
+#include <cassert>
+#include <utility>
 
 namespace varo {
 
 namespace {
 
-constexpr QSize medidasAlEmpezar{1180, 800};
-constexpr int plazoDePedida = 1000; ///< in milliseconds: what has not become active by then will not
+constexpr QSize medidasAlEmpezar{1180, 800}; ///< of the main window, in pixels
+constexpr int plazoDePedida = 1000;          ///< in milliseconds; a window not active by then never will be
+
+constexpr int estadoNormal = 0;
 constexpr int estadoMinimizado = 1;
 constexpr int estadoMaximizado = 2;
-
-QRect Medidas(const Formulario& modelo) {
-    return {static_cast<int>(modelo.Left()), static_cast<int>(modelo.Top()), static_cast<int>(modelo.Width()),
-            static_cast<int>(modelo.Height())};
-}
-
-/// What a window may take of its screen, its frame and the panels of the system left aside.
-QSize SitioEnPantalla(const QWidget& ventana) {
-    constexpr QSize marcos{40, 80};
-    return ventana.screen()->availableGeometry().size() - marcos;
-}
-
-/// Whatever closes it goes the way of its close box.
-class Dialogo : public QDialog {
-public:
-    using QDialog::QDialog;
-    void reject() override { close(); }
-};
 
 int EstadoDe(const QWidget& ventana) {
     if (ventana.isMinimized()) {
         return estadoMinimizado;
     }
-    return ventana.isMaximized() ? estadoMaximizado : 0;
+    return ventana.isMaximized() ? estadoMaximizado : estadoNormal;
+}
+
+/// The geometry of a model, in twips.
+QRect Medidas(const Formulario& modelo) {
+    return {static_cast<int>(modelo.Left()), static_cast<int>(modelo.Top()), static_cast<int>(modelo.Width()),
+            static_cast<int>(modelo.Height())};
+}
+
+/// The geometry of a real window, in twips.
+QRect Medidas(const QWidget& ventana) {
+    const QRect puntos = ventana.geometry();
+    return {ATwips(puntos.x()), ATwips(puntos.y()), ATwips(puntos.width()), ATwips(puntos.height())};
+}
+
+/// The geometry of a child, in pixels, whose model asks for `medidas`, in twips: not narrower than its
+/// content, and within the frame if that has room.
+QRect LugarDeHija(const QRect& medidas, const QWidget& hija, QSize sitio) {
+    const int ancho = std::max(APuntos(medidas.width()), hija.sizeHint().width());
+    const QSize tamano =
+        QSize{ancho, APuntos(medidas.height())}.boundedTo(sitio).expandedTo(hija.minimumSizeHint());
+    const QPoint lugar{std::clamp(APuntos(medidas.x()), 0, std::max(0, sitio.width() - tamano.width())),
+                       std::clamp(APuntos(medidas.y()), 0, std::max(0, sitio.height() - tamano.height()))};
+    return {lugar, tamano};
 }
 
 } // namespace
@@ -64,22 +71,8 @@ Escritorio::Escritorio(ServiciosQt& servicios)
     marco_.resize(medidasAlEmpezar.boundedTo(SitioEnPantalla(marco_)));
     esperaDePedida_.setSingleShot(true);
     connect(&esperaDePedida_, &QTimer::timeout, this, [this] { pedida_ = nullptr; });
-    programa_.alCargar = [this](Formulario& modelo) { alCargar(modelo); };
-    programa_.alDescargar = [this](Formulario& modelo) { alDescargar(modelo); };
-    programa_.alActivar = [this](Formulario& modelo) {
-        cambioDeActiva_ = true;
-        ponerEncima(modelo);
-    };
-    programa_.alTerminarActo = [this] { alTerminarActo(); };
-    connect(zona_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* subventana) {
-        Formulario* const modelo = modeloDe(subventana);
-        if (modelo != nullptr && marco_.isActiveWindow()) {
-            activarModelo(*modelo);
-        }
-    });
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget* /*antes*/, QWidget* ahora) { alEnfocarse(ahora); });
-    qApp->installEventFilter(this);
+    seguirAlModelo();
+    seguirALaPersona();
     programa_.atender([this] { programa_.tocar<VAROMAIN>().Show(); });
 }
 
@@ -87,7 +80,7 @@ Escritorio::~Escritorio() {
     qApp->removeEventFilter(this);
     disconnect(qApp, nullptr, this, nullptr);
     disconnect(zona_, nullptr, this, nullptr);
-    for (auto& [modelo, vista] : vistas_) {
+    for (auto& [modelo, vista] : vistas_.todas()) {
         modelo->dejarDeObservar(vista.observador);
         vista.vinculos->soltar();
         if (modelo->tipo() == TipoVentana::Libre) {
@@ -96,13 +89,35 @@ Escritorio::~Escritorio() {
     }
 }
 
+void Escritorio::seguirAlModelo() {
+    programa_.alCargar = [this](Formulario& modelo) { alCargar(modelo); };
+    programa_.alDescargar = [this](Formulario& modelo) { alDescargar(modelo); };
+    programa_.alActivar = [this](Formulario& modelo) {
+        cambioDeActiva_ = true;
+        ponerEncima(modelo);
+    };
+    programa_.alTerminarActo = [this] { alTerminarActo(); };
+}
+
+void Escritorio::seguirALaPersona() {
+    connect(zona_, &QMdiArea::subWindowActivated, this, [this](const QMdiSubWindow* subventana) {
+        Formulario* const modelo = vistas_.modeloDe(subventana);
+        if (modelo != nullptr && marco_.isActiveWindow()) {
+            activarModelo(*modelo);
+        }
+    });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* /*antes*/, const QWidget* ahora) { alEnfocarse(ahora); });
+    qApp->installEventFilter(this);
+}
+
 // --- From the model to the real windows -----------------------------------------------------------------
 
 void Escritorio::alCargar(Formulario& modelo) {
-    Vista& vista = vistas_[&modelo];
-    vista.vinculos = std::make_unique<Vinculos>(programa_);
-    vista.ventana = crearVentana(modelo, *vista.vinculos);
-    vista.ventana->setObjectName(AQt(modelo.nombre()));
+    auto vinculos = std::make_unique<Vinculos>(programa_);
+    QWidget* const ventana = crearVentana(modelo, *vinculos);
+    ventana->setObjectName(AQt(modelo.nombre()));
+    Vista& vista = vistas_.poner(modelo, *ventana, std::move(vinculos));
     if (modelo.tipo() == TipoVentana::Marco) {
         medir(modelo);
     }
@@ -111,45 +126,20 @@ void Escritorio::alCargar(Formulario& modelo) {
 }
 
 QWidget* Escritorio::crearVentana(Formulario& modelo, Vinculos& vinculos) {
-    switch (modelo.tipo()) {
-    case TipoVentana::Marco:
-        vinculos.menus(*marco_.menuBar(), modelo);
+    if (modelo.tipo() == TipoVentana::Marco) {
+        vinculos.crearMenus(*marco_.menuBar(), modelo);
         return &marco_;
-    case TipoVentana::Hija:
-        return crearHija(*Disponer(modelo, vinculos), modelo);
-    case TipoVentana::Libre:
-        return crearDialogo(*Disponer(modelo, vinculos));
     }
-    return nullptr;
-}
-
-QWidget* Escritorio::crearHija(QWidget& contenido, const Formulario& modelo) {
-    auto* const subventana = new QMdiSubWindow;
-    subventana->setWidget(&contenido);
-    if (!SePuedeAgrandar(modelo)) {
-        subventana->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    QWidget* const contenido = Disponer(modelo, vinculos);
+    if (modelo.tipo() == TipoVentana::Hija) {
+        return CrearHija(*zona_, *contenido, SePuedeAgrandar(modelo));
     }
-    zona_->addSubWindow(subventana, subventana->windowFlags());
-    subventana->hide();
-    return subventana;
-}
-
-QWidget* Escritorio::crearDialogo(QWidget& contenido) {
-    auto* const dialogo = new Dialogo{&marco_};
-    dialogo->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
-    auto* const columna = new QVBoxLayout{dialogo};
-    columna->setContentsMargins(0, 0, 0, 0);
-    columna->addWidget(&contenido);
-    dialogo->resize(dialogo->sizeHint().boundedTo(SitioEnPantalla(marco_)));
-    return dialogo;
+    assert(!SePuedeAgrandar(modelo));
+    return CrearDialogo(marco_, *contenido);
 }
 
 void Escritorio::alDescargar(Formulario& modelo) {
-    const auto lugar = vistas_.find(&modelo);
-    Vista vista = std::move(lugar->second);
-    vistas_.erase(lugar);
+    Vista vista = vistas_.sacar(modelo);
     modelo.dejarDeObservar(vista.observador);
     vista.vinculos->soltar();
     const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
@@ -160,7 +150,7 @@ void Escritorio::alDescargar(Formulario& modelo) {
     if (modelo.tipo() == TipoVentana::Hija) {
         zona_->removeSubWindow(vista.ventana);
     }
-    retiradas_.push_back(std::move(vista)); // one of its own signals may still be on the way up
+    retiradas_.push_back(std::move(vista)); // a signal of the window may still be on its way
 }
 
 void Escritorio::soltarRetiradas() {
@@ -174,7 +164,7 @@ void Escritorio::soltarRetiradas() {
 }
 
 void Escritorio::mostrar(Formulario& modelo) {
-    Vista& vista = vistas_.at(&modelo);
+    Vista& vista = vistas_.de(modelo);
     const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
     vista.ventana->setWindowTitle(AQt(modelo.Caption()));
     if (modelo.MousePointer() == Formulario::relojDeArena) {
@@ -192,33 +182,27 @@ void Escritorio::aplicarEstado(Formulario& modelo, Vista& vista) {
         return;
     }
     vista.estado = modelo.WindowState();
-    if (vista.estado == 0) {
+    if (vista.estado == estadoNormal) {
         vista.ventana->showNormal();
-        medir(modelo); // what the window measures now is what it measured before
+        medir(modelo); // the real window is back at its former measures
     }
 }
 
 void Escritorio::aplicarMedidas(const Formulario& modelo, Vista& vista) {
     const QRect medidas = Medidas(modelo);
-    if (modelo.tipo() != TipoVentana::Hija || medidas == vista.medidas || EstadoDe(*vista.ventana) != 0) {
+    if (modelo.tipo() != TipoVentana::Hija || medidas == vista.medidas ||
+        EstadoDe(*vista.ventana) != estadoNormal) {
         return;
     }
     vista.medidas = medidas;
-    // As wide as what lies in it, and within the frame as long as that has room.
-    const QSize sitio = zona_->viewport()->size();
-    const int ancho = std::max(APuntos(medidas.width()), vista.ventana->sizeHint().width());
-    const QSize tamano =
-        QSize{ancho, APuntos(medidas.height())}.boundedTo(sitio).expandedTo(vista.ventana->minimumSizeHint());
-    const QPoint lugar{std::clamp(APuntos(medidas.x()), 0, std::max(0, sitio.width() - tamano.width())),
-                       std::clamp(APuntos(medidas.y()), 0, std::max(0, sitio.height() - tamano.height()))};
-    vista.ventana->setGeometry(QRect{lugar, tamano});
+    vista.ventana->setGeometry(LugarDeHija(medidas, *vista.ventana, zona_->viewport()->size()));
 }
 
-/// Each one over the others in its turn, not the last one of an act alone. A child has to be active for it:
-/// the toolkit raises once more the one that it takes the activation from.
+/// Runs for each window that an act activates, not only for the last one: the order on the screen is theirs.
+/// A child becomes active here because Qt raises the child that it takes the activation from.
 void Escritorio::ponerEncima(Formulario& modelo) {
     const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
-    QWidget* const ventana = vistas_.at(&modelo).ventana;
+    QWidget* const ventana = vistas_.de(modelo).ventana;
     if (modelo.tipo() == TipoVentana::Hija) {
         zona_->setActiveSubWindow(static_cast<QMdiSubWindow*>(ventana));
     }
@@ -246,7 +230,7 @@ void Escritorio::darActivacion() {
         return;
     }
     const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
-    QWidget* const ventana = vistas_.at(activa).ventana;
+    QWidget* const ventana = vistas_.de(*activa).ventana;
     QWidget* superior = ventana;
     if (activa->tipo() == TipoVentana::Hija) {
         zona_->setActiveSubWindow(static_cast<QMdiSubWindow*>(ventana));
@@ -264,13 +248,13 @@ void Escritorio::darActivacion() {
 void Escritorio::darFoco() {
     Control* const foco = programa_.foco();
     if (foco == nullptr) {
-        // The act left the focus nowhere: it is where the toolkit has put it.
+        // The act left the focus nowhere: take it from where Qt has put it, once Qt is done.
         QMetaObject::invokeMethod(
             this, [this] { alEnfocarse(QApplication::focusWidget()); }, Qt::QueuedConnection);
         return;
     }
     QWidget* const widget = widgetDe(*foco);
-    if (widget != nullptr && controlDe(widget->window()->focusWidget()) != foco) {
+    if (widget != nullptr && vistas_.controlDe(widget->window()->focusWidget()) != foco) {
         widget->setFocus();
     }
 }
@@ -278,23 +262,16 @@ void Escritorio::darFoco() {
 // --- From the real windows to the model -----------------------------------------------------------------
 
 void Escritorio::actuar(const std::function<void()>& acto) {
-    if (desdeElModelo_ || programa_.atendiendo()) {
-        return;
-    }
-    try {
-        acto();
-    } catch (const ActoImposible& imposible) {
-        qWarning("%s", imposible.what());
+    if (!desdeElModelo_ && !programa_.atendiendo()) {
+        Intentar(acto);
     }
 }
 
-void Escritorio::alEnfocarse(QWidget* widget) {
-    Control* const control = controlDe(widget);
-    if (control == nullptr || control == programa_.foco() || !control->ventana().Visible()) {
+void Escritorio::alEnfocarse(const QWidget* widget) {
+    Control* const control = vistas_.controlDe(widget);
+    if (control == nullptr || control == programa_.foco() || !control->ventana().Visible() ||
+        esperaOtra(widget->window())) {
         return;
-    }
-    if (pedida_ != nullptr && pedida_ != widget->window()) {
-        return; // a window on the way to the one that the model asked for
     }
     actuar([&] {
         programa_.atender([&] {
@@ -313,33 +290,58 @@ void Escritorio::activarModelo(Formulario& modelo) {
 }
 
 void Escritorio::alActivarse(const QObject* ventana) {
-    Formulario* const modelo = ventana == &marco_ ? modeloActivoDelMarco() : modeloDe(ventana);
-    // The toolkit tells every widget of a frame that comes up, all its children too.
-    if (modelo == nullptr || (ventana != &marco_ && modelo->tipo() == TipoVentana::Hija)) {
+    Formulario* const modelo = ventana == &marco_ ? modeloActivoDelMarco() : vistas_.modeloDe(ventana);
+    // Qt tells every widget of a frame that comes up, the children too; the frame speaks for them.
+    const bool esHija = ventana != &marco_ && modelo != nullptr && modelo->tipo() == TipoVentana::Hija;
+    if (modelo == nullptr || esHija || esperaOtra(ventana)) {
         return;
-    }
-    if (pedida_ != nullptr && pedida_ != ventana) {
-        return; // on the way to the window that the model asked for
     }
     pedida_ = nullptr;
     activarModelo(*modelo);
 }
 
-void Escritorio::cerrar(Formulario& modelo) {
-    if (modelo.Visible()) {
-        actuar([&] { Usuario{programa_}.cerrar(modelo); });
+/// True while a window comes up on the way to the one that the model asked for.
+bool Escritorio::esperaOtra(const QObject* ventana) const {
+    return pedida_ != nullptr && pedida_ != ventana;
+}
+
+/// The model decides whether it closes, and its unloading takes the real window with it. False when no model
+/// shows there: Qt closes the window.
+bool Escritorio::alPedirCierre(const QObject* ventana) {
+    Formulario* const modelo = vistas_.modeloDe(ventana);
+    if (modelo == nullptr) {
+        return false;
+    }
+    if (modelo->Visible()) {
+        actuar([&] { Usuario{programa_}.cerrar(*modelo); });
+    }
+    return true;
+}
+
+void Escritorio::alMoverse(const QObject* ventana) {
+    Formulario* const modelo = vistas_.modeloDe(ventana);
+    if (modelo != nullptr && modelo->Visible() && !desdeElModelo_ &&
+        EstadoDe(*vistas_.de(*modelo).ventana) != estadoMinimizado) {
+        medir(*modelo);
+    }
+}
+
+void Escritorio::alCambiarEstado(const QObject* ventana) {
+    Formulario* const modelo = vistas_.modeloDe(ventana);
+    if (modelo != nullptr && !desdeElModelo_) {
+        Vista& vista = vistas_.de(*modelo);
+        vista.estado = EstadoDe(*vista.ventana);
+        modelo->WindowState = vista.estado;
     }
 }
 
 void Escritorio::medir(Formulario& modelo) {
-    Vista& vista = vistas_.at(&modelo);
-    const QRect puntos = vista.ventana->geometry();
-    const QRect medidas{ATwips(puntos.x()), ATwips(puntos.y()), ATwips(puntos.width()),
-                        ATwips(puntos.height())};
+    Vista& vista = vistas_.de(modelo);
+    const QRect medidas = Medidas(*vista.ventana);
     if (medidas == Medidas(modelo)) {
         return;
     }
-    vista.medidas = medidas; // the real window is so already
+    vista.medidas = medidas; // the real window has them: the model asks for nothing
     const bool otroTamano = medidas.size() != Medidas(modelo).size();
     programa_.atender([&] {
         modelo.Left = static_cast<float>(medidas.x());
@@ -351,23 +353,15 @@ void Escritorio::medir(Formulario& modelo) {
     vista.medidas = medidas;
 }
 
-void Escritorio::anotarEstado(Formulario& modelo) {
-    Vista& vista = vistas_.at(&modelo);
-    vista.estado = EstadoDe(*vista.ventana);
-    modelo.WindowState = vista.estado;
-}
-
 bool Escritorio::eventFilter(QObject* objeto, QEvent* suceso) {
     switch (suceso->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::KeyPress:
-        pedida_ = nullptr; // from here on it is the person who says which window is active
+        pedida_ = nullptr; // from now on the person decides which window is active
         break;
     case QEvent::Close:
-        if (Formulario* const modelo = modeloDe(objeto)) {
-            // The model decides, and its unloading takes the real window with it.
+        if (alPedirCierre(objeto)) {
             suceso->ignore();
-            cerrar(*modelo);
             return true;
         }
         break;
@@ -376,16 +370,10 @@ bool Escritorio::eventFilter(QObject* objeto, QEvent* suceso) {
         break;
     case QEvent::Move:
     case QEvent::Resize:
-        if (Formulario* const modelo = modeloDe(objeto);
-            modelo != nullptr && modelo->Visible() && !desdeElModelo_ &&
-            EstadoDe(*vistas_.at(modelo).ventana) != estadoMinimizado) {
-            medir(*modelo);
-        }
+        alMoverse(objeto);
         break;
     case QEvent::WindowStateChange:
-        if (Formulario* const modelo = modeloDe(objeto); modelo != nullptr && !desdeElModelo_) {
-            anotarEstado(*modelo);
-        }
+        alCambiarEstado(objeto);
         break;
     default:
         break;
@@ -393,46 +381,15 @@ bool Escritorio::eventFilter(QObject* objeto, QEvent* suceso) {
     return QObject::eventFilter(objeto, suceso);
 }
 
-// --- Which belongs to which -----------------------------------------------------------------------------
-
-QWidget* Escritorio::ventanaDe(const Formulario& modelo) const {
-    const auto vista = vistas_.find(const_cast<Formulario*>(&modelo));
-    return vista == vistas_.end() ? nullptr : vista->second.ventana;
-}
-
-QWidget* Escritorio::widgetDe(const Control& control) const {
-    const auto vista = vistas_.find(&control.ventana());
-    return vista == vistas_.end() ? nullptr : vista->second.vinculos->widgetDe(control);
-}
-
-Formulario* Escritorio::modeloDe(const QObject* ventana) const {
-    const auto vista = std::find_if(vistas_.begin(), vistas_.end(),
-                                    [&](const auto& par) { return par.second.ventana == ventana; });
-    return ventana == nullptr || vista == vistas_.end() ? nullptr : vista->first;
-}
-
-/// The control whose widget it is, or lies around it: the field of a drop-down, the bar of a tabbed dialog.
-Control* Escritorio::controlDe(QWidget* widget) const {
-    for (; widget != nullptr; widget = widget->parentWidget()) {
-        for (const auto& [modelo, vista] : vistas_) {
-            Control* const control = vista.vinculos->controlDe(*widget);
-            if (control != nullptr) {
-                return control->tipo() == TipoControl::Marco ? nullptr : control;
-            }
-        }
-    }
-    return nullptr;
-}
-
 /// A click on the frame activates the child that was active last in it; null once the frame is closed.
 Formulario* Escritorio::modeloActivoDelMarco() const {
     const auto subventanas = zona_->subWindowList(QMdiArea::ActivationHistoryOrder);
     const auto hija =
         std::find_if(subventanas.rbegin(), subventanas.rend(), [this](const QObject* subventana) {
-            const Formulario* const modelo = modeloDe(subventana);
+            const Formulario* const modelo = vistas_.modeloDe(subventana);
             return modelo != nullptr && modelo->Visible();
         });
-    return modeloDe(hija == subventanas.rend() ? static_cast<const QObject*>(&marco_) : *hija);
+    return vistas_.modeloDe(hija == subventanas.rend() ? static_cast<const QObject*>(&marco_) : *hija);
 }
 
 } // namespace varo

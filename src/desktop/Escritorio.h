@@ -1,31 +1,26 @@
-// The real windows of the program: makes one for each model window that is loaded and keeps the two in step.
+// The real windows of the program: makes one for each model that is loaded and keeps the two in step.
 #pragma once
 
 #include "desktop/ServiciosQt.h"
+#include "desktop/Vistas.h"
 #include "shell/Programa.h"
 
 #include <QCoreApplication>
 #include <QMainWindow>
 #include <QObject>
-#include <QRect>
 #include <QTimer>
 
 #include <functional>
-#include <map>
-#include <memory>
 #include <vector>
 
 class QMdiArea;
-class QMdiSubWindow;
 
 namespace varo {
 
-class Vinculos;
-
 /// Activation, focus, closing and size go both ways: what a person does with a real window goes to its model,
-/// and what the model does shows at once. While an act is going on the model has the word: the events that
-/// its own doings raise in the toolkit are not a person's. When the act is over the real windows are brought
-/// in line with it.
+/// and what the model does shows at once. During an act the model has the word: what Qt reports then is the
+/// act's doing, not a person's. At the end of the act the real windows are brought in line with the model.
+/// The application object lives longer than the desktop.
 class Escritorio : public QObject {
 public:
     explicit Escritorio(ServiciosQt& servicios);
@@ -33,24 +28,19 @@ public:
 
     [[nodiscard]] Programa& programa() { return programa_; }
     [[nodiscard]] QMainWindow& marco() { return marco_; }
-    /// The real window of a model window; null when it is not loaded.
-    [[nodiscard]] QWidget* ventanaDe(const Formulario& modelo) const;
-    /// The widget of a control; null when it has none.
-    [[nodiscard]] QWidget* widgetDe(const Control& control) const;
+    /// The real window of a model, null while the model is not loaded.
+    [[nodiscard]] QWidget* ventanaDe(const Formulario& modelo) const { return vistas_.ventanaDe(modelo); }
+    /// The widget of a control, null when it has none.
+    [[nodiscard]] QWidget* widgetDe(const Control& control) const { return vistas_.widgetDe(control); }
 
-    /// Told when the program is over; it ends the event loop.
+    /// Told when the program is over. Ends the event loop.
     std::function<void()> alTerminar = [] { QCoreApplication::exit(); };
 
     bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
 private:
-    struct Vista {
-        QWidget* ventana = nullptr; ///< the frame itself, a subwindow of it, or a dialog
-        std::unique_ptr<Vinculos> vinculos;
-        int observador = 0;
-        QRect medidas;  ///< what the model last asked for, in twips
-        int estado = 0; ///< the window state that the model last asked for
-    };
+    void seguirAlModelo();
+    void seguirALaPersona();
 
     void alCargar(Formulario& modelo);
     void alDescargar(Formulario& modelo);
@@ -61,34 +51,32 @@ private:
     void darFoco();
 
     QWidget* crearVentana(Formulario& modelo, Vinculos& vinculos);
-    QWidget* crearHija(QWidget& contenido, const Formulario& modelo);
-    QWidget* crearDialogo(QWidget& contenido);
     void mostrar(Formulario& modelo);
     void aplicarEstado(Formulario& modelo, Vista& vista);
     void aplicarMedidas(const Formulario& modelo, Vista& vista);
 
-    void alEnfocarse(QWidget* widget);
+    void alEnfocarse(const QWidget* widget);
     void alActivarse(const QObject* ventana);
+    bool alPedirCierre(const QObject* ventana);
+    void alMoverse(const QObject* ventana);
+    void alCambiarEstado(const QObject* ventana);
     void activarModelo(Formulario& modelo);
-    void cerrar(Formulario& modelo);
     void medir(Formulario& modelo);
-    void anotarEstado(Formulario& modelo);
-    /// Hands on what a person did with a window, unless it is the program's own doing.
+    /// Hands on what a person did with a window, unless it is the program's doing.
     void actuar(const std::function<void()>& acto);
 
-    [[nodiscard]] Formulario* modeloDe(const QObject* ventana) const;
-    [[nodiscard]] Control* controlDe(QWidget* widget) const;
     [[nodiscard]] Formulario* modeloActivoDelMarco() const;
+    [[nodiscard]] bool esperaOtra(const QObject* ventana) const;
 
     ServiciosQt& servicios_;
     Programa programa_;
     QMainWindow marco_;
     QMdiArea* zona_;
-    std::map<Formulario*, Vista> vistas_;
-    std::vector<Vista> retiradas_; ///< unloaded by the act that goes on
-    bool desdeElModelo_ = false;
-    bool cambioDeActiva_ = false; ///< the act that goes on has moved the activation
-    QWidget* pedida_ = nullptr;   ///< the window that was asked to become active and has not yet
+    Vistas vistas_;
+    std::vector<Vista> retiradas_; ///< unloaded by the present act
+    bool desdeElModelo_ = false;   ///< what Qt reports now comes from the model
+    bool cambioDeActiva_ = false;  ///< the present act has moved the activation
+    QWidget* pedida_ = nullptr;    ///< the window that was asked to become active and has not yet
     QTimer esperaDePedida_;
 };
 

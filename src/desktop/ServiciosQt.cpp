@@ -12,7 +12,9 @@
 #include <QPushButton>
 #include <QStringList>
 
-#include <array>
+#include <cassert>
+#include <utility>
+#include <vector>
 
 namespace varo {
 
@@ -58,8 +60,8 @@ std::vector<BotonDeMensaje> Botones(int opciones) {
     }
 }
 
-/// "Hoja de cálculo (*.xls)|*.xls|...": pairs of a name and a pattern; the toolkit wants the names alone,
-/// each with its pattern in brackets.
+/// Takes pairs of name and pattern, "Hoja de cálculo (*.xls)|*.xls|...", and leaves the names: Qt reads the
+/// pattern from their brackets.
 QString Filtros(const std::string& filtro) {
     const QStringList partes = AQt(filtro).split('|', Qt::SkipEmptyParts);
     QStringList nombres;
@@ -76,14 +78,19 @@ QFont FuenteQt(const Fuente& fuente) {
     letra.setItalic(fuente.cursiva);
     letra.setStrikeOut(fuente.tachado);
     letra.setUnderline(fuente.subrayado);
-    // The font dialog finds a style by its name, which each font spells in its own way.
+    // The font dialog finds a style by name, and each font spells that differently.
     letra.setStyleName(QFontInfo{letra}.styleName());
     return letra;
 }
 
+QFont FuenteDelPrograma() {
+    assert(qApp != nullptr); // Qt has no fonts before its application object
+    return QApplication::font();
+}
+
 } // namespace
 
-ServiciosQt::ServiciosQt() : medidas_{QApplication::font()} {}
+ServiciosQt::ServiciosQt() : medidas_{FuenteDelPrograma()} {}
 
 QWidget* ServiciosQt::padre() const {
     QWidget* const activa = QApplication::activeWindow();
@@ -126,7 +133,7 @@ void ServiciosQt::fallo(const ErrorEjecucion& error) {
     caja.setDefaultButton(aceptar);
     caja.setEscapeButton(aceptar);
     auto* const copiar = caja.addButton("&Copiar", QMessageBox::ActionRole);
-    copiar->disconnect(); // it does its work and leaves the box open
+    copiar->disconnect(); // copying leaves the box open
     QObject::connect(copiar, &QPushButton::clicked, &caja,
                      [&texto] { QApplication::clipboard()->setText(texto); });
     caja.exec();

@@ -1,4 +1,4 @@
-// The platform of the windows, on Qt.
+// The platform of the windows, in Qt.
 #pragma once
 
 #include "formularios/Servicios.h"
@@ -13,7 +13,7 @@ class ServiciosQt : public Servicios {
 public:
     ServiciosQt();
 
-    /// The window over which boxes and dialogs are shown when no other one is active.
+    /// Boxes and dialogs stand over this window when none is active.
     void ponerVentana(QWidget* ventana) { ventana_ = ventana; }
 
     int mensaje(const std::string& texto, const std::string& titulo, int opciones) override;

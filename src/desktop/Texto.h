@@ -1,4 +1,4 @@
-// Texts, measures and colours between the models and the toolkit.
+// Texts, measures and colours between the models and Qt.
 #pragma once
 
 #include "formularios/Servicios.h"
@@ -18,7 +18,7 @@ inline std::string DeQt(const QString& texto) {
     return texto.toStdString();
 }
 
-/// Twips are 1440 to the inch; a logical pixel is 1/96 of an inch.
+/// An inch is 1440 twips, or 96 logical pixels.
 inline constexpr double twipsPorPunto = 1440.0 / 96.0;
 
 inline int APuntos(int twips) {
@@ -29,6 +29,7 @@ inline int ATwips(int puntos) {
     return static_cast<int>(puntos * twipsPorPunto);
 }
 
+/// The low byte of a Color is red, the third one blue.
 inline QColor ColorQt(Color color) {
     return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
 }

@@ -28,27 +28,29 @@ class QWidget;
 
 namespace varo {
 
-/// A widget shows its control and follows every change of it; what a person does with the widget goes to the
-/// control by Usuario, as without a screen. A widget is named after its control: "TxtBAF1(6)".
+/// A widget shows its control and follows every change of it. What a person does with the widget goes to the
+/// control by Usuario, as without a screen. A widget is named after its control, "TxtBAF1(6)". A control has
+/// one widget at most, made before soltar().
 class Vinculos : public QObject {
 public:
     explicit Vinculos(Ventanas& ventanas);
     ~Vinculos() override;
 
-    QLabel* etiqueta(Etiqueta& control);
-    QPushButton* boton(Boton& control);
-    QLineEdit* caja(CajaTexto& control);
-    QCheckBox* casilla(Casilla& control);
-    QRadioButton* opcion(Opcion& control);
-    QListWidget* lista(Lista& control);
-    QComboBox* desplegable(Desplegable& control);
-    /// A frame of its caption, without a layout yet.
-    QGroupBox* marco(Marco& control);
-    QTabWidget* fichas(Fichas& control, const std::vector<QWidget*>& paginas);
-    QTableView* rejilla(Rejilla& control);
-    /// All the menus of a window, in the order of their making.
-    void menus(QMenuBar& barra, const Formulario& ventana);
-    /// A widget made elsewhere that only follows the visible and enabled state.
+    QLabel* crearEtiqueta(Etiqueta& control);
+    QPushButton* crearBoton(Boton& control);
+    QCheckBox* crearCasilla(Casilla& control);
+    QRadioButton* crearOpcion(Opcion& control);
+    /// A frame with its title, without a layout.
+    QGroupBox* crearMarco(Marco& control);
+    QLineEdit* crearCaja(CajaTexto& control);
+    QListWidget* crearLista(Lista& control);
+    QComboBox* crearDesplegable(Desplegable& control);
+    QTableView* crearRejilla(Rejilla& control);
+    /// One page for each tab.
+    QTabWidget* crearFichas(Fichas& control, const std::vector<QWidget*>& paginas);
+    /// All the menus of a window, in the order in which the window made them: a menu before its entries.
+    void crearMenus(QMenuBar& barra, const Formulario& ventana);
+    /// Ties a widget that shows nothing of the control but its visible and enabled state.
     void seguirEstado(QWidget& widget, Control& control);
 
     /// Shows something of a control now and at every change of it.
@@ -59,20 +61,27 @@ public:
     /// The control of a widget, null when it has none.
     [[nodiscard]] Control* controlDe(const QWidget& widget) const;
 
-    /// Follows no control any more and hands nothing on: the window is about to go.
+    /// Lets go of all controls: the window is about to go. The widgets stay as they are and do nothing more.
     void soltar();
 
 private:
-    void noHundir(QAbstractButton& widget, const Control& control);
+    struct Vinculo {
+        QWidget* widget;
+        std::function<void()> mostrar; ///< brings the widget in line with its control
+    };
+
     void enlazar(QWidget& widget, Control& control, const std::function<void()>& mostrar);
-    /// Hands on what a person did. The widget shows the control anew afterwards: the model has the last word.
-    void actuar(
-        const std::function<void(Usuario&)>& acto, const std::function<void()>& mostrar = [] {});
+    void enlazarBoton(QAbstractButton& widget, Control& control, const std::function<void()>& mostrar);
+    void crearMenu(Menu& menu, bool tieneEntradas, std::map<const Menu*, QWidget*>& sitios);
+    /// Hands on what a person did with the widget of a control, and shows the control anew: the model has the
+    /// last word.
+    void actuar(const Control& control, const std::function<void(Usuario&)>& acto);
+    void pulsar(Control& control);
 
     Ventanas& ventanas_;
     Usuario usuario_;
     std::vector<std::pair<Observable*, int>> observados_;
-    std::map<const Control*, QWidget*> widgets_;
+    std::map<const Control*, Vinculo> vinculos_;
     std::map<const QWidget*, Control*> controles_;
     bool suelto_ = false;
 };

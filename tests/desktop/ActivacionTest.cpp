@@ -1,5 +1,4 @@
-// Activation and focus of the real windows reach the models once each, and what the models do with them
-// reaches the real windows.
+// Activation and focus of the real windows reach the models once each, and the reverse.
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
 #include "desktop/Pantalla.h"
@@ -45,6 +44,18 @@ protected:
         otra.olvidar();
         libre.olvidar();
     }
+    /// Activates a window of another program, and then the free one again.
+    void irAOtroProgramaYVolver() const {
+        QWidget ajena;
+        ajena.show();
+        ajena.activateWindow();
+        Reposar();
+        ASSERT_TRUE(ajena.isActiveWindow());
+        EXPECT_EQ(programa.activa(), &libre);
+        EXPECT_EQ(salidas, 0);
+        ventana("FrmSeleccion").activateWindow();
+        Reposar();
+    }
     QLineEdit& campo() const { return *widget<QComboBox>("FrmSeleccion", "CboHoja").lineEdit(); }
     QWidget& boton() const { return widget("FrmSeleccion", "CmdAceptar"); }
 
@@ -65,7 +76,7 @@ TEST_F(TresVentanas, PulsarUnaHijaDesactivaLaLibreYActivaEsaUnaVez) {
     EXPECT_EQ(programa.activa(), &hoja);
     EXPECT_EQ(CuentaDe(hoja), Cuenta(1, 0));
     EXPECT_EQ(CuentaDe(libre), Cuenta(0, 1));
-    EXPECT_EQ(CuentaDe(otra).first, CuentaDe(otra).second); // it may have been active on the way
+    EXPECT_EQ(CuentaDe(otra).first, CuentaDe(otra).second); // Qt may activate it on the way
     EXPECT_LE(CuentaDe(otra).first, 1);
 }
 
@@ -108,14 +119,7 @@ TEST_F(TresVentanas, IrAUnaLibreYVolverAlMarcoActivaLaHijaQueEstabaActiva) {
 }
 
 TEST_F(TresVentanas, OtroProgramaNoDesactivaNada) {
-    QWidget ajena;
-    ajena.show();
-    ajena.activateWindow();
-    Reposar();
-    ASSERT_TRUE(ajena.isActiveWindow());
-    EXPECT_EQ(programa.activa(), &libre);
-    ventana("FrmSeleccion").activateWindow();
-    Reposar();
+    irAOtroProgramaYVolver();
     EXPECT_EQ(CuentaDe(libre), Cuenta(0, 0));
     EXPECT_EQ(CuentaDe(hoja), Cuenta(0, 0));
 }
@@ -189,13 +193,7 @@ TEST_F(TresVentanas, PulsarEnElFondoNoDejaElCampo) {
 
 TEST_F(TresVentanas, OtroProgramaNoDejaElCampo) {
     Clic(campo());
-    QWidget ajena;
-    ajena.show();
-    ajena.activateWindow();
-    Reposar();
-    EXPECT_EQ(salidas, 0);
-    ventana("FrmSeleccion").activateWindow();
-    Reposar();
+    irAOtroProgramaYVolver();
     EXPECT_EQ(salidas, 0);
     EXPECT_EQ(programa.foco(), &libre.CboHoja);
 }
@@ -208,7 +206,7 @@ TEST_F(TresVentanas, ElCampoQueRecuperaElFocoTrasUnMensajeLoTieneDeVerdad) {
         libre.CboHoja.SetFocus();
     };
     contestador.pulsar("Aceptar");
-    QTest::mousePress(&boton(), Qt::LeftButton); // the box comes up before the button is let go
+    QTest::mousePress(&boton(), Qt::LeftButton); // the box comes up before the release
     Reposar();
     EXPECT_EQ(salidas, 1);
     EXPECT_EQ(clics, 0);
@@ -266,7 +264,7 @@ TEST_F(ActivacionDeLosDialogos, ElDeColumnasSePreparaCadaVezQueSeActiva) {
     EXPECT_EQ(programa.sesion.UltimaColumna, 7);
     programa.sesion.UltimaColumna = 0;
     clicColumna(3);
-    EXPECT_EQ(programa.sesion.UltimaColumna, 0); // the dialog is on show, but the sheet is active
+    EXPECT_EQ(programa.sesion.UltimaColumna, 0); // the dialog is visible, but the sheet is active
     clic("SelCol4R", "Label1");
     EXPECT_EQ(programa.sesion.UltimaColumna, 7);
 }

@@ -1,5 +1,4 @@
-// Which window stands over which: the model's order of showing is the order on the screen, though nobody
-// activates the lower ones.
+// Which window stands over which: the last one that the model shows is on top, and so on downwards.
 #include "desktop/Pantalla.h"
 
 #include <QMdiArea>

@@ -1,4 +1,4 @@
-// The application object that real windows need. It is made when tests run, not when they are only listed.
+// The application object of real windows. It is made when tests run, not when they are listed.
 #include "desktop/Aplicacion.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Another kind of crown data once columns were chosen: the person is told, once, and chooses them again.
+// Another kind of crown data after the choice of columns: a box tells it once, and the choice starts again.
 #include "desktop/Pantalla.h"
 
 #include <QPointer>

@@ -1,4 +1,4 @@
-// A field of the options that refuses to be left: nothing else of the dialog moves, and a box tells it once.
+// A field of the options that keeps the focus: a box tells it once, and nothing else of the dialog moves.
 #include "desktop/Pantalla.h"
 #include "options/OpcionesPrograma.h"
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr int fichaAOI = 3;
 
-/// One notch of the wheel over a widget, towards the person or away.
+/// One notch of the wheel over a widget: -120 towards the person, 120 away.
 void Rueda(QWidget& widget, int vuelta) {
     const QPointF punto = widget.rect().center();
     QWheelEvent suceso{punto,          widget.mapToGlobal(punto), QPoint{}, QPoint{0, vuelta}, Qt::NoButton,
@@ -40,7 +40,7 @@ protected:
     }
     QTabWidget& fichas() const { return widget<QTabWidget>("OpcionesPrograma", "SSTab1"); }
     QLineEdit& campo() const { return widget<QLineEdit>("OpcionesPrograma", "TxtRm(0)"); }
-    /// The box about the key is answered and counts as the first.
+    /// Answers the box about the key, the first of the test.
     void escribirMal() {
         contestador.pulsar("Aceptar");
         Clic(campo());
@@ -140,7 +140,7 @@ TEST_F(UnCampoDeLasOpciones, LaRuedaNoCambiaDeFicha) {
     llana.addTab("b");
     llana.show();
     Rueda(llana, -120);
-    ASSERT_EQ(llana.currentIndex(), 1); // a bar of the toolkit turns
+    ASSERT_EQ(llana.currentIndex(), 1); // a plain bar of Qt follows the wheel
     llana.hide();
     Escribir(campo(), "15");
     Rueda(*fichas().tabBar(), -120);
@@ -161,7 +161,7 @@ TEST_F(UnCampoDeLasOpciones, RechazadoNoDejaHundidoElBotonQueSePulsa) {
         SCOPED_TRACE(nombre);
         auto& boton = widget<QAbstractButton>("OpcionesPrograma", nombre);
         contestador.pulsar("Aceptar");
-        // The box comes up at the press and takes the release with it.
+        // The box comes up at the press and swallows the release.
         QTest::mousePress(&boton, Qt::LeftButton, Qt::NoModifier, {8, boton.rect().center().y()});
         Reposar();
         EXPECT_FALSE(boton.isDown());

@@ -274,7 +274,7 @@ TEST(CierreEnCadaEtapa, CadaVentanaSePuedeCerrarEnTodaEtapaYLasDemasDespues) {
             ++cierres;
         }
     }
-    EXPECT_EQ(cierres, 1 + 1 + 2 + 2 + 2 + 2 + 3); // windows besides the frame from the second stage on
+    EXPECT_EQ(cierres, 1 + 1 + 2 + 2 + 2 + 2 + 3); // the windows beside the frame, from the second stage on
 }
 
 } // namespace varo::prueba

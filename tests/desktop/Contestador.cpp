@@ -40,7 +40,7 @@ void PulsarBoton(QWidget& ventana, const QString& leyenda) {
 }
 
 Contestador::Contestador() {
-    // Not from the timer itself: it would not fire again while a box that an answer raises is open.
+    // Queue the look: inside its own slot the timer does not fire again while an answer holds a box open.
     connect(&reloj_, &QTimer::timeout, this, [this] {
         if (!llamado_) {
             llamado_ = true;
@@ -71,7 +71,7 @@ void Contestador::mirar() {
         return;
     }
     if (!modal->isActiveWindow()) {
-        modal->activateWindow(); // not yet: the platform gives the activation in its own time
+        modal->activateWindow(); // the platform activates it later; look again then
         return;
     }
     if (modal != anotada_) {

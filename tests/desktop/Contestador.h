@@ -1,4 +1,4 @@
-// Answers the modal windows that hold up everything else until a person answers them.
+// Answers modal windows, which hold up everything else.
 #pragma once
 
 #include <QMessageBox>
@@ -21,8 +21,8 @@ struct CajaVista {
     QStringList botones; ///< without their accelerators
 };
 
-/// The answers are used up in the order in which they were prepared. A modal window that nobody prepared for
-/// is dismissed and fails the test, and so does an answer that nobody asked for.
+/// Gives the prepared answers in their order. A modal window without an answer is dismissed and fails the
+/// test, and so does an answer without a window.
 class Contestador : public QObject {
 public:
     using Acto = std::function<void(QWidget&)>;
@@ -30,7 +30,7 @@ public:
     Contestador();
     ~Contestador() override;
 
-    /// What is done with the next modal window. When it stays open the next act gets it again.
+    /// Does this with the next modal window. If the window stays open, the next act gets it too.
     void preparar(Acto acto) { actos_.push_back(std::move(acto)); }
     /// Presses the button of that caption.
     void pulsar(const QString& boton);
@@ -48,12 +48,12 @@ private:
     QTimer reloj_;
     bool llamado_ = false;
     std::deque<Acto> actos_;
-    std::vector<QWidget*> enCurso_; ///< being answered at this moment
+    std::vector<QWidget*> enCurso_; ///< windows whose answer is running
     const QWidget* anotada_ = nullptr;
     std::vector<CajaVista> cajas_;
 };
 
-/// Presses the button of that caption, with the mouse. Throws std::runtime_error when there is none.
+/// Presses the button of that caption with the mouse. Throws std::runtime_error when there is none.
 void PulsarBoton(QWidget& ventana, const QString& leyenda);
 
 } // namespace varo::prueba

@@ -1,4 +1,4 @@
-// The window that names the results file: folders, files, a name, and the file that comes of it.
+// The window that names the results file: folders, files, a name, and the file that it writes.
 #include "desktop/Pantalla.h"
 
 #include <QLabel>
@@ -60,9 +60,9 @@ protected:
         Reposar();
     }
 
-    /// No index was asked for: the order and the number of each tree of the square with its centre.
-    const std::string indices_ = "N\xBAOrden\tN\xBA"
-                                 "Arbol\r\n1\t1\r2\t2\r3\t3\r4\t4\r5\t5\r\r\n";
+    /// The file of a run without indices: order and number of each tree of the square with its centre.
+    const std::string indices = "N\xBAOrden\tN\xBA"
+                                "Arbol\r\n1\t1\r2\t2\r3\t3\r4\t4\r5\t5\r\r\n";
 
 private:
     std::filesystem::path aqui_ = std::filesystem::current_path();
@@ -136,7 +136,7 @@ TEST_F(CrearArchivoEnPantalla, EntrarEscribeElArchivoYLoDice) {
     EXPECT_EQ(contestador.cajas()[0].titulo, "Creado archivo");
     EXPECT_EQ(contestador.cajas()[0].icono, QMessageBox::NoIcon);
     EXPECT_EQ(modelo("FrmCrearArchivo"), nullptr);
-    EXPECT_EQ(LeerArchivo(ruta), indices_);
+    EXPECT_EQ(LeerArchivo(ruta), indices);
     EXPECT_TRUE(alaVista("FrmMapa"));
 }
 
@@ -157,7 +157,7 @@ TEST_F(CrearArchivoEnPantalla, CancelarLaPreguntaEscribeComoSi) {
     contestador.pulsar("Cancelar");
     contestador.pulsar("Aceptar");
     clic("FrmCrearArchivo", "CmdAceptar");
-    EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), indices_);
+    EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), indices);
 }
 
 TEST_F(CrearArchivoEnPantalla, EscaparSeVaSinEscribirNada) {

@@ -1,4 +1,4 @@
-// The grid of the sheet on the screen: headers, widths, the selected column, and the measures of its window.
+// The grid of the sheet on the screen: headers, widths, selected column, and the measures of its window.
 #include "data/Hojadedatos.h"
 #include "desktop/Pantalla.h"
 
@@ -44,6 +44,14 @@ protected:
             EXPECT_EQ(rejilla().selectionModel()->isColumnSelected(otra), otra == columna) << otra;
         }
     }
+    void esperarNormalConElMenuDelMapa() const {
+        clicMenu("VAROMAIN", "mnuMapa");
+        EXPECT_EQ(hoja().WindowState(), 0);
+        EXPECT_FALSE(ventana("Hojadedatos").isMaximized());
+        EXPECT_FALSE(ventana("Hojadedatos").isMinimized());
+        EXPECT_EQ(ventana("Hojadedatos").height(), 220);         // 3300 twips
+        EXPECT_EQ(ventana("Hojadedatos").pos(), QPoint(100, 6)); // 1500 and 100 twips
+    }
 };
 
 TEST_F(LaHojaDeDatos, LasCabecerasSonElNumeroYLosCampos) {
@@ -68,7 +76,7 @@ TEST_F(LaHojaDeDatos, LasCeldasSonLasDeLaHoja) {
     EXPECT_EQ(texto(4, 3), "6");
     EXPECT_EQ(texto(1, 8), "QP");
     EXPECT_EQ(texto(0, 9), "100");
-    EXPECT_EQ(texto(0, 10), ""); // the data of the last field never arrive
+    EXPECT_EQ(texto(0, 10), ""); // Meant: the data of the last field never arrive.
 }
 
 TEST_F(LaHojaDeDatos, NingunaCeldaSePuedeEscribir) {
@@ -79,7 +87,8 @@ TEST_F(LaHojaDeDatos, NingunaCeldaSePuedeEscribir) {
 
 TEST_F(LaHojaDeDatos, CadaColumnaTieneElAnchoDeSuTextoMasLargo) {
     const QStringList numeros{"1", "2", "3", "4", "5"};
-    EXPECT_EQ(rejilla().columnWidth(0), AnchoEsperado({"Arbol"})); // the first field's name decides
+    EXPECT_EQ(rejilla().columnWidth(0),
+              AnchoEsperado({"Arbol"})); // Meant: the name of the first field decides.
     EXPECT_EQ(rejilla().columnWidth(1), AnchoEsperado(QStringList{"Arbol"} + numeros));
     EXPECT_EQ(rejilla().columnWidth(2), AnchoEsperado({"X", "0", "10", "4"}));
     EXPECT_EQ(rejilla().columnWidth(4), AnchoEsperado({"RN", "10"}));
@@ -91,7 +100,7 @@ TEST_F(LaHojaDeDatos, QuinceTwipsSonUnPunto) {
     celdas().ColWidth(2, 1500);
     celdas().ColWidth(3, 960);
     celdas().ColWidth(4, 0);
-    celdas().ColSel = 1; // a view reads the widths anew when the grid tells of a change
+    celdas().ColSel = 1; // the grid tells of a change, and the view reads the widths
     EXPECT_EQ(rejilla().columnWidth(2), 100);
     EXPECT_EQ(rejilla().columnWidth(3), 64);
     EXPECT_TRUE(rejilla().isColumnHidden(4));
@@ -167,22 +176,14 @@ TEST_F(LaHojaDeDatos, MaximizadaVuelveASuEstadoNormalConElMenuDelMapa) {
     ventana("Hojadedatos").showMaximized();
     Reposar();
     EXPECT_EQ(hoja().WindowState(), 2);
-    clicMenu("VAROMAIN", "mnuMapa");
-    EXPECT_EQ(hoja().WindowState(), 0);
-    EXPECT_FALSE(ventana("Hojadedatos").isMaximized());
-    EXPECT_EQ(ventana("Hojadedatos").height(), 220);
-    EXPECT_EQ(ventana("Hojadedatos").pos(), QPoint(100, 6));
+    esperarNormalConElMenuDelMapa();
 }
 
 TEST_F(LaHojaDeDatos, MinimizadaVuelveASuEstadoNormalConElMenuDelMapa) {
     ventana("Hojadedatos").showMinimized();
     Reposar();
     EXPECT_EQ(hoja().WindowState(), 1);
-    clicMenu("VAROMAIN", "mnuMapa");
-    EXPECT_EQ(hoja().WindowState(), 0);
-    EXPECT_FALSE(ventana("Hojadedatos").isMinimized());
-    EXPECT_EQ(ventana("Hojadedatos").height(), 220);
-    EXPECT_EQ(ventana("Hojadedatos").pos(), QPoint(100, 6));
+    esperarNormalConElMenuDelMapa();
 }
 
 TEST_F(LaHojaDeDatos, UnaRejillaDeTodasLasFilasPosiblesSeMuestraEntera) {

@@ -47,7 +47,7 @@ bool EsDeSuClase(const QWidget& widget, TipoControl tipo) {
     }
 }
 
-/// A formula as it may be set in one line, without blanks.
+/// A formula on one line, without blanks and with its squares as powers.
 QString SinAdornos(QString formula) {
     return formula.remove(' ').replace(QString::fromUtf8("²"), "^2");
 }
@@ -82,7 +82,7 @@ protected:
         EXPECT_EQ(de(uno).parentWidget(), de(otro).parentWidget());
         EXPECT_EQ(de(uno).geometry(), de(otro).geometry()) << uno << " " << otro;
     }
-    /// Shows the one and hides the other, then the other way round; nothing else of the page moves.
+    /// Shows one and hides the other, then the reverse; nothing else of the page moves.
     void esperarAlternancia(const std::string& uno, const std::string& otro) const {
         Control& primero = *buscar(uno);
         Control& segundo = *buscar(otro);
@@ -101,7 +101,7 @@ protected:
         EXPECT_EQ(de(otro).geometry(), sitio) << otro;
         EXPECT_EQ(de("CmdAceptar").mapTo(de("CmdAceptar").window(), QPoint{}), pie);
     }
-    /// It alone of the kinds of crown data, in the model and on the screen, and with the focus.
+    /// Of the kinds of crown data this one alone is on, in the model and on the screen. It has the focus.
     void esperarElegida(const std::string& nombre) const {
         for (const Opcion* const opcion : opciones().datosDeCopa) {
             const bool esta = opcion->nombreCompleto() == nombre;

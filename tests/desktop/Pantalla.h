@@ -23,22 +23,22 @@
 
 namespace varo::prueba {
 
-/// Lets the toolkit do all that is waiting, the deferred deletions too.
+/// Lets Qt do all that is waiting, deferred deletions too.
 void Reposar();
 
-/// Brings the window of the widget to the front, as a window manager does, and presses the widget: a mark at
-/// its left end, anything else in its middle.
+/// Brings the window of the widget to the front, as a window manager does, and presses the widget: a check or
+/// an option on its mark, anything else in its middle.
 void Clic(QWidget& widget);
 void Clic(QWidget& widget, QPoint punto);
 
-/// Clicks a field and types a text in place of the one that is there.
+/// Clicks a field and replaces its text by typing.
 void Escribir(QWidget& campo, const QString& texto);
 
-/// How far a session has come.
+/// The stages of a session.
 enum class Etapa { Inicio, Seleccion, Hoja, Opciones, Columnas, Formato, Mapa, CrearArchivo };
 
-/// The program on its desktop. Windows and controls are found by the names of their models; what is not
-/// there throws std::runtime_error.
+/// The program on its desktop. Windows and controls go by the names of their models. A missing one throws
+/// std::runtime_error.
 struct Puesto {
     Puesto();
 
@@ -47,14 +47,14 @@ struct Puesto {
     ServiciosQt servicios;
     Escritorio escritorio{servicios};
     Programa& programa = escritorio.programa();
-    int terminaciones = 0; ///< how often the desktop said that the program is over
+    int terminaciones = 0; ///< how often the desktop has told that the program is over
 
     [[nodiscard]] Formulario* modelo(const std::string& ventana) const; ///< null while it is not loaded
     [[nodiscard]] bool alaVista(const std::string& ventana) const;
     [[nodiscard]] std::vector<std::string> ventanasALaVista() const;
     [[nodiscard]] QWidget& ventana(const std::string& ventana) const;
     [[nodiscard]] QAction& menu(const std::string& nombre) const;
-    /// "mnuAbrir mnuOpciones": those of the main window that a person can choose.
+    /// The menus of the main window that a person can choose: "mnuAbrir mnuOpciones".
     [[nodiscard]] std::string menusHabilitados() const;
 
     template <class W = QWidget>
@@ -70,7 +70,7 @@ struct Puesto {
     void clic(const std::string& ventana, const std::string& control) const {
         Clic(widget(ventana, control));
     }
-    /// Chooses an entry with the mouse, by way of the menu under which it stands.
+    /// Chooses a menu entry with the mouse; opens its menu first.
     void clicMenu(const std::string& ventana, const std::string& menu) const;
     void clicFicha(int ficha) const;
     /// Clicks on the title of a window.
@@ -84,9 +84,9 @@ struct Puesto {
     [[nodiscard]] QTableView& rejilla() const { return widget<QTableView>("Hojadedatos", "MSFlexGrid1"); }
     /// Clicks on a cell of a column of the grid.
     void clicColumna(int columna) const;
-    /// From the column dialog for four radii to the format of the map.
+    /// Goes from the column dialog for four radii to the format of the map.
     void elegirColumnas() const;
-    /// From the start to that point of a session.
+    /// Goes from the start of a session to that stage.
     void llegarA(Etapa etapa);
 };
 

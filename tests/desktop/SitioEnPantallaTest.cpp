@@ -1,4 +1,4 @@
-// On a small screen: the windows fit in it, and what does not fit in a page is reached by scrolling.
+// A small screen: the windows fit in it, and scrolling reaches what does not fit in a page.
 #include "desktop/Pantalla.h"
 #include "options/OpcionesPrograma.h"
 
@@ -20,7 +20,7 @@ protected:
         EXPECT_LE(ventana.frameGeometry().height(), sitio.height());
     }
     QTabWidget& fichas() const { return widget<QTabWidget>("OpcionesPrograma", "SSTab1"); }
-    /// What a person can see and use on a tab, in the coordinates of its page.
+    /// The visible controls of a tab, in the coordinates of its page.
     std::vector<std::pair<std::string, QRect>> lugares(const QScrollArea& pagina) const {
         std::vector<std::pair<std::string, QRect>> hallados;
         for (const Control* const control : modelo("OpcionesPrograma")->controles()) {
@@ -32,8 +32,7 @@ protected:
         }
         return hallados;
     }
-    /// Scrolled to either end, each control lies wholly in what is seen of the page there, or is passed on
-    /// the way from the one to the other.
+    /// Scrolling from one end to the other shows each control whole, down to the lowest one.
     void esperarQueSeLlegueATodo(const QScrollArea& pagina) const {
         const int alto = pagina.viewport()->height();
         const int ancho = pagina.horizontalScrollBar()->maximum() + pagina.viewport()->width();
@@ -79,7 +78,7 @@ TEST_F(EnUnaPantallaPequena, LasOpcionesCabenConSusBotones) {
 
 TEST_F(EnUnaPantallaPequena, CadaPaginaDeLasOpcionesLlegaHastaSuUltimoControl) {
     llegarA(Etapa::Opciones);
-    constexpr int alto = 400; // less than the fuller pages take
+    constexpr int alto = 400; // too low for the fuller pages
     ventana("OpcionesPrograma").resize(ventana("OpcionesPrograma").width(), alto);
     int desplazadas = 0;
     for (int ficha = 0; ficha < fichas().count(); ++ficha) {

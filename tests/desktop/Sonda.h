@@ -1,4 +1,4 @@
-// A window that counts what happens to it instead of doing its own work.
+// A window that counts its activations instead of doing its work.
 #pragma once
 
 #include "shell/Programa.h"

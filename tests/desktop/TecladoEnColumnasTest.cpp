@@ -1,4 +1,4 @@
-// The column dialog under the keyboard: it has no button of its own for Enter and none for Escape.
+// The column dialog under the keyboard: none of its buttons answers to Enter or Escape everywhere.
 #include "data/SelColumnas.h"
 #include "desktop/Pantalla.h"
 

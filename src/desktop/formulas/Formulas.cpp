@@ -11,8 +11,8 @@ namespace varo {
 
 namespace {
 
-constexpr double aumento = 1.15; ///< of the letters over those of the dialog
-constexpr int margen = 2;
+constexpr double aumento = 1.15; ///< of the font over that of the dialog
+constexpr int margen = 2;        ///< in pixels
 
 } // namespace
 
@@ -30,9 +30,9 @@ QFont CuadroDeFormula::letra() const {
     return suya;
 }
 
-/// What the formula takes above and below its axis, whichever is more.
+/// The larger of the heights above and below the axis, in pixels.
 double CuadroDeFormula::medioAlto() const {
-    const Expresion::Medidas medidas = formula_->medir(letra());
+    const CajaDeFormula::Medidas medidas = formula_->medir(letra());
     const double eje = formula::Eje(letra());
     return std::max(medidas.sobre - eje, medidas.bajo + eje);
 }
@@ -53,17 +53,17 @@ namespace formula {
 
 namespace {
 
-/// A quantity with letters at its foot, D_ij, and perhaps one at its head, d_i^k.
+/// A quantity with an index, D_ij, and perhaps an exponent, d_i^k.
 Parte Subindice(const QString& base, const QString& indice, Parte exponente = nullptr) {
     return Indexada(Letra(base), Letra(indice), std::move(exponente));
 }
 
-/// An index of the results, whose name has more than one letter: PD_k1.
+/// An index of the results: its name has more than one letter, PD_k1.
 Parte Nombre(const QString& nombre, const Parte& indice) {
     return Indexada(Recto(nombre), indice);
 }
 
-/// a + b x^c + d x^e, which the functions share; x is given by its powers.
+/// a + b x^c + d x^e, the polynomial of all functions. `x` makes a power of the variable.
 template <class P>
 Parte Polinomio(const P& x) {
     return Fila({Letra("a"), Recto(" + "), Letra("b"), Recto(" "), x(Letra("c")), Recto(" + "), Letra("d"),

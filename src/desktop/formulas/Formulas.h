@@ -1,14 +1,14 @@
-// The formulas of the options dialog and the picture that shows one of them.
+// The formulas of the options dialog, and the widget that shows one.
 #pragma once
 
-#include "desktop/formulas/Expresion.h"
+#include "desktop/formulas/CajaDeFormula.h"
 
 #include <QWidget>
 
 namespace varo {
 
-/// Paints a formula in the colours of its state, its axis at half height, level with texts beside it. Its
-/// accessible name is the formula on one line.
+/// Paints a formula in the colours of its state, with the axis at half height, level with texts beside it.
+/// Its accessible name is the formula on one line.
 class CuadroDeFormula : public QWidget {
 public:
     explicit CuadroDeFormula(Parte formula, QWidget* padre = nullptr);
@@ -30,10 +30,10 @@ namespace formula {
 
 /// Overlap of the areas of influence.
 Parte SuperposicionDeAreas();
-/// Point density, the central tree left out or taken in.
+/// Point density, without and with the central tree.
 Parte DensidadSinCentral();
 Parte DensidadConCentral();
-/// Size ratios weighted by a function of distance.
+/// Size ratios, weighted by a function of distance.
 Parte RazonPonderada();
 /// Radius of influence as a function of stem size.
 Parte RadioDeInfluencia();
@@ -43,7 +43,7 @@ Parte DistanciaHiperbolica();
 /// Weight of a competitor at a distance.
 Parte PesoExponencial();
 Parte PesoHiperbolico();
-/// Weighting of distances of the area potentially available.
+/// Weight of distances for the area potentially available.
 Parte FactorDePonderacion();
 
 } // namespace formula

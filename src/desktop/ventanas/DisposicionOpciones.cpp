@@ -1,4 +1,4 @@
-#include "desktop/Disposiciones.h"
+#include "desktop/ventanas/Disposiciones.h"
 #include "desktop/ventanas/PaginasDeOpciones.h"
 #include "desktop/ventanas/PiezasDeOpciones.h"
 #include "desktop/widgets/ContenidoDeDialogo.h"
@@ -14,17 +14,17 @@ QWidget* DisponerOpciones(OpcionesPrograma& ventana, Vinculos& vinculos) {
     auto* const contenido = new ContenidoDeDialogo;
     auto* const columna = new QVBoxLayout{contenido};
     const PiezasDeOpciones piezas{ventana, vinculos};
-    QTabWidget* const fichas = vinculos.fichas(
+    QTabWidget* const fichas = vinculos.crearFichas(
         ventana.SSTab1,
-        {new Desplazable{PaginaDeUnidades(piezas)}, new Desplazable{PaginaDeIndependientes(piezas)},
-         new Desplazable{PaginaDeISC(piezas)}, new Desplazable{PaginaDeAOI(piezas)},
-         new Desplazable{PaginaDeDP(piezas)}, new Desplazable{PaginaDeDR(piezas)},
-         new Desplazable{PaginaDeAPA(piezas)}});
+        {new Desplazable{CrearPaginaDeUnidades(piezas)}, new Desplazable{CrearPaginaDeIndependientes(piezas)},
+         new Desplazable{CrearPaginaDeISC(piezas)}, new Desplazable{CrearPaginaDeAOI(piezas)},
+         new Desplazable{CrearPaginaDeDP(piezas)}, new Desplazable{CrearPaginaDeDR(piezas)},
+         new Desplazable{CrearPaginaDeAPA(piezas)}});
     PonerFichasAlLado(*fichas);
     columna->addWidget(fichas);
 
-    columna->addLayout(
-        contenido->pie(vinculos.boton(ventana.CmdAceptar), vinculos.boton(ventana.CmdCancelar)));
+    columna->addLayout(contenido->crearPie(vinculos.crearBoton(ventana.CmdAceptar),
+                                           vinculos.crearBoton(ventana.CmdCancelar)));
     return contenido;
 }
 

@@ -9,64 +9,64 @@ namespace varo {
 
 namespace {
 
-QGroupBox* FuncionDeRichards(const PiezasDeOpciones& piezas, int i) {
+QGroupBox* CrearFuncionDeRichards(const PiezasDeOpciones& piezas, int i) {
     auto& v = piezas.ventana();
-    QGroupBox* const grupo = piezas.marco(v.FramRICH(i));
+    QGroupBox* const grupo = piezas.crearMarco(v.FramRICH(i));
     auto* const fila = new QHBoxLayout{grupo};
-    fila->addWidget(piezas.formula(v.Image5(i), formula::DistanciaDeRichards()));
+    fila->addWidget(piezas.crearFormula(v.Image5(i), formula::DistanciaDeRichards()));
     fila->addSpacing(piezas.separacion);
-    fila->addLayout(piezas.parametros({{{v.Label9(i), v.TxtRich(3 * i)},
-                                        {v.Label10(i), v.TxtRich(3 * i + 1)},
-                                        {v.Label11(i), v.TxtRich(3 * i + 2)}}}));
+    fila->addLayout(piezas.crearParametros({{{v.Label9(i), v.TxtRich(3 * i)},
+                                             {v.Label10(i), v.TxtRich(3 * i + 1)},
+                                             {v.Label11(i), v.TxtRich(3 * i + 2)}}}));
     return grupo;
 }
 
-QGroupBox* FuncionHiperbolica(const PiezasDeOpciones& piezas, int i) {
+QGroupBox* CrearFuncionHiperbolica(const PiezasDeOpciones& piezas, int i) {
     auto& v = piezas.ventana();
     const int primero = 7 * i;
-    QGroupBox* const grupo = piezas.marco(v.FramHIPER(i));
+    QGroupBox* const grupo = piezas.crearMarco(v.FramHIPER(i));
     auto* const fila = new QHBoxLayout{grupo};
-    fila->addWidget(piezas.formula(v.Image6(i), formula::DistanciaHiperbolica()));
+    fila->addWidget(piezas.crearFormula(v.Image6(i), formula::DistanciaHiperbolica()));
     fila->addSpacing(piezas.separacion);
     fila->addLayout(
-        piezas.parametros({{{v.Label12(i), v.TxtHIP(primero)}, {v.Label13(i), v.TxtHIP(primero + 1)}},
-                           {{v.Label14(i), v.TxtHIP(primero + 2)},
-                            {v.Label15(i), v.TxtHIP(primero + 3)},
-                            {v.Label16(i), v.TxtHIP(primero + 4)},
-                            {v.Label17(i), v.TxtHIP(primero + 5)},
-                            {v.Label18(i), v.TxtHIP(primero + 6)}}}));
+        piezas.crearParametros({{{v.Label12(i), v.TxtHIP(primero)}, {v.Label13(i), v.TxtHIP(primero + 1)}},
+                                {{v.Label14(i), v.TxtHIP(primero + 2)},
+                                 {v.Label15(i), v.TxtHIP(primero + 3)},
+                                 {v.Label16(i), v.TxtHIP(primero + 4)},
+                                 {v.Label17(i), v.TxtHIP(primero + 5)},
+                                 {v.Label18(i), v.TxtHIP(primero + 6)}}}));
     return grupo;
 }
 
-QGroupBox* Criterios(const PiezasDeOpciones& piezas, int i, int columnas) {
+QGroupBox* CrearCriterios(const PiezasDeOpciones& piezas, int i, int columnas) {
     auto& v = piezas.ventana();
-    QGroupBox* const grupo = piezas.marco(v.FramSelCom(i));
+    QGroupBox* const grupo = piezas.crearMarco(v.FramSelCom(i));
     auto* const rejilla = new QGridLayout{grupo};
     int lugar = 0;
     for (Opcion* const opcion : v.seleccionDeCompetidores.at(static_cast<std::size_t>(i))) {
-        rejilla->addWidget(piezas.widget(*opcion), lugar / columnas, lugar % columnas);
+        rejilla->addWidget(piezas.crear(*opcion), lugar / columnas, lugar % columnas);
         ++lugar;
     }
     return grupo;
 }
 
-/// How the competitors are chosen: an interval of values, or functions of stem size in the same place.
-QLayout* SeleccionDeCompetidores(const PiezasDeOpciones& piezas, int i, int columnas) {
+/// How the competitors are chosen: an interval of values and functions of stem size share a place.
+QLayout* CrearSeleccionDeCompetidores(const PiezasDeOpciones& piezas, int i, int columnas) {
     auto& v = piezas.ventana();
     auto* const rejilla = new QGridLayout;
-    rejilla->addWidget(Criterios(piezas, i, columnas), 0, 0);
+    rejilla->addWidget(CrearCriterios(piezas, i, columnas), 0, 0);
     const auto enElMismoSitio = [&](QWidget* widget, int fila, int columna, int ancho) {
         rejilla->addWidget(piezas.conSitioFijo(widget), fila, columna, 1, ancho);
     };
     enElMismoSitio(
-        piezas.intervalo(v.FramBAF(i), {&v.Label7(i), &v.Label6(i), &v.Label5(i)}, {2 * i, 2 * i + 1}), 0, 1,
-        1);
-    enElMismoSitio(piezas.enColumna(v.FramFunc(i), v.OptRichard(i), v.OptHiper(i)), 0, 1, 1);
-    enElMismoSitio(FuncionDeRichards(piezas, i), 1, 0, 2);
-    enElMismoSitio(FuncionHiperbolica(piezas, i), 1, 0, 2);
+        piezas.crearIntervalo(v.FramBAF(i), {&v.Label7(i), &v.Label6(i), &v.Label5(i)}, {2 * i, 2 * i + 1}),
+        0, 1, 1);
+    enElMismoSitio(piezas.crearMarcoEnColumna(v.FramFunc(i), v.OptRichard(i), v.OptHiper(i)), 0, 1, 1);
+    enElMismoSitio(CrearFuncionDeRichards(piezas, i), 1, 0, 2);
+    enElMismoSitio(CrearFuncionHiperbolica(piezas, i), 1, 0, 2);
     rejilla->addLayout(
-        piezas.lista(v.LstRich(i), {&v.CmdAñadirRich(i), &v.CmdQuitarRich(i), &v.CmdVaciarRich(i)}), 2, 0, 1,
-        2);
+        piezas.crearLista(v.LstRich(i), {&v.CmdAñadirRich(i), &v.CmdQuitarRich(i), &v.CmdVaciarRich(i)}), 2,
+        0, 1, 2);
     rejilla->setColumnStretch(1, 1);
     rejilla->setRowStretch(2, 1);
     return rejilla;
@@ -74,71 +74,68 @@ QLayout* SeleccionDeCompetidores(const PiezasDeOpciones& piezas, int i, int colu
 
 } // namespace
 
-QWidget* PaginaDeDP(const PiezasDeOpciones& piezas) {
+QWidget* CrearPaginaDeDP(const PiezasDeOpciones& piezas) {
     auto& v = piezas.ventana();
-    const auto [pagina, dentro] = piezas.pagina(v.Frame11, PiezasDeOpciones::Pie::AlFondo);
-    auto* const cabeza = new QHBoxLayout;
-    cabeza->addWidget(piezas.widget(v.ChIDPActivar));
-    cabeza->addSpacing(3 * piezas.separacion);
-    cabeza->addWidget(piezas.enFila(v.FramIDPBilUni, v.ChIDPBil, v.ChIDPUni));
-    cabeza->addStretch(1);
-    dentro->addLayout(cabeza);
+    const auto [pagina, dentro] = piezas.crearPagina(v.Frame11, PiezasDeOpciones::Pie::AlFondo);
+    dentro->addLayout(piezas.crearFila(piezas.crear(v.ChIDPActivar), 3 * piezas.separacion,
+                                       piezas.crearMarcoEnFila(v.FramIDPBilUni, v.ChIDPBil, v.ChIDPUni)));
     auto* const central = new QGridLayout;
-    central->addWidget(piezas.widget(v.Label8), 0, 0);
-    central->addWidget(piezas.widget(v.ChIDPSi), 0, 1);
-    central->addWidget(piezas.formula(v.Image4, formula::DensidadConCentral()), 0, 2, Qt::AlignLeft);
-    central->addWidget(piezas.widget(v.ChIDPNo), 1, 1);
-    central->addWidget(piezas.formula(v.Image3, formula::DensidadSinCentral()), 1, 2, Qt::AlignLeft);
+    central->addWidget(piezas.crear(v.Label8), 0, 0);
+    central->addWidget(piezas.crear(v.ChIDPSi), 0, 1);
+    central->addWidget(piezas.crearFormula(v.Image4, formula::DensidadConCentral()), 0, 2, Qt::AlignLeft);
+    central->addWidget(piezas.crear(v.ChIDPNo), 1, 1);
+    central->addWidget(piezas.crearFormula(v.Image3, formula::DensidadSinCentral()), 1, 2, Qt::AlignLeft);
     central->setHorizontalSpacing(piezas.separacion);
     central->setColumnStretch(3, 1);
     dentro->addLayout(central);
-    dentro->addLayout(SeleccionDeCompetidores(piezas, 0, 1), 1);
+    dentro->addLayout(CrearSeleccionDeCompetidores(piezas, 0, 1), 1);
     return pagina;
 }
 
 namespace {
 
-QGroupBox* FuncionDeDistancia(const PiezasDeOpciones& piezas) {
+QGroupBox* CrearFuncionDeDistancia(const PiezasDeOpciones& piezas) {
     auto& v = piezas.ventana();
-    QGroupBox* const grupo = piezas.marco(v.FramDist);
+    QGroupBox* const grupo = piezas.crearMarco(v.FramDist);
     auto* const columna = new QVBoxLayout{grupo};
     auto* const fila = new QHBoxLayout;
     auto* const clases = new QVBoxLayout;
-    clases->addWidget(piezas.widget(v.OptDistHiper));
-    clases->addWidget(piezas.widget(v.OptDistExp));
+    clases->addWidget(piezas.crear(v.OptDistHiper));
+    clases->addWidget(piezas.crear(v.OptDistExp));
     fila->addLayout(clases);
     fila->addSpacing(piezas.separacion);
     auto* const formulas = new QGridLayout;
-    formulas->addWidget(piezas.formula(v.ImgHiper2, formula::PesoHiperbolico()), 0, 0, Qt::AlignLeft);
-    formulas->addWidget(piezas.formula(v.ImgExp2, formula::PesoExponencial()), 0, 0, Qt::AlignLeft);
+    formulas->addWidget(piezas.crearFormula(v.ImgHiper2, formula::PesoHiperbolico()), 0, 0, Qt::AlignLeft);
+    formulas->addWidget(piezas.crearFormula(v.ImgExp2, formula::PesoExponencial()), 0, 0, Qt::AlignLeft);
     fila->addLayout(formulas);
     fila->addSpacing(piezas.separacion);
-    fila->addLayout(piezas.parametros({{{v.Label14(2), v.TxtEXP(0)},
-                                        {v.Label15(2), v.TxtEXP(1)},
-                                        {v.Label16(2), v.TxtEXP(2)},
-                                        {v.Label17(2), v.TxtEXP(3)},
-                                        {v.Label18(2), v.TxtEXP(4)}}}));
+    fila->addLayout(piezas.crearParametros({{{v.Label14(2), v.TxtEXP(0)},
+                                             {v.Label15(2), v.TxtEXP(1)},
+                                             {v.Label16(2), v.TxtEXP(2)},
+                                             {v.Label17(2), v.TxtEXP(3)},
+                                             {v.Label18(2), v.TxtEXP(4)}}}));
     columna->addLayout(fila);
-    columna->addLayout(piezas.lista(v.LstDist, {&v.CmdAñadirDist, &v.CmdQuitarDist, &v.CmdVaciarDist}), 1);
+    columna->addLayout(piezas.crearLista(v.LstDist, {&v.CmdAñadirDist, &v.CmdQuitarDist, &v.CmdVaciarDist}),
+                       1);
     return grupo;
 }
 
 } // namespace
 
-QWidget* PaginaDeDR(const PiezasDeOpciones& piezas) {
+QWidget* CrearPaginaDeDR(const PiezasDeOpciones& piezas) {
     auto& v = piezas.ventana();
-    const auto [pagina, dentro] = piezas.pagina(v.FramDR, PiezasDeOpciones::Pie::AlFondo);
+    const auto [pagina, dentro] = piezas.crearPagina(v.FramDR, PiezasDeOpciones::Pie::AlFondo);
     auto* const cabeza = new QHBoxLayout;
     auto* const indice = new QVBoxLayout;
-    indice->addWidget(piezas.widget(v.ChDRActivar));
-    indice->addWidget(piezas.formula(v.Image7, formula::RazonPonderada()));
+    indice->addWidget(piezas.crear(v.ChDRActivar));
+    indice->addWidget(piezas.crearFormula(v.Image7, formula::RazonPonderada()));
     cabeza->addLayout(indice);
-    cabeza->addLayout(piezas.bajoTitulo(piezas.enColumna(v.FramDRBilUni, v.ChDRBil, v.ChDRUni)));
-    cabeza->addWidget(piezas.enColumna(v.FramRsij, v.OptDRDjDi, v.OptDRHjHi));
-    cabeza->addWidget(piezas.intervalo(v.FramDRk, {&v.Label7(2), &v.Label6(2), &v.Label5(2)}, {4}), 1);
+    cabeza->addLayout(piezas.bajarAlNivel(piezas.crearMarcoEnColumna(v.FramDRBilUni, v.ChDRBil, v.ChDRUni)));
+    cabeza->addWidget(piezas.crearMarcoEnColumna(v.FramRsij, v.OptDRDjDi, v.OptDRHjHi));
+    cabeza->addWidget(piezas.crearIntervalo(v.FramDRk, {&v.Label7(2), &v.Label6(2), &v.Label5(2)}, {4}), 1);
     dentro->addLayout(cabeza);
-    dentro->addWidget(FuncionDeDistancia(piezas), 1);
-    dentro->addLayout(SeleccionDeCompetidores(piezas, 1, 2), 1);
+    dentro->addWidget(CrearFuncionDeDistancia(piezas), 1);
+    dentro->addLayout(CrearSeleccionDeCompetidores(piezas, 1, 2), 1);
     return pagina;
 }
 

@@ -1,4 +1,4 @@
-// The pages of the options dialog: what each tab shows.
+// The pages of the options dialog, one for each tab.
 #pragma once
 
 class QWidget;
@@ -7,12 +7,12 @@ namespace varo {
 
 class PiezasDeOpciones;
 
-QWidget* PaginaDeUnidades(const PiezasDeOpciones& piezas);
-QWidget* PaginaDeIndependientes(const PiezasDeOpciones& piezas);
-QWidget* PaginaDeISC(const PiezasDeOpciones& piezas);
-QWidget* PaginaDeAOI(const PiezasDeOpciones& piezas);
-QWidget* PaginaDeDP(const PiezasDeOpciones& piezas);
-QWidget* PaginaDeDR(const PiezasDeOpciones& piezas);
-QWidget* PaginaDeAPA(const PiezasDeOpciones& piezas);
+QWidget* CrearPaginaDeUnidades(const PiezasDeOpciones& piezas);
+QWidget* CrearPaginaDeIndependientes(const PiezasDeOpciones& piezas);
+QWidget* CrearPaginaDeISC(const PiezasDeOpciones& piezas);
+QWidget* CrearPaginaDeAOI(const PiezasDeOpciones& piezas);
+QWidget* CrearPaginaDeDP(const PiezasDeOpciones& piezas);
+QWidget* CrearPaginaDeDR(const PiezasDeOpciones& piezas);
+QWidget* CrearPaginaDeAPA(const PiezasDeOpciones& piezas);
 
 } // namespace varo

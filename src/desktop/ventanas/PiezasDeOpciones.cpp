@@ -9,14 +9,16 @@
 #include <QStyle>
 #include <QStyleOptionGroupBox>
 
+#include <cassert>
 #include <utility>
 
 namespace varo {
 
 namespace {
 
-constexpr int espacio = 6; ///< between the parts of one piece
+constexpr int espacio = 6; ///< between the parts of one piece, in pixels
 
+/// From the upper edge of a frame with that title down to what lies in it, in pixels.
 int AltoHastaElContenido(const QGroupBox& grupo, const QString& titulo) {
     QStyleOptionGroupBox opcion;
     opcion.initFrom(&grupo);
@@ -30,10 +32,10 @@ int AltoHastaElContenido(const QGroupBox& grupo, const QString& titulo) {
 
 } // namespace
 
-PiezasDeOpciones::Pagina PiezasDeOpciones::pagina(Marco& marco, Pie pie) const {
+PiezasDeOpciones::Pagina PiezasDeOpciones::crearPagina(Marco& marco, Pie pie) const {
     auto* const pagina = new QWidget;
     auto* const columna = new QVBoxLayout{pagina};
-    QGroupBox* const grupo = vinculos_.marco(marco);
+    QGroupBox* const grupo = vinculos_.crearMarco(marco);
     columna->addWidget(grupo);
     if (pie == Pie::BajoElContenido) {
         columna->addStretch(1);
@@ -43,13 +45,22 @@ PiezasDeOpciones::Pagina PiezasDeOpciones::pagina(Marco& marco, Pie pie) const {
     return {pagina, contenido};
 }
 
-QLayout* PiezasDeOpciones::bajoTitulo(QGroupBox* grupo) {
+QLayout* PiezasDeOpciones::bajarAlNivel(QGroupBox* grupo) {
     auto* const columna = new QVBoxLayout;
     columna->setSpacing(0);
-    const QString unTitulo = QStringLiteral("k"); // any one takes the same height
+    const QString unTitulo = QStringLiteral("k"); // every title has the same height
     columna->addSpacing(AltoHastaElContenido(*grupo, unTitulo) - AltoHastaElContenido(*grupo, QString{}));
     columna->addWidget(grupo);
     return columna;
+}
+
+QLayout* PiezasDeOpciones::crearFila(QWidget* primera, int hueco, QWidget* segunda) {
+    auto* const fila = new QHBoxLayout;
+    fila->addWidget(primera);
+    fila->addSpacing(hueco);
+    fila->addWidget(segunda);
+    fila->addStretch(1);
+    return fila;
 }
 
 void PiezasDeOpciones::reservarSitio(QWidget& widget) {
@@ -58,32 +69,33 @@ void PiezasDeOpciones::reservarSitio(QWidget& widget) {
     widget.setSizePolicy(politica);
 }
 
-QLineEdit* PiezasDeOpciones::campo(CajaTexto& control) const {
-    auto* const campo = vinculos_.caja(control);
+QLineEdit* PiezasDeOpciones::crearCampo(CajaTexto& control) const {
+    auto* const campo = vinculos_.crearCaja(control);
     campo->setAlignment(Qt::AlignRight);
     campo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("00000,00000")));
     return campo;
 }
 
-QWidget* PiezasDeOpciones::formula(Imagen& imagen, Parte formula) const {
+QWidget* PiezasDeOpciones::crearFormula(Imagen& imagen, Parte formula) const {
     auto* const cuadro = new CuadroDeFormula{std::move(formula)};
     vinculos_.seguirEstado(*cuadro, imagen);
     return conSitioFijo(cuadro);
 }
 
-QGroupBox* PiezasDeOpciones::intervalo(Marco& marco, const std::array<Etiqueta*, 3>& rotulos,
-                                       const std::vector<int>& miembros) const {
+QGroupBox* PiezasDeOpciones::crearIntervalo(Marco& marco, const std::array<Etiqueta*, 3>& rotulos,
+                                            const std::vector<int>& miembros) const {
     const std::array<const Matriz<CajaTexto>*, 3> campos{&ventana_.TxtBAF1, &ventana_.TxtBAF2,
                                                          &ventana_.TxtBAF3};
-    auto* const grupo = vinculos_.marco(marco);
+    assert(!miembros.empty());
+    auto* const grupo = vinculos_.crearMarco(marco);
     auto* const rejilla = new QGridLayout{grupo};
     int columna = 0;
     for (std::size_t i = 0; i < campos.size(); ++i) {
-        QLabel* const rotulo = vinculos_.etiqueta(*rotulos[i]);
+        QLabel* const rotulo = vinculos_.crearEtiqueta(*rotulos[i]);
         rejilla->addWidget(rotulo, 0, columna++);
         for (const int miembro : miembros) {
-            QLineEdit* const caja = conSitioFijo(campo((*campos[i])(miembro)));
+            QLineEdit* const caja = conSitioFijo(crearCampo((*campos[i])(miembro)));
             rejilla->addWidget(caja, 0, columna);
             if (miembro == miembros.front()) {
                 rotulo->setBuddy(caja);
@@ -97,7 +109,7 @@ QGroupBox* PiezasDeOpciones::intervalo(Marco& marco, const std::array<Etiqueta*,
     return grupo;
 }
 
-QLayout* PiezasDeOpciones::parametros(const std::vector<Renglon>& renglones) const {
+QLayout* PiezasDeOpciones::crearParametros(const std::vector<Renglon>& renglones) const {
     auto* const rejilla = new QGridLayout;
     rejilla->setSpacing(espacio);
     int fila = 0;
@@ -105,8 +117,8 @@ QLayout* PiezasDeOpciones::parametros(const std::vector<Renglon>& renglones) con
     for (const Renglon& renglon : renglones) {
         columna = 0;
         for (const auto& [rotulo, control] : renglon) {
-            QLabel* const etiqueta = vinculos_.etiqueta(rotulo);
-            QLineEdit* const caja = campo(control);
+            QLabel* const etiqueta = vinculos_.crearEtiqueta(rotulo);
+            QLineEdit* const caja = crearCampo(control);
             etiqueta->setBuddy(caja);
             etiqueta->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
             rejilla->addWidget(etiqueta, fila, columna++);
@@ -118,15 +130,15 @@ QLayout* PiezasDeOpciones::parametros(const std::vector<Renglon>& renglones) con
     return rejilla;
 }
 
-QLayout* PiezasDeOpciones::lista(Lista& lista, const std::vector<Boton*>& botones) const {
+QLayout* PiezasDeOpciones::crearLista(Lista& lista, const std::vector<Boton*>& botones) const {
     auto* const fila = new QHBoxLayout;
-    QListWidget* const lineas = vinculos_.lista(lista);
+    QListWidget* const lineas = vinculos_.crearLista(lista);
     lineas->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     fila->addWidget(conSitioFijo(lineas), 1);
     auto* const columna = new QVBoxLayout;
     columna->setSpacing(espacio);
     for (Boton* const boton : botones) {
-        columna->addWidget(conSitioFijo(vinculos_.boton(*boton)));
+        columna->addWidget(conSitioFijo(vinculos_.crearBoton(*boton)));
     }
     columna->addStretch();
     fila->addLayout(columna);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/Vinculos.h"
-#include "desktop/formulas/Expresion.h"
+#include "desktop/formulas/CajaDeFormula.h"
 #include "options/OpcionesPrograma.h"
 
 #include <QCheckBox>
@@ -24,60 +24,63 @@ public:
 
     [[nodiscard]] OpcionesPrograma& ventana() const { return ventana_; }
 
-    [[nodiscard]] QWidget* widget(Etiqueta& control) const { return vinculos_.etiqueta(control); }
-    [[nodiscard]] QWidget* widget(Casilla& control) const { return vinculos_.casilla(control); }
-    [[nodiscard]] QWidget* widget(Opcion& control) const { return vinculos_.opcion(control); }
+    static constexpr int separacion = 12; ///< between the parts of a page, in pixels
+
+    [[nodiscard]] QWidget* crear(Etiqueta& control) const { return vinculos_.crearEtiqueta(control); }
+    [[nodiscard]] QWidget* crear(Casilla& control) const { return vinculos_.crearCasilla(control); }
+    [[nodiscard]] QWidget* crear(Opcion& control) const { return vinculos_.crearOpcion(control); }
+
+    /// A frame without content and without a layout.
+    [[nodiscard]] QGroupBox* crearMarco(Marco& marco) const { return vinculos_.crearMarco(marco); }
 
     /// A frame with its controls one under the other, or side by side.
     template <class... C>
-    [[nodiscard]] QGroupBox* enColumna(Marco& marco, C&... controles) const {
-        auto* const grupo = vinculos_.marco(marco);
+    [[nodiscard]] QGroupBox* crearMarcoEnColumna(Marco& marco, C&... controles) const {
+        auto* const grupo = crearMarco(marco);
         llenar(*new QVBoxLayout{grupo}, controles...);
         return grupo;
     }
     template <class... C>
-    [[nodiscard]] QGroupBox* enFila(Marco& marco, C&... controles) const {
-        auto* const grupo = vinculos_.marco(marco);
+    [[nodiscard]] QGroupBox* crearMarcoEnFila(Marco& marco, C&... controles) const {
+        auto* const grupo = crearMarco(marco);
         llenar(*new QHBoxLayout{grupo}, controles...);
         return grupo;
     }
 
-    /// A frame whose content is still to come.
-    [[nodiscard]] QGroupBox* marco(Marco& marco) const { return vinculos_.marco(marco); }
-
-    static constexpr int separacion = 12; ///< between the parts of a page
-
-    /// A page of one frame, empty still, and the column for what lies in it.
+    /// A page of one frame, and the column for what goes into the frame.
     struct Pagina {
         QWidget* widget;
         QVBoxLayout* contenido;
     };
-    /// The frame ends under its content, or goes down to the foot of the page.
+    /// Where the frame ends: under its content, or at the foot of the page.
     enum class Pie { BajoElContenido, AlFondo };
-    [[nodiscard]] Pagina pagina(Marco& marco, Pie pie) const;
+    [[nodiscard]] Pagina crearPagina(Marco& marco, Pie pie) const;
 
-    /// Sets a frame without a caption beside frames that have one: what they hold is level.
-    [[nodiscard]] static QLayout* bajoTitulo(QGroupBox* grupo);
+    [[nodiscard]] QWidget* crearFormula(Imagen& imagen, Parte formula) const;
 
-    [[nodiscard]] QWidget* formula(Imagen& imagen, Parte formula) const;
-
-    /// Puts into the frame first, last and step of a sweep, each behind its label. Of several members of the
-    /// fields only one is on show at a time: they stand in the same places, the first one on top.
-    [[nodiscard]] QGroupBox* intervalo(Marco& marco, const std::array<Etiqueta*, 3>& rotulos,
-                                       const std::vector<int>& miembros) const;
+    /// Puts into the frame first, last and step of a sweep, each behind its label. A field has one member or
+    /// more; only one shows at a time, so they share a place, the first one on top.
+    [[nodiscard]] QGroupBox* crearIntervalo(Marco& marco, const std::array<Etiqueta*, 3>& rotulos,
+                                            const std::vector<int>& miembros) const;
 
     struct Parametro {
         Etiqueta& rotulo;
         CajaTexto& campo;
     };
     using Renglon = std::vector<Parametro>;
-    /// Fields in lines, each behind its label.
-    [[nodiscard]] QLayout* parametros(const std::vector<Renglon>& renglones) const;
+    /// Rows of fields, each behind its label.
+    [[nodiscard]] QLayout* crearParametros(const std::vector<Renglon>& renglones) const;
 
-    /// A list with its buttons beside it, no higher than they are unless there is room to spare.
-    [[nodiscard]] QLayout* lista(Lista& lista, const std::vector<Boton*>& botones) const;
+    /// A list with its buttons beside it, as high as these or, in a higher page, higher.
+    [[nodiscard]] QLayout* crearLista(Lista& lista, const std::vector<Boton*>& botones) const;
 
-    /// A part that comes and goes and leaves its place empty: nothing else moves.
+    /// Two parts side by side, `hueco` pixels apart, at the left of the row.
+    [[nodiscard]] static QLayout* crearFila(QWidget* primera, int hueco, QWidget* segunda);
+
+    /// Lowers a frame without a title, so that its content is level with that of the titled frames beside it.
+    [[nodiscard]] static QLayout* bajarAlNivel(QGroupBox* grupo);
+
+    /// Keeps the place of a part while it is hidden: nothing else moves.
     template <class W>
     static W* conSitioFijo(W* widget) {
         reservarSitio(*widget);
@@ -87,12 +90,12 @@ public:
 private:
     template <class... C>
     void llenar(QBoxLayout& caja, C&... controles) const {
-        (caja.addWidget(widget(controles)), ...);
+        (caja.addWidget(crear(controles)), ...);
         caja.addStretch();
     }
 
     static void reservarSitio(QWidget& widget);
-    [[nodiscard]] QLineEdit* campo(CajaTexto& control) const;
+    [[nodiscard]] QLineEdit* crearCampo(CajaTexto& control) const;
 
     OpcionesPrograma& ventana_;
     Vinculos& vinculos_;

@@ -3,9 +3,12 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include <cassert>
+
 namespace varo {
 
-QLayout* ContenidoDeDialogo::pie(QPushButton* aceptar, QPushButton* cancelar) {
+QLayout* ContenidoDeDialogo::crearPie(QPushButton* aceptar, QPushButton* cancelar) {
+    assert(aceptar_ == nullptr);
     aceptar_ = aceptar;
     cancelar_ = cancelar;
     aceptar->setDefault(true);

@@ -1,4 +1,4 @@
-// What lies in a window that a person works through by its buttons.
+// The content of a window with buttons.
 #pragma once
 
 #include <QHBoxLayout>
@@ -7,14 +7,14 @@
 
 namespace varo {
 
-/// Enter presses the button that has the focus. At the foot there may be two more: Enter presses the first
-/// one when no button has the focus, and Escape the second.
+/// Enter presses the button with the focus. With two buttons at the foot, Enter presses the first one when no
+/// button has the focus, and Escape presses the second.
 class ContenidoDeDialogo : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// The row of the two buttons at the foot.
-    QLayout* pie(QPushButton* aceptar, QPushButton* cancelar);
+    /// The row of the two buttons at the foot. A window has one at most.
+    QLayout* crearPie(QPushButton* aceptar, QPushButton* cancelar);
 
 protected:
     void keyPressEvent(QKeyEvent* suceso) override;

@@ -8,7 +8,7 @@ Desplazable::Desplazable(QWidget* contenido) {
     setWidget(contenido);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus); // the keyboard is for the controls and the tabs
+    setFocusPolicy(Qt::NoFocus); // the arrow keys belong to the controls and the tabs
     contenido->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
 }

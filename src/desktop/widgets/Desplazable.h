@@ -1,11 +1,11 @@
-// A part of a window that is moved about where the screen is too small for it.
+// A part of a window that scrolls on a small screen.
 #pragma once
 
 #include <QScrollArea>
 
 namespace varo {
 
-/// Takes the room of its content when there is room.
+/// Asks for the room of its content.
 class Desplazable : public QScrollArea {
 public:
     explicit Desplazable(QWidget* contenido);

@@ -11,7 +11,7 @@ namespace varo {
 
 namespace {
 
-/// The style of the program, but for the text of tabs, which it would turn by a quarter at the side.
+/// The style of the program, except that the text of tabs at the side is not turned by a quarter.
 class EstiloDeFichas : public QProxyStyle {
 public:
     EstiloDeFichas() : QProxyStyle{QApplication::style()->name()} {}
@@ -46,9 +46,9 @@ public:
     }
 
 private:
-    static constexpr int caracteres = 26; ///< of a line of a caption
+    static constexpr int caracteres = 26; ///< width of a caption, in average letters
     static constexpr int alineacion = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
-    static constexpr int margenLateral = 12;
+    static constexpr int margenLateral = 12; ///< in pixels, like the two below
     static constexpr int margen = 9;
     static constexpr int borde = 4;
 };

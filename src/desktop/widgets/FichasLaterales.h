@@ -1,11 +1,11 @@
-// Tabs at the side of a tabbed dialog, with their captions upright and whole.
+// Tabs at the side of a tabbed dialog, with upright, whole captions.
 #pragma once
 
 class QTabWidget;
 
 namespace varo {
 
-/// Long captions take as many lines as they need. No tab is ever hidden or cut.
+/// A long caption takes as many lines as it needs. No tab is hidden or cut.
 void PonerFichasAlLado(QTabWidget& fichas);
 
 } // namespace varo

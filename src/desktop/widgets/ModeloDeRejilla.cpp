@@ -25,7 +25,7 @@ int ModeloDeRejilla::columnCount(const QModelIndex& padre) const {
 }
 
 QVariant ModeloDeRejilla::data(const QModelIndex& celda, int papel) const {
-    // The grid may be smaller for a moment than what was announced of it.
+    // The grid may have shrunk since ponerAlDia announced its size.
     if (papel != Qt::DisplayRole || !celda.isValid() || celda.row() + 1 >= rejilla_.Rows() ||
         celda.column() >= rejilla_.Cols()) {
         return {};

@@ -1,4 +1,4 @@
-// The grid of a window as an item model of the toolkit.
+// The grid of a window as an item model of Qt.
 #pragma once
 
 #include "formularios/Rejilla.h"
@@ -7,14 +7,13 @@
 
 namespace varo {
 
-/// Row 0 of the grid is the header; the others are the rows of the model. The cells are read when they are
-/// shown.
+/// Row 0 of the grid is the header, the others are the rows of the model. A cell is read each time it shows.
 class ModeloDeRejilla : public QAbstractTableModel {
 public:
     explicit ModeloDeRejilla(const Rejilla& rejilla, QObject* padre = nullptr)
         : QAbstractTableModel{padre}, rejilla_{rejilla} {}
 
-    /// The shape, the order or the texts of the grid may be others.
+    /// Tells the views that the shape, the order or the texts of the grid may have changed.
     void ponerAlDia();
 
     [[nodiscard]] int rowCount(const QModelIndex& padre = {}) const override;

@@ -10,8 +10,8 @@ namespace varo {
 
 namespace {
 
-/// The style of the program with narrower margins in cells and headers: the width of a column is its widest
-/// text and little more.
+/// The style of the program with narrow margins in cells and headers: a column is hardly wider than its
+/// widest text.
 class EstiloDeRejilla : public QProxyStyle {
 public:
     EstiloDeRejilla() : QProxyStyle{QApplication::style()->name()} {}
@@ -49,12 +49,12 @@ VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
     setTextElideMode(Qt::ElideNone);
     setWordWrap(false);
     setHorizontalScrollMode(ScrollPerPixel);
-    setTabKeyNavigation(false); // the tabulator leaves the grid
+    setTabKeyNavigation(false); // Tab leaves the grid
     connect(selectionModel(), &QItemSelectionModel::currentColumnChanged, this,
             [this](const QModelIndex& actual) {
                 if (actual.isValid() && actual.column() != rejilla_.ColSel() && alElegirColumna) {
                     alElegirColumna(actual.column());
-                    // The toolkit has yet to select what was clicked, be it refused or not.
+                    // Qt selects the clicked column after this, even a refused one.
                     QMetaObject::invokeMethod(
                         this, [this] { mostrarSeleccion(); }, Qt::QueuedConnection);
                 }
@@ -63,7 +63,7 @@ VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
 
 void VistaDeRejilla::mostrar() {
     if (!rejilla_.Visible()) {
-        return; // while it is being filled nobody sees it
+        return; // a grid is hidden while it is filled
     }
     modelo_->ponerAlDia();
     mostrarAnchos();
@@ -72,7 +72,7 @@ void VistaDeRejilla::mostrar() {
 
 void VistaDeRejilla::mostrarSeleccion() {
     if (model() == nullptr) {
-        return; // the window of the grid is gone
+        return; // the window is unloaded
     }
     const int columna = rejilla_.ColSel();
     if (columna < rejilla_.Cols() &&

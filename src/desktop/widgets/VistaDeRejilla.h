@@ -1,4 +1,4 @@
-// The grid of a window on the screen: its header row, its rows and the column that is selected.
+// The grid of a window on the screen: header, rows and selected column.
 #pragma once
 
 #include "desktop/widgets/ModeloDeRejilla.h"
@@ -9,7 +9,7 @@
 
 namespace varo {
 
-/// A click on a header or on any cell, or the keyboard, selects the whole column.
+/// A click on a header or a cell selects the whole column, and so do the arrow keys.
 class VistaDeRejilla : public QTableView {
 public:
     explicit VistaDeRejilla(const Rejilla& rejilla);

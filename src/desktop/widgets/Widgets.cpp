@@ -13,7 +13,7 @@ bool EsEnter(const QKeyEvent& suceso) {
     return suceso.key() == Qt::Key_Return || suceso.key() == Qt::Key_Enter;
 }
 
-/// What an arrow moves by: back, on, or not at all.
+/// The step of an arrow key: back, on, or 0 for any other key.
 int PasoDe(const QKeyEvent& suceso) {
     switch (suceso.key()) {
     case Qt::Key_Up:
@@ -66,7 +66,7 @@ void Combo::showPopup() {
         QComboBox::showPopup();
         return;
     }
-    // Once the mouse press that opened it is over: a dialog may come up.
+    // Wait for the end of the mouse press: what opens may be a dialog.
     QMetaObject::invokeMethod(this, alDesplegar, Qt::QueuedConnection);
 }
 

@@ -1,4 +1,4 @@
-// Widgets that ask the model before they change, or tell what those of the toolkit keep to themselves.
+// Widgets that ask the model before they change, or tell what those of Qt do not tell.
 #pragma once
 
 #include <QComboBox>
@@ -11,8 +11,8 @@
 
 namespace varo {
 
-/// A list that tells each click on a line, also on the one that is selected already, and each double click or
-/// Enter. Enter goes no further than the list then.
+/// Tells each click on a line, even on a selected one, and each double click or Enter. An Enter that it tells
+/// goes no further.
 class ListaDeLineas : public QListWidget {
 public:
     std::function<void()> alElegir;
@@ -25,10 +25,10 @@ protected:
     void selectionChanged(const QItemSelection& nueva, const QItemSelection& antigua) override;
 
 private:
-    bool elegidaConElRaton_ = false; ///< a press of the mouse is on its way and tells at its end
+    bool elegidaConElRaton_ = false; ///< a press of the mouse goes on, and tells at its end
 };
 
-/// A drop-down whose opening may be an act of its own, a choice in a dialog instead of a list.
+/// A drop-down that may open something else than its list, such as a dialog.
 class Combo : public QComboBox {
 public:
     std::function<void()> alDesplegar;
@@ -36,7 +36,7 @@ public:
     void showPopup() override;
 };
 
-/// An option that leaves its group to the model; the arrows move to the next one of it.
+/// An option that leaves its group to the model. An arrow key moves to the next option of the group.
 class BotonDeOpcion : public QRadioButton {
 public:
     BotonDeOpcion() { setAutoExclusive(false); }
@@ -47,7 +47,7 @@ protected:
     void keyPressEvent(QKeyEvent* suceso) override;
 };
 
-/// A tabbed dialog whose tabs are asked for, by mouse or keyboard, before they are shown.
+/// A tabbed dialog in which mouse and keyboard ask for a tab; `alPedir` decides whether it shows.
 class FichasPedidas : public QTabWidget {
 public:
     FichasPedidas();

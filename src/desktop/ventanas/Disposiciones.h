@@ -16,10 +16,11 @@ class OpcionesPrograma;
 class SelColumnas;
 class Vinculos;
 
-/// The content of a window. The main window has none of its own.
+/// The content of a window, its controls bound by `vinculos`. The main window has no content. Throws
+/// std::logic_error for a window without a layout.
 QWidget* Disponer(Formulario& ventana, Vinculos& vinculos);
 
-/// False for the windows that have no buttons to minimise and maximise them.
+/// Tells whether a child of the main window has buttons to minimise and maximise it. A free window has none.
 bool SePuedeAgrandar(const Formulario& ventana);
 
 QWidget* DisponerSeleccion(FrmSeleccion& ventana, Vinculos& vinculos);

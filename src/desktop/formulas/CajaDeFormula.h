@@ -1,5 +1,5 @@
 // A formula as nested boxes: rows, scripts, fractions, brackets and sums. A box is measured and painted from
-// the left end of its baseline, in logical pixels, so it is sharp at any scale.
+// the left end of its baseline, in logical pixels, so it is sharp at every scale.
 #pragma once
 
 #include <QFont>
@@ -13,7 +13,7 @@ class QPainter;
 
 namespace varo {
 
-class Expresion {
+class CajaDeFormula {
 public:
     struct Medidas {
         double ancho = 0;
@@ -21,26 +21,26 @@ public:
         double bajo = 0;  ///< below it
     };
 
-    Expresion() = default;
-    Expresion(const Expresion&) = delete;
-    Expresion& operator=(const Expresion&) = delete;
-    virtual ~Expresion() = default;
+    CajaDeFormula() = default;
+    CajaDeFormula(const CajaDeFormula&) = delete;
+    CajaDeFormula& operator=(const CajaDeFormula&) = delete;
+    virtual ~CajaDeFormula() = default;
 
     [[nodiscard]] virtual Medidas medir(const QFont& letra) const = 0;
     virtual void pintar(QPainter& pintor, QPointF origen, const QFont& letra) const = 0;
-    /// The same on one line: "a + b (DBH)^c".
+    /// The formula on one line: "a + b (DBH)^c".
     [[nodiscard]] virtual QString texto() const = 0;
-    /// The same with a factor behind it.
+    /// The same line as it reads before another factor.
     [[nodiscard]] virtual QString comoFactor() const { return texto(); }
-    /// True when no brackets are needed around the text beside a sign of operation.
+    /// True when the text needs no brackets beside an operation sign.
     [[nodiscard]] virtual bool suelta() const { return false; }
 };
 
-using Parte = std::shared_ptr<const Expresion>;
+using Parte = std::shared_ptr<const CajaDeFormula>;
 
 namespace formula {
 
-/// The height over the baseline of signs of operation and of the bars of fractions: the middle of a formula.
+/// The height of operation signs and fraction bars over the baseline, in pixels: the middle of a formula.
 double Eje(const QFont& letra);
 
 /// The letter of a quantity, in italics.
@@ -53,7 +53,7 @@ Parte Potencia(Parte base, Parte exponente);
 Parte Fraccion(Parte numerador, Parte denominador);
 Parte Parentesis(Parte contenido);
 Parte Corchetes(Parte contenido);
-/// A sum with its limits; what is added up stands behind it.
+/// A sum sign with its limits. The terms follow it.
 Parte Suma(Parte desde, Parte hasta);
 
 } // namespace formula

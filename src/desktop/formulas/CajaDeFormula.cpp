@@ -1,4 +1,4 @@
-#include "desktop/formulas/Expresion.h"
+#include "desktop/formulas/CajaDeFormula.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -17,19 +17,19 @@ double formula::Eje(const QFont& letra) {
 namespace {
 
 using formula::Eje;
-using Medidas = Expresion::Medidas;
+using Medidas = CajaDeFormula::Medidas;
 
-constexpr double trazo = 1.1; ///< of brackets
+constexpr double trazo = 1.1; ///< width of brackets, in pixels
 
-/// The measure of all gaps and shifts.
+/// All gaps and shifts are multiples of it, in pixels.
 double AltoDeX(const QFont& letra) {
     return QFontMetricsF{letra}.xHeight();
 }
 
-/// The letters of indices, exponents and limits; a script of a script stays readable.
+/// The font of indices, exponents and limits. It stops shrinking while a script of a script is readable.
 QFont Menor(const QFont& letra) {
     constexpr double razon = 0.78;
-    constexpr double minimo = 7.5;
+    constexpr double minimo = 7.5; // in points
     QFont menor{letra};
     menor.setPointSizeF(std::min(letra.pointSizeF(), std::max(minimo, letra.pointSizeF() * razon)));
     return menor;
@@ -39,7 +39,7 @@ QString EntreParentesis(const Parte& parte) {
     return parte->suelta() ? parte->texto() : QStringLiteral("(%1)").arg(parte->texto());
 }
 
-class Texto : public Expresion {
+class Texto : public CajaDeFormula {
 public:
     Texto(QString texto, bool cursiva) : texto_{std::move(texto)}, cursiva_{cursiva} {}
 
@@ -47,7 +47,7 @@ public:
         const QFontMetricsF medidas{conEstilo(letra)};
         const QRectF tinta = medidas.tightBoundingRect(texto_);
         const double avance = medidas.horizontalAdvance(texto_);
-        // A slanted letter may lean out of its own width.
+        // A slanted letter may reach past its advance.
         return {cursiva_ ? std::max(avance, tinta.right()) : avance, -tinta.top(), tinta.bottom()};
     }
 
@@ -69,7 +69,7 @@ private:
     bool cursiva_;
 };
 
-class EnFila : public Expresion {
+class EnFila : public CajaDeFormula {
 public:
     explicit EnFila(std::vector<Parte> partes) : partes_{std::move(partes)} {}
 
@@ -103,8 +103,8 @@ private:
     std::vector<Parte> partes_;
 };
 
-/// A base with an index at its foot, an exponent at its head or both, one over the other.
-class ConGuiones : public Expresion {
+/// A base with an index at its foot, an exponent at its head, or both, one over the other.
+class ConGuiones : public CajaDeFormula {
 public:
     ConGuiones(Parte base, Parte indice, Parte exponente)
         : base_{std::move(base)}, indice_{std::move(indice)}, exponente_{std::move(exponente)} {}
@@ -148,7 +148,7 @@ private:
         return guion ? guion->medir(Menor(letra)) : Medidas{};
     }
 
-    /// The exponent stands near the upper edge of its base, never below the middle of a small letter.
+    /// The exponent keeps near the upper edge of its base and never goes below the middle of a small letter.
     [[nodiscard]] double subida(const QFont& letra) const {
         const double x = AltoDeX(letra);
         return std::max(
@@ -162,7 +162,7 @@ private:
     Parte exponente_;
 };
 
-class EnFraccion : public Expresion {
+class EnFraccion : public CajaDeFormula {
 public:
     EnFraccion(Parte numerador, Parte denominador)
         : numerador_{std::move(numerador)}, denominador_{std::move(denominador)} {}
@@ -179,7 +179,7 @@ public:
         const Medidas arriba = numerador_->medir(letra);
         const Medidas abajo = denominador_->medir(letra);
         const double ancho = std::max(arriba.ancho, abajo.ancho) + 2 * vuelo;
-        // On whole pixels the bar is one clean line.
+        // A whole pixel makes the bar one sharp line.
         const double raya = std::round(origen.y() - Eje(letra));
         pintor.fillRect(QRectF{origen.x() + margen, raya, ancho - 2 * margen, 1}, pintor.pen().color());
         numerador_->pintar(
@@ -203,12 +203,12 @@ private:
     Parte denominador_;
 };
 
-/// Brackets as high as what they hold.
-class Entre : public Expresion {
+/// Brackets as high as their content.
+class Entre : public CajaDeFormula {
 public:
-    enum class Clase { Parentesis, Corchetes };
+    enum class Signo { Parentesis, Corchetes };
 
-    Entre(Parte contenido, Clase clase) : contenido_{std::move(contenido)}, clase_{clase} {}
+    Entre(Parte contenido, Signo signo) : contenido_{std::move(contenido)}, signo_{signo} {}
 
     [[nodiscard]] Medidas medir(const QFont& letra) const override {
         Medidas medidas = contenido_->medir(letra);
@@ -228,15 +228,15 @@ public:
         pintor.setBrush(Qt::NoBrush);
         const QColor color = pintor.pen().color();
         pintor.setPen(QPen{color, trazo});
-        pintor.drawPath(signo(lugar.left(), lugar.right(), lugar.top(), lugar.bottom()));
+        pintor.drawPath(trazar(lugar.left(), lugar.right(), lugar.top(), lugar.bottom()));
         pintor.drawPath(
-            signo(otroLado - lugar.left(), otroLado - lugar.right(), lugar.top(), lugar.bottom()));
+            trazar(otroLado - lugar.left(), otroLado - lugar.right(), lugar.top(), lugar.bottom()));
         pintor.setPen(color);
         contenido_->pintar(pintor, {origen.x() + hueco + ancho, origen.y()}, letra);
     }
 
     [[nodiscard]] QString texto() const override {
-        const auto modelo = clase_ == Clase::Parentesis ? QStringLiteral("(%1)") : QStringLiteral("[%1]");
+        const auto modelo = signo_ == Signo::Parentesis ? QStringLiteral("(%1)") : QStringLiteral("[%1]");
         return modelo.arg(contenido_->texto());
     }
     [[nodiscard]] bool suelta() const override { return true; }
@@ -249,10 +249,10 @@ private:
         return std::min(0.45 * x + 0.06 * (contenido.sobre + contenido.bajo), 0.9 * x);
     }
 
-    /// Its back is at `dorso`; mirrored when that lies to the right.
-    [[nodiscard]] QPainterPath signo(double dorso, double punta, double alto, double bajo) const {
+    /// One bracket. Its back stands at `dorso`; a back at the right makes a closing bracket.
+    [[nodiscard]] QPainterPath trazar(double dorso, double punta, double alto, double bajo) const {
         QPainterPath camino{{punta, alto}};
-        if (clase_ == Clase::Corchetes) {
+        if (signo_ == Signo::Corchetes) {
             camino.lineTo(dorso, alto);
             camino.lineTo(dorso, bajo);
             camino.lineTo(punta, bajo);
@@ -264,10 +264,10 @@ private:
     }
 
     Parte contenido_;
-    Clase clase_;
+    Signo signo_;
 };
 
-class Sumatorio : public Expresion {
+class Sumatorio : public CajaDeFormula {
 public:
     Sumatorio(Parte desde, Parte hasta) : desde_{std::move(desde)}, hasta_{std::move(hasta)} {}
 
@@ -353,11 +353,11 @@ Parte Fraccion(Parte numerador, Parte denominador) {
 }
 
 Parte Parentesis(Parte contenido) {
-    return std::make_shared<Entre>(std::move(contenido), Entre::Clase::Parentesis);
+    return std::make_shared<Entre>(std::move(contenido), Entre::Signo::Parentesis);
 }
 
 Parte Corchetes(Parte contenido) {
-    return std::make_shared<Entre>(std::move(contenido), Entre::Clase::Corchetes);
+    return std::make_shared<Entre>(std::move(contenido), Entre::Signo::Corchetes);
 }
 
 Parte Suma(Parte desde, Parte hasta) {

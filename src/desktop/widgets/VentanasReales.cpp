@@ -1,0 +1,52 @@
+#include "desktop/widgets/VentanasReales.h"
+
+#include <QDialog>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace varo {
+
+namespace {
+
+/// Title, menu and close box, without buttons to minimise and maximise.
+constexpr Qt::WindowFlags sinAgrandar =
+    Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+/// Treats Escape as its close box.
+class Dialogo : public QDialog {
+public:
+    using QDialog::QDialog;
+    void reject() override { close(); }
+};
+
+} // namespace
+
+QSize SitioEnPantalla(const QWidget& ventana) {
+    constexpr QSize marcos{40, 80};
+    return ventana.screen()->availableGeometry().size() - marcos;
+}
+
+QMdiSubWindow* CrearHija(QMdiArea& zona, QWidget& contenido, bool sePuedeAgrandar) {
+    auto* const hija = new QMdiSubWindow;
+    hija->setWidget(&contenido);
+    if (!sePuedeAgrandar) {
+        hija->setWindowFlags(Qt::SubWindow | sinAgrandar);
+    }
+    zona.addSubWindow(hija, hija->windowFlags());
+    hija->hide();
+    return hija;
+}
+
+QWidget* CrearDialogo(QWidget& marco, QWidget& contenido) {
+    auto* const dialogo = new Dialogo{&marco};
+    dialogo->setWindowFlags(Qt::Dialog | sinAgrandar);
+    auto* const columna = new QVBoxLayout{dialogo};
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->addWidget(&contenido);
+    dialogo->resize(dialogo->sizeHint().boundedTo(SitioEnPantalla(marco)));
+    return dialogo;
+}
+
+} // namespace varo
