@@ -1,5 +1,4 @@
-// What a large sheet costs at the desktop: the width of each cell when it is read in, and each picture of the
-// grid.
+// What a large sheet costs at the desktop: the width of each cell as it loads, and each picture of the grid.
 #include "desktop/ServiciosQt.h"
 #include "desktop/widgets/VistaDeRejilla.h"
 #include "formularios/ServiciosPreparados.h"
@@ -23,7 +22,7 @@ std::string Celda(int fila, int columna) {
     return std::to_string((fila * 7919 + columna * 104'729) % 10'000) + "," + std::to_string(fila % 100);
 }
 
-/// The application that widgets need; it lives as long as the process.
+/// Makes the application object of widgets, which lives as long as the process.
 void ExigirAplicacion() {
     static int argc = 1;
     static std::string nombre = "medida_desktop";
@@ -81,7 +80,7 @@ void DesplazarYPintar(benchmark::State& estado) {
 }
 BENCHMARK(DesplazarYPintar)->Unit(benchmark::kMillisecond);
 
-/// A click on a column: the selection moves and the model's grid is shown anew.
+/// A click on a column: the selection moves and the grid shows anew.
 void ElegirColumna(benchmark::State& estado) {
     ExigirAplicacion();
     Hoja hoja;

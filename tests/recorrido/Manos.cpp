@@ -17,7 +17,7 @@ namespace varo::prueba {
 namespace {
 
 constexpr int plazo = 30'000; ///< in milliseconds; a test that goes well never uses it up
-constexpr int pausa = 5;      ///< between two looks
+constexpr int pausa = 5;      ///< in milliseconds, between two looks
 
 template <class F>
 auto EnElHiloDeLasVentanas(const F& lectura) {

@@ -1,4 +1,4 @@
-// A person's hands at a real screen: the mouse and the keyboard of the X server, and eyes on the windows.
+// A person at a real screen: mouse and keyboard of the X server, and eyes on the windows.
 #pragma once
 
 #include <QPoint>
@@ -11,8 +11,8 @@
 
 namespace varo::prueba {
 
-/// Works on a thread of its own while the windows live on the main one: a message box that waits for an
-/// answer holds up nobody. Whatever does not come about in good time throws std::runtime_error.
+/// Runs beside the thread of the windows, so a message box that waits for an answer does not hold it up. What
+/// does not happen in time throws std::runtime_error.
 class Manos {
 public:
     /// The point of a widget where a person would press it.
@@ -26,27 +26,27 @@ public:
     /// Types a text with the keyboard.
     void teclear(const std::string& texto) const;
 
-    /// Waits until a window is there, can be seen and has the activation.
+    /// Waits until a window is visible and active.
     void esperarVentana(const QString& ventana) const;
     void esperarQueSeVaya(const QString& ventana) const;
-    /// Waits until something holds, looked at on the thread of the windows.
+    /// Waits until a condition holds, looked at on the thread of the windows. A fault names it by `que`.
     void esperar(const std::string& que, const std::function<bool()>& condicion) const;
 
-    /// Something read from a widget, on the thread of the windows.
+    /// Reads something from a widget on the thread of the windows; nothing when there is no such widget.
     QString leer(const QString& ventana, const QString& control,
                  const std::function<QString(QWidget&)>& lectura) const;
 
-    /// A picture of the whole screen in the folder that VARO_FOTOS names; without it none is taken.
+    /// Saves a picture of the screen in the folder that VARO_FOTOS names, if it names one.
     void foto(const std::string& nombre) const;
 
     static QPoint enElCentro(QWidget& widget) { return widget.rect().center(); }
 };
 
-/// A control of a window, or the window itself when it has no name; null when there is none. To be asked on
-/// the thread of the windows.
+/// A control of a window, or the window itself for an empty name; null when there is none. Runs on the thread
+/// of the windows.
 QWidget* ControlDe(const QString& ventana, const QString& control);
 
-/// Runs what the hands do while the windows live; what it throws fails the test. The event loop ends with it.
+/// Runs an act beside the event loop, which ends with it. What the act throws fails the test.
 void ConLasManos(const std::function<void(const Manos&)>& acto);
 
 } // namespace varo::prueba

@@ -1,4 +1,4 @@
-// The options dialog at a screen: what a person who types into its fields sees.
+// The options dialog at a screen: what a person sees who types into its fields.
 #include "recorrido/Pasos.h"
 
 #include <QApplication>
@@ -34,7 +34,7 @@ const Mensaje conPunto{"La separación decimal es ,", "Error en la separación d
 const Mensaje negativo{"No se admiten valores negativos", "Error en el valor introducido"};
 const Mensaje noNatural{"Sólo se admiten números naturales", "Error en la introducción de datos"};
 
-/// The box that came up, answered; none when none did.
+/// Answers the message box that is there, if any, and gives its words.
 Mensaje Responder(const Manos& manos) {
     const auto leer = [&](const auto& parte) {
         return manos.leer(caja, "",
@@ -55,14 +55,13 @@ QString TextoDe(QWidget* campo) {
     return dynamic_cast<QLineEdit&>(*campo).text();
 }
 
-/// Types a text in place of the one that is there, key by key as a person does who answers each box that
-/// comes up; gives back what the last key brought.
+/// Replaces the text of a field key by key and answers each box that comes up. Gives the box of the last key.
 Mensaje Escribir(const Manos& manos, const QString& campo, const QString& texto) {
     manos.clic(opciones, campo);
     manos.tecla("ctrl+a");
     Mensaje ultimo;
     const auto anotar = [&](const QString& hasta) {
-        // The box of a change comes up with the change itself.
+        // The change shows its box at once: with the text there, the box is there or never will be.
         manos.esperar("«" + hasta.toStdString() + "» en " + campo.toStdString(),
                       [&] { return TextoDe(ControlDe(opciones, campo)) == hasta; });
         ultimo = Responder(manos);
@@ -92,7 +91,7 @@ void Comprobar(const Manos& manos, const QString& campo, std::initializer_list<C
     }
 }
 
-/// The box that comes up when the field is left with the tabulator, and the field that has the focus then.
+/// Leaves a field with Tab and answers the box of that; the field has the focus again.
 void ComprobarAlDejar(const Manos& manos, const QString& campo, const Mensaje& mensaje) {
     manos.tecla("Tab");
     if (!(mensaje == ninguno)) {

@@ -43,7 +43,7 @@ Manos::Sitio EnLaCabecera(const QString& cabecera) {
 }
 
 QPoint EnLaMarca(QWidget& widget) {
-    return {8, widget.height() / 2}; // a check or an option is pressed on its mark
+    return {8, widget.height() / 2};
 }
 
 Manos::Sitio EnLaFicha(int ficha) {

@@ -1,4 +1,4 @@
-// The steps that every journey at the screen begins with, and the places where controls are pressed.
+// The first steps of every journey at the screen, and the places where a person presses controls.
 #pragma once
 
 #include "desktop/Aplicacion.h"
@@ -22,10 +22,10 @@ Manos::Sitio EnLaFicha(int ficha);
 
 /// Opens a plot file from the menu.
 void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo);
-/// Accepts "(ninguna)", reads what that is answered with, and then chooses the first sheet.
+/// Accepts "(ninguna)", answers the box about it, and then chooses the first sheet.
 void ElegirHoja(const Manos& manos);
 
-/// The parts of a window that can be seen and do not show all that lies in them.
+/// The visible parts of a window that cannot show their whole content.
 QString LoQueNoCabe(QWidget& ventana);
 
 /// The program, started as main() starts it.

@@ -1,4 +1,4 @@
-// The program as it is started: a process of its own at a screen.
+// The program as a process at a screen.
 #include "apoyo/CarpetaTemporal.h"
 #include "apoyo/Lugares.h"
 #include "recorrido/Manos.h"
@@ -13,9 +13,9 @@ namespace varo::prueba {
 
 namespace {
 
-constexpr int plazo = 30'000;
+constexpr int plazo = 30'000; ///< in milliseconds
 
-/// The windows with this title that can be seen.
+/// How many visible windows have this title.
 qsizetype VentanasCon(const QString& titulo) {
     QProcess proceso;
     proceso.start("xdotool", {"search", "--onlyvisible", "--name", "^" + titulo + "$"});

@@ -25,7 +25,7 @@ void MarcarIndices(const Manos& manos) {
                                 "ChBdom", "ChAPDmed", "ChAPDmax", "ChAPDsum", "ChAPBmed", "ChAPBmax"}) {
         manos.clic("OpcionesPrograma", casilla, EnLaMarca);
     }
-    manos.tecla("Tab"); // the last check with the keyboard
+    manos.tecla("Tab"); // the last check, with the keyboard
     manos.tecla("space");
     manos.foto("07-independientes");
     manos.tecla("Return");
@@ -83,7 +83,7 @@ void Salir(const Manos& manos) {
     manos.tecla("s");
     manos.esperarVentana("CajaDeMensaje");
     manos.foto("15-salir");
-    manos.tecla("Escape"); // stays
+    manos.tecla("Escape"); // the program goes on
     manos.esperarQueSeVaya("CajaDeMensaje");
     manos.tecla("alt+a");
     manos.tecla("s");
