@@ -1,27 +1,10 @@
 #include "formularios/Ventanas.h"
 
+#include "basico/AlSalir.h"
+
 #include <algorithm>
 
 namespace varo {
-
-namespace {
-
-/// Keeps a window on a list for as long as something takes, a fault included.
-class Anotada {
-public:
-    Anotada(std::vector<Formulario*>& lista, Formulario& ventana) : lista_{lista}, ventana_{&ventana} {
-        lista_.push_back(ventana_);
-    }
-    Anotada(const Anotada&) = delete;
-    Anotada& operator=(const Anotada&) = delete;
-    ~Anotada() { std::erase(lista_, ventana_); }
-
-private:
-    std::vector<Formulario*>& lista_;
-    Formulario* ventana_;
-};
-
-} // namespace
 
 Formulario* Ventanas::buscar(std::type_index clase) const {
     const auto encontrada = std::find_if(cargadas_.begin(), cargadas_.end(),
@@ -63,7 +46,8 @@ bool Ventanas::descargar(Formulario& ventana) {
         std::find(descargando_.begin(), descargando_.end(), &ventana) != descargando_.end()) {
         return true;
     }
-    const Anotada anotada{descargando_, ventana};
+    descargando_.push_back(&ventana);
+    const AlSalir borrar{[&] { std::erase(descargando_, &ventana); }};
     if (!ventana.Form_QueryUnload()) {
         return false;
     }
@@ -208,18 +192,12 @@ void Ventanas::atender(const std::function<void()>& acto) {
 
 /// Hands back what is no fault of the program: it belongs to who set the act off.
 std::exception_ptr Ventanas::correr(const std::function<void()>& acto) {
-    struct Turno {
-        Ventanas& ventanas;
-        explicit Turno(Ventanas& ventanas_) : ventanas{ventanas_} { ++ventanas.profundidad_; }
-        Turno(const Turno&) = delete;
-        Turno& operator=(const Turno&) = delete;
-        ~Turno() {
-            if (--ventanas.profundidad_ == 0) {
-                ventanas.retiradas_.clear();
-            }
+    ++profundidad_;
+    const AlSalir salir{[this] {
+        if (--profundidad_ == 0) {
+            retiradas_.clear();
         }
-    };
-    const Turno turno{*this};
+    }};
     try {
         acto();
     } catch (const ErrorFatal& error) {

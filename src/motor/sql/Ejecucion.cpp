@@ -1,6 +1,6 @@
 #include "motor/sql/Ejecucion.h"
 
-#include "basico/ErrorEjecucion.h"
+#include "basico/EnLugar.h"
 #include "motor/sql/Evaluador.h"
 #include "motor/sql/Operando.h"
 #include "motor/sql/Resumen.h"
@@ -22,12 +22,8 @@ using Filas = std::vector<std::size_t>;
 template <class Accion>
 void EnCadaFila(const Tabla& tabla, const Filas& filas, Accion accion) {
     for (const auto fila : filas) {
-        try {
-            accion(fila);
-        } catch (ErrorEjecucion& error) {
-            error.en("fila " + std::to_string(fila + 1) + " de «" + tabla.Name + "»");
-            throw;
-        }
+        EnLugar([&] { return "fila " + std::to_string(fila + 1) + " de «" + tabla.Name + "»"; },
+                [&] { accion(fila); });
     }
 }
 

@@ -1,5 +1,6 @@
 #include "motor/sql/Evaluador.h"
 
+#include "basico/EnLugar.h"
 #include "basico/Texto.h"
 
 #include <algorithm>
@@ -24,12 +25,7 @@ Evaluador::Evaluador(const Expresion& expresion, const Tabla& tabla) : expresion
 }
 
 Operando Evaluador::operator()(const std::vector<Valor>& fila) {
-    try {
-        return Calculado(fila);
-    } catch (ErrorEjecucion& error) {
-        Situar(error);
-        throw;
-    }
+    return AlFallar([this](ErrorEjecucion& error) { Situar(error); }, [&] { return Calculado(fila); });
 }
 
 Valor Evaluador::Entero(const std::vector<Valor>& fila) {

@@ -1,7 +1,7 @@
 #include "motor/sql/Resumen.h"
 
 #include "basico/Aritmetica.h"
-#include "basico/ErrorEjecucion.h"
+#include "basico/EnLugar.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,12 +17,8 @@ void Resumen::Anadir(const std::vector<Valor>& fila) {
         return;
     }
     if (agregado_ != Agregado::cuenta) {
-        try {
-            Acumular(NumeroExigido(operando));
-        } catch (ErrorEjecucion& error) {
-            evaluador_.Situar(error);
-            throw;
-        }
+        AlFallar([this](ErrorEjecucion& error) { evaluador_.Situar(error); },
+                 [&] { Acumular(NumeroExigido(operando)); });
     }
     ++cuenta_;
 }
