@@ -1,6 +1,7 @@
 #include "data/FrmSeleccion.h"
 
 #include "basico/Aritmetica.h"
+#include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
 #include "data/Hojadedatos.h"
@@ -57,7 +58,7 @@ FrmSeleccion::FrmSeleccion(Programa& programa)
 }
 
 void FrmSeleccion::CmdAceptar_Click() {
-    const Reloj reloj{*this};
+    const auto reloj = PonerReloj(*this);
     try {
         abrirHoja();
         ultimoFallo_.reset();
@@ -132,12 +133,8 @@ void FrmSeleccion::copiarFilas(const std::string& hoja) {
     Entero16 contador = 1;
     for (; !filas.Eof(); filas.MoveNext()) {
         rejilla.Row(rejilla.Row() + 1);
-        try {
-            copiarFila(filas, campos, contador);
-        } catch (ErrorEjecucion& error) {
-            error.en("fila " + ATexto(rejilla.Row()));
-            throw;
-        }
+        EnLugar([&] { return "fila " + ATexto(rejilla.Row()); },
+                [&] { copiarFila(filas, campos, contador); });
     }
 }
 

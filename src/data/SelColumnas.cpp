@@ -12,11 +12,10 @@ namespace varo {
 
 namespace {
 
-using Papel = PapelesDeColumnas::Papel;
+using Leyendas = std::vector<PapelesDeColumnas::Papel>;
 
-std::vector<Papel> ConExtremos(const std::vector<Papel>& copa) {
-    std::vector<Papel> papeles{{"Coordenada X", "Coordenada X: ", "X"},
-                               {"Coordenada Y", "Coordenada Y: ", "Y"}};
+Leyendas ConExtremos(const Leyendas& copa) {
+    Leyendas papeles{{"Coordenada X", "Coordenada X: ", "X"}, {"Coordenada Y", "Coordenada Y: ", "Y"}};
     papeles.insert(papeles.end(), copa.begin(), copa.end());
     papeles.push_back({"Indice", "Indice: ", "Indice"});
     papeles.push_back({"Código de Arbol", "Código de árbol: ", "Código de árbol"});
@@ -30,13 +29,13 @@ bool contiene(const std::string& texto, std::string_view palabra) {
 } // namespace
 
 SelColRM::SelColRM(Programa& programa)
-    : SelColumnas{
-          programa,
-          {"SelColRM", ConExtremos({{"Radio medio", "Radio Medio: ", "Radio Medio"}}), "Quitar todo"}} {}
+    : SelColumnas{programa,
+                  {"SelColRM", DatosDeCopa::RadioMedio,
+                   ConExtremos({{"Radio medio", "Radio Medio: ", "Radio Medio"}}), "Quitar todo"}} {}
 
 SelCol4R::SelCol4R(Programa& programa)
     : SelColumnas{programa,
-                  {"SelCol4R",
+                  {"SelCol4R", DatosDeCopa::CuatroRadios,
                    ConExtremos({{"Radio Norte", "Radio Norte: ", "Norte"},
                                 {"Radio Este", "Radio Este: ", "Este"},
                                 {"Radio Sur", "Radio Sur: ", "Sur"},
@@ -45,7 +44,7 @@ SelCol4R::SelCol4R(Programa& programa)
 
 SelCol2D::SelCol2D(Programa& programa)
     : SelColumnas{programa,
-                  {"SelCol2D",
+                  {"SelCol2D", DatosDeCopa::DosDiametros,
                    ConExtremos({{"Diámetro Norte-Sur", "Diametro Norte-Sur: ", "Norte"},
                                 {"Diámetro  Este-Oeste", "Diametro Este-Oeste: ", "Este"}}),
                    "Quitar todo"}} {}
@@ -170,7 +169,7 @@ void SelColumnas::Form_Activate() {
     const auto& opciones = programa_.tocar<OpcionesPrograma>();
     const bool conCodigo = opciones.ChCodigo.Value() == 1;
     CmdDAP.Caption = opciones.OptCAP.Enabled() ? "CAP" : "DAP";
-    programa_.sesion.UltimaColumna = conCodigo ? papelCodigo() : papelCodigo() - 1;
+    programa_.sesion.UltimaColumna = conCodigo ? PapelCodigo(papeles_.copa) : PapelIndice(papeles_.copa);
 
     int lineaCodigo = -1;
     for (int i = 0; i < List1.ListCount(); ++i) {

@@ -2,6 +2,7 @@
 // of crown data.
 #pragma once
 
+#include "data/Papeles.h"
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
 
@@ -20,7 +21,8 @@ struct PapelesDeColumnas {
         std::string palabra; ///< what CmdQuitar looks for in a line to find the button again
     };
     std::string nombreVentana;
-    std::vector<Papel> papeles; ///< by index of Command1; the last one is the tree code
+    DatosDeCopa copa = DatosDeCopa::RadioMedio;
+    std::vector<Papel> papeles; ///< by index of Command1 (Papeles.h)
     std::string leyendaQuitarTodo;
     bool activarInhabilitaDibujar = false; ///< on activation with ChCodigo checked and no code on the list
 };
@@ -46,13 +48,8 @@ public:
     void Form_Activate() override;
     void Form_Unload() override;
 
-    static constexpr int papelX = 0;
-    static constexpr int papelY = 1;
-    static constexpr int primerPapelDeCopa = 2;
-    [[nodiscard]] int papelIndice() const { return papelCodigo() - 1; }
-    [[nodiscard]] int papelCodigo() const { return static_cast<int>(papeles_.papeles.size()) - 1; }
     /// The button of the tree code role.
-    [[nodiscard]] Boton& botonCodigo() const { return Command1(papelCodigo()); }
+    [[nodiscard]] Boton& botonCodigo() const { return Command1(PapelCodigo(papeles_.copa)); }
     [[nodiscard]] const PapelesDeColumnas& papeles() const { return papeles_; }
 
 protected:

@@ -1,6 +1,9 @@
 #include "indices/FasesDeVecindad.h"
 
+#include "basico/EnLugar.h"
+#include "data/FilasDeArboles.h"
 #include "data/Hojadedatos.h"
+#include "data/Papeles.h"
 #include "indices/OpcionesDeVecindad.h"
 #include "indices/apa/APA.h"
 #include "indices/vecinos/AOI.h"
@@ -18,26 +21,9 @@ namespace varo {
 
 namespace {
 
-/// The cells of one role, under the name of their field.
+/// The cells of a column, under the name of its field.
 ColumnaDeCeldas LeerColumna(const Rejilla& rejilla, int columna) {
-    std::vector<std::string> textos;
-    textos.reserve(static_cast<std::size_t>(rejilla.Rows()));
-    for (int fila = 1; fila < rejilla.Rows(); ++fila) {
-        textos.push_back(rejilla.TextMatrix(fila, columna));
-    }
-    return {rejilla.TextMatrix(0, columna), std::move(textos)};
-}
-
-int MedidasDeCopa(FormaDeCopa forma) {
-    switch (forma) {
-    case FormaDeCopa::CuatroRadios:
-        return 4;
-    case FormaDeCopa::DosDiametros:
-        return 2;
-    case FormaDeCopa::RadioMedio:
-        break;
-    }
-    return 1;
+    return {rejilla.TextMatrix(0, columna), TextosDeColumna(rejilla, columna)};
 }
 
 Arboles ReunirArboles(Programa& programa) {
@@ -46,22 +32,46 @@ Arboles ReunirArboles(Programa& programa) {
     const auto& sesion = programa.sesion;
     const auto papel = [&](int numero) { return LeerColumna(rejilla, sesion.Columnas(numero).valor()); };
     CeldasDeArboles celdas;
-    celdas.x = papel(0);
-    celdas.y = papel(1);
+    celdas.x = papel(papelX);
+    celdas.y = papel(papelY);
     celdas.tamano = LeerColumna(rejilla, sesion.ColumnaDAP.valor());
     if (opciones.ChSupCopa.Value() == 1) {
-        for (int medida = 0; medida < MedidasDeCopa(FormaDeLaCopa(opciones)); ++medida) {
-            celdas.copa.push_back(papel(2 + medida));
+        for (int medida = 0; medida < MedidasDeCopa(DatosDeLaCopa(opciones)); ++medida) {
+            celdas.copa.push_back(papel(PapelDeCopa(medida)));
         }
     }
     return {std::move(celdas), UnidadesDelTallo(opciones), sesion.Poligono.contorno()};
 }
 
-/// The side rule: of two passes the second one is unilateral; a single one, by its check.
-Lado LadoDe(int pasada, const Casilla& bilateral, const Casilla& unilateral) {
-    const bool esUnilateral = Pasadas(bilateral, unilateral) == 2 ? pasada == 2 : unilateral.Value() == 1;
-    return esUnilateral ? Lado::Unilateral : Lado::Bilateral;
+/// The passes that two checks ask for: both in their order, or a single one, which is `otra` only if its
+/// check is on.
+template <class Pasada>
+std::vector<Pasada> PasadasDe(const Casilla& casillaUna, Pasada una, const Casilla& casillaOtra,
+                              Pasada otra) {
+    if (Pasadas(casillaUna, casillaOtra) == 2) {
+        return {una, otra};
+    }
+    return {casillaOtra.Value() == 1 ? otra : una};
 }
+
+std::vector<Lado> LadosDe(const Casilla& bilateral, const Casilla& unilateral) {
+    return PasadasDe(bilateral, Lado::Bilateral, unilateral, Lado::Unilateral);
+}
+
+/// A column of IDP to compute.
+struct PedidaIDP {
+    Lado lado;
+    FormaIDP forma;
+    double p; ///< the selection parameter, or the line of the list of functions
+};
+
+/// A column of DR to compute.
+struct PedidaDR {
+    Lado lado;
+    double k;
+    std::size_t entrada; ///< of the list of distance functions
+    double p;            ///< as in IDP
+};
 
 class FasesDeVecindad {
 public:
@@ -80,127 +90,139 @@ public:
     }
 
 private:
-    using Columnas = ResultadosIndices::Columnas;
+    using IndicePorColumnas = ResultadosIndices::IndicePorColumnas;
+    using Rotulo = std::function<std::string()>;
 
     void fase(const Casilla& casilla, const char* familia, const std::function<void()>& cuerpo) {
         if (casilla.Value() != 1) {
             return;
         }
         mapa_.MousePointer = Formulario::relojDeArena;
-        try {
-            cuerpo();
-        } catch (ErrorEjecucion& error) {
+        const auto soltarReloj = [&](ErrorEjecucion& error) {
             mapa_.MousePointer = Formulario::punteroNormal;
             error.en(std::string{"familia "} + familia);
-            throw;
-        }
+        };
+        AlFallar(soltarReloj, cuerpo);
     }
 
     void faseISC() {
-        resultados_.NumISC = Pasadas(opciones_.ChISCBil, opciones_.ChISCUni);
-        const int variantes = static_cast<int>(resultados_.NumISC);
-        resultados_.IndISC.redimensionar(variantes - 1, cuantosArboles());
-        const RadiosDeCopa radios{arboles(), FormaDeLaCopa(opciones_), programa_.sesion.FactorRadios.valor()};
-        for (int variante = 0; variante < variantes; ++variante) {
-            const Lado lado = LadoDe(variante + 1, opciones_.ChISCBil, opciones_.ChISCUni);
-            columna(resultados_.IndISC, variante, RotuloISC(lado),
-                    [&] { return CalcularISC(vecindad(), radios, lado == Lado::Unilateral); });
+        auto& r = resultados_;
+        const auto lados = LadosDe(opciones_.ChISCBil, opciones_.ChISCUni);
+        r.NumISC = static_cast<double>(lados.size());
+        r.IndISC.redimensionar(static_cast<int>(lados.size()) - 1, cuantosArboles());
+        const RadiosDeCopa radios{arboles(), DatosDeLaCopa(opciones_), programa_.sesion.FactorRadios.valor()};
+        int numero = -1;
+        for (const Lado lado : lados) {
+            columna(
+                r.IndISC, ++numero, [&] { return RotuloISC(lado); },
+                [&] { return CalcularISC(vecindad(), radios, lado); });
         }
     }
 
     void faseAOI() {
         auto& r = resultados_;
-        r.AOIk = LeerIntervalo(opciones_, 6);
+        const auto lados = LadosDe(opciones_.ChAOIBil, opciones_.ChAOIUni);
+        r.AOIk = LeerIntervalo(opciones_, exponenteAOI);
         r.NumFuncAOI = opciones_.LstAOI.ListCount();
-        r.NumLadosAOI = Pasadas(opciones_.ChAOIBil, opciones_.ChAOIUni);
+        r.NumLadosAOI = static_cast<int>(lados.size());
         r.NumColAOI = Entero16{CuantosCaben(r.AOIk) * r.NumFuncAOI.valor() * r.NumLadosAOI.valor()};
         r.IndAOI.redimensionar(r.NumColAOI.valor() - 1, cuantosArboles() - 1);
         int numero = -1;
-        for (int pasada = 1; pasada <= r.NumLadosAOI.valor(); ++pasada) {
-            const Lado lado = LadoDe(pasada, opciones_.ChAOIBil, opciones_.ChAOIUni);
+        for (const Lado lado : lados) {
             for (int entrada = 1; entrada <= r.NumFuncAOI.valor(); ++entrada) {
                 const RadiosDeInfluencia radios{arboles(), leerRadio(entrada)};
                 for (const double k : ValoresDe(r.AOIk)) {
-                    columna(r.IndAOI, ++numero, RotuloAOI(k, entrada, lado),
-                            [&] { return CalcularAOI(vecindad(), radios, lado == Lado::Unilateral, k); });
+                    columna(
+                        r.IndAOI, ++numero, [&] { return RotuloAOI(k, entrada, lado); },
+                        [&] { return CalcularAOI(vecindad(), radios, lado, k); });
                 }
             }
         }
     }
 
-    SumaDePotencias leerRadio(int entrada) const {
-        try {
-            return LeerRadioDeInfluencia(opciones_.LstAOI.List(entrada - 1));
-        } catch (ErrorEjecucion& error) {
-            error.en("línea " + std::to_string(entrada) + " de LstAOI");
-            throw;
-        }
+    [[nodiscard]] SumaDePotencias leerRadio(int entrada) const {
+        return EnLugar([&] { return "línea " + std::to_string(entrada) + " de LstAOI"; },
+                       [&] { return LeerRadioDeInfluencia(opciones_.LstAOI.List(entrada - 1)); });
     }
 
     void faseIDP() {
         auto& r = resultados_;
-        r.IDP = IntervaloDeSeleccion(opciones_, 0);
-        r.NumParamIDP = CuantosParametros(opciones_, 0, r.IDP);
-        r.NumLadosIDP = Pasadas(opciones_.ChIDPBil, opciones_.ChIDPUni);
-        r.NumCentralIDP = Pasadas(opciones_.ChIDPSi, opciones_.ChIDPNo);
+        const auto lados = LadosDe(opciones_.ChIDPBil, opciones_.ChIDPUni);
+        const auto formas = PasadasDe(opciones_.ChIDPSi, FormaIDP::ConArbolCentral, opciones_.ChIDPNo,
+                                      FormaIDP::SinArbolCentral);
+        r.IDP = IntervaloDeSeleccion(opciones_, seleccionIDP);
+        r.NumParamIDP = CuantosParametros(opciones_, seleccionIDP, r.IDP);
+        r.NumLadosIDP = static_cast<int>(lados.size());
+        r.NumCentralIDP = static_cast<int>(formas.size());
         r.NumColIDP = Entero16{r.NumLadosIDP.valor() * r.NumParamIDP * r.NumCentralIDP.valor()};
         r.IndIDP.redimensionar(r.NumColIDP.valor() - 1, cuantosArboles() - 1);
-        const ReglaDeSeleccion regla = ReglaElegida(opciones_, 0);
+        const ReglaDeSeleccion regla = ReglaElegida(opciones_, seleccionIDP);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorAngulo};
         int numero = -1;
-        for (int pasada = 1; pasada <= r.NumLadosIDP.valor(); ++pasada) {
-            const Lado lado = LadoDe(pasada, opciones_.ChIDPBil, opciones_.ChIDPUni);
-            for (int central = 1; central <= r.NumCentralIDP.valor(); ++central) {
-                const FormaIDP forma = formaCentral(central);
-                for (const double p : ValoresDe(r.IDP)) {
-                    poner(seleccion, regla, 0, p);
-                    const std::string rotulo = RotuloIDP(PrefijoDeRegla(regla), enRotulo(regla, p), lado,
-                                                         forma == FormaIDP::ConArbolCentral);
-                    columna(r.IndIDP, ++numero, rotulo, [&] {
-                        return CalcularIDP(arboles(), seleccion, lado == Lado::Unilateral, forma);
-                    });
-                }
-            }
+        for (const PedidaIDP& pedida : pedidasIDP(lados, formas)) {
+            poner(seleccion, regla, seleccionIDP, pedida.p);
+            const auto rotulo = [&] {
+                return RotuloIDP(PrefijoDeRegla(regla), enRotulo(regla, pedida.p), pedida.lado,
+                                 pedida.forma == FormaIDP::ConArbolCentral);
+            };
+            columna(r.IndIDP, ++numero, rotulo,
+                    [&] { return CalcularIDP(arboles(), seleccion, pedida.lado, pedida.forma); });
         }
     }
 
-    /// The first of two passes takes the central tree in; a single one, unless the check of No is on.
-    [[nodiscard]] FormaIDP formaCentral(int central) const {
-        const bool sinArbolCentral =
-            resultados_.NumCentralIDP == 2 ? central == 2 : opciones_.ChIDPNo.Value() == 1;
-        return sinArbolCentral ? FormaIDP::SinArbolCentral : FormaIDP::ConArbolCentral;
+    [[nodiscard]] std::vector<PedidaIDP> pedidasIDP(const std::vector<Lado>& lados,
+                                                    const std::vector<FormaIDP>& formas) const {
+        std::vector<PedidaIDP> pedidas;
+        for (const Lado lado : lados) {
+            for (const FormaIDP forma : formas) {
+                for (const double p : ValoresDe(resultados_.IDP)) {
+                    pedidas.push_back({lado, forma, p});
+                }
+            }
+        }
+        return pedidas;
     }
 
     void faseDR() {
         auto& r = resultados_;
-        r.DR = IntervaloDeSeleccion(opciones_, 1);
-        r.DRk = LeerIntervalo(opciones_, 4);
-        r.NumParamDR = CuantosParametros(opciones_, 1, r.DR);
-        r.NumLadosDR = Pasadas(opciones_.ChDRBil, opciones_.ChDRUni);
+        const auto lados = LadosDe(opciones_.ChDRBil, opciones_.ChDRUni);
+        r.DR = IntervaloDeSeleccion(opciones_, seleccionDR);
+        r.DRk = LeerIntervalo(opciones_, exponenteDR);
+        r.NumParamDR = CuantosParametros(opciones_, seleccionDR, r.DR);
+        r.NumLadosDR = static_cast<int>(lados.size());
         r.NumFuncDR = opciones_.LstDist.ListCount();
         r.NumColDR =
             Entero16{r.NumLadosDR.valor() * r.NumParamDR * r.NumFuncDR.valor() * CuantosCaben(r.DRk)};
         r.IndDR.redimensionar(r.NumColDR.valor() - 1, cuantosArboles() - 1);
-        const ReglaDeSeleccion regla = ReglaElegida(opciones_, 1);
+        const ReglaDeSeleccion regla = ReglaElegida(opciones_, seleccionDR);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorDistancia};
         std::vector<EntradaDeDistancia> entradas = entradasDeDistancia();
         int numero = -1;
-        for (int pasada = 1; pasada <= r.NumLadosDR.valor(); ++pasada) {
-            const Lado lado = LadoDe(pasada, opciones_.ChDRBil, opciones_.ChDRUni);
-            for (const double k : ValoresDe(r.DRk)) {
-                for (int e = 0; e < r.NumFuncDR.valor(); ++e) {
-                    for (const double p : ValoresDe(r.DR)) {
-                        poner(seleccion, regla, 1, p);
-                        const std::string rotulo =
-                            RotuloDR(k, PrefijoDeRegla(regla), enRotulo(regla, p), e + 1, lado);
-                        columna(r.IndDR, ++numero, rotulo, [&] {
-                            return CalcularDR(vecindad(), seleccion, lado == Lado::Unilateral,
-                                              entradas[static_cast<std::size_t>(e)], k);
-                        });
+        for (const PedidaDR& pedida : pedidasDR(lados, entradas.size())) {
+            poner(seleccion, regla, seleccionDR, pedida.p);
+            const auto rotulo = [&] {
+                return RotuloDR(pedida.k, PrefijoDeRegla(regla), enRotulo(regla, pedida.p),
+                                static_cast<int>(pedida.entrada) + 1, pedida.lado);
+            };
+            columna(r.IndDR, ++numero, rotulo, [&] {
+                return CalcularDR(arboles(), seleccion, pedida.lado, entradas[pedida.entrada], pedida.k);
+            });
+        }
+    }
+
+    [[nodiscard]] std::vector<PedidaDR> pedidasDR(const std::vector<Lado>& lados,
+                                                  std::size_t entradas) const {
+        std::vector<PedidaDR> pedidas;
+        for (const Lado lado : lados) {
+            for (const double k : ValoresDe(resultados_.DRk)) {
+                for (std::size_t entrada = 0; entrada < entradas; ++entrada) {
+                    for (const double p : ValoresDe(resultados_.DR)) {
+                        pedidas.push_back({lado, k, entrada, p});
                     }
                 }
             }
         }
+        return pedidas;
     }
 
     [[nodiscard]] std::vector<EntradaDeDistancia> entradasDeDistancia() const {
@@ -215,17 +237,18 @@ private:
 
     void faseAPA() {
         auto& r = resultados_;
-        r.APAk = LeerIntervalo(opciones_, 8);
+        r.APAk = LeerIntervalo(opciones_, exponenteAPA);
         r.NumColAPA = Entero16{CuantosCaben(r.APAk)};
         r.IndAPA.redimensionar(r.NumColAPA.valor() - 1, cuantosArboles() - 1);
         int numero = -1;
         for (const double k : ValoresDe(r.APAk)) {
-            columna(r.IndAPA, ++numero, RotuloAPA(k),
-                    [&] { return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k); });
+            columna(
+                r.IndAPA, ++numero, [&] { return RotuloAPA(k); },
+                [&] { return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k); });
         }
     }
 
-    void poner(Seleccion& seleccion, ReglaDeSeleccion regla, int familia, double p) const {
+    void poner(Seleccion& seleccion, ReglaDeSeleccion regla, FamiliaConSeleccion familia, double p) const {
         if (regla == ReglaDeSeleccion::Funcion) {
             seleccion.poner(opciones_.LstRich(familia).List(static_cast<int>(p)));
         } else {
@@ -238,17 +261,15 @@ private:
         return regla == ReglaDeSeleccion::Funcion ? p + 1 : p;
     }
 
-    static void columna(Columnas& indice, int numero, const std::string& rotulo,
+    static void columna(IndicePorColumnas& indice, int numero, const Rotulo& rotulo,
                         const std::function<std::vector<double>()>& calcular) {
-        try {
-            const std::vector<double> valores = calcular();
-            for (int i = 0; i < static_cast<int>(valores.size()); ++i) {
-                indice(numero, i) = valores[static_cast<std::size_t>(i)];
-            }
-        } catch (ErrorEjecucion& error) {
-            error.en("columna " + rotulo);
-            throw;
-        }
+        EnLugar([&] { return "columna " + rotulo(); },
+                [&] {
+                    const std::vector<double> valores = calcular();
+                    for (int i = 0; i < static_cast<int>(valores.size()); ++i) {
+                        indice(numero, i) = valores[static_cast<std::size_t>(i)];
+                    }
+                });
     }
 
     [[nodiscard]] int cuantosArboles() { return static_cast<int>(arboles().cuantos()); }

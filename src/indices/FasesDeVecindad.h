@@ -7,8 +7,8 @@ namespace varo {
 class Programa;
 class OpcionesPrograma;
 
-/// Computes, in that order, the families whose switches are on. The hourglass that they put on the map stays
-/// when they end well, which is meant. A fault gets the family and the column in its place.
+/// Computes, in that order, the families whose switches are on. A fault gets the family and the column in its
+/// place, and takes away the hourglass of the map. Meant: the hourglass stays when a family ends well.
 void CorrerFasesDeVecindad(Programa& programa);
 
 /// What cannot be computed yet is refused with a fault that names it.

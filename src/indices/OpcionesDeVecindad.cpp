@@ -1,6 +1,6 @@
 #include "indices/OpcionesDeVecindad.h"
 
-#include "basico/ErrorEjecucion.h"
+#include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 
 namespace varo {
@@ -8,17 +8,12 @@ namespace varo {
 namespace {
 
 double Numero(const CajaTexto& caja) {
-    try {
-        return ANumero(caja.Text());
-    } catch (ErrorEjecucion& error) {
-        error.en("campo " + caja.nombreCompleto());
-        throw;
-    }
+    return EnLugar([&] { return "campo " + caja.nombreCompleto(); }, [&] { return ANumero(caja.Text()); });
 }
 
 } // namespace
 
-ReglaDeSeleccion ReglaElegida(const OpcionesPrograma& opciones, int familia) {
+ReglaDeSeleccion ReglaElegida(const OpcionesPrograma& opciones, FamiliaConSeleccion familia) {
     if (opciones.OptBAF(familia).Value()) {
         return ReglaDeSeleccion::BAF;
     }
@@ -28,24 +23,24 @@ ReglaDeSeleccion ReglaElegida(const OpcionesPrograma& opciones, int familia) {
     return opciones.OptFunc(familia).Value() ? ReglaDeSeleccion::Funcion : ReglaDeSeleccion::Distancia;
 }
 
-Intervalo LeerIntervalo(const OpcionesPrograma& opciones, int i) {
+Intervalo LeerIntervalo(const OpcionesPrograma& opciones, int miembro) {
     Intervalo intervalo;
-    intervalo.Desde = Numero(opciones.TxtBAF1(i));
-    intervalo.Hasta = Numero(opciones.TxtBAF2(i));
-    intervalo.Paso = Numero(opciones.TxtBAF3(i));
+    intervalo.Desde = Numero(opciones.TxtBAF1(miembro));
+    intervalo.Hasta = Numero(opciones.TxtBAF2(miembro));
+    intervalo.Paso = Numero(opciones.TxtBAF3(miembro));
     return SinDegenerar(intervalo);
 }
 
-Intervalo IntervaloDeSeleccion(const OpcionesPrograma& opciones, int familia) {
-    const ReglaDeSeleccion regla = ReglaElegida(opciones, familia);
-    if (regla == ReglaDeSeleccion::Funcion) {
+Intervalo IntervaloDeSeleccion(const OpcionesPrograma& opciones, FamiliaConSeleccion familia) {
+    if (ReglaElegida(opciones, familia) == ReglaDeSeleccion::Funcion) {
         return {0, static_cast<double>(opciones.LstRich(familia).ListCount() - 1), 1};
     }
-    const bool deNumero = opciones.OptBAF(familia).Value() || opciones.OptRadioFijo(familia).Value();
-    return LeerIntervalo(opciones, 2 * familia + (deNumero ? 0 : 1));
+    const bool conDecimales = opciones.OptBAF(familia).Value() || opciones.OptRadioFijo(familia).Value();
+    return LeerIntervalo(opciones, conDecimales ? ParametroDe(familia) : PiesDe(familia));
 }
 
-double CuantosParametros(const OpcionesPrograma& opciones, int familia, const Intervalo& intervalo) {
+double CuantosParametros(const OpcionesPrograma& opciones, FamiliaConSeleccion familia,
+                         const Intervalo& intervalo) {
     return ReglaElegida(opciones, familia) == ReglaDeSeleccion::Funcion
                ? opciones.LstRich(familia).ListCount()
                : CuantosCaben(intervalo);

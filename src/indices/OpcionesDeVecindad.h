@@ -7,17 +7,18 @@
 
 namespace varo {
 
-/// The choice of competitors of IDP (0) or DR (1).
-ReglaDeSeleccion ReglaElegida(const OpcionesPrograma& opciones, int familia);
+/// The choice of competitors.
+ReglaDeSeleccion ReglaElegida(const OpcionesPrograma& opciones, FamiliaConSeleccion familia);
 
-/// The sweep typed into member i of TxtBAF1, TxtBAF2 and TxtBAF3. A text that is no number throws 13, with
+/// The sweep typed into a member of TxtBAF1, TxtBAF2 and TxtBAF3. A text that is no number throws 13, with
 /// the field in its place.
-Intervalo LeerIntervalo(const OpcionesPrograma& opciones, int i);
+Intervalo LeerIntervalo(const OpcionesPrograma& opciones, int miembro);
 
-/// The sweep of the selection parameter of IDP (0) or DR (1): with functions, over the lines of their list.
-Intervalo IntervaloDeSeleccion(const OpcionesPrograma& opciones, int familia);
+/// The sweep of the selection parameter: with functions, over the lines of their list, from 0.
+Intervalo IntervaloDeSeleccion(const OpcionesPrograma& opciones, FamiliaConSeleccion familia);
 /// How many values it has, not rounded.
-double CuantosParametros(const OpcionesPrograma& opciones, int familia, const Intervalo& intervalo);
+double CuantosParametros(const OpcionesPrograma& opciones, FamiliaConSeleccion familia,
+                         const Intervalo& intervalo);
 
 /// 2 with both checks on, else 1.
 int Pasadas(const Casilla& una, const Casilla& otra);

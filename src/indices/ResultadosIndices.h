@@ -3,15 +3,15 @@
 
 #include "basico/Entero16.h"
 #include "basico/MatrizDinamica.h"
+#include "indices/independientes/Familias.h"
 #include "indices/vecinos/Intervalo.h"
 
 #include <array>
-#include <string_view>
 
 namespace varo {
 
-/// One array per family, one element per tree row; with the families that stand alone the last element is
-/// spare. A family that was not active in a run keeps the array of an earlier one.
+/// One array per family, one element per tree row; the distance-independent families have a spare one at the
+/// end. A family that is not active in a run keeps the array of an earlier one.
 struct ResultadosIndices {
     using Indice = MatrizDinamica<double>;
 
@@ -22,11 +22,11 @@ struct ResultadosIndices {
     Indice IndAPBmed, IndAPBmax, IndAPBsum;
 
     // The families of neighbours: by column (ISC: variant) and tree.
-    using Columnas = TablaDinamica<double>;
+    using IndicePorColumnas = TablaDinamica<double>;
 
-    Columnas IndISC, IndAOI, IndIDP, IndDR, IndAPA;
+    IndicePorColumnas IndISC, IndAOI, IndIDP, IndDR, IndAPA;
 
-    // Their sweeps and counts, by which the file labels the columns.
+    // Their sweeps and counts; the file labels the columns by them.
     Intervalo AOIk, IDP, DR, DRk, APAk;
     double NumISC = 0;
     Entero16 NumFuncAOI, NumLadosAOI, NumColAOI;
@@ -35,25 +35,6 @@ struct ResultadosIndices {
     double NumParamDR = 0;
     Entero16 NumLadosDR, NumFuncDR, NumColDR;
     Entero16 NumColAPA;
-};
-
-/// The distance-independent families in the order in which a run computes them.
-enum class Independiente {
-    N,
-    AB,
-    ABj,
-    Dmed,
-    Dmax,
-    Ddom,
-    Bmed,
-    Bmax,
-    Bdom,
-    APDmed,
-    APDmax,
-    APDsum,
-    APBmed,
-    APBmax,
-    APBsum
 };
 
 /// A column of the results file: the check that asks for it, its header and the array behind it.

@@ -2,8 +2,10 @@
 
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
+#include "data/FilasDeArboles.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
+#include "data/Papeles.h"
 #include "formularios/Reloj.h"
 #include "map/FrmMapa.h"
 #include "options/OpcionesPrograma.h"
@@ -61,7 +63,7 @@ void FrmFormato::Form_Load() {
     const auto& sesion = programa_.sesion;
     if (programa_.tocar<OpcionesPrograma>().ChCodigo.Value() == 1) {
         const Entero16 columnaCodigo = sesion.Columnas(sesion.UltimaColumna.valor());
-        if (columnaCodigo != sesion.Columnas(0)) {
+        if (columnaCodigo != sesion.Columnas(papelX)) {
             auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
             rejilla.Col(columnaCodigo.valor());
             rejilla.OrdenarAscendente();
@@ -152,8 +154,8 @@ void FrmFormato::limpiarRejilla() {
     // The bound is taken once: after a removal the walk runs past the end, and that fault ends it.
     saltando([&] {
         for (int fila = 1; fila <= ultima; ++fila) {
-            if (rejilla.TextMatrix(fila, sesion.Columnas(0).valor()).empty() &&
-                rejilla.TextMatrix(fila, sesion.Columnas(1).valor()).empty()) {
+            if (rejilla.TextMatrix(fila, sesion.Columnas(papelX).valor()).empty() &&
+                rejilla.TextMatrix(fila, sesion.Columnas(papelY).valor()).empty()) {
                 rejilla.RemoveItem(fila);
                 --fila;
             }
@@ -163,25 +165,22 @@ void FrmFormato::limpiarRejilla() {
 
 std::vector<double> FrmFormato::LeerColumna(int columna) const {
     const auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
-    std::vector<double> valores;
-    valores.reserve(static_cast<std::size_t>(rejilla.Rows()));
-    for (int fila = 1; fila < rejilla.Rows(); ++fila) {
+    return PorArbol(rejilla, [&](int fila) {
         const std::string& celda = rejilla.TextMatrix(fila, columna);
-        valores.push_back(EsNumerico(celda) ? ANumero(celda) : -1.0);
-    }
-    return valores;
+        return EsNumerico(celda) ? ANumero(celda) : -1.0;
+    });
 }
 
 void FrmFormato::prepararSuperficies() {
     const auto& sesion = programa_.sesion;
-    const Escala escala =
-        CalcularEscala(LeerColumna(sesion.Columnas(0).valor()), LeerColumna(sesion.Columnas(1).valor()));
+    const Escala escala = CalcularEscala(LeerColumna(sesion.Columnas(papelX).valor()),
+                                         LeerColumna(sesion.Columnas(papelY).valor()));
     programa_.tocar<FrmMapa>().escala = escala;
     programa_.tocar<FrmMapa2>().escala = escala;
 }
 
 void FrmFormato::CmdAceptar_Click() {
-    const Reloj reloj{*this};
+    const auto reloj = PonerReloj(*this);
     limpiarRejilla();
     prepararSuperficies();
     ConstruirPoligono(programa_);

@@ -3,6 +3,7 @@
 #include "basico/Texto.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
+#include "data/Papeles.h"
 #include "indices/CorridaIndices.h"
 #include "map/FrmFormato.h"
 #include "options/OpcionesPrograma.h"
@@ -63,7 +64,7 @@ void FrmMapa::LbLeyenda_DblClick() {
 void FrmMapa::Npies_ha() {
     auto& sesion = programa_.sesion;
     const bool conCodigo = programa_.tocar<OpcionesPrograma>().ChCodigo.Value() == 1;
-    const int papel = conCodigo ? sesion.UltimaColumna.valor() : 2;
+    const int papel = conCodigo ? sesion.UltimaColumna.valor() : PapelDeCopa(0);
     auto& datos = programa_.tocar<Hojadedatos>().Data1;
     const auto& campo = datos.Recordset().campos()(sesion.Columnas(papel).valor() - 1).Name;
     sesion.PiesHaActual =

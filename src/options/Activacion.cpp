@@ -31,11 +31,11 @@ void OpcionesPrograma::ChIDPActivar_Click() {
     const bool encender = !ChIDPUni.Enabled();
     if (encender) {
         habilitar(controlesIDP(), true);
-        FramFunc(0).Visible = false;
+        FramFunc(seleccionIDP).Visible = false;
     } else {
-        OptBAF(0).Value = true;
+        OptBAF(seleccionIDP).Value = true;
         habilitar(controlesIDP(), false);
-        mostrar(controlesDeFuncion(0), false);
+        mostrar(controlesDeFuncion(seleccionIDP), false);
     }
 }
 
@@ -45,9 +45,9 @@ void OpcionesPrograma::ChDRActivar_Click() {
         habilitar(controlesDR(), true);
     } else {
         OptDistHiper.Value = true;
-        OptBAF(1).Value = true;
+        OptBAF(seleccionDR).Value = true;
         habilitar(controlesDR(), false);
-        mostrar(controlesDeFuncion(1), false);
+        mostrar(controlesDeFuncion(seleccionDR), false);
     }
     ImgHiper2.Visible = encender;
 }
@@ -63,31 +63,38 @@ OpcionesPrograma::Controles OpcionesPrograma::controlesISC() {
 }
 
 OpcionesPrograma::Controles OpcionesPrograma::controlesAPA() {
-    return {&Label4,     &ImgAPA,    &FramAPAk,  &TxtBAF1(8), &TxtBAF2(8),
-            &TxtBAF3(8), &Label5(3), &Label6(3), &Label7(3)};
+    constexpr int k = exponenteAPA;
+    return {&Label4,     &ImgAPA,    &FramAPAk,  &TxtBAF1(k), &TxtBAF2(k),
+            &TxtBAF3(k), &Label5(3), &Label6(3), &Label7(3)};
 }
 
 OpcionesPrograma::Controles OpcionesPrograma::controlesAOI() {
+    constexpr int k = exponenteAOI;
     return {&FramRazon, &OptAOIDjDi, &FramAOIBilUni, &ChAOIBil,   &ChAOIUni,   &FramAOIk,     &Label1,
-            &Label2,    &Label3,     &TxtBAF1(6),    &TxtBAF2(6), &TxtBAF3(6), &FramInflu,    &LstAOI,
+            &Label2,    &Label3,     &TxtBAF1(k),    &TxtBAF2(k), &TxtBAF3(k), &FramInflu,    &LstAOI,
             &TxtRm(0),  &TxtRm(1),   &TxtRm(2),      &TxtRm(3),   &TxtRm(4),   &LbA,          &LbB,
             &LbC,       &LbD,        &LbE,           &CmdAñadir,  &CmdQuitar2, &CmdQuitarTodo};
 }
 
 OpcionesPrograma::Controles OpcionesPrograma::controlesIDP() {
-    return {&FramSelCom(0), &OptBAF(0), &OptNumFijo(0), &OptRadioFijo(0), &OptFunc(0), &FramBAF(0),
-            &Label5(0),     &Label6(0), &Label7(0),     &TxtBAF1(0),      &TxtBAF2(0), &TxtBAF3(0),
+    constexpr int i = seleccionIDP;
+    constexpr int p = parametroIDP;
+    return {&FramSelCom(i), &OptBAF(i), &OptNumFijo(i), &OptRadioFijo(i), &OptFunc(i), &FramBAF(i),
+            &Label5(i),     &Label6(i), &Label7(i),     &TxtBAF1(p),      &TxtBAF2(p), &TxtBAF3(p),
             &FramIDPBilUni, &ChIDPBil,  &ChIDPUni,      &Label8,          &ChIDPNo,    &ChIDPSi};
 }
 
 OpcionesPrograma::Controles OpcionesPrograma::controlesDR() {
+    constexpr int k = exponenteDR;
+    constexpr int i = seleccionDR;
+    constexpr int p = parametroDR;
     return {&FramRsij,   &OptDRDjDi,     &FramDRBilUni,    &ChDRBil,       &ChDRUni,       &FramDRk,
-            &Label5(2),  &Label6(2),     &Label7(2),       &TxtBAF1(4),    &TxtBAF2(4),    &TxtBAF3(4),
+            &Label5(2),  &Label6(2),     &Label7(2),       &TxtBAF1(k),    &TxtBAF2(k),    &TxtBAF3(k),
             &FramDist,   &OptDistHiper,  &OptDistExp,      &LstDist,       &TxtEXP(0),     &TxtEXP(1),
             &TxtEXP(2),  &TxtEXP(3),     &TxtEXP(4),       &Label14(2),    &Label15(2),    &Label16(2),
-            &Label17(2), &Label18(2),    &CmdAñadirDist,   &CmdQuitarDist, &CmdVaciarDist, &FramSelCom(1),
-            &OptBAF(1),  &OptNumFijo(1), &OptRadioFijo(1), &OptFunc(1),    &FramBAF(1),    &Label5(1),
-            &Label6(1),  &Label7(1),     &TxtBAF1(2),      &TxtBAF2(2),    &TxtBAF3(2)};
+            &Label17(2), &Label18(2),    &CmdAñadirDist,   &CmdQuitarDist, &CmdVaciarDist, &FramSelCom(i),
+            &OptBAF(i),  &OptNumFijo(i), &OptRadioFijo(i), &OptFunc(i),    &FramBAF(i),    &Label5(i),
+            &Label6(i),  &Label7(i),     &TxtBAF1(p),      &TxtBAF2(p),    &TxtBAF3(p)};
 }
 
 } // namespace varo

@@ -39,20 +39,20 @@ void OpcionesPrograma::mostrarIntervalo(int i, const char* leyenda, int miembro,
 }
 
 void OpcionesPrograma::OptBAF_Click(int i) {
-    mostrarIntervalo(i, "BAF (m2/ha)", 2 * i, 2 * i + 1);
+    mostrarIntervalo(i, "BAF (m2/ha)", ParametroDe(i), PiesDe(i));
 }
 
 void OpcionesPrograma::OptRadioFijo_Click(int i) {
-    mostrarIntervalo(i, "Distancia Fija (m)", 2 * i, 2 * i + 1);
+    mostrarIntervalo(i, "Distancia Fija (m)", ParametroDe(i), PiesDe(i));
 }
 
 void OpcionesPrograma::OptNumFijo_Click(int i) {
-    mostrarIntervalo(i, "Número de pies", 2 * i + 1, 2 * i);
-    habilitar(camposDeIntervalo(2 * i + 1), true); // the switch of the family leaves them alone
+    mostrarIntervalo(i, "Número de pies", PiesDe(i), ParametroDe(i));
+    habilitar(camposDeIntervalo(PiesDe(i)), true); // the switch of the family leaves them alone
 }
 
 void OpcionesPrograma::OptFunc_Click(int i) {
-    mostrar(camposDeIntervalo(2 * i), false); // those of the stems go with their frame
+    mostrar(camposDeIntervalo(ParametroDe(i)), false); // those of the stems go with their frame
     FramBAF(i).Visible = false;
     FramFunc(i).Visible = true;
     OptRichard(i).Value = true;
@@ -98,7 +98,7 @@ void OpcionesPrograma::TxtBAF2_LostFocus(int i) {
         return;
     }
     if (numero(ultimo) < numero(primero)) {
-        ultimo.Text = primero.Text(); // the step is meant to stay as it was
+        ultimo.Text = primero.Text(); // Meant: the step stays as it was.
     } else if (numero(primero) < numero(ultimo)) {
         paso.Text = ATextoCorto(recorrido(i));
     } else {
@@ -124,7 +124,7 @@ void OpcionesPrograma::completarPaso(int i) {
         return;
     }
     if (ReparoACaracteres(TxtBAF1(i).Text(), i)) {
-        exigirPasosEnteros(i); // once more, and a step of 0 divides here: both are meant
+        exigirPasosEnteros(i); // Meant: once more, and a step of 0 divides here.
         return;
     }
     const bool sinPaso = paso.Text().empty() || (EsNumerico(paso.Text()) && numero(paso) == 0);

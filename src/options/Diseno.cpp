@@ -62,7 +62,7 @@ void OpcionesPrograma::disponerAOI() {
     meter(FramAOIBilUni, {&ChAOIBil, &ChAOIUni});
     meter(FramRazon, {&OptAOIDjDi});
     meter(FramAOIk, {&Label1, &Label2, &Label3});
-    crearIntervalo(6, "0,00", FramAOIk);
+    crearIntervalo(exponenteAOI, "0,00", FramAOIk);
     for (int i = 0; i < 5; ++i) {
         crearEn(FramInflu, TxtRm, i, "0,0000");
     }
@@ -74,15 +74,15 @@ void OpcionesPrograma::disponerAOI() {
 }
 
 void OpcionesPrograma::disponerIDP() {
-    crearSeleccion(0,
+    crearSeleccion(seleccionIDP,
                    {"Factor de Area Basimétrica (BAF)", "Número de pies fijo", "Distancia fija",
                     "Distancia función de dbh"},
                    Frame11);
     // The interval and the two checks lie over Frame11, not in it.
-    ponerEnFicha(SSTab1, fichaIDP, {&Frame11, &ChIDPUni, &ChIDPBil, &FramBAF(0)});
+    ponerEnFicha(SSTab1, fichaIDP, {&Frame11, &ChIDPUni, &ChIDPBil, &FramBAF(seleccionIDP)});
     meter(Frame11, {&ChIDPActivar, &FramIDPBilUni, &Label8, &ChIDPSi, &ChIDPNo, &Image4, &Image3});
     habilitar(controlesIDP(), false);
-    mostrar(camposDeIntervalo(1), false);
+    mostrar(camposDeIntervalo(piesIDP), false);
 }
 
 void OpcionesPrograma::disponerDR() {
@@ -90,11 +90,11 @@ void OpcionesPrograma::disponerDR() {
     meter(FramDR, {&ChDRActivar, &Image7, &FramDRBilUni, &FramRsij, &FramDRk, &FramDist});
     meter(FramDRBilUni, {&ChDRBil, &ChDRUni});
     meter(FramRsij, {&OptDRDjDi, &OptDRHjHi});
-    crearIntervalo(4, "0,00", FramDRk);
+    crearIntervalo(exponenteDR, "0,00", FramDRk);
     crearRotulosDeIntervalo(2, "Intervalo:", FramDRk);
     disponerDistancia();
-    crearSeleccion(1, {"BAF", "Num de pies", "Distancia fija", "Función de dbh"}, FramDR);
-    meter(FramDR, {&FramBAF(1)});
+    crearSeleccion(seleccionDR, {"BAF", "Num de pies", "Distancia fija", "Función de dbh"}, FramDR);
+    meter(FramDR, {&FramBAF(seleccionDR)});
     habilitar(controlesDR(), false);
     OptDRHjHi.Enabled = false;
 }
@@ -112,7 +112,7 @@ void OpcionesPrograma::disponerDistancia() {
 void OpcionesPrograma::disponerAPA() {
     ponerEnFicha(SSTab1, 6, {&FramAPA});
     meter(FramAPA, {&ChAPA, &Label4, &ImgAPA, &FramAPAk});
-    crearIntervalo(8, "0,00", FramAPAk);
+    crearIntervalo(exponenteAPA, "0,00", FramAPAk);
     crearRotulosDeIntervalo(3, "Intervalo:", FramAPAk);
     habilitar(controlesAPA(), false);
 }
@@ -127,10 +127,9 @@ void OpcionesPrograma::crearSeleccion(int i, const std::array<const char*, 4>& l
 
     Marco& intervalo = FramBAF.crear(i, " BAF (m2/ha)");
     crearRotulosDeIntervalo(i, "Intervalos de:", intervalo);
-    crearIntervalo(2 * i, "0,00", intervalo);
-    const int pies = 2 * i + 1;
-    crearIntervalo(pies, "1", intervalo);
-    habilitar(camposDeIntervalo(pies), false);
+    crearIntervalo(ParametroDe(i), "0,00", intervalo);
+    crearIntervalo(PiesDe(i), "1", intervalo);
+    habilitar(camposDeIntervalo(PiesDe(i)), false);
     crearFunciones(i, marco);
 }
 

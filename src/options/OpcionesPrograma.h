@@ -4,6 +4,7 @@
 
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
+#include "options/Miembros.h"
 #include "options/Validacion.h"
 
 #include <array>
@@ -15,9 +16,7 @@ namespace varo {
 
 class Programa;
 
-/// Index 0 of the arrays of the competitor selection is the point density index, index 1 the
-/// distance-weighted one. Their interval fields, TxtBAF1 to TxtBAF3 (first, last, step), are members 2i
-/// (decimals) and 2i + 1 (numbers of stems); members 4, 6 and 8 hold the exponents k of DR, AOI and APA.
+/// Miembros.h names the members of the arrays of competitor selection and of the intervals.
 class OpcionesPrograma : public Formulario {
 public:
     explicit OpcionesPrograma(Programa& programa);

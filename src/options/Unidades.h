@@ -24,11 +24,11 @@ inline int FactorDeRadios(const OpcionesPrograma& opciones) {
     return opciones.Optdecim.Value ? 10 : 100;
 }
 
-inline FormaDeCopa FormaDeLaCopa(const OpcionesPrograma& opciones) {
+inline DatosDeCopa DatosDeLaCopa(const OpcionesPrograma& opciones) {
     if (opciones.Opt4R.Value) {
-        return FormaDeCopa::CuatroRadios;
+        return DatosDeCopa::CuatroRadios;
     }
-    return opciones.Opt2D.Value ? FormaDeCopa::DosDiametros : FormaDeCopa::RadioMedio;
+    return opciones.Opt2D.Value ? DatosDeCopa::DosDiametros : DatosDeCopa::RadioMedio;
 }
 
 } // namespace varo

@@ -1,5 +1,7 @@
 #include "options/Validacion.h"
 
+#include "basico/AlSalir.h"
+#include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 #include "options/OpcionesPrograma.h"
 #include "shell/Programa.h"
@@ -16,18 +18,6 @@ const Aviso valorNoNatural{"Sólo se admiten números naturales", "Error en la i
 bool Contiene(std::string_view texto, std::string_view caracteres) {
     return texto.find_first_of(caracteres) != std::string_view::npos;
 }
-
-/// Says for as long as it lives that a message box is open.
-class Abierto {
-public:
-    explicit Abierto(bool& senal) : senal_{senal} { senal_ = true; }
-    Abierto(const Abierto&) = delete;
-    Abierto& operator=(const Abierto&) = delete;
-    ~Abierto() { senal_ = false; }
-
-private:
-    bool& senal_;
-};
 
 } // namespace
 
@@ -50,7 +40,7 @@ std::optional<Aviso> ReparoACoeficienteNoNegativo(std::string_view texto) {
 }
 
 std::optional<Aviso> ReparoACaracteres(std::string_view texto, int miembro) {
-    if (miembro % 2 == 1) {
+    if (EsDePies(miembro)) {
         return Contiene(texto, ".,-") ? std::optional{valorNoNatural} : std::nullopt;
     }
     return Contiene(texto, ".") ? std::optional{separacionErronea} : std::nullopt;
@@ -140,7 +130,8 @@ bool OpcionesPrograma::admite(CajaTexto& campo, const std::optional<Aviso>& repa
 }
 
 void OpcionesPrograma::avisar(const Aviso& aviso) {
-    const Abierto abierto{avisoAbierto_};
+    avisoAbierto_ = true;
+    const AlSalir cerrado{[this] { avisoAbierto_ = false; }};
     programa_.servicios().mensaje(aviso.texto, aviso.titulo, mensaje::exclamacion);
 }
 
@@ -150,12 +141,7 @@ void OpcionesPrograma::avisar(const Aviso& aviso, CajaTexto& campo) {
 }
 
 double OpcionesPrograma::numero(const CajaTexto& campo) {
-    try {
-        return ANumero(campo.Text());
-    } catch (ErrorEjecucion& error) {
-        error.en("campo " + campo.nombreCompleto());
-        throw;
-    }
+    return EnLugar([&] { return "campo " + campo.nombreCompleto(); }, [&] { return ANumero(campo.Text()); });
 }
 
 } // namespace varo

@@ -24,7 +24,7 @@ std::optional<Aviso> ReparoACoeficiente(std::string_view texto);
 /// A number without a minus sign, the exponent's included.
 std::optional<Aviso> ReparoACoeficienteNoNegativo(std::string_view texto);
 
-/// Only the characters of an interval's field: odd members hold natural numbers, even ones decimals.
+/// Only the characters of an interval's field: natural numbers or decimals, as its member holds (Miembros.h).
 std::optional<Aviso> ReparoACaracteres(std::string_view texto, int miembro);
 
 /// A field of an interval when it is left: a number, of the characters of its member.

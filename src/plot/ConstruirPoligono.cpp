@@ -1,7 +1,10 @@
 #include "plot/ConstruirPoligono.h"
 
+#include "basico/EnLugar.h"
 #include "basico/Numeros.h"
+#include "data/FilasDeArboles.h"
 #include "data/Hojadedatos.h"
+#include "data/Papeles.h"
 #include "options/Unidades.h"
 #include "plot/calculo/AreaBasimetrica.h"
 #include "plot/calculo/Envolvente.h"
@@ -11,33 +14,24 @@ namespace varo {
 
 namespace {
 
-/// The cells of the trees, with the place in every fault.
-class CeldasDeArboles {
+/// The cells of the grid, with the place in every fault.
+class CeldasSituadas {
 public:
-    explicit CeldasDeArboles(const Rejilla& rejilla) : rejilla_{rejilla} {}
+    explicit CeldasSituadas(const Rejilla& rejilla) : rejilla_{rejilla} {}
 
     [[nodiscard]] const std::string& texto(int fila, int columna) const {
         return rejilla_.TextMatrix(fila, columna);
     }
 
     [[nodiscard]] double numero(int fila, int columna) const {
-        try {
-            return ANumero(texto(fila, columna));
-        } catch (ErrorEjecucion& error) {
-            error.en("columna «" + rejilla_.TextMatrix(0, columna) + "»")
-                .en("árbol de la fila " + rejilla_.TextMatrix(fila, 0));
-            throw;
-        }
+        const auto lugar = [&] {
+            return "árbol de la fila " + texto(fila, 0) + ", columna «" + texto(0, columna) + "»";
+        };
+        return EnLugar(lugar, [&] { return ANumero(texto(fila, columna)); });
     }
 
-    /// Every tree of the grid, in its order.
     [[nodiscard]] std::vector<double> columna(int columna) const {
-        std::vector<double> valores;
-        valores.reserve(static_cast<std::size_t>(rejilla_.Rows()));
-        for (int fila = 1; fila < rejilla_.Rows(); ++fila) {
-            valores.push_back(numero(fila, columna));
-        }
-        return valores;
+        return PorArbol(rejilla_, [&](int fila) { return numero(fila, columna); });
     }
 
 private:
@@ -50,21 +44,21 @@ void OrdenarPor(Rejilla& rejilla, int columna) {
 }
 
 /// Mean crown radius of one tree in the unit of the sheet.
-double RadioMedio(const CeldasDeArboles& celdas, int fila, const Sesion& sesion, FormaDeCopa forma) {
-    const auto medida = [&](int papel) { return celdas.numero(fila, sesion.Columnas(papel).valor()); };
-    switch (forma) {
-    case FormaDeCopa::CuatroRadios:
-        return (medida(2) + medida(3) + medida(4) + medida(5)) / 4;
-    case FormaDeCopa::DosDiametros:
-        return (medida(2) + medida(3)) / 4;
-    case FormaDeCopa::RadioMedio:
+double RadioMedio(const CeldasSituadas& celdas, int fila, const Sesion& sesion, DatosDeCopa datos) {
+    const auto medida = [&](int n) { return celdas.numero(fila, sesion.Columnas(PapelDeCopa(n)).valor()); };
+    switch (datos) {
+    case DatosDeCopa::CuatroRadios:
+        return (medida(0) + medida(1) + medida(2) + medida(3)) / 4;
+    case DatosDeCopa::DosDiametros:
+        return (medida(0) + medida(1)) / 4;
+    case DatosDeCopa::RadioMedio:
         break;
     }
-    return medida(2);
+    return medida(0);
 }
 
 /// What a row of the boundary holds behind x and y.
-std::vector<Valor> DatosDelVertice(const CeldasDeArboles& celdas, int fila, const Sesion& sesion,
+std::vector<Valor> DatosDelVertice(const CeldasSituadas& celdas, int fila, const Sesion& sesion,
                                    const OpcionesPrograma& opciones) {
     const bool conCodigo = opciones.ChCodigo.Value() == 1;
     const int ultima = sesion.UltimaColumna.valor();
@@ -75,7 +69,7 @@ std::vector<Valor> DatosDelVertice(const CeldasDeArboles& celdas, int fila, cons
     }
     const double tamano = celdas.texto(fila, columnaDAP).empty() ? 0 : celdas.numero(fila, columnaDAP);
     datos.emplace_back(AreaBasimetrica(tamano, UnidadesDelTallo(opciones)));
-    datos.emplace_back(RadioMedio(celdas, fila, sesion, FormaDeLaCopa(opciones)) /
+    datos.emplace_back(RadioMedio(celdas, fila, sesion, DatosDeLaCopa(opciones)) /
                        sesion.FactorRadios.valor());
     datos.emplace_back(celdas.texto(fila, sesion.Columnas(conCodigo ? ultima - 1 : ultima).valor()));
     return datos;
@@ -89,11 +83,11 @@ void ConstruirPoligono(Programa& programa) {
     const auto& opciones = programa.tocar<OpcionesPrograma>();
     sesion.FactorRadios = FactorDeRadios(opciones);
 
-    const int columnaX = sesion.Columnas(0).valor();
+    const int columnaX = sesion.Columnas(papelX).valor();
     OrdenarPor(rejilla, columnaX);
-    const CeldasDeArboles celdas{rejilla};
+    const CeldasSituadas celdas{rejilla};
     const std::vector<double> x = celdas.columna(columnaX);
-    const std::vector<double> y = celdas.columna(sesion.Columnas(1).valor());
+    const std::vector<double> y = celdas.columna(sesion.Columnas(papelY).valor());
     Envolvente envolvente = EnvolverArboles(x, y);
 
     sesion.Poligono.vaciar();

@@ -74,7 +74,7 @@ TEST(CorridaIndices, LasRazonesVanPorElOrdenDeLaRejilla) {
     Corrida corrida{{"ChDmax", "ChAPDmax"}};
     corrida.correr();
     EXPECT_EQ(Primeros(corrida.resultados().IndDmax, 5), (std::vector<double>{1, 0.8, 0.6, 0.4, 0.5}));
-    // 10000 / 300 m2 per stem; N is worked out although its check is off.
+    // 10000 / 300 m2 per stem; N is computed although its check is off.
     EXPECT_EQ(corrida.resultados().IndAPDmax(0), 10000 / 300.0);
     EXPECT_EQ(corrida.resultados().IndN.limite(), -1);
 }

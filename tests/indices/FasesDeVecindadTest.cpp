@@ -214,6 +214,21 @@ TEST(FasesDeVecindad, GuardarDosVecesConFuncionesCuentaLaSegundaDesdeDos) {
     EXPECT_EQ(corrida.cabecera(), "\tIDP(Ec:1;Bil.;Sí)\tDR(k:0;Ec:1;Fdis:1;Bil.)");
 }
 
+TEST(FasesDeVecindad, ElBarridoSubeAntesDeRotularYAunqueLosRotulosFallen) {
+    Corrida corrida;
+    auto& opciones = corrida.opciones();
+    opciones.ChIDPActivar.Value = 1;
+    opciones.OptFunc(0).Value = true;
+    opciones.LstRich(0).AddItem(richards);
+    corrida.correr();
+    corrida.resultados().IDP = {0, 3, 0}; // a step that leads nowhere
+    EXPECT_EQ(corrida.cabecera(), "");
+    EXPECT_EQ(corrida.resultados().IDP.Desde, 1);
+    EXPECT_EQ(corrida.resultados().IDP.Hasta, 4);
+    ASSERT_EQ(corrida.programa.fallosAlGuardar.size(), 1U);
+    EXPECT_EQ(corrida.programa.fallosAlGuardar.front().numero(), 9);
+}
+
 TEST(FasesDeVecindad, UnaCasillaEncendidaTrasLaCorridaNoTieneColumnas) {
     Corrida corrida;
     corrida.correr();

@@ -16,18 +16,17 @@ namespace {
 /// The crown buttons under the list; four radii stand as on a compass.
 QLayout* CrearBotonesDeCopa(SelColumnas& ventana, Vinculos& vinculos) {
     auto* const copa = new QGridLayout;
-    const int primero = SelColumnas::primerPapelDeCopa;
-    const int medidas = ventana.papelIndice() - primero;
+    const DatosDeCopa datos = ventana.papeles().copa;
     const auto poner = [&](int medida, int fila, int columna) {
-        copa->addWidget(vinculos.crearBoton(ventana.Command1(primero + medida)), fila, columna);
+        copa->addWidget(vinculos.crearBoton(ventana.Command1(PapelDeCopa(medida))), fila, columna);
     };
-    if (medidas == 4) {
+    if (datos == DatosDeCopa::CuatroRadios) {
         poner(0, 0, 1); // north
         poner(3, 1, 0); // west
         poner(1, 1, 2); // east
         poner(2, 2, 1); // south
     } else {
-        for (int medida = 0; medida < medidas; ++medida) {
+        for (int medida = 0; medida < MedidasDeCopa(datos); ++medida) {
             poner(medida, 0, medida);
         }
     }
@@ -43,8 +42,8 @@ QWidget* DisponerColumnas(SelColumnas& ventana, Vinculos& vinculos) {
     rejilla->addWidget(vinculos.crearEtiqueta(ventana.Label1), 0, 0, 1, 3);
 
     auto* const izquierda = new QVBoxLayout;
-    for (const int papel :
-         {ventana.papelIndice(), SelColumnas::papelX, SelColumnas::papelY, ventana.papelCodigo()}) {
+    const DatosDeCopa datos = ventana.papeles().copa;
+    for (const int papel : {PapelIndice(datos), papelX, papelY, PapelCodigo(datos)}) {
         izquierda->addWidget(vinculos.crearBoton(ventana.Command1(papel)));
     }
     izquierda->addStretch();

@@ -58,9 +58,9 @@ QLayout* CrearSeleccionDeCompetidores(const PiezasDeOpciones& piezas, int i, int
     const auto enElMismoSitio = [&](QWidget* widget, int fila, int columna, int ancho) {
         rejilla->addWidget(piezas.conSitioFijo(widget), fila, columna, 1, ancho);
     };
-    enElMismoSitio(
-        piezas.crearIntervalo(v.FramBAF(i), {&v.Label7(i), &v.Label6(i), &v.Label5(i)}, {2 * i, 2 * i + 1}),
-        0, 1, 1);
+    enElMismoSitio(piezas.crearIntervalo(v.FramBAF(i), {&v.Label7(i), &v.Label6(i), &v.Label5(i)},
+                                         {ParametroDe(i), PiesDe(i)}),
+                   0, 1, 1);
     enElMismoSitio(piezas.crearMarcoEnColumna(v.FramFunc(i), v.OptRichard(i), v.OptHiper(i)), 0, 1, 1);
     enElMismoSitio(CrearFuncionDeRichards(piezas, i), 1, 0, 2);
     enElMismoSitio(CrearFuncionHiperbolica(piezas, i), 1, 0, 2);
@@ -88,7 +88,7 @@ QWidget* CrearPaginaDeDP(const PiezasDeOpciones& piezas) {
     central->setHorizontalSpacing(piezas.separacion);
     central->setColumnStretch(3, 1);
     dentro->addLayout(central);
-    dentro->addLayout(CrearSeleccionDeCompetidores(piezas, 0, 1), 1);
+    dentro->addLayout(CrearSeleccionDeCompetidores(piezas, seleccionIDP, 1), 1);
     return pagina;
 }
 
@@ -132,10 +132,11 @@ QWidget* CrearPaginaDeDR(const PiezasDeOpciones& piezas) {
     cabeza->addLayout(indice);
     cabeza->addLayout(piezas.bajarAlNivel(piezas.crearMarcoEnColumna(v.FramDRBilUni, v.ChDRBil, v.ChDRUni)));
     cabeza->addWidget(piezas.crearMarcoEnColumna(v.FramRsij, v.OptDRDjDi, v.OptDRHjHi));
-    cabeza->addWidget(piezas.crearIntervalo(v.FramDRk, {&v.Label7(2), &v.Label6(2), &v.Label5(2)}, {4}), 1);
+    cabeza->addWidget(
+        piezas.crearIntervalo(v.FramDRk, {&v.Label7(2), &v.Label6(2), &v.Label5(2)}, {exponenteDR}), 1);
     dentro->addLayout(cabeza);
     dentro->addWidget(CrearFuncionDeDistancia(piezas), 1);
-    dentro->addLayout(CrearSeleccionDeCompetidores(piezas, 1, 2), 1);
+    dentro->addLayout(CrearSeleccionDeCompetidores(piezas, seleccionDR, 2), 1);
     return pagina;
 }
 

@@ -93,7 +93,8 @@ QWidget* CrearPaginaDeAOI(const PiezasDeOpciones& piezas) {
     detalle->addLayout(
         piezas.bajarAlNivel(piezas.crearMarcoEnColumna(v.FramAOIBilUni, v.ChAOIBil, v.ChAOIUni)));
     detalle->addWidget(piezas.crearMarcoEnColumna(v.FramRazon, v.OptAOIDjDi, v.OptHjHi));
-    detalle->addWidget(piezas.crearIntervalo(v.FramAOIk, {&v.Label1, &v.Label2, &v.Label3}, {6}), 1);
+    detalle->addWidget(piezas.crearIntervalo(v.FramAOIk, {&v.Label1, &v.Label2, &v.Label3}, {exponenteAOI}),
+                       1);
     dentro->addLayout(detalle);
     dentro->addWidget(CrearRadioDeInfluencia(piezas), 1);
     return pagina;
@@ -105,7 +106,8 @@ QWidget* CrearPaginaDeAPA(const PiezasDeOpciones& piezas) {
     dentro->addWidget(piezas.crear(v.ChAPA));
     dentro->addLayout(piezas.crearFila(piezas.crear(v.Label4), piezas.separacion,
                                        piezas.crearFormula(v.ImgAPA, formula::FactorDePonderacion())));
-    dentro->addWidget(piezas.crearIntervalo(v.FramAPAk, {&v.Label7(3), &v.Label6(3), &v.Label5(3)}, {8}));
+    dentro->addWidget(
+        piezas.crearIntervalo(v.FramAPAk, {&v.Label7(3), &v.Label6(3), &v.Label5(3)}, {exponenteAPA}));
     return pagina;
 }
 

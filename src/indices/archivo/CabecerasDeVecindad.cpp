@@ -10,14 +10,14 @@ namespace {
 
 using Rotulos = std::vector<std::string>;
 
-/// Of two passes the first one is bilateral. A single one goes by the bilateral check alone: with both checks
-/// off a bilateral column is labelled unilateral, which is meant.
+/// Of two passes the first one is bilateral. Meant: a single one goes by the bilateral check alone; with both
+/// checks off a bilateral column is labelled unilateral.
 Lado LadoEnRotulo(int pasada, int pasadas, const Casilla& bilateral) {
     const bool esBilateral = pasadas == 2 ? pasada == 1 : bilateral.Value() == 1;
     return esBilateral ? Lado::Bilateral : Lado::Unilateral;
 }
 
-Rotulos RotulosISC(const OpcionesPrograma& opciones, ResultadosIndices& r) {
+Rotulos RotulosISC(const OpcionesPrograma& opciones, const ResultadosIndices& r) {
     Rotulos rotulos;
     for (int v = 1; v <= static_cast<int>(r.NumISC); ++v) {
         rotulos.push_back(RotuloISC(LadoEnRotulo(v, static_cast<int>(r.NumISC), opciones.ChISCBil)));
@@ -25,7 +25,7 @@ Rotulos RotulosISC(const OpcionesPrograma& opciones, ResultadosIndices& r) {
     return rotulos;
 }
 
-Rotulos RotulosAOI(const OpcionesPrograma& opciones, ResultadosIndices& r) {
+Rotulos RotulosAOI(const OpcionesPrograma& opciones, const ResultadosIndices& r) {
     Rotulos rotulos;
     for (int pasada = 1; pasada <= r.NumLadosAOI.valor(); ++pasada) {
         const Lado lado = LadoEnRotulo(pasada, r.NumLadosAOI.valor(), opciones.ChAOIBil);
@@ -38,18 +38,8 @@ Rotulos RotulosAOI(const OpcionesPrograma& opciones, ResultadosIndices& r) {
     return rotulos;
 }
 
-/// The lines of a list read from 1 on. The sweep stays raised, so a second saving reads from 2 on: it is
-/// meant.
-void ContarDesdeUno(const OpcionesPrograma& opciones, int familia, Intervalo& intervalo) {
-    if (ReglaElegida(opciones, familia) == ReglaDeSeleccion::Funcion) {
-        intervalo.Desde += 1;
-        intervalo.Hasta += 1;
-    }
-}
-
-Rotulos RotulosIDP(const OpcionesPrograma& opciones, ResultadosIndices& r) {
-    ContarDesdeUno(opciones, 0, r.IDP);
-    const std::string prefijo = PrefijoDeRegla(ReglaElegida(opciones, 0));
+Rotulos RotulosIDP(const OpcionesPrograma& opciones, const ResultadosIndices& r) {
+    const std::string prefijo = PrefijoDeRegla(ReglaElegida(opciones, seleccionIDP));
     Rotulos rotulos;
     for (int pasada = 1; pasada <= r.NumLadosIDP.valor(); ++pasada) {
         const Lado lado = LadoEnRotulo(pasada, r.NumLadosIDP.valor(), opciones.ChIDPBil);
@@ -63,12 +53,11 @@ Rotulos RotulosIDP(const OpcionesPrograma& opciones, ResultadosIndices& r) {
     return rotulos;
 }
 
-Rotulos RotulosDR(const OpcionesPrograma& opciones, ResultadosIndices& r) {
-    ContarDesdeUno(opciones, 1, r.DR);
-    const std::string prefijo = PrefijoDeRegla(ReglaElegida(opciones, 1));
+Rotulos RotulosDR(const OpcionesPrograma& opciones, const ResultadosIndices& r) {
+    const std::string prefijo = PrefijoDeRegla(ReglaElegida(opciones, seleccionDR));
     Rotulos rotulos;
     for (int pasada = 1; pasada <= r.NumLadosDR.valor(); ++pasada) {
-        // The check of IDP, whatever the one of DR says: files in use are labelled so.
+        // Meant: the check of IDP, whatever the one of DR says.
         const Lado lado = LadoEnRotulo(pasada, r.NumLadosDR.valor(), opciones.ChIDPBil);
         for (const double k : ValoresDe(r.DRk)) {
             for (int entrada = 1; entrada <= r.NumFuncDR.valor(); ++entrada) {
@@ -81,7 +70,7 @@ Rotulos RotulosDR(const OpcionesPrograma& opciones, ResultadosIndices& r) {
     return rotulos;
 }
 
-Rotulos RotulosAPA(const OpcionesPrograma& /*opciones*/, ResultadosIndices& r) {
+Rotulos RotulosAPA(const OpcionesPrograma& /*opciones*/, const ResultadosIndices& r) {
     Rotulos rotulos;
     for (const double k : ValoresDe(r.APAk)) {
         rotulos.push_back(RotuloAPA(k));
@@ -91,17 +80,38 @@ Rotulos RotulosAPA(const OpcionesPrograma& /*opciones*/, ResultadosIndices& r) {
 
 } // namespace
 
+void ContarDesdeUno(const GrupoDeVecindad& grupo, const OpcionesPrograma& opciones, ResultadosIndices& r) {
+    const auto& barrido = grupo.barrido;
+    if (barrido && ReglaElegida(opciones, barrido->familia) == ReglaDeSeleccion::Funcion) {
+        Intervalo& intervalo = r.*barrido->intervalo;
+        intervalo.Desde += 1;
+        intervalo.Hasta += 1;
+    }
+}
+
 const std::array<GrupoDeVecindad, 5> gruposDeVecindad{{
-    {"ChSupCopa", RotulosISC, [](const ResultadosIndices& r) { return static_cast<int>(r.NumISC); },
-     &ResultadosIndices::IndISC, "##0.0000"},
-    {"ChAOIActivar", RotulosAOI, [](const ResultadosIndices& r) { return r.NumColAOI.valor(); },
-     &ResultadosIndices::IndAOI, "##0.00"},
+    {"ChSupCopa",
+     RotulosISC,
+     [](const ResultadosIndices& r) { return static_cast<int>(r.NumISC); },
+     &ResultadosIndices::IndISC,
+     "##0.0000",
+     {}},
+    {"ChAOIActivar",
+     RotulosAOI,
+     [](const ResultadosIndices& r) { return r.NumColAOI.valor(); },
+     &ResultadosIndices::IndAOI,
+     "##0.00",
+     {}},
     {"ChIDPActivar", RotulosIDP, [](const ResultadosIndices& r) { return r.NumColIDP.valor(); },
-     &ResultadosIndices::IndIDP, "##0.00"},
+     &ResultadosIndices::IndIDP, "##0.00", BarridoDeSeleccion{seleccionIDP, &ResultadosIndices::IDP}},
     {"ChDRActivar", RotulosDR, [](const ResultadosIndices& r) { return r.NumColDR.valor(); },
-     &ResultadosIndices::IndDR, "##0.00"},
-    {"ChAPA", RotulosAPA, [](const ResultadosIndices& r) { return r.NumColAPA.valor(); },
-     &ResultadosIndices::IndAPA, "##0.00"},
+     &ResultadosIndices::IndDR, "##0.00", BarridoDeSeleccion{seleccionDR, &ResultadosIndices::DR}},
+    {"ChAPA",
+     RotulosAPA,
+     [](const ResultadosIndices& r) { return r.NumColAPA.valor(); },
+     &ResultadosIndices::IndAPA,
+     "##0.00",
+     {}},
 }};
 
 } // namespace varo

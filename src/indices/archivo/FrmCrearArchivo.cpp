@@ -82,7 +82,7 @@ void FrmCrearArchivo::CmdAceptar_Click() {
             TxtLista.Text() + " ya existe. ¿Desea escribir sobre él?", "El archivo ya existe",
             mensaje::siNoCancelar + mensaje::informacion);
         if (respuesta == mensaje::respondeNo) {
-            return; // only No ends here: Cancel is meant to go on like Yes
+            return; // Meant: only No ends here; Cancel goes on like Yes.
         }
     }
     MousePointer = relojDeArena;

@@ -1,13 +1,12 @@
 // The labels of the columns of the families of neighbours: "DR(k:0,5;BAF:2;Fdis:1;Bil.)".
 #pragma once
 
+#include "indices/vecinos/Lado.h"
 #include "indices/vecinos/Seleccion.h"
 
 #include <string>
 
 namespace varo {
-
-enum class Lado { Bilateral, Unilateral };
 
 /// What stands before the selection parameter: "BAF:", "n:", "Ec:" or "R:".
 std::string PrefijoDeRegla(ReglaDeSeleccion regla);

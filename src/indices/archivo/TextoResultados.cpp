@@ -2,6 +2,7 @@
 
 #include "basico/Numeros.h"
 #include "data/Hojadedatos.h"
+#include "data/Papeles.h"
 #include "indices/ResultadosIndices.h"
 #include "indices/archivo/CabecerasDeVecindad.h"
 #include "options/OpcionesPrograma.h"
@@ -17,7 +18,7 @@ namespace {
 const char* const tabulador = "\t";
 const char* const finDeFila = "\r";
 
-/// Those whose checks are on, in the order of the file.
+/// The columns whose checks are on, in the order of the file.
 template <class Columnas>
 auto Pedidas(const OpcionesPrograma& opciones, const Columnas& columnas) {
     std::vector<const typename Columnas::value_type*> pedidas;
@@ -27,19 +28,6 @@ auto Pedidas(const OpcionesPrograma& opciones, const Columnas& columnas) {
         }
     }
     return pedidas;
-}
-
-/// Role of the tree number for the file.
-int PapelDelNumero(FormaDeCopa forma) {
-    switch (forma) {
-    case FormaDeCopa::CuatroRadios:
-        return 6;
-    case FormaDeCopa::DosDiametros:
-        return 4;
-    case FormaDeCopa::RadioMedio:
-        break;
-    }
-    return 3;
 }
 
 } // namespace
@@ -52,6 +40,7 @@ void TextoResultados::componerCabecera(std::string& cabecera, const Sentencia& s
     }
     for (const auto* const grupo : Pedidas(opciones, gruposDeVecindad)) {
         sentencia([&] {
+            ContarDesdeUno(*grupo, opciones, programa_.resultados); // it holds even if the labels fail
             for (const auto& rotulo : grupo->rotulos(opciones, programa_.resultados)) {
                 cabecera += tabulador + rotulo;
             }
@@ -65,7 +54,7 @@ void TextoResultados::componerFilas(std::string& filas, const Sentencia& sentenc
     const auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
     const auto independientes = Pedidas(opciones, columnasIndependientes);
     const auto grupos = Pedidas(opciones, gruposDeVecindad);
-    const int papel = PapelDelNumero(FormaDeLaCopa(opciones));
+    const int papel = PapelIndice(DatosDeLaCopa(opciones));
     const auto celda = [&](double valor, const char* formato) {
         filas += tabulador + Formato(valor, formato);
     };

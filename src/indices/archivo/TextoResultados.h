@@ -8,8 +8,8 @@ namespace varo {
 
 class Programa;
 
-/// Reads the options again, as they stand now: a check that was turned on after the run asks for an array
-/// that is not there, and that cell is passed over.
+/// Reads the options as they stand now: a check that was turned on after the run asks for an array that is
+/// not there, and that cell is passed over.
 class TextoResultados {
 public:
     /// Runs one statement; the writer passes over the ones that fail.
@@ -17,8 +17,9 @@ public:
 
     explicit TextoResultados(Programa& programa) : programa_{programa} {}
 
+    /// Counts the sweeps over lists from 1 for good: see ContarDesdeUno.
     void componerCabecera(std::string& cabecera, const Sentencia& sentencia) const;
-    /// Each row ends with one CR; the rows are one single text.
+    /// Each row ends with a CR.
     void componerFilas(std::string& filas, const Sentencia& sentencia) const;
 
 private:

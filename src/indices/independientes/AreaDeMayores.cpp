@@ -1,6 +1,7 @@
 #include "indices/independientes/AreaDeMayores.h"
 
 #include "basico/Aritmetica.h"
+#include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 #include "basico/Texto.h"
 #include "plot/calculo/AreaBasimetrica.h"
@@ -24,7 +25,7 @@ struct Tallos {
     bool desmedidos = false; ///< some size is so large that its basal area may overflow
 };
 
-/// Null and texts that are no number compare as not larger, so they never enter a sum.
+/// Nothing for null and for a text that is no number: neither compares as larger, so neither enters a sum.
 std::optional<double> Tamano(const Valor& valor) {
     const auto* const texto = std::get_if<std::string>(&valor);
     if (EsNulo(valor) || (texto != nullptr && !EsNumerico(*texto))) {
@@ -61,8 +62,8 @@ bool EsLiteral(const std::string& texto) {
            texto.back() != '.';
 }
 
-/// The sums over the rows larger than each bound. Adding 0 for the others changes no bit, and a bound's own
-/// additions keep the order of the rows.
+/// The sums over the rows larger than each bound. The other rows add 0, which changes no bit; each sum keeps
+/// the order of the rows.
 constexpr std::size_t aLaVez = 8;
 using Bloque = std::array<double, aLaVez>;
 
@@ -105,7 +106,7 @@ bool Cuenta(const std::string& texto) {
     return EsNumerico(texto) && ANumero(texto) != 0;
 }
 
-/// The sums for all sizes that can be had without the engine.
+/// The sums for all sizes that need no query.
 SumaPorTamano SumasSinConsulta(const Tallos& tallos, std::span<const std::string> celdas) {
     SumaPorTamano sumas;
     if (tallos.desmedidos) {
@@ -148,14 +149,12 @@ std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo,
         if (!Cuenta(texto)) {
             continue;
         }
-        try {
-            if (const auto mayores = suma(texto)) {
-                indices[i] = Dividir(*mayores, supPoligono) * 10000;
-            }
-        } catch (ErrorEjecucion& error) {
-            error.en("fila " + std::to_string(i + 1));
-            throw;
-        }
+        EnLugar([i] { return "fila " + std::to_string(i + 1); },
+                [&] {
+                    if (const auto mayores = suma(texto)) {
+                        indices[i] = Dividir(*mayores, supPoligono) * 10000;
+                    }
+                });
     }
     return indices;
 }

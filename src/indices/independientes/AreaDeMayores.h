@@ -10,14 +10,14 @@
 
 namespace varo {
 
-/// "... WHERE [campo] > tamano": the sum over the trees strictly larger than a size, which is pasted as it
-/// stands.
+/// "... WHERE [campo] > tamano": the sum (m2) over the trees strictly larger than a size. The text of the
+/// size enters the query unchanged.
 std::string ConsultaMayores(const std::string& campo, const std::string& tabla, const UnidadesTallo& unidades,
                             const std::string& tamano);
 
 /// For the text of each stem size cell, the basal area per hectare (m2/ha) of the larger trees of the table;
-/// 0 for a cell that is empty or no number, for the size 0 and where no tree is larger. An area of 0
-/// throws 11.
+/// 0 for a cell that is empty or no number, for the size 0 and where no tree is larger. `supPoligono` in m2;
+/// an area of 0 throws 11.
 ///
 /// The sums are added in the order of the table's rows, as the engine adds them, several trees side by side.
 std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo, const std::string& tabla,

@@ -1,6 +1,7 @@
 #include "indices/independientes/Razones.h"
 
 #include "basico/Aritmetica.h"
+#include "basico/EnLugar.h"
 #include "basico/Entero16.h"
 #include "basico/Numeros.h"
 #include "basico/Texto.h"
@@ -11,18 +12,9 @@ namespace varo {
 
 namespace {
 
-bool UsaSeccion(Independiente familia) {
-    switch (familia) {
-    case Independiente::Bmed:
-    case Independiente::Bmax:
-    case Independiente::Bdom:
-    case Independiente::APBmed:
-    case Independiente::APBmax:
-    case Independiente::APBsum:
-        return true;
-    default:
-        return false;
-    }
+/// The share of the plot that a tree has on average, in m2; 1 for a family that gives a plain ratio.
+double Reparto(const RasgosDeFamilia& familia, double piesHa) {
+    return familia.clase == ClaseDeFamilia::AreaProporcional ? Dividir(10000, piesHa) : 1;
 }
 
 } // namespace
@@ -76,7 +68,7 @@ std::vector<double> CalcularRazones(Independiente familia, const BaseDatos& base
                                     const std::string& tabla, std::span<const double> tamanos,
                                     double supPoligono, double piesHa) {
     const bool dominantes = familia == Independiente::Ddom || familia == Independiente::Bdom;
-    const bool areaProporcional = familia >= Independiente::APDmed;
+    const RasgosDeFamilia& rasgos = RasgosDe(familia);
     const Valor estadistico =
         dominantes ? Valor{TamanoDominante(base, campo, tabla, supPoligono, static_cast<int>(tamanos.size()),
                                            familia == Independiente::Ddom)}
@@ -84,14 +76,13 @@ std::vector<double> CalcularRazones(Independiente familia, const BaseDatos& base
     std::vector<double> razones;
     razones.reserve(tamanos.size());
     for (const double d : tamanos) {
-        try {
-            const double parte = areaProporcional ? Dividir(10000, piesHa) : 1;
-            const double tamano = UsaSeccion(familia) ? Potencia(d, 2) : d;
-            razones.push_back(parte * Dividir(tamano, ANumero(estadistico)));
-        } catch (ErrorEjecucion& error) {
-            error.en("fila " + std::to_string(razones.size() + 1));
-            throw;
-        }
+        const auto razon = [&] {
+            const double reparto = Reparto(rasgos, piesHa);
+            const double tamano = rasgos.dimension == Dimension::Cuadrado ? Potencia(d, 2) : d;
+            return reparto * Dividir(tamano, ANumero(estadistico));
+        };
+        const auto lugar = [&] { return "fila " + std::to_string(razones.size() + 1); };
+        razones.push_back(EnLugar(lugar, razon));
     }
     return razones;
 }

@@ -2,7 +2,7 @@
 
 #include "basico/Aritmetica.h"
 #include "basico/Saltando.h"
-#include "indices/vecinos/Marcas.h"
+#include "indices/vecinos/Competidores.h"
 #include "plot/calculo/AreaInterseccionCirculos.h"
 
 #include <algorithm>
@@ -37,13 +37,13 @@ bool PesosSinFallo(const Arboles& arboles, double k) {
 
 class ColumnaAOI {
 public:
-    ColumnaAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, bool unilateral, double k)
-        : arboles_{vecindad.arboles}, vecindad_{vecindad}, unilateral_{unilateral}, radios_{radios}, k_{k},
-          sinFallos_{vecindad.vecindario.fiable() && radios_.todosSinFallo() && PesosSinFallo(arboles_, k)} {}
+    ColumnaAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k)
+        : arboles_{vecindad.arboles}, vecindad_{vecindad}, lado_{lado}, radios_{radios}, k_{k},
+          sinFallos_{vecindad.buscador.fiable() && radios_.todosSinFallo() && PesosSinFallo(arboles_, k)} {}
 
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
-        if (arboles_.sinTamano(i) || arboles_.celdas().tamano.texto(i) == "0") {
+        if (arboles_.sinTamanoOCero(i)) {
             return SinArbol;
         }
         const double Ri = radios_.de(i);
@@ -54,29 +54,23 @@ public:
             return EfectoBorde;
         }
         double suma = 0;
-        for (const std::size_t j : vecinos(i, Ri)) {
-            if (j == i || arboles_.sinTamano(j)) {
-                continue;
-            }
-            pareja.vecino = j;
-            const double Dj = arboles_.diametro(j);
-            if (unilateral_ && Dj < arboles_.diametro(i)) {
-                continue;
-            }
+        const auto sumar = [&](std::size_t j, double /*diametro*/) {
             suma = ExigirFinito(suma + parte(i, j, Ri));
-        }
+            return true;
+        };
+        RecorrerCompetidores<&Arboles::diametro>(arboles_, vecinos(i, Ri), lado_, pareja, sumar);
         return suma;
     }
 
 private:
     /// The trees whose circle may meet the subject's. The others would add 0, unless a step with them faults.
-    std::span<const Vecindario::Fila> vecinos(std::size_t i, double Ri) {
+    std::span<const Cuadricula::Fila> vecinos(std::size_t i, double Ri) {
         const double propia = Pi * (Ri * Ri);
         const bool sinFallos = sinFallos_ && arboles_.tamano(i) > 0 && propia > 0 && std::isfinite(propia);
         if (!sinFallos) {
             return vecindad_.todas;
         }
-        vecindad_.vecindario.buscar(i, Ri + radios_.mayor(), cercanas_);
+        vecindad_.buscador.buscar(i, Ri + radios_.mayor(), cercanas_);
         return cercanas_;
     }
 
@@ -94,10 +88,10 @@ private:
 
     const Arboles& arboles_;
     Vecindad& vecindad_;
-    bool unilateral_;
+    Lado lado_;
     const RadiosDeInfluencia& radios_;
     double k_;
-    std::vector<Vecindario::Fila> cercanas_;
+    std::vector<Cuadricula::Fila> cercanas_;
     bool sinFallos_;
 };
 
@@ -117,9 +111,8 @@ RadiosDeInfluencia::RadiosDeInfluencia(const Arboles& arboles, const SumaDePoten
     }
 }
 
-std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, bool unilateral,
-                                double k) {
-    ColumnaAOI columna{vecindad, radios, unilateral, k};
+std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k) {
+    ColumnaAOI columna{vecindad, radios, lado, k};
     return ParaCadaArbol(vecindad.arboles.cuantos(), [&](Pareja& pareja) { return columna.indice(pareja); });
 }
 

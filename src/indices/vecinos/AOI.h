@@ -1,17 +1,18 @@
-// AOI, overlap of areas of influence: over the neighbours of a tree, the share of its circle of influence
-// that each one's circle covers, weighted by the size ratio raised to a power (Bella 1971, "A new competition
-// model for individual trees").
+// AOI, overlap of areas of influence: the sum over the neighbours of a tree of the share of its circle of
+// influence that the neighbour's circle covers, times the size ratio raised to a power (Bella 1971, "A new
+// competition model for individual trees").
 #pragma once
 
 #include "indices/vecinos/FuncionesDeLista.h"
+#include "indices/vecinos/Lado.h"
 #include "indices/vecinos/Vecindad.h"
 
 #include <vector>
 
 namespace varo {
 
-/// The radii of influence of the trees, in metres, from their diameters in centimetres; each one is worked
-/// out once.
+/// The radii of influence of the trees, in metres, from their diameters in centimetres; each one is computed
+/// once.
 class RadiosDeInfluencia {
 public:
     RadiosDeInfluencia(const Arboles& arboles, const SumaDePotencias& funcion);
@@ -34,7 +35,6 @@ private:
 
 /// One column: for every tree its index or a marker. Faults: 11 on a radius of 0 with a neighbour and on a
 /// size of 0 that is not written "0"; those of AreaInterseccionCirculos.
-std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, bool unilateral,
-                                double k);
+std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k);
 
 } // namespace varo

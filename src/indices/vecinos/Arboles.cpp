@@ -13,8 +13,7 @@ namespace {
 
 constexpr double sinNumero = std::numeric_limits<double>::quiet_NaN();
 
-/// The texts of a point as one key. Those of a vertex hold no line feed, so that only its own two texts make
-/// its key.
+/// The texts of a point as one key. The texts of a vertex hold no line feed, so no other two make its key.
 std::string Clave(const std::string& x, const std::string& y) {
     return x + '\n' + y;
 }
@@ -42,8 +41,7 @@ ColumnaDeCeldas::ColumnaDeCeldas(std::string nombre, std::vector<std::string> te
     numeros_.reserve(textos_.size());
     for (const auto& texto : textos_) {
         double numero = sinNumero;
-        // The fault is kept for who asks for the number.
-        saltando([&] { numero = ANumero(texto); });
+        saltando([&] { numero = ANumero(texto); }); // `numero` throws the fault again when it is asked for
         numeros_.push_back(numero);
     }
 }
@@ -69,8 +67,7 @@ Arboles::Arboles(CeldasDeArboles celdas, const UnidadesTallo& unidades, const Co
 }
 
 void Arboles::fallarDiametro(std::size_t i) const {
-    static_cast<void>(
-        tamano(i)); // a cell that is no number faults here; the product of one that is, overflows
+    static_cast<void>(tamano(i)); // a cell that is no number faults here
     ErrorEjecucion error{fallo::desbordamiento};
     celdas_.tamano.situar(error, i);
     throw error;

@@ -67,6 +67,10 @@ public:
 
     /// An empty size cell: there is no tree.
     [[nodiscard]] bool sinTamano(std::size_t i) const { return celdas_.tamano.vacia(i); }
+    /// The same, or a cell with the text "0"; "0,0" is a size.
+    [[nodiscard]] bool sinTamanoOCero(std::size_t i) const {
+        return sinTamano(i) || celdas_.tamano.texto(i) == "0";
+    }
     /// The size as the cell has it.
     [[nodiscard]] double tamano(std::size_t i) const { return celdas_.tamano.numero(i); }
     /// Diameter in centimetres. A cell that is no number throws 13, overflow 6.

@@ -1,13 +1,16 @@
 #include "indices/vecinos/Borde.h"
 
+#include "basico/EnLugar.h"
 #include "basico/Saltando.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace varo {
 
 Borde::Borde(const Arboles& arboles, const ContornoXY& contorno)
     : arboles_{arboles}, contorno_{contorno}, porArbol_(arboles.cuantos()) {
+    assert(contorno.x.size() == contorno.y.size());
     for (std::size_t k = 0; k + 1 < contorno.x.size(); ++k) {
         lados_.push_back(Distancia(contorno.x[k], contorno.y[k], contorno.x[k + 1], contorno.y[k + 1]));
     }
@@ -32,6 +35,7 @@ bool Borde::algunaAlturaMenorOIgual(std::size_t i, double limite) {
 }
 
 const Borde::Alturas& Borde::alturas(std::size_t i) {
+    assert(i < porArbol_.size());
     Alturas& suyas = porArbol_[i];
     if (!suyas.calculadas) {
         suyas = calcular(i);
@@ -40,7 +44,7 @@ const Borde::Alturas& Borde::alturas(std::size_t i) {
     return suyas;
 }
 
-/// AlturaTriangulo over each side, with what neighbouring sides share worked out once.
+/// AlturaTriangulo over each side; what neighbouring sides share is computed once.
 Borde::Alturas Borde::calcular(std::size_t i) const {
     Alturas suyas;
     if (lados_.empty()) {
@@ -65,17 +69,16 @@ Borde::Alturas Borde::calcular(std::size_t i) const {
 }
 
 void Borde::exigirSinFallo(std::size_t i, const Alturas& alturas) const {
+    assert(alturas.calculadas);
     if (alturas.ladoConFallo == ninguno) {
         return;
     }
     const std::size_t k = alturas.ladoConFallo;
-    try {
-        AlturaTriangulo(arboles_.x(i), arboles_.y(i), contorno_.x[k], contorno_.y[k], contorno_.x[k + 1],
-                        contorno_.y[k + 1]);
-    } catch (ErrorEjecucion& error) {
-        error.en("lado " + std::to_string(k + 1) + " del contorno");
-        throw;
-    }
+    EnLugar([k] { return "lado " + std::to_string(k + 1) + " del contorno"; },
+            [&] {
+                AlturaTriangulo(arboles_.x(i), arboles_.y(i), contorno_.x[k], contorno_.y[k],
+                                contorno_.x[k + 1], contorno_.y[k + 1]);
+            });
 }
 
 } // namespace varo

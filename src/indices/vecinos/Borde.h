@@ -1,4 +1,4 @@
-// Border detection: whether what a tree needs reaches beyond the plot boundary.
+// Border detection: whether the room that a tree needs reaches beyond the plot boundary.
 #pragma once
 
 #include "indices/vecinos/Arboles.h"
@@ -10,14 +10,14 @@
 
 namespace varo {
 
-/// The heights of a tree over the lines of the sides, each one an infinite line, are worked out once per
-/// tree. A side whose height cannot be worked out throws, unless an earlier side has answered already: two
-/// vertices in one place 11, a tree in line with a side maybe 5, by rounding.
+/// The heights (m) of a tree over the sides, each one taken as an infinite line, are computed once per tree.
+/// A side whose height cannot be computed throws, unless an earlier side answers first: two vertices in one
+/// place 11, a tree in line with a side maybe 5, by rounding.
 class Borde {
 public:
     Borde(const Arboles& arboles, const ContornoXY& contorno);
 
-    /// Whether the height of tree i over some side is below the limit. Sides are asked in turn.
+    /// Whether the height of tree i over some side is below the limit (m). Sides are asked in turn.
     [[nodiscard]] bool algunaAlturaMenor(std::size_t i, double limite);
     /// The same with equality.
     [[nodiscard]] bool algunaAlturaMenorOIgual(std::size_t i, double limite);

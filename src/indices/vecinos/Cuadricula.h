@@ -1,4 +1,4 @@
-// A uniform grid over the trees of a plot, to look at those of one part of it alone.
+// A uniform grid over the trees of a plot: it finds the trees of one part without looking at the others.
 #pragma once
 
 #include "indices/vecinos/Arboles.h"
@@ -9,8 +9,8 @@
 
 namespace varo {
 
-/// A place is where a tree stands in the order of the cells, which go up column by column. Two trees to a
-/// cell on average, and never more than some cells for each tree, however narrow the plot.
+/// Cells are ordered column by column, upwards; a place is a tree's position in that order. About two trees
+/// per cell; the number of cells stays proportional to the number of trees, however narrow the plot.
 class Cuadricula {
 public:
     using Fila = std::uint32_t; ///< a tree, numbered as in Arboles
@@ -26,12 +26,12 @@ public:
 
     /// An empty one.
     Cuadricula() = default;
-    /// Takes these trees; their coordinates are numbers.
+    /// Takes these trees; their coordinates must be numbers.
     Cuadricula(const Arboles& arboles, std::vector<Fila> filas);
 
     [[nodiscard]] std::size_t cuantos() const { return filas_.size(); }
     [[nodiscard]] const Extremos& extremos() const { return extremos_; }
-    /// The side of a cell.
+    /// The side of a cell, in metres.
     [[nodiscard]] double lado() const { return lado_; }
     [[nodiscard]] std::size_t columnas() const { return columnas_; }
     [[nodiscard]] std::size_t hileras() const { return hileras_; }
@@ -42,8 +42,8 @@ public:
     [[nodiscard]] double y(std::size_t lugar) const { return y_[lugar]; }
     [[nodiscard]] const std::vector<Fila>& filas() const { return filas_; }
 
-    /// The cells, of a row of `cuantas`, that hold what stands between two distances from its beginning, and
-    /// what rounding may have put beside it.
+    /// Of a row of `cuantas` cells, those between two distances (m) from its beginning, with some slack for
+    /// rounding.
     [[nodiscard]] Tramo tramo(double desde, double hasta, std::size_t cuantas) const;
 
     /// Visits the places of some cells of a column.
@@ -55,8 +55,8 @@ public:
         }
     }
 
-    /// Visits the places of all the trees in the square of that half side about a point, and of some round
-    /// it.
+    /// Visits the places of all the trees in the square of half side `medioLado` (m) about a point, and of
+    /// some round it.
     template <class Visita>
     void recorrerCuadro(double x, double y, double medioLado, Visita visita) const {
         const double dx = x - extremos_.x0;

@@ -2,7 +2,9 @@
 
 #include "basico/Aritmetica.h"
 #include "basico/Saltando.h"
-#include "indices/vecinos/Marcas.h"
+#include "indices/vecinos/Competidores.h"
+
+#include <cassert>
 
 namespace varo {
 
@@ -11,47 +13,41 @@ namespace {
 /// A column under work.
 struct ColumnaDR {
     const Arboles& arboles;
-    double extension; ///< a distance that no two trees exceed
     Seleccion& seleccion;
-    bool unilateral;
+    Lado lado;
     EntradaDeDistancia& entrada;
     double k;
 };
 
 double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
-    const auto& [arboles, extension, seleccion, unilateral, entrada, k] = columna;
+    const Arboles& arboles = columna.arboles;
+    Seleccion& seleccion = columna.seleccion;
+    EntradaDeDistancia& entrada = columna.entrada;
     const std::size_t i = pareja.sujeto;
-    if (arboles.sinTamano(i) || arboles.celdas().tamano.texto(i) == "0") {
+    if (arboles.sinTamanoOCero(i)) {
         return SinArbol;
     }
     const double di = arboles.d(i);
     if (arboles.esVertice(i)) {
         return ArbolDeContorno;
     }
-    seleccion.empezar(i, unilateral);
-    if (seleccion.alcance() < extension && !entrada.sinFallosEntre(seleccion.alcance(), extension)) {
+    seleccion.empezar(i, columna.lado);
+    const auto apartados = seleccion.distanciasDeApartados();
+    if (apartados && !entrada.sinFallosEntre(apartados->desde, apartados->hasta)) {
         seleccion.mirarTodos();
     }
     double suma = 0;
-    for (const std::size_t j : seleccion.candidatos()) {
-        if (j == i || arboles.sinTamano(j)) {
-            continue;
-        }
-        pareja.vecino = j;
-        const double dj = arboles.d(j);
-        if (unilateral && dj < di) {
-            continue;
-        }
-        // Before the rule, which is meant: a fault in it counts for a candidate that would be rejected.
+    const auto sumar = [&](std::size_t j, double dj) {
+        // Meant: before the rule, so that a fault in f counts for a candidate that would be rejected.
         const double f = entrada.funcion().en(seleccion.L(j));
         const Veredicto veredicto = seleccion.juzgar(j);
-        if (veredicto.clase == Veredicto::Clase::Rechazado) {
-            continue;
+        if (veredicto.juicio == Veredicto::Juicio::Aceptado) {
+            suma = ExigirFinito(suma + f * Potencia(Dividir(dj, di), columna.k));
         }
-        if (veredicto.clase == Veredicto::Clase::Borde) {
-            return EfectoBorde;
-        }
-        suma = ExigirFinito(suma + f * Potencia(Dividir(dj, di), k));
+        return veredicto.juicio != Veredicto::Juicio::Borde;
+    };
+    if (!RecorrerCompetidores<&Arboles::d>(arboles, seleccion.candidatos(), columna.lado, pareja, sumar)) {
+        return EfectoBorde;
     }
     return suma;
 }
@@ -66,6 +62,7 @@ const FuncionDeDistancia& EntradaDeDistancia::funcion() {
 }
 
 bool EntradaDeDistancia::sinFallosEntre(double desde, double hasta) {
+    assert(desde <= hasta);
     if (sinFallosDesde_ && desde >= *sinFallosDesde_) {
         return true;
     }
@@ -77,10 +74,9 @@ bool EntradaDeDistancia::sinFallosEntre(double desde, double hasta) {
     return sinFallos;
 }
 
-std::vector<double> CalcularDR(const Vecindad& vecindad, Seleccion& seleccion, bool unilateral,
+std::vector<double> CalcularDR(const Arboles& arboles, Seleccion& seleccion, Lado lado,
                                EntradaDeDistancia& entrada, double k) {
-    const Arboles& arboles = vecindad.arboles;
-    const ColumnaDR columna{arboles, vecindad.vecindario.extension(), seleccion, unilateral, entrada, k};
+    const ColumnaDR columna{arboles, seleccion, lado, entrada, k};
     return ParaCadaArbol(arboles.cuantos(), [&](Pareja& pareja) { return IndiceDe(pareja, columna); });
 }
 

@@ -1,5 +1,5 @@
-// DR, size ratios weighted by distance: the sum over the competitors j of f(L) (dj / di)^k. With k = 1 and
-// f = 1 / L it is the index of Hegyi (1974).
+// DR, size ratios weighted by distance: the sum over the competitors j of f(L) (dj / di)^k, L in metres. With
+// k = 1 and f = 1 / L it is the index of Hegyi (1974).
 #pragma once
 
 #include "indices/vecinos/FuncionesDeLista.h"
@@ -11,13 +11,15 @@
 
 namespace varo {
 
-/// An entry of the list of distance functions, read when a candidate first needs it.
+/// An entry of the list of distance functions. It is read when a candidate first needs it, so that a bad
+/// entry faults there.
 class EntradaDeDistancia {
 public:
     explicit EntradaDeDistancia(std::string texto) : texto_{std::move(texto)} {}
 
     const FuncionDeDistancia& funcion();
-    /// True only if the function can be read and does not fault between two distances.
+    /// True only if the function can be read and does not fault between two distances (m), `desde` <=
+    /// `hasta`.
     bool sinFallosEntre(double desde, double hasta);
 
 private:
@@ -27,9 +29,9 @@ private:
 };
 
 /// One column: for every tree its index, 0 where it has no competitor, or a marker. The selection has its
-/// parameter and ranks by distance. f is worked out for every candidate, so a rejected one may fault too:
-/// 11 on a null denominator, and on distance 0 with a negative exponent.
-std::vector<double> CalcularDR(const Vecindad& vecindad, Seleccion& seleccion, bool unilateral,
+/// parameter and ranks by distance. f is computed for every candidate, so a rejected one may fault too: 11 on
+/// a null denominator, and on distance 0 with a negative exponent.
+std::vector<double> CalcularDR(const Arboles& arboles, Seleccion& seleccion, Lado lado,
                                EntradaDeDistancia& entrada, double k);
 
 } // namespace varo

@@ -12,14 +12,14 @@ namespace varo {
 
 namespace {
 
-/// What an entry holds, by the positions of its letters. Parameters stand as "letter: number; ".
-class Entrada {
+/// What an entry holds, found by the positions of its letters. A parameter is written "letter: number; ".
+class PartesDeEntrada {
 public:
-    explicit Entrada(const std::string& texto) : texto_{texto} {}
+    explicit PartesDeEntrada(const std::string& texto) : texto_{texto} {}
 
     [[nodiscard]] bool contiene(const char* buscado) const { return posicion(buscado) != 0; }
 
-    /// The text in front of `siguiente`, from the first parameter of all on.
+    /// The text of the first parameter, which stands in front of `siguiente`.
     [[nodiscard]] std::string primero(const char* siguiente) const {
         return trozo(4, posicion(siguiente) - 6);
     }
@@ -48,8 +48,8 @@ private:
     const std::string& texto_;
 };
 
-/// From b on; a stands where each list has it.
-SumaDePotencias LeerSuma(const Entrada& entrada, double a) {
+/// The parameters from b on; each list writes a in its place.
+SumaDePotencias LeerSuma(const PartesDeEntrada& entrada, double a) {
     SumaDePotencias suma;
     suma.a = a;
     suma.b = entrada.medio("b", "c");
@@ -59,13 +59,12 @@ SumaDePotencias LeerSuma(const Entrada& entrada, double a) {
     return suma;
 }
 
-/// Least and greatest value of something.
 struct Cotas {
     double menor = 0;
     double mayor = 0;
 };
 
-/// factor * x^exponente between two positive values of x, in which it is monotonic.
+/// Of factor * x^exponente between two positive values of x; it is monotonic there.
 Cotas CotasDeTermino(double factor, double exponente, double desde, double hasta) {
     const double uno = factor == 0 ? 0 : factor * std::pow(desde, exponente);
     const double otro = factor == 0 ? 0 : factor * std::pow(hasta, exponente);
@@ -86,8 +85,8 @@ double SumaDePotencias::en(double x) const {
 }
 
 SumaDePotencias LeerRadioDeInfluencia(const std::string& entrada) {
-    const Entrada partes{entrada};
-    return LeerSuma(partes, Entrada::redondeado(ANumero(partes.primero("b"))));
+    const PartesDeEntrada partes{entrada};
+    return LeerSuma(partes, PartesDeEntrada::redondeado(ANumero(partes.primero("b"))));
 }
 
 double FuncionDeDistancia::en(double L) const {
@@ -103,7 +102,7 @@ bool FuncionDeDistancia::sinFallosEntre(double desde, double hasta) const {
     const Cotas d = CotasDeTermino(suma.d, suma.e, desde, hasta);
     const double mayorTermino = std::max(
         {std::abs(suma.a), std::abs(b.menor), std::abs(b.mayor), std::abs(d.menor), std::abs(d.mayor)});
-    const double holgura = 1E-9 * mayorTermino; // far beyond what rounding can move the sum
+    const double holgura = 1E-9 * mayorTermino; // rounding moves the sum far less
     const Cotas s{suma.a + b.menor + d.menor - holgura, suma.a + b.mayor + d.mayor + holgura};
     if (exponencial) {
         constexpr double exponenteQueCabe = 700;
@@ -114,7 +113,7 @@ bool FuncionDeDistancia::sinFallosEntre(double desde, double hasta) const {
 }
 
 FuncionDeDistancia LeerFuncionDeDistancia(const std::string& entrada) {
-    const Entrada partes{entrada};
+    const PartesDeEntrada partes{entrada};
     FuncionDeDistancia funcion;
     funcion.suma = LeerSuma(partes, partes.medio("a", "b"));
     funcion.exponencial = partes.contiene("EXP");
@@ -130,17 +129,17 @@ double FuncionDeLimite::en(double D) const {
 }
 
 FuncionDeLimite LeerFuncionDeLimite(const std::string& entrada) {
-    const Entrada partes{entrada};
+    const PartesDeEntrada partes{entrada};
     FuncionDeLimite funcion;
     funcion.hiperbolica = partes.contiene("e");
     if (funcion.hiperbolica) {
-        funcion.A = Entrada::redondeado(ANumero(partes.primero("k")));
+        funcion.A = PartesDeEntrada::redondeado(ANumero(partes.primero("k")));
         funcion.k = partes.medio("k", "a");
         funcion.denominador = LeerSuma(partes, partes.medio("a", "b"));
         return funcion;
     }
-    // Read with a decimal point, so a comma ends it: it is meant.
-    funcion.A = Entrada::redondeado(Val(partes.primero("k")));
+    // Meant: read with a decimal point, so a comma ends it.
+    funcion.A = PartesDeEntrada::redondeado(Val(partes.primero("k")));
     funcion.k = partes.medio("k", "m");
     funcion.m = partes.ultimo("m");
     return funcion;

@@ -1,5 +1,5 @@
-// The model functions of the option lists, read back from the texts of their entries. The text is their only
-// store, so a parameter is what the entry shows, rounded to four decimals.
+// The model functions of the option lists, read back from the texts of their entries. A parameter is what the
+// entry shows, rounded to four decimals.
 //
 // An entry that lacks a letter throws 5; a parameter that is no number throws 13.
 #pragma once
@@ -23,9 +23,9 @@ struct FuncionDeDistancia {
     bool exponencial = false;
     SumaDePotencias suma;
 
-    /// exp(-s), or 1 / s, of the sum s at distance L. s = 0 throws 11 in the second one.
+    /// exp(-s), or 1 / s, of the sum s at distance L. In the second form s = 0 throws 11.
     [[nodiscard]] double en(double L) const;
-    /// True only if `en` does not fault anywhere between two distances, the first one above 0.
+    /// True only if `en` faults nowhere between two distances, the first one above 0.
     [[nodiscard]] bool sinFallosEntre(double desde, double hasta) const;
 };
 FuncionDeDistancia LeerFuncionDeDistancia(const std::string& entrada);
@@ -41,8 +41,8 @@ struct FuncionDeLimite {
     [[nodiscard]] double en(double D) const;
 };
 
-/// "A: ...; k: ...; m: ..." or "A: ...; k: ...; a: ...; ...; e: ...", told apart by the letter e. The A of
-/// the first form loses its decimals, which is meant: "9,75" is 9.
+/// "A: ...; k: ...; m: ..." or "A: ...; k: ...; a: ...; ...; e: ...", told apart by the letter e. Meant: the
+/// A of the first form loses its decimals; "9,75" is 9.
 FuncionDeLimite LeerFuncionDeLimite(const std::string& entrada);
 
 } // namespace varo

@@ -1,55 +1,45 @@
 #include "indices/vecinos/IDP.h"
 
 #include "basico/Aritmetica.h"
-#include "indices/vecinos/Marcas.h"
+#include "indices/vecinos/Competidores.h"
 
 namespace varo {
 
 namespace {
 
-double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, bool unilateral, double h) {
+double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, Lado lado, double h) {
     const std::size_t i = pareja.sujeto;
     if (arboles.sinTamano(i)) {
         return SinArbol;
     }
-    const double di = arboles.d(i);
+    static_cast<void>(arboles.d(i)); // a size that is no number faults even at a vertex
     if (arboles.esVertice(i)) {
         return ArbolDeContorno;
     }
-    seleccion.empezar(i, unilateral);
+    seleccion.empezar(i, lado);
     double suma = 0;
     int m = 0;
-    for (const std::size_t j : seleccion.candidatos()) {
-        if (j == i || arboles.sinTamano(j)) {
-            continue;
-        }
-        pareja.vecino = j;
-        const double dj = arboles.d(j);
-        if (unilateral && dj < di) {
-            continue;
-        }
+    const auto sumar = [&](std::size_t j, double dj) {
         const Veredicto veredicto = seleccion.juzgar(j);
-        if (veredicto.clase == Veredicto::Clase::Rechazado) {
-            continue;
+        if (veredicto.juicio == Veredicto::Juicio::Aceptado) {
+            const double razon = Dividir(dj, seleccion.L(j));
+            suma = ExigirFinito(suma + (veredicto.rango + h) * (razon * razon));
+            ++m;
         }
-        if (veredicto.clase == Veredicto::Clase::Borde) {
-            return EfectoBorde;
-        }
-        const double razon = Dividir(dj, seleccion.L(j));
-        suma = ExigirFinito(suma + (veredicto.rango + h) * (razon * razon));
-        ++m;
+        return veredicto.juicio != Veredicto::Juicio::Borde;
+    };
+    if (!RecorrerCompetidores<&Arboles::d>(arboles, seleccion.candidatos(), lado, pareja, sumar)) {
+        return EfectoBorde;
     }
-    pareja.vecino = i;
     return m > 0 ? ExigirFinito(Dividir(2500, m) * suma) : 0;
 }
 
 } // namespace
 
-std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, bool unilateral,
-                                FormaIDP forma) {
+std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, Lado lado, FormaIDP forma) {
     const double h = forma == FormaIDP::ConArbolCentral ? 0.5 : -0.5;
     return ParaCadaArbol(arboles.cuantos(),
-                         [&](Pareja& pareja) { return IndiceDe(pareja, arboles, seleccion, unilateral, h); });
+                         [&](Pareja& pareja) { return IndiceDe(pareja, arboles, seleccion, lado, h); });
 }
 
 } // namespace varo

@@ -1,6 +1,6 @@
-// IDP, the point density of a tree: basal area round it as its competitors show it (Spurr 1962, "A measure of
-// point density"). Each competitor, ranked by the angle under which it is seen, gives an estimate of the
-// basal area per hectare, and the index is their mean.
+// IDP, the point density of a tree (Spurr 1962, "A measure of point density"): competitors are ranked by the
+// angle under which the tree sees them; each one gives an estimate of the basal area per hectare about the
+// tree, and the index is the mean of the estimates.
 #pragma once
 
 #include "indices/vecinos/Seleccion.h"
@@ -17,7 +17,6 @@ enum class FormaIDP {
 
 /// One column, in m2/ha: for every tree its index, 0 where it has no competitor, or a marker. The selection
 /// has its parameter and ranks by angle. Faults of the selection; 11 on a competitor at distance 0.
-std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, bool unilateral,
-                                FormaIDP forma);
+std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, Lado lado, FormaIDP forma);
 
 } // namespace varo

@@ -2,7 +2,7 @@
 
 #include "basico/Aritmetica.h"
 #include "basico/Saltando.h"
-#include "indices/vecinos/Marcas.h"
+#include "indices/vecinos/Competidores.h"
 #include "plot/calculo/AreaInterseccionCirculos.h"
 
 #include <algorithm>
@@ -22,15 +22,15 @@ float ASimple(double numero) {
 
 class VarianteISC {
 public:
-    VarianteISC(Vecindad& vecindad, const RadiosDeCopa& radios, bool unilateral)
-        : arboles_{vecindad.arboles}, vecindad_{vecindad}, radios_{radios}, unilateral_{unilateral} {}
+    VarianteISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado)
+        : arboles_{vecindad.arboles}, vecindad_{vecindad}, radios_{radios}, lado_{lado} {}
 
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
         if (arboles_.sinTamano(i)) {
             return SinArbol;
         }
-        const double di = arboles_.diametro(i);
+        static_cast<void>(arboles_.diametro(i)); // a size that is no number faults even without a crown
         const double ri = radios_.de(i);
         if (ri == 0) {
             return SinArbol;
@@ -42,29 +42,22 @@ public:
             return EfectoBorde;
         }
         float suma = 0;
-        for (const std::size_t j : vecinos(i, ri)) {
-            if (j == i || arboles_.sinTamano(j)) {
-                continue;
-            }
-            pareja.vecino = j;
-            const double dj = arboles_.diametro(j);
-            if (unilateral_ && dj < di) {
-                continue;
-            }
+        const auto sumar = [&](std::size_t j, double /*diametro*/) {
             suma = ASimple(static_cast<double>(suma) + interseccion(i, j, ri));
-        }
-        pareja.vecino = i;
+            return true;
+        };
+        RecorrerCompetidores<&Arboles::diametro>(arboles_, vecinos(i, ri), lado_, pareja, sumar);
         return Dividir(static_cast<double>(suma), Pi * (ri * ri));
     }
 
 private:
-    /// The trees whose crown may meet the subject's. The others would add 0, unless a cell of theirs is
+    /// The trees whose crown may meet the subject's. The others would add 0, unless one of their cells is
     /// wrong.
-    std::span<const Vecindario::Fila> vecinos(std::size_t i, double ri) {
-        if (!vecindad_.vecindario.fiable() || !radios_.todosSinFallo()) {
+    std::span<const Cuadricula::Fila> vecinos(std::size_t i, double ri) {
+        if (!vecindad_.buscador.fiable() || !radios_.todosSinFallo()) {
             return vecindad_.todas;
         }
-        vecindad_.vecindario.buscar(i, ri + static_cast<double>(radios_.mayor()), cercanas_);
+        vecindad_.buscador.buscar(i, ri + static_cast<double>(radios_.mayor()), cercanas_);
         return cercanas_;
     }
 
@@ -80,14 +73,14 @@ private:
     const Arboles& arboles_;
     Vecindad& vecindad_;
     const RadiosDeCopa& radios_;
-    bool unilateral_;
-    std::vector<Vecindario::Fila> cercanas_;
+    Lado lado_;
+    std::vector<Cuadricula::Fila> cercanas_;
 };
 
 } // namespace
 
-RadiosDeCopa::RadiosDeCopa(const Arboles& arboles, FormaDeCopa forma, int factor)
-    : arboles_{arboles}, forma_{forma}, factor_{factor},
+RadiosDeCopa::RadiosDeCopa(const Arboles& arboles, DatosDeCopa datos, int factor)
+    : arboles_{arboles}, datos_{datos}, factor_{factor},
       radios_(arboles.cuantos(), std::numeric_limits<float>::quiet_NaN()) {
     for (std::size_t i = 0; i < radios_.size(); ++i) {
         if (arboles.sinTamano(i)) {
@@ -105,27 +98,27 @@ float RadiosDeCopa::calcular(std::size_t i) const {
     const auto metros = [&](std::size_t medida) {
         return Dividir(arboles_.celdas().copa[medida].numero(i), factor_);
     };
-    switch (forma_) {
-    case FormaDeCopa::CuatroRadios: {
+    switch (datos_) {
+    case DatosDeCopa::CuatroRadios: {
         const double N = metros(0);
         const double E = metros(1);
         const double S = metros(2);
         const double W = metros(3);
         return ASimple((N + E + S + W) / 4);
     }
-    case FormaDeCopa::DosDiametros: {
+    case DatosDeCopa::DosDiametros: {
         const double D1 = metros(0);
         const double D2 = metros(1);
         return ASimple((D1 + D2) / 4);
     }
-    case FormaDeCopa::RadioMedio:
+    case DatosDeCopa::RadioMedio:
         break;
     }
     return ASimple(metros(0));
 }
 
-std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, bool unilateral) {
-    VarianteISC variante{vecindad, radios, unilateral};
+std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado) {
+    VarianteISC variante{vecindad, radios, lado};
     return ParaCadaArbol(vecindad.arboles.cuantos(), [&](Pareja& pareja) { return variante.indice(pareja); });
 }
 

@@ -1,8 +1,9 @@
-// ISC, overlap of crowns: the share of a tree's crown that the crowns of the others cover, each neighbour for
-// itself, so that what two of them cover counts twice. It is the competition quotient of Gerrard (1969), with
+// ISC, overlap of crowns: the share of a tree's crown that the crowns of the others cover. Each neighbour
+// counts alone: what two of them cover counts twice. It is the competition quotient of Gerrard (1969), with
 // the crowns as the circles of competition.
 #pragma once
 
+#include "indices/vecinos/Lado.h"
 #include "indices/vecinos/Vecindad.h"
 
 #include <vector>
@@ -13,9 +14,9 @@ namespace varo {
 class RadiosDeCopa {
 public:
     /// `factor` is the divisor from the unit of the cells to metres.
-    RadiosDeCopa(const Arboles& arboles, FormaDeCopa forma, int factor);
+    RadiosDeCopa(const Arboles& arboles, DatosDeCopa datos, int factor);
 
-    /// A cell that is no number throws 13, and so does an empty one.
+    /// A cell that is no number throws 13; an empty one too.
     [[nodiscard]] float de(std::size_t i) const { return std::isnan(radios_[i]) ? calcular(i) : radios_[i]; }
     /// Whether every tree with a size has a radius.
     [[nodiscard]] bool todosSinFallo() const { return todosSinFallo_; }
@@ -25,7 +26,7 @@ private:
     [[nodiscard]] float calcular(std::size_t i) const;
 
     const Arboles& arboles_;
-    FormaDeCopa forma_;
+    DatosDeCopa datos_;
     int factor_;
     std::vector<float> radios_; ///< NaN where calcular faults
     bool todosSinFallo_ = true;
@@ -34,6 +35,6 @@ private:
 
 /// One variant, for crowns as circles: for every tree its index or a marker. Sums are rounded to 32 bits at
 /// each addition. Faults of AreaInterseccionCirculos.
-std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, bool unilateral);
+std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado);
 
 } // namespace varo

@@ -14,12 +14,12 @@ struct Intervalo {
 /// A step of 0 between equal ends becomes 1: the interval holds its one value.
 Intervalo SinDegenerar(Intervalo intervalo);
 
-/// How many values an interval has room for, by division and not rounded. A step of 0 throws 11.
+/// How many values an interval has room for, not rounded. A step of 0 throws 11.
 double CuantosCaben(const Intervalo& intervalo);
 
-/// The values that a loop runs through, each one the last one plus the step, as far as the end is not passed.
-/// Rounding may lose the last value, for which CuantosCaben still has room: it is meant. A step that
-/// leads nowhere throws 9.
+/// The values that a loop runs through up to the end, each one the one before plus the step. Meant: rounding
+/// may lose the last value, for which CuantosCaben still has room. A step too small to move the value
+/// throws 9.
 std::vector<double> ValoresDe(const Intervalo& intervalo);
 
 } // namespace varo

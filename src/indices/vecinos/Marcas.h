@@ -1,7 +1,8 @@
-// The values that stand in place of an index, and who gets them: what the families of neighbours share.
+// The values that stand in place of an index, and the loop over the trees that the families of neighbours
+// share.
 #pragma once
 
-#include "basico/ErrorEjecucion.h"
+#include "basico/EnLugar.h"
 
 #include <cstddef>
 #include <string>
@@ -17,25 +18,22 @@ inline constexpr double EfectoBorde = -2;     ///< what the tree needs reaches b
 struct Pareja {
     std::size_t sujeto = 0;
     std::size_t vecino = sujeto; ///< the subject itself while no neighbour is at work
+
+    [[nodiscard]] std::string lugar() const {
+        const std::string fila = "fila " + std::to_string(sujeto + 1);
+        return vecino == sujeto ? fila : fila + ", vecino de la fila " + std::to_string(vecino + 1);
+    }
 };
 
-/// The index or the marker of every tree, in the order of the rows: `indice` takes the pair, in which it
-/// notes the neighbour it is at. A fault gets both rows.
+/// The index or the marker of every tree, in the order of the rows: `indice` takes the pair and
+/// notes in it which neighbour is at work. A fault gets both rows.
 template <class Indice>
 std::vector<double> ParaCadaArbol(std::size_t arboles, Indice&& indice) {
     std::vector<double> indices;
     indices.reserve(arboles);
     for (std::size_t i = 0; i < arboles; ++i) {
         Pareja pareja{i, i};
-        try {
-            indices.push_back(indice(pareja));
-        } catch (ErrorEjecucion& error) {
-            if (pareja.vecino != i) {
-                error.en("vecino de la fila " + std::to_string(pareja.vecino + 1));
-            }
-            error.en("fila " + std::to_string(i + 1));
-            throw;
-        }
+        indices.push_back(EnLugar([&] { return pareja.lugar(); }, [&] { return indice(pareja); }));
     }
     return indices;
 }

@@ -1,6 +1,7 @@
 #include "indices/vecinos/PrimerCompetidor.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace varo {
 
@@ -25,8 +26,9 @@ PrimerCompetidor::PrimerCompetidor(const Arboles& arboles)
     }
 }
 
-std::optional<std::size_t> PrimerCompetidor::de(std::size_t i, bool unilateral) const {
-    if (unilateral) {
+std::optional<std::size_t> PrimerCompetidor::de(std::size_t i, Lado lado) const {
+    assert(!arboles_.sinTamano(i));
+    if (lado == Lado::Unilateral) {
         return primeroNoMenor(i);
     }
     const auto otro = std::find_if(conTamano_.begin(), conTamano_.end(), [&](auto j) { return j != i; });
@@ -37,6 +39,7 @@ std::optional<std::size_t> PrimerCompetidor::de(std::size_t i, bool unilateral) 
 std::optional<std::size_t> PrimerCompetidor::primeroNoMenor(std::size_t i) const {
     const auto primero = std::lower_bound(crecientes_.begin(), crecientes_.end(), arboles_.d(i),
                                           [&](std::size_t j, double d) { return arboles_.d(j) < d; });
+    assert(primero != crecientes_.end()); // the largest tree is not smaller than the subject
     return *primero == i ? siguienteNoMenor_[i] : std::optional{*primero};
 }
 

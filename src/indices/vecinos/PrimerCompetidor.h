@@ -2,6 +2,7 @@
 #pragma once
 
 #include "indices/vecinos/Arboles.h"
+#include "indices/vecinos/Lado.h"
 
 #include <cstddef>
 #include <optional>
@@ -9,14 +10,14 @@
 
 namespace varo {
 
-/// All sizes have to be numbers.
+/// All sizes must be numbers.
 class PrimerCompetidor {
 public:
     explicit PrimerCompetidor(const Arboles& arboles);
 
     /// The first tree with a size but the subject itself; in a unilateral pass, the first one whose d is not
-    /// below the subject's.
-    [[nodiscard]] std::optional<std::size_t> de(std::size_t i, bool unilateral) const;
+    /// below the subject's. The subject has a size.
+    [[nodiscard]] std::optional<std::size_t> de(std::size_t i, Lado lado) const;
 
 private:
     [[nodiscard]] std::optional<std::size_t> primeroNoMenor(std::size_t i) const;

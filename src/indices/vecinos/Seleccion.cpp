@@ -1,6 +1,7 @@
 #include "indices/vecinos/Seleccion.h"
 
 #include "basico/Aritmetica.h"
+#include "basico/EnLugar.h"
 #include "basico/Saltando.h"
 
 #include <algorithm>
@@ -14,25 +15,36 @@ namespace {
 
 constexpr double sinLimite = std::numeric_limits<double>::infinity();
 
-constexpr Veredicto rechazado{Veredicto::Clase::Rechazado};
-constexpr Veredicto borde{Veredicto::Clase::Borde};
+constexpr Veredicto rechazado{Veredicto::Juicio::Rechazado};
+constexpr Veredicto borde{Veredicto::Juicio::Borde};
 
 } // namespace
 
 Seleccion::Seleccion(Vecindad& vecindad, ReglaDeSeleccion regla, OrdenDeRango orden)
     : vecindad_{vecindad}, arboles_{vecindad.arboles}, regla_{regla}, orden_{orden} {}
 
-void Seleccion::poner(std::string entrada) {
-    entrada_ = std::move(entrada);
-    funcion_.reset();
+void Seleccion::poner(double p) {
+    assert(regla_ != ReglaDeSeleccion::Funcion);
+    p_ = p;
+    puesta_ = true;
+    sujeto_.reset();
 }
 
-void Seleccion::empezar(std::size_t i, bool unilateral) {
+void Seleccion::poner(std::string entrada) {
+    assert(regla_ == ReglaDeSeleccion::Funcion);
+    entrada_ = std::move(entrada);
+    funcion_.reset();
+    puesta_ = true;
+    sujeto_.reset();
+}
+
+void Seleccion::empezar(std::size_t i, Lado lado) {
+    assert(puesta_ && !arboles_.sinTamano(i));
     sujeto_ = i;
     limite_.reset();
     clavesListas_ = false;
-    const auto& vecindario = vecindad_.vecindario;
-    pasoAPaso_ = !vecindario.fiable() || (orden_ == OrdenDeRango::PorAngulo && vecindario.comparteSitio(i));
+    const auto& buscador = vecindad_.buscador;
+    pasoAPaso_ = !buscador.fiable() || (orden_ == OrdenDeRango::PorAngulo && buscador.comparteSitio(i));
     if (pasoAPaso_) {
         alcance_ = sinLimite;
         candidatos_ = vecindad_.todas;
@@ -47,37 +59,37 @@ void Seleccion::empezar(std::size_t i, bool unilateral) {
         break;
     case ReglaDeSeleccion::Funcion:
     case ReglaDeSeleccion::Distancia:
-        empezarPorLimite(unilateral);
+        empezarPorLimite(lado);
         break;
     }
 }
 
-/// A tree looks too small from farther away than so many times its diameter.
+/// A tree is seen under too small an angle from farther than 50 / sqrt(p) times its diameter.
 void Seleccion::empezarPorAngulo() {
     if (!(p_ > 0)) {
         proponer(sinLimite);
         return;
     }
-    // The nearest ones are all taken, so that whatever is left out stands at a distance.
-    alcance_ = vecindad_.vecindario.lado();
-    vecindad_.vecindario.buscarPorTamano(sujeto_, 50 / std::sqrt(p_), alcance_, cercanas_);
+    // All trees within one cell's side are candidates, so that those left out stand at a distance.
+    alcance_ = vecindad_.buscador.lado();
+    vecindad_.buscador.buscarPorTamano(*sujeto_, 50 / std::sqrt(p_), alcance_, cercanas_);
     candidatos_ = cercanas_;
 }
 
-/// Looks round in wider and wider circles, until no tree outside can come among the first p.
+/// Searches wider and wider circles, until no tree outside can rank among the first p.
 void Seleccion::empezarPorNumero() {
-    const auto& vecindario = vecindad_.vecindario;
+    const auto& buscador = vecindad_.buscador;
     const double puesto = std::max(1.0, std::floor(p_));
     const auto mejorDeFuera = [&](double radio) {
         return orden_ == OrdenDeRango::PorDistancia ? -radio
-                                                    : std::max(vecindario.mayorD(), 0.0) / radio * (1 + 1E-9);
+                                                    : std::max(buscador.mayorD(), 0.0) / radio * (1 + 1E-9);
     };
-    const double abundantes = std::min(2 * puesto + 6, static_cast<double>(vecindario.cuantos()));
-    double radio = vecindario.lado() * std::sqrt(abundantes / (2 * Pi));
+    const double abundantes = std::min(2 * puesto + 6, static_cast<double>(buscador.cuantos()));
+    double radio = buscador.lado() * std::sqrt(abundantes / (2 * Pi));
     for (;; radio *= 1.5) {
         proponer(radio);
         ordenarClaves();
-        if (radio >= vecindario.extension()) {
+        if (radio >= buscador.extension()) {
             break;
         }
         const bool bastan = static_cast<double>(claves_.size()) >= puesto;
@@ -97,19 +109,20 @@ void Seleccion::dejarLosPrimeros(double puesto) {
     alcance_ = orden_ == OrdenDeRango::PorDistancia ? -umbral : 0;
 }
 
-/// The first competitor settles whether the subject is a border tree, however far it stands.
-void Seleccion::empezarPorLimite(bool unilateral) {
+/// The first competitor decides whether the subject is a border tree, however far it stands.
+void Seleccion::empezarPorLimite(Lado lado) {
     cercanas_.clear();
     candidatos_ = cercanas_;
     alcance_ = sinLimite;
-    const auto primero = vecindad_.primero.value().de(sujeto_, unilateral);
+    assert(vecindad_.primero);
+    const auto primero = vecindad_.primero->de(*sujeto_, lado);
     if (!primero) {
         return;
     }
     bool sigue = false;
-    saltando([&] { sigue = !vecindad_.borde.algunaAlturaMenor(sujeto_, limite()); });
+    saltando([&] { sigue = !vecindad_.borde.algunaAlturaMenor(*sujeto_, limite()); });
     if (sigue) {
-        proponer(std::max(limite(), vecindad_.vecindario.lado()));
+        proponer(std::max(limite(), vecindad_.buscador.lado()));
     }
     const auto j = static_cast<Fila>(*primero);
     const auto sitio = std::lower_bound(cercanas_.begin(), cercanas_.end(), j);
@@ -121,11 +134,20 @@ void Seleccion::empezarPorLimite(bool unilateral) {
 
 void Seleccion::proponer(double alcance) {
     alcance_ = alcance;
-    vecindad_.vecindario.buscar(sujeto_, alcance, cercanas_);
+    vecindad_.buscador.buscar(*sujeto_, alcance, cercanas_);
     candidatos_ = cercanas_;
 }
 
+std::optional<Seleccion::Distancias> Seleccion::distanciasDeApartados() const {
+    assert(sujeto_);
+    if (pasoAPaso_ || alcance_ >= vecindad_.buscador.extension()) {
+        return std::nullopt;
+    }
+    return Distancias{alcance_, vecindad_.buscador.extension()};
+}
+
 Veredicto Seleccion::juzgar(std::size_t j) {
+    assert(sujeto_);
     switch (regla_) {
     case ReglaDeSeleccion::BAF:
         return juzgarPorAngulo(j);
@@ -145,36 +167,36 @@ Veredicto Seleccion::juzgarPorAngulo(std::size_t j) {
         return rechazado;
     }
     const double Rl = Dividir(arboles_.d(j) * 50, raiz);
-    return vecindad_.borde.algunaAlturaMenor(sujeto_, Rl) ? borde : aceptar(j);
+    return vecindad_.borde.algunaAlturaMenor(*sujeto_, Rl) ? borde : aceptar(j);
 }
 
 Veredicto Seleccion::juzgarPorNumero(std::size_t j) {
     const int suyo = rango(j);
-    // The first in rank is not asked: with p = 0 it is taken all the same.
-    if (suyo > 1 && suyo > p_) {
+    if (pasaDelNumero(suyo)) {
         return rechazado;
     }
-    if (vecindad_.borde.algunaAlturaMenor(sujeto_, L(j))) {
+    if (vecindad_.borde.algunaAlturaMenor(*sujeto_, L(j))) {
         return borde;
     }
-    return {Veredicto::Clase::Aceptado, suyo};
+    return {Veredicto::Juicio::Aceptado, suyo};
 }
 
 Veredicto Seleccion::juzgarPorLimite(std::size_t j) {
-    // Before the distance is looked at: a candidate that is too far makes a border tree too, which is meant.
-    if (vecindad_.borde.algunaAlturaMenor(sujeto_, limite())) {
+    // Meant: before the distance is compared, so that a candidate that is too far makes a border tree too.
+    if (vecindad_.borde.algunaAlturaMenor(*sujeto_, limite())) {
         return borde;
     }
     return L(j) <= limite() ? aceptar(j) : rechazado;
 }
 
 Veredicto Seleccion::aceptar(std::size_t j) {
-    return {Veredicto::Clase::Aceptado, orden_ == OrdenDeRango::PorAngulo ? rango(j) : 1};
+    return {Veredicto::Juicio::Aceptado, orden_ == OrdenDeRango::PorAngulo ? rango(j) : 1};
 }
 
 double Seleccion::L(std::size_t j) const {
-    const double xi = arboles_.x(sujeto_);
-    const double yi = arboles_.y(sujeto_);
+    assert(sujeto_);
+    const double xi = arboles_.x(*sujeto_);
+    const double yi = arboles_.y(*sujeto_);
     const double xj = arboles_.x(j);
     const double yj = arboles_.y(j);
     return Distancia(xi, yi, xj, yj);
@@ -188,7 +210,7 @@ double Seleccion::limite() {
         if (!funcion_) {
             funcion_ = LeerFuncionDeLimite(entrada_);
         }
-        limite_ = funcion_->en(arboles_.d(sujeto_));
+        limite_ = funcion_->en(arboles_.d(*sujeto_));
     }
     return *limite_;
 }
@@ -225,28 +247,35 @@ void Seleccion::ordenarClaves() {
     clavesListas_ = true;
 }
 
-/// Tree by tree, and no farther than a fixed number asks for: for a subject with which some step may fault.
+/// The rank counted tree by tree, for a subject with which some step may fault. Under a fixed number the
+/// count ends where the candidate is out.
 int Seleccion::rangoPasoAPaso(std::size_t j) {
     int suyo = 1;
     for (std::size_t m = 0; m < arboles_.cuantos(); ++m) {
-        if (m == sujeto_ || m == j || arboles_.sinTamano(m)) {
+        if (m == *sujeto_ || m == j || arboles_.sinTamano(m)) {
             continue;
         }
-        try {
-            if (limita() && !(L(m) <= limite())) {
-                continue;
-            }
-            const double otra = clave(m);
-            suyo += otra > clave(j) ? 1 : 0;
-        } catch (ErrorEjecucion& error) {
-            error.en("frente al de la fila " + std::to_string(m + 1));
-            throw;
-        }
-        if (regla_ == ReglaDeSeleccion::NumeroFijo && suyo > 1 && suyo > p_) {
+        const auto lugar = [m] { return "frente al de la fila " + std::to_string(m + 1); };
+        suyo += EnLugar(lugar, [&] { return adelanta(m, j); }) ? 1 : 0;
+        if (regla_ == ReglaDeSeleccion::NumeroFijo && pasaDelNumero(suyo)) {
             break;
         }
     }
     return suyo;
+}
+
+/// Whether tree m counts in ranks and is strictly better than tree j.
+bool Seleccion::adelanta(std::size_t m, std::size_t j) {
+    if (limita() && !(L(m) <= limite())) {
+        return false;
+    }
+    const double otra = clave(m);
+    return otra > clave(j);
+}
+
+/// The first in rank is within every number: even p = 0 takes it.
+bool Seleccion::pasaDelNumero(int rango) const {
+    return rango > 1 && rango > p_;
 }
 
 } // namespace varo

@@ -3,8 +3,10 @@
 #pragma once
 
 #include "indices/vecinos/FuncionesDeLista.h"
+#include "indices/vecinos/Lado.h"
 #include "indices/vecinos/Vecindad.h"
 
+#include <cassert>
 #include <optional>
 #include <span>
 #include <string>
@@ -15,7 +17,7 @@ namespace varo {
 enum class ReglaDeSeleccion {
     BAF,        ///< seen under a wider angle than the basal area factor p asks for (m2/ha)
     NumeroFijo, ///< the first p in rank
-    Funcion,    ///< within a distance that a function gives for the subject's diameter
+    Funcion,    ///< within the distance that a function gives for the subject's diameter
     Distancia   ///< within the distance p (m)
 };
 
@@ -24,31 +26,44 @@ enum class OrdenDeRango { PorAngulo, PorDistancia };
 
 /// The rank counts the strictly better trees, smaller ones included in a unilateral pass too.
 struct Veredicto {
-    enum class Clase { Rechazado, Borde, Aceptado };
-    Clase clase = Clase::Rechazado;
-    int rango = 1; ///< meant only for an accepted candidate, ranked by angle or under a fixed number
+    enum class Juicio { Rechazado, Borde, Aceptado };
+    Juicio juicio = Juicio::Rechazado;
+    int rango = 1; ///< holds only for an accepted candidate, ranked by angle or under a fixed number
 };
 
-/// Distances in metres. Faults of two trees in one place: 11 under BAF, and wherever angles are ranked.
+/// Distances in metres. Faults of two trees in one place: 11 under BAF, and wherever angles are ranked. The
+/// order of the calls: `poner`, then `empezar` for each subject, then the rest.
 class Seleccion {
 public:
-    using Fila = Vecindario::Fila;
+    using Fila = Cuadricula::Fila;
+
+    /// Distances, both ends included.
+    struct Distancias {
+        double desde = 0, hasta = 0;
+    };
 
     Seleccion(Vecindad& vecindad, ReglaDeSeleccion regla, OrdenDeRango orden);
 
-    /// The parameter of a column: the value p, or an entry of the list of functions.
-    void poner(double p) { p_ = p; }
+    /// The parameter of a column: the value p, or with the rule Funcion an entry of the list of functions.
+    void poner(double p);
     void poner(std::string entrada);
 
-    /// Takes a subject, and works out its candidates.
-    void empezar(std::size_t i, bool unilateral);
+    /// Takes a subject with a size, and finds its candidates.
+    void empezar(std::size_t i, Lado lado);
     /// In the order of the rows; the subject itself and trees without a size may be among them. A tree that
-    /// is left out is farther than `alcance` and would be rejected without a fault, or its turn never comes,
-    /// since the first one that the side rule lets through ends the subject.
-    [[nodiscard]] std::span<const Fila> candidatos() const { return candidatos_; }
-    [[nodiscard]] double alcance() const { return alcance_; }
-    /// Makes every tree a candidate, for who does with a rejected one what may fault.
-    void mirarTodos() { candidatos_ = vecindad_.todas; }
+    /// is left out would be rejected without a fault, or its turn never comes, since the first one that the
+    /// side rule lets through ends the subject.
+    [[nodiscard]] std::span<const Fila> candidatos() const {
+        assert(sujeto_);
+        return candidatos_;
+    }
+    /// The distances at which the trees that would be rejected may stand; nothing when none is left out.
+    [[nodiscard]] std::optional<Distancias> distanciasDeApartados() const;
+    /// Makes every tree a candidate, for a caller that may fault on a rejected one too.
+    void mirarTodos() {
+        assert(sujeto_);
+        candidatos_ = vecindad_.todas;
+    }
 
     /// Judges a candidate that the side rule let through.
     Veredicto juzgar(std::size_t j);
@@ -59,12 +74,15 @@ public:
 private:
     [[nodiscard]] double razon(std::size_t j) const;
     [[nodiscard]] double clave(std::size_t j) const;
-    [[nodiscard]] bool limita() const { return regla_ >= ReglaDeSeleccion::Funcion; }
+    /// Whether the rule asks for trees within a distance.
+    [[nodiscard]] bool limita() const {
+        return regla_ == ReglaDeSeleccion::Funcion || regla_ == ReglaDeSeleccion::Distancia;
+    }
     [[nodiscard]] double limite();
 
     void empezarPorAngulo();
     void empezarPorNumero();
-    void empezarPorLimite(bool unilateral);
+    void empezarPorLimite(Lado lado);
     void proponer(double alcance);
     void dejarLosPrimeros(double puesto);
 
@@ -75,6 +93,8 @@ private:
 
     int rango(std::size_t j);
     int rangoPasoAPaso(std::size_t j);
+    bool adelanta(std::size_t m, std::size_t j);
+    [[nodiscard]] bool pasaDelNumero(int rango) const;
     void ordenarClaves();
 
     Vecindad& vecindad_;
@@ -85,10 +105,11 @@ private:
     std::string entrada_;
     std::optional<FuncionDeLimite> funcion_; ///< the entry, once it was read
 
-    std::size_t sujeto_ = 0;
+    bool puesta_ = false; ///< has a parameter
+    std::optional<std::size_t> sujeto_;
     bool pasoAPaso_ = false; ///< some step of the ranks may fault
     std::optional<double> limite_;
-    double alcance_ = 0;
+    double alcance_ = 0; ///< trees that would be rejected and are no candidates stand farther
     std::span<const Fila> candidatos_;
     bool clavesListas_ = false;
     std::vector<double> claves_; ///< of the trees that count in ranks, from the best to the worst

@@ -1,11 +1,11 @@
-// What the families of neighbours share in a run: the trees, their heights over the boundary, and ways to
-// leave out those that do nothing.
+// What the families of neighbours share in a run: the trees, their heights over the boundary, and the
+// searches that leave out the trees that do nothing.
 #pragma once
 
 #include "indices/vecinos/Arboles.h"
 #include "indices/vecinos/Borde.h"
+#include "indices/vecinos/BuscadorDeCercanos.h"
 #include "indices/vecinos/PrimerCompetidor.h"
-#include "indices/vecinos/Vecindario.h"
 
 #include <optional>
 #include <vector>
@@ -13,14 +13,14 @@
 namespace varo {
 
 struct Vecindad {
-    /// The trees and the boundary have to outlive it.
+    /// The trees and the boundary must outlive it.
     Vecindad(const Arboles& arboles_, const ContornoXY& contorno);
 
     const Arboles& arboles;
     Borde borde;
-    Vecindario vecindario;
-    std::optional<PrimerCompetidor> primero; ///< only where the grid is reliable
-    std::vector<Vecindario::Fila> todas;     ///< every tree, in the order of the rows
+    BuscadorDeCercanos buscador;
+    std::optional<PrimerCompetidor> primero; ///< only with a reliable search
+    std::vector<Cuadricula::Fila> todas;     ///< every tree, in the order of the rows
 };
 
 } // namespace varo

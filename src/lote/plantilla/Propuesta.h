@@ -2,13 +2,12 @@
 #pragma once
 
 #include "motor/Tabla.h"
+#include "plot/calculo/Unidades.h"
 
 #include <map>
 #include <string>
 
 namespace varo {
-
-enum class DatosDeCopa { CuatroRadios, DosDiametros, RadioMedio };
 
 struct Propuesta {
     /// Role ("X", "DAP") to the header of its field. The last field of a table is never proposed: the

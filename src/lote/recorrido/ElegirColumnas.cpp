@@ -3,6 +3,7 @@
 #include "basico/Texto.h"
 #include "data/Hojadedatos.h"
 #include "data/SelColumnas.h"
+#include "lote/trabajo/ClavesDePapeles.h"
 #include "options/OpcionesPrograma.h"
 #include "shell/VAROMAIN.h"
 
@@ -14,14 +15,7 @@ namespace varo {
 
 namespace {
 
-/// The keys of the roles, by index of Command1; the last one is the tree code.
-using Papeles = std::vector<std::string>;
-
-const Papeles deCuatroRadios{"X", "Y", "N", "E", "S", "O", "Indice", "Codigo"};
-const Papeles deDosDiametros{"X", "Y", "NS", "EO", "Indice", "Codigo"};
-const Papeles deRadioMedio{"X", "Y", "Radio", "Indice", "Codigo"};
-
-std::string Enumerar(const Papeles& nombres) {
+std::string Enumerar(const std::vector<std::string>& nombres) {
     std::string texto;
     for (const auto& nombre : nombres) {
         texto += (texto.empty() ? "" : ", ") + nombre;
@@ -29,18 +23,12 @@ std::string Enumerar(const Papeles& nombres) {
     return texto;
 }
 
-struct DialogoConPapeles {
-    SelColumnas* dialogo;
-    const Papeles* papeles;
-};
-
-DialogoConPapeles DialogoALaVista(const Programa& programa) {
-    const std::array<DialogoConPapeles, 3> dialogos{{{programa.cargada<SelCol4R>(), &deCuatroRadios},
-                                                     {programa.cargada<SelCol2D>(), &deDosDiametros},
-                                                     {programa.cargada<SelColRM>(), &deRadioMedio}}};
-    for (const auto& candidato : dialogos) {
-        if (candidato.dialogo != nullptr && candidato.dialogo->Visible()) {
-            return candidato;
+SelColumnas& DialogoALaVista(const Programa& programa) {
+    const std::array<SelColumnas*, 3> dialogos{programa.cargada<SelCol4R>(), programa.cargada<SelCol2D>(),
+                                               programa.cargada<SelColRM>()};
+    for (SelColumnas* const dialogo : dialogos) {
+        if (dialogo != nullptr && dialogo->Visible()) {
+            return *dialogo;
         }
     }
     throw std::logic_error{"el menú del mapa no mostró ninguna selección de columnas"};
@@ -55,18 +43,17 @@ public:
     void elegir() {
         puesto_.hacer({"columnas"},
                       [this] { puesto_.usuario.clic(puesto_.programa.tocar<VAROMAIN>().mnuMapa); });
-        const auto aLaVista = DialogoALaVista(puesto_.programa);
-        auto& dialogo = *aLaVista.dialogo;
-        papeles_ = *aLaVista.papeles;
+        auto& dialogo = DialogoALaVista(puesto_.programa);
+        claves_ = ClavesDePapeles(dialogo.papeles().copa);
         exigirPapelesDelDialogo();
         // The code goes first: afterwards a header with "Código" in it, chosen for another role, can no
         // longer pass for the code and keep its button disabled.
-        const int ultimo = static_cast<int>(papeles_.size()) - 1;
-        darPapel(dialogo, ultimo);
-        for (int papel = 0; papel < ultimo; ++papel) {
+        const int codigo = PapelCodigo(dialogo.papeles().copa);
+        darPapel(dialogo, codigo);
+        for (int papel = 0; papel < codigo; ++papel) {
             darPapel(dialogo, papel);
         }
-        if (const auto* const dap = puesto_.trabajo.columna("DAP")) {
+        if (const auto* const dap = puesto_.trabajo.columna(claveDAP)) {
             pulsar(dialogo.CmdDAP, *dap);
         }
         exigirCompletas(dialogo);
@@ -78,11 +65,11 @@ private:
 
     void exigirPapelesDelDialogo() const {
         for (const auto& columna : puesto_.trabajo.columnas) {
-            const bool conocido = columna.papel == "DAP" || std::find(papeles_.begin(), papeles_.end(),
-                                                                      columna.papel) != papeles_.end();
+            const bool conocido = columna.papel == claveDAP ||
+                                  std::find(claves_.begin(), claves_.end(), columna.papel) != claves_.end();
             if (!conocido) {
                 puesto_.rechazar(columna.lugar(), "los datos de copa elegidos no tienen este papel; tienen " +
-                                                      Enumerar(papeles_) + " y DAP");
+                                                      Enumerar(claves_) + " y DAP");
             }
             if (columna.papel == "Codigo" && !conCodigo()) {
                 puesto_.rechazar(columna.lugar(), "ChCodigo está a 0: la parcela no tiene código de árbol");
@@ -91,7 +78,7 @@ private:
     }
 
     void darPapel(SelColumnas& dialogo, int papel) {
-        if (const auto* const columna = puesto_.trabajo.columna(papeles_[static_cast<std::size_t>(papel)])) {
+        if (const auto* const columna = puesto_.trabajo.columna(claves_[static_cast<std::size_t>(papel)])) {
             pulsar(dialogo.Command1(papel), *columna);
         }
     }
@@ -122,7 +109,7 @@ private:
     }
 
     [[nodiscard]] int columnaConCabecera(const ColumnaPedida& pedida, const std::string& cabecera) const {
-        Papeles cabeceras;
+        std::vector<std::string> cabeceras;
         for (int columna = 0; columna < rejilla_.Cols(); ++columna) {
             cabeceras.push_back(rejilla_.TextMatrix(0, columna));
         }
@@ -142,8 +129,8 @@ private:
         if (dialogo.CmdDibujar.Enabled()) {
             return;
         }
-        Papeles faltan;
-        for (const auto& papel : papeles_) {
+        std::vector<std::string> faltan;
+        for (const auto& papel : claves_) {
             if (puesto_.trabajo.columna(papel) == nullptr && (papel != "Codigo" || conCodigo())) {
                 faltan.push_back(papel);
             }
@@ -156,7 +143,7 @@ private:
     PuestoDeTrabajo& puesto_;
     const OpcionesPrograma& opciones_;
     Rejilla& rejilla_;
-    Papeles papeles_;
+    std::vector<std::string> claves_; ///< by role
 };
 
 } // namespace

@@ -15,12 +15,11 @@ std::string OpcionQueMuestra(const Control& control) {
     const auto con = [](const char* opcion, int seleccion) {
         return Identidad{opcion, seleccion}.completa();
     };
-    constexpr int primerExponente = 4; // from here on the intervals are those of exponents, always on show
     const bool esIntervalo = nombre == "TxtBAF1" || nombre == "TxtBAF2" || nombre == "TxtBAF3";
-    if (esIntervalo && control.Index() < primerExponente) {
-        const int seleccion = control.Index() / 2;
-        return control.Index() % 2 == 0 ? con("OptBAF", seleccion) + " u " + con("OptRadioFijo", seleccion)
-                                        : con("OptNumFijo", seleccion);
+    if (const auto seleccion = SeleccionDe(control.Index()); esIntervalo && seleccion) {
+        return EsDePies(control.Index())
+                   ? con("OptNumFijo", *seleccion)
+                   : con("OptBAF", *seleccion) + " u " + con("OptRadioFijo", *seleccion);
     }
     if (nombre == "TxtRich") {
         return con("OptFunc", control.Index() / 3) + " y " + con("OptRichard", control.Index() / 3);

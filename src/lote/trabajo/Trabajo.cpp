@@ -1,6 +1,7 @@
 #include "lote/trabajo/Trabajo.h"
 
 #include "basico/Numeros.h"
+#include "lote/trabajo/ClavesDePapeles.h"
 
 #include <toml++/toml.h>
 
@@ -17,9 +18,6 @@ namespace varo {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::array<std::string_view, 12> papeles{"X",  "Y",  "N",     "E",      "S",      "O",
-                                                   "NS", "EO", "Radio", "Indice", "Codigo", "DAP"};
 
 int Linea(const toml::node& nodo) {
     return static_cast<int>(nodo.source().begin.line);
@@ -129,7 +127,7 @@ private:
 
     [[nodiscard]] ColumnaPedida columna(const std::string& papel, const toml::node& nodo) const {
         ColumnaPedida columna{papel, {}, Linea(nodo)};
-        if (std::find(papeles.begin(), papeles.end(), papel) == papeles.end()) {
+        if (!EsClaveDePapel(papel)) {
             rechazar(columna.lugar(), "papel desconocido; los hay: X, Y, N, E, S, O, NS, EO, Radio, Indice, "
                                       "Codigo y DAP");
         }

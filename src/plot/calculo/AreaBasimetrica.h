@@ -1,4 +1,4 @@
-// Basal area: of one tree, and as a sum that the data engine works out.
+// Basal area: of one tree, and as a sum that the data engine computes.
 #pragma once
 
 #include "plot/calculo/Unidades.h"

@@ -9,7 +9,7 @@ namespace varo {
 
 namespace {
 
-/// The part of a circle beyond the chord that it sees under twice the angle `a`.
+/// The part of a circle beyond a chord; the centre sees the chord under the angle 2a.
 struct Segmento {
     double sector = 0;
     double triangulo = 0;
@@ -22,7 +22,7 @@ Segmento SegmentoDe(double a, double r) {
 } // namespace
 
 double AreaInterseccionCirculos(double x1, double y1, double x2, double y2, double r1, double r2) {
-    // A radius of 0 has no way of its own: it is meant to go through the same tests.
+    // Meant: radius 0 is not special-cased.
     const double d = Distancia(x1, y1, x2, y2);
     const double grande = r1 >= r2 ? r1 : r2;
     const double pequeno = r1 >= r2 ? r2 : r1;

@@ -1,4 +1,4 @@
-// The area that two circles share: a crown inside another, two crowns that cross, or none.
+// The area that two circles share.
 #pragma once
 
 namespace varo {

@@ -5,6 +5,7 @@
 #include "plot/calculo/Module1.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <cstddef>
 
@@ -12,11 +13,10 @@ namespace varo {
 
 namespace {
 
-/// Stands in the slot of the tree that the walk is at, above every direction.
+/// Direction from the current tree to itself: larger than every other one.
 constexpr double DireccionDelActual = 999.0;
 
-/// The trees and the way from one to another.
-struct Arboles {
+struct Posiciones {
     std::span<const double> x;
     std::span<const double> y;
     [[nodiscard]] double dx(std::size_t desde, std::size_t hasta) const { return x[hasta] - x[desde]; }
@@ -38,8 +38,8 @@ double Direccion(double dx, double dy) {
     return dx < 0 ? t + 360.0 : t;
 }
 
-/// Half a turn. On the way back directions are measured from the -y axis, so that the smallest one is again
-/// the next one clockwise; a second half turn undoes it.
+/// Adds half a turn. On the way back directions are measured from the -y axis, so that the smallest one is
+/// again the next one clockwise. A second half turn undoes the first.
 double Girar(double t) {
     return t < 180.0 ? t + 180.0 : t - 180.0;
 }
@@ -49,7 +49,7 @@ bool DeVuelta(double dx, double dy) {
     return dx < 0 || (dx == 0 && dy < 0);
 }
 
-void ApuntarDirecciones(const Arboles& arboles, std::size_t actual, bool deVuelta,
+void ApuntarDirecciones(const Posiciones& arboles, std::size_t actual, bool deVuelta,
                         std::vector<double>& AnguloCandidato) {
     for (std::size_t s = 0; s < AnguloCandidato.size(); ++s) {
         if (s == actual) {
@@ -59,7 +59,7 @@ void ApuntarDirecciones(const Arboles& arboles, std::size_t actual, bool deVuelt
         const double dx = arboles.dx(actual, s);
         const double dy = arboles.dy(actual, s);
         if (dx == 0 && dy == 0) {
-            continue; // The stale direction of a second tree in this place is meant.
+            continue; // Meant: a second tree in this place keeps a stale direction.
         }
         const double t = Direccion(dx, dy);
         AnguloCandidato[s] = deVuelta ? Girar(t) : t;
@@ -76,7 +76,7 @@ double DireccionDelLado(double candidato, bool deVuelta) {
     if (!deVuelta) {
         return candidato;
     }
-    // Straight up on the way back closes the polygon: it has come full circle.
+    // Straight up on the way back closes the polygon: 360, not 0.
     const double t = Girar(candidato);
     return t == 0 ? 360.0 : t;
 }
@@ -84,10 +84,11 @@ double DireccionDelLado(double candidato, bool deVuelta) {
 } // namespace
 
 Envolvente EnvolverArboles(std::span<const double> x, std::span<const double> y) {
+    assert(x.size() == y.size());
     if (x.empty()) {
         throw ErrorEjecucion{fallo::fueraDeIndice};
     }
-    const Arboles arboles{x, y};
+    const Posiciones arboles{x, y};
     std::vector<double> AnguloCandidato(x.size(), 0.0);
     Envolvente envolvente;
     envolvente.arboles.push_back(0);
@@ -99,7 +100,7 @@ Envolvente EnvolverArboles(std::span<const double> x, std::span<const double> y)
         const std::size_t elegido = PrimeroMenor(AnguloCandidato);
         envolvente.AnguloLado.push_back(DireccionDelLado(AnguloCandidato[elegido], deVuelta));
         envolvente.arboles.push_back(static_cast<int>(elegido));
-        ++NumPuntosPoligono; // Doubled trees can lead the walk astray for ever: this ends it.
+        ++NumPuntosPoligono; // It overflows, and so ends a walk that trees in one place lead round for ever.
         deVuelta = DeVuelta(arboles.dx(actual, elegido), arboles.dy(actual, elegido));
         actual = elegido;
     } while (actual != 0);
@@ -108,6 +109,7 @@ Envolvente EnvolverArboles(std::span<const double> x, std::span<const double> y)
 }
 
 std::vector<double> AngulosInteriores(std::span<const double> AnguloLado) {
+    assert(!AnguloLado.empty());
     std::vector<double> interiores(AnguloLado.size());
     interiores[0] = (AnguloLado.back() - AnguloLado[0]) - 180.0;
     for (std::size_t i = 1; i < AnguloLado.size(); ++i) {

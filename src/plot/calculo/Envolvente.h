@@ -9,9 +9,9 @@ namespace varo {
 /// The closed walk. Positions are those of the trees in the input, from 0; the last one repeats the first.
 struct Envolvente {
     std::vector<int> arboles; ///< one tree per vertex, closing vertex included
-    std::vector<double>
-        AnguloLado; ///< direction of the edge from vertex k to k + 1, degrees clockwise from +y
-    std::vector<double> AnguloInterior; ///< interior angle at vertex k, degrees; one less than the vertices
+    /// Direction of the edge from vertex k to k + 1, degrees clockwise from +y.
+    std::vector<double> AnguloLado;
+    std::vector<double> AnguloInterior; ///< at vertex k, degrees; one less than the vertices
 };
 
 /// Walks the hull of trees sorted by ascending x; the first one is the first vertex. No tree at all throws 9;

@@ -87,8 +87,7 @@ double AlturaTriangulo(double x1, double y1, double x2, double y2, double x3, do
 }
 
 double AnguloVertice(double x1, double y1, double x2, double y2, double x3, double y3) {
-    // The roundabout way is meant: the acute angle from the area, then a construction that tells whether the
-    // true one is obtuse.
+    // Meant: the acute angle from the area, then a construction that tells whether the true one is obtuse.
     const double A = AreaTrianguloPuntos(x1, y1, x2, y2, x3, y3);
     const double d13 = Distancia(x1, y1, x3, y3);
     const double d12 = Distancia(x1, y1, x2, y2);
@@ -111,7 +110,7 @@ double AnguloDireccion(double x1, double y1, double x2, double y2) {
     const double A = AreaTrianguloPuntos(x1, y1, x1 + 1.0, y1, x2, y2);
     const double t = Asin(Dividir(A * 2.0, Distancia(x1, y1, x2, y2))) * GradosPorRadian;
 
-    // Taking 1 off before comparing is meant: a difference too small to survive it counts as none.
+    // Meant: 1 is taken off before comparing, so that a difference too small to survive it counts as none.
     const double ux1 = x1 - 1.0;
     const double uy1 = y1 - 1.0;
     const double ux2 = x2 - 1.0;
@@ -125,7 +124,7 @@ double AnguloDireccion(double x1, double y1, double x2, double y2) {
     if (ux2 > ux1 && uy2 < uy1) {
         return 360.0 - t;
     }
-    // The gap on the axes is meant: straight down is 90 and straight left is 0.
+    // Meant: the axes fall through; straight down is 90 and straight left is 0.
     return t;
 }
 
@@ -152,7 +151,7 @@ double AreaPoligono(const ContornoXY& contorno, int n) {
 bool PuntoEnPoligono(const ContornoXY& contorno, double x, double y) {
     const auto& [px, py] = contorno;
     for (std::size_t i = 0; i + 1 < px.size(); ++i) {
-        // Before any test, so a vertical edge faults even when the point is far from it: it is meant.
+        // Meant: before any test, so a vertical edge faults even when the point is far from it.
         const double pendiente = Dividir(py[i + 1] - py[i], px[i + 1] - px[i]);
         const Recta lado = RectaConPendiente(pendiente, px[i + 1], py[i + 1]);
         if (px[i] < px[i + 1]) {

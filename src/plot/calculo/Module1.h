@@ -1,6 +1,5 @@
-// Plane geometry on tree positions. The procedures are free of units and guard nothing: each formula is
-// evaluated as it stands, in its order of operations, because results are compared with thresholds and
-// printed.
+// Plane geometry on tree positions, in any unit of length. The procedures guard nothing: each formula keeps
+// its order of operations, because results are compared with thresholds and printed.
 #pragma once
 
 #include "basico/Aritmetica.h"
@@ -31,8 +30,8 @@ double AlturaTriangulo(double x1, double y1, double x2, double y2, double x3, do
 /// 1004 when rounding takes the sine above 1.
 double AnguloVertice(double x1, double y1, double x2, double y2, double x3, double y3);
 
-/// Direction from point 1 to point 2 in degrees, counter-clockwise from the +x axis. Straight down is 90 and
-/// straight left is 0: both are meant. Equal points throw 11; a right angle may throw 1004 by rounding.
+/// Direction from point 1 to point 2 in degrees, counter-clockwise from the +x axis. Meant: straight down is
+/// 90 and straight left is 0. Equal points throw 11; a right angle may throw 1004 by rounding.
 double AnguloDireccion(double x1, double y1, double x2, double y2);
 
 /// The circle through three points.

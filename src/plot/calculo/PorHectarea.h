@@ -12,7 +12,7 @@
 namespace varo {
 
 /// Stems per hectare: the rows of the table whose `campo` holds something, less one half for each vertex. The
-/// area is in m2; 0 throws 11. `campo` goes bare into the query.
+/// area is in m2; 0 throws 11. `campo` enters the query without brackets.
 double PiesPorHectarea(const BaseDatos& base, const std::string& campo, const std::string& hoja,
                        int numPuntosPoligono, double supPoligono);
 

@@ -1,4 +1,4 @@
-// What the measures in the sheet are: the kind and unit of the stem size, the unit and form of the crown.
+// What the measures in the sheet are: the kind and unit of the stem size, the measures of the crown.
 #pragma once
 
 namespace varo {
@@ -11,6 +11,7 @@ struct UnidadesTallo {
     UnidadLongitud unidad = UnidadLongitud::Centimetros;
 };
 
-enum class FormaDeCopa { CuatroRadios, DosDiametros, RadioMedio };
+/// What the sheet holds of each crown.
+enum class DatosDeCopa { CuatroRadios, DosDiametros, RadioMedio };
 
 } // namespace varo

@@ -12,8 +12,8 @@ namespace {
 constexpr SumaDePotencias porDiametro{0, 0.01, 1, 0, 0};
 
 std::vector<double> AOI(const Parcelita& parcela, const SumaDePotencias& radio, double k,
-                        bool unilateral = false) {
-    return CalcularAOI(*parcela.vecindad, RadiosDeInfluencia{*parcela.arboles, radio}, unilateral, k);
+                        Lado lado = Lado::Bilateral) {
+    return CalcularAOI(*parcela.vecindad, RadiosDeInfluencia{*parcela.arboles, radio}, lado, k);
 }
 
 TEST(AOI, UnSujetoDentroDelCirculoDeOtroTieneParte1) {
@@ -21,7 +21,7 @@ TEST(AOI, UnSujetoDentroDelCirculoDeOtroTieneParte1) {
     const Parcelita parcela{{{"0", "0", "1"}, {"1", "0", "4"}}};
     EXPECT_EQ(AOI(parcela, porDiametro, 0), (std::vector<double>{1, 1 / 16.0}));
     EXPECT_EQ(AOI(parcela, porDiametro, 1), (std::vector<double>{4, 1 / 64.0}));
-    EXPECT_EQ(AOI(parcela, porDiametro, 1, true), (std::vector<double>{4, 0}));
+    EXPECT_EQ(AOI(parcela, porDiametro, 1, Lado::Unilateral), (std::vector<double>{4, 0}));
 }
 
 TEST(AOI, ConKCeroSeSumanLasPartesYPuedenPasarDe1) {

@@ -12,16 +12,16 @@ namespace {
 const char* const inversa = "HIP, a: 0,0000; b: 1,0000; c: 1,0000; d: 0,0000; e: 0,0000";
 
 std::vector<double> DR(const Parcelita& parcela, ReglaDeSeleccion regla, double p, const std::string& entrada,
-                       double k = 1, bool unilateral = false) {
+                       double k = 1, Lado lado = Lado::Bilateral) {
     Seleccion seleccion{*parcela.vecindad, regla, OrdenDeRango::PorDistancia};
     seleccion.poner(p);
     EntradaDeDistancia leida{entrada};
-    return CalcularDR(*parcela.vecindad, seleccion, unilateral, leida, k);
+    return CalcularDR(*parcela.arboles, seleccion, lado, leida, k);
 }
 
 double PrimerDR(const std::vector<ArbolDado>& arboles, ReglaDeSeleccion regla, double p,
-                const std::string& entrada, double k = 1, bool unilateral = false) {
-    return DR(Parcelita{arboles}, regla, p, entrada, k, unilateral).at(0);
+                const std::string& entrada, double k = 1, Lado lado = Lado::Bilateral) {
+    return DR(Parcelita{arboles}, regla, p, entrada, k, lado).at(0);
 }
 
 constexpr auto distancia = ReglaDeSeleccion::Distancia;
@@ -30,7 +30,7 @@ constexpr auto numero = ReglaDeSeleccion::NumeroFijo;
 TEST(DR, ConLaInversaDeLaDistanciaSumaRazonesEntreDistancias) {
     const std::vector<ArbolDado> tres{{"0", "0", "0,5"}, {"2", "0", "1"}, {"0", "4", "0,25"}};
     EXPECT_EQ(PrimerDR(tres, distancia, 8, inversa), 2 / 2.0 + 0.5 / 4);
-    EXPECT_EQ(PrimerDR(tres, distancia, 8, inversa, 1, true), 1);
+    EXPECT_EQ(PrimerDR(tres, distancia, 8, inversa, 1, Lado::Unilateral), 1);
     EXPECT_EQ(PrimerDR(tres, distancia, 8, inversa, 2), 4 / 2.0 + 0.25 / 4);
 }
 
@@ -45,7 +45,8 @@ TEST(DR, ElNumeroFijoTomaLosMasCercanosYNoLosMasGruesos) {
     const std::vector<ArbolDado> tres{{"0", "0", "1"}, {"4", "0", "8"}, {"2", "0", "0,5"}};
     EXPECT_EQ(PrimerDR(tres, numero, 1, inversa), 0.5 / 2);
     EXPECT_EQ(PrimerDR(tres, numero, 2, inversa), 8 / 4.0 + 0.5 / 2);
-    EXPECT_EQ(PrimerDR(tres, numero, 1, inversa, 1, true), 0) << "el menor ocupa el sitio aunque no sume";
+    EXPECT_EQ(PrimerDR(tres, numero, 1, inversa, 1, Lado::Unilateral), 0)
+        << "el menor ocupa el sitio aunque no sume";
 }
 
 TEST(DR, ElNumeroFijoNoDividePorNingunaDistancia) {

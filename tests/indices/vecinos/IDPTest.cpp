@@ -8,16 +8,16 @@
 namespace varo::prueba {
 namespace {
 
-std::vector<double> IDP(const Parcelita& parcela, ReglaDeSeleccion regla, double p, bool unilateral = false,
-                        FormaIDP forma = FormaIDP::SinArbolCentral) {
+std::vector<double> IDP(const Parcelita& parcela, ReglaDeSeleccion regla, double p,
+                        Lado lado = Lado::Bilateral, FormaIDP forma = FormaIDP::SinArbolCentral) {
     Seleccion seleccion{*parcela.vecindad, regla, OrdenDeRango::PorAngulo};
     seleccion.poner(p);
-    return CalcularIDP(*parcela.arboles, seleccion, unilateral, forma);
+    return CalcularIDP(*parcela.arboles, seleccion, lado, forma);
 }
 
 double PrimerIDP(const std::vector<ArbolDado>& arboles, ReglaDeSeleccion regla, double p,
-                 bool unilateral = false, FormaIDP forma = FormaIDP::SinArbolCentral) {
-    return IDP(Parcelita{arboles}, regla, p, unilateral, forma).at(0);
+                 Lado lado = Lado::Bilateral, FormaIDP forma = FormaIDP::SinArbolCentral) {
+    return IDP(Parcelita{arboles}, regla, p, lado, forma).at(0);
 }
 
 constexpr auto distancia = ReglaDeSeleccion::Distancia;
@@ -28,7 +28,7 @@ TEST(IDP, UnSoloCompetidorSinElArbolCentralDaMedioTermino) {
     // (1 - 1/2) * 2500 * (0.5 / 2)^2, and with the central tree three times as much.
     const std::vector<ArbolDado> pareja{{"0", "0", "0,25"}, {"2", "0", "0,5"}};
     EXPECT_EQ(PrimerIDP(pareja, distancia, 4), 78.125);
-    EXPECT_EQ(PrimerIDP(pareja, distancia, 4, false, FormaIDP::ConArbolCentral), 234.375);
+    EXPECT_EQ(PrimerIDP(pareja, distancia, 4, Lado::Bilateral, FormaIDP::ConArbolCentral), 234.375);
 }
 
 TEST(IDP, SinCompetidoresVale0) {
@@ -63,12 +63,12 @@ TEST(IDP, UnTerceroSinTamanoNiAdelantaNiCierraElPaso) {
 TEST(IDP, EnLaPasadaUnilateralLosMenoresDejanHuecosEnLosRangos) {
     // The smaller tree at 1 m looks largest; left out of the sum, it leaves rank 2 to the other one.
     const std::vector<ArbolDado> tres{{"0", "0", "1"}, {"1", "0", "0,5"}, {"4", "0", "1"}};
-    EXPECT_EQ(PrimerIDP(tres, distancia, 8, true), 2500 * 1.5 * 0.0625);
-    EXPECT_EQ(PrimerIDP(tres, distancia, 8, false), 1250 * (0.5 * 0.25 + 1.5 * 0.0625));
+    EXPECT_EQ(PrimerIDP(tres, distancia, 8, Lado::Unilateral), 2500 * 1.5 * 0.0625);
+    EXPECT_EQ(PrimerIDP(tres, distancia, 8, Lado::Bilateral), 1250 * (0.5 * 0.25 + 1.5 * 0.0625));
 }
 
 TEST(IDP, ElTamanoIgualCuentaEnLaPasadaUnilateral) {
-    EXPECT_EQ(PrimerIDP({{"0", "0", "0,5"}, {"2", "0", "0,5"}}, distancia, 8, true), 78.125);
+    EXPECT_EQ(PrimerIDP({{"0", "0", "0,5"}, {"2", "0", "0,5"}}, distancia, 8, Lado::Unilateral), 78.125);
 }
 
 TEST(IDP, UnCompetidorGruesoYLejanoSacaElSujetoDelContornoConElBAF) {
@@ -83,7 +83,8 @@ TEST(IDP, UnCandidatoLejanoBastaParaElEfectoDeBorde) {
     // The subject stands 10 m from a side, and 26 m from both of its ends: its height is exact.
     const Parcelita lejos{{{"14", "0", "1"}, {"-9", "0", "0,5"}}, 24};
     EXPECT_EQ(IDP(lejos, distancia, 10.5).at(0), -2);
-    EXPECT_EQ(IDP(lejos, distancia, 10.5, true).at(0), 0) << "ningún candidato pasa la regla del lado";
+    EXPECT_EQ(IDP(lejos, distancia, 10.5, Lado::Unilateral).at(0), 0)
+        << "ningún candidato pasa la regla del lado";
     EXPECT_EQ(IDP(lejos, distancia, 10).at(0), 0) << "la altura es igual al límite";
 }
 
@@ -140,7 +141,7 @@ TEST(IDP, LaFuncionDeLimiteLeeElDiametroDelSujetoEnMetros) {
     const auto con = [&](const char* entrada) {
         Seleccion seleccion{*parcela.vecindad, ReglaDeSeleccion::Funcion, OrdenDeRango::PorAngulo};
         seleccion.poner(entrada);
-        return CalcularIDP(*parcela.arboles, seleccion, false, FormaIDP::SinArbolCentral).at(0);
+        return CalcularIDP(*parcela.arboles, seleccion, Lado::Bilateral, FormaIDP::SinArbolCentral).at(0);
     };
     EXPECT_EQ(con("A: 2,00; k: 0,00; a: 1,00; b: 0,00; c: 0,00; d: 0,00; e: 0,00"), 78.125);
     EXPECT_EQ(con("A: 1,99; k: 0,00; a: 1,00; b: 0,00; c: 0,00; d: 0,00; e: 0,00"), 0);
@@ -153,7 +154,7 @@ TEST(IDP, UnLimiteNegativoDejaSinCompetidores) {
     const Parcelita parcela{{{"9", "0", "0,5"}, {"8", "0", "0,5"}}, 10};
     Seleccion seleccion{*parcela.vecindad, ReglaDeSeleccion::Funcion, OrdenDeRango::PorAngulo};
     seleccion.poner("A: -2,00; k: 0,00; a: 1,00; b: 0,00; c: 0,00; d: 0,00; e: 0,00");
-    EXPECT_EQ(CalcularIDP(*parcela.arboles, seleccion, false, FormaIDP::SinArbolCentral).at(0), 0);
+    EXPECT_EQ(CalcularIDP(*parcela.arboles, seleccion, Lado::Bilateral, FormaIDP::SinArbolCentral).at(0), 0);
 }
 
 } // namespace

@@ -8,9 +8,9 @@
 namespace varo::prueba {
 namespace {
 
-std::vector<double> ISC(const Parcelita& parcela, bool unilateral = false) {
-    const RadiosDeCopa radios{*parcela.arboles, FormaDeCopa::RadioMedio, 1};
-    return CalcularISC(*parcela.vecindad, radios, unilateral);
+std::vector<double> ISC(const Parcelita& parcela, Lado lado = Lado::Bilateral) {
+    const RadiosDeCopa radios{*parcela.arboles, DatosDeCopa::RadioMedio, 1};
+    return CalcularISC(*parcela.vecindad, radios, lado);
 }
 
 TEST(ISC, UnaCopaDentroDeOtraMayorTieneTerminoUno) {
@@ -18,7 +18,7 @@ TEST(ISC, UnaCopaDentroDeOtraMayorTieneTerminoUno) {
     // The area of the small crown in 32 bits over that of each one, in 64.
     const auto area = static_cast<double>(static_cast<float>(3.1415927));
     EXPECT_EQ(ISC(parcela), (std::vector<double>{area / 3.1415927, area / (3.1415927 * 16), 0}));
-    EXPECT_EQ(ISC(parcela, true), (std::vector<double>{area / 3.1415927, 0, 0}));
+    EXPECT_EQ(ISC(parcela, Lado::Unilateral), (std::vector<double>{area / 3.1415927, 0, 0}));
 }
 
 TEST(ISC, SinTamanoOSinCopaNoHayArbol) {
@@ -61,12 +61,12 @@ TEST(RadiosDeCopa, SonLaMediaEn32BitsDeLoQueDaCadaForma) {
     parcela.tamano = {"1"};
     parcela.copa = {{"10"}, {"20"}, {"30"}, {"43"}};
     const Arboles arboles = ArbolesDe(parcela);
-    const auto radio = [&](FormaDeCopa forma, int factor) {
-        return RadiosDeCopa{arboles, forma, factor}.de(0);
+    const auto radio = [&](DatosDeCopa datos, int factor) {
+        return RadiosDeCopa{arboles, datos, factor}.de(0);
     };
-    EXPECT_EQ(radio(FormaDeCopa::CuatroRadios, 1), 25.75F);
-    EXPECT_EQ(radio(FormaDeCopa::DosDiametros, 1), 7.5F);
-    EXPECT_EQ(radio(FormaDeCopa::RadioMedio, 100), 0.1F);
+    EXPECT_EQ(radio(DatosDeCopa::CuatroRadios, 1), 25.75F);
+    EXPECT_EQ(radio(DatosDeCopa::DosDiametros, 1), 7.5F);
+    EXPECT_EQ(radio(DatosDeCopa::RadioMedio, 100), 0.1F);
 }
 
 } // namespace

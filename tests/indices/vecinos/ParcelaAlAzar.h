@@ -2,6 +2,7 @@
 // with a side) or anywhere, some without a size, some on the vertices of the boundary, some with wrong cells.
 #pragma once
 
+#include "data/Papeles.h"
 #include "indices/vecinos/VecindadLiteral.h"
 
 #include <rapidcheck.h>
@@ -37,13 +38,10 @@ inline ParcelaLiteral ParcelaAlAzar(Percances percances) {
                                               {"0", "0,0", "grande", "-12", "1E+308", "1E+120"}, percances));
     }
     parcela.unidades.circunferencia = *rc::gen::arbitrary<bool>();
-    parcela.forma =
-        *rc::gen::element(FormaDeCopa::CuatroRadios, FormaDeCopa::DosDiametros, FormaDeCopa::RadioMedio);
+    parcela.datosDeCopa =
+        *rc::gen::element(DatosDeCopa::CuatroRadios, DatosDeCopa::DosDiametros, DatosDeCopa::RadioMedio);
     parcela.factorRadios = 10;
-    const int medidas = parcela.forma == FormaDeCopa::CuatroRadios   ? 4
-                        : parcela.forma == FormaDeCopa::DosDiametros ? 2
-                                                                     : 1;
-    for (int medida = 0; medida < medidas; ++medida) {
+    for (int medida = 0; medida < MedidasDeCopa(parcela.datosDeCopa); ++medida) {
         std::vector<std::string> celdas;
         for (int i = 0; i < arboles; ++i) {
             celdas.push_back(
@@ -54,20 +52,8 @@ inline ParcelaLiteral ParcelaAlAzar(Percances percances) {
     return parcela;
 }
 
-/// The same plot as the program holds it.
-inline Arboles ArbolesDe(const ParcelaLiteral& parcela) {
-    CeldasDeArboles celdas;
-    celdas.x = {"X", parcela.x};
-    celdas.y = {"Y", parcela.y};
-    celdas.tamano = {"CAP", parcela.tamano};
-    for (const auto& medida : parcela.copa) {
-        celdas.copa.emplace_back("R", medida);
-    }
-    return {std::move(celdas), parcela.unidades, parcela.contorno()};
-}
-
-/// Whether a column of the program is that of the literal procedure, bit by bit, or ends in its fault at the
-/// same pair of trees.
+/// Checks that a column of the program equals that of the literal procedure, bit for bit, or ends in the same
+/// fault at the same pair of trees.
 inline void ExigirIgual(const Columna& literal, const std::function<std::vector<double>()>& calcular) {
     std::vector<double> valores;
     int fallo = 0;

@@ -1,4 +1,4 @@
-// A small plot in the middle of a boundary far away, for results worked out by hand. Sizes are diameters in
+// A small plot in the middle of a boundary far away, for results computed by hand. Sizes are diameters in
 // metres, so that d is the number in the cell.
 #pragma once
 

@@ -1,13 +1,15 @@
-// The families of neighbours step by step, as they are defined: every cell is read and converted at the
-// moment of need, every tree is looked at for every subject, every rank is counted. What the program does
-// faster has to give the same bits and the same faults.
+// The families of neighbours step by step, as they are defined: every cell is converted where it is needed,
+// every tree is looked at for every subject, every rank is counted. The faster procedures must give the same
+// bits and the same faults.
 #pragma once
 
 #include "basico/Aritmetica.h"
 #include "basico/ErrorEjecucion.h"
 #include "basico/Numeros.h"
+#include "indices/vecinos/Arboles.h"
 #include "indices/vecinos/FuncionesDeLista.h"
 #include "indices/vecinos/IDP.h"
+#include "indices/vecinos/Lado.h"
 #include "plot/calculo/AreaInterseccionCirculos.h"
 #include "plot/calculo/Module1.h"
 #include "plot/calculo/Unidades.h"
@@ -25,12 +27,24 @@ struct ParcelaLiteral {
     std::vector<std::string> x, y, tamano;
     std::vector<std::vector<std::string>> copa; ///< by measure, then by tree
     UnidadesTallo unidades;
-    FormaDeCopa forma = FormaDeCopa::RadioMedio;
+    DatosDeCopa datosDeCopa = DatosDeCopa::RadioMedio;
     int factorRadios = 1;
     std::vector<double> contornoX, contornoY;
 
     [[nodiscard]] ContornoXY contorno() const { return {contornoX, contornoY}; }
 };
+
+/// The same plot as the program holds it.
+inline Arboles ArbolesDe(const ParcelaLiteral& parcela) {
+    CeldasDeArboles celdas;
+    celdas.x = {"X", parcela.x};
+    celdas.y = {"Y", parcela.y};
+    celdas.tamano = {"CAP", parcela.tamano};
+    for (const auto& medida : parcela.copa) {
+        celdas.copa.emplace_back("R", medida);
+    }
+    return {std::move(celdas), parcela.unidades, parcela.contorno()};
+}
 
 /// What a column came to: its values, or the fault with the pair at which it happened.
 struct Columna {
@@ -44,11 +58,11 @@ class VecindadLiteral {
 public:
     explicit VecindadLiteral(const ParcelaLiteral& parcela) : p_{parcela} {}
 
-    Columna ISC(bool unilateral) {
-        return columna([&](std::size_t i) { return isc(i, unilateral); });
+    Columna ISC(Lado lado) {
+        return columna([&](std::size_t i) { return isc(i, lado); });
     }
-    Columna AOI(bool unilateral, const SumaDePotencias& radio, double k) {
-        return columna([&](std::size_t i) { return aoi(i, unilateral, radio, k); });
+    Columna AOI(Lado lado, const SumaDePotencias& radio, double k) {
+        return columna([&](std::size_t i) { return aoi(i, lado, radio, k); });
     }
 
     /// The rule, and its parameter or entry.
@@ -57,11 +71,11 @@ public:
         double p = 0;
         std::string entrada;
     };
-    Columna IDP(const Regla& regla, bool unilateral, FormaIDP forma) {
-        return columna([&](std::size_t i) { return idp(i, regla, unilateral, forma); });
+    Columna IDP(const Regla& regla, Lado lado, FormaIDP forma) {
+        return columna([&](std::size_t i) { return idp(i, regla, lado, forma); });
     }
-    Columna DR(const Regla& regla, bool unilateral, const std::string& entrada, double k) {
-        return columna([&](std::size_t i) { return dr(i, regla, unilateral, entrada, k); });
+    Columna DR(const Regla& regla, Lado lado, const std::string& entrada, double k) {
+        return columna([&](std::size_t i) { return dr(i, regla, lado, entrada, k); });
     }
 
 private:
@@ -146,13 +160,13 @@ private:
         for (const auto& medida : p_.copa) {
             metros.push_back(Dividir(ANumero(medida[i]), p_.factorRadios));
         }
-        if (p_.forma == FormaDeCopa::CuatroRadios) {
+        if (p_.datosDeCopa == DatosDeCopa::CuatroRadios) {
             return simple((metros[0] + metros[1] + metros[2] + metros[3]) / 4);
         }
-        return simple(p_.forma == FormaDeCopa::DosDiametros ? (metros[0] + metros[1]) / 4 : metros[0]);
+        return simple(p_.datosDeCopa == DatosDeCopa::DosDiametros ? (metros[0] + metros[1]) / 4 : metros[0]);
     }
 
-    double isc(std::size_t i, bool unilateral) {
+    double isc(std::size_t i, Lado lado) {
         if (vacia(i)) {
             return -3;
         }
@@ -173,7 +187,7 @@ private:
                 continue;
             }
             vecino_ = j;
-            if (cm(j) < tamano && unilateral) {
+            if (cm(j) < tamano && lado == Lado::Unilateral) {
                 continue;
             }
             const double rj = radioMedio(j);
@@ -191,7 +205,7 @@ private:
         return AreaInterseccionCirculos(xi, yi, xj, yj, ri, rj);
     }
 
-    double aoi(std::size_t i, bool unilateral, const SumaDePotencias& radio, double k) {
+    double aoi(std::size_t i, Lado lado, const SumaDePotencias& radio, double k) {
         if (vacia(i) || p_.tamano[i] == "0") {
             return -3;
         }
@@ -210,7 +224,7 @@ private:
             }
             vecino_ = j;
             const double Dj = cm(j);
-            if (Dj < Di && unilateral) {
+            if (Dj < Di && lado == Lado::Unilateral) {
                 continue;
             }
             const double w = Potencia(Dividir(ANumero(p_.tamano[j]), ANumero(p_.tamano[i])), k);
@@ -221,7 +235,7 @@ private:
         return suma;
     }
 
-    double idp(std::size_t i, const Regla& regla, bool unilateral, FormaIDP forma) {
+    double idp(std::size_t i, const Regla& regla, Lado lado, FormaIDP forma) {
         if (vacia(i)) {
             return -3;
         }
@@ -237,7 +251,7 @@ private:
             }
             vecino_ = j;
             const double dj = d(j);
-            if (dj < di && unilateral) {
+            if (dj < di && lado == Lado::Unilateral) {
                 continue;
             }
             int rango = 1;
@@ -256,7 +270,7 @@ private:
         return m > 0 ? ExigirFinito(Dividir(2500, m) * suma) : 0;
     }
 
-    double dr(std::size_t i, const Regla& regla, bool unilateral, const std::string& entrada, double k) {
+    double dr(std::size_t i, const Regla& regla, Lado lado, const std::string& entrada, double k) {
         if (vacia(i) || p_.tamano[i] == "0") {
             return -3;
         }
@@ -271,7 +285,7 @@ private:
             }
             vecino_ = j;
             const double dj = d(j);
-            if (dj < di && unilateral) {
+            if (dj < di && lado == Lado::Unilateral) {
                 continue;
             }
             const FuncionDeDistancia funcion = LeerFuncionDeDistancia(entrada);

@@ -1,4 +1,4 @@
-// The fast ways of the families of neighbours against the literal procedures.
+// The families of neighbours against the literal procedures.
 #include "indices/vecinos/AOI.h"
 #include "indices/vecinos/DR.h"
 #include "indices/vecinos/IDP.h"
@@ -67,14 +67,14 @@ struct Prueba {
     Arboles arboles = ArbolesDe(parcela);
     Vecindad vecindad{arboles, parcela.contorno()};
     VecindadLiteral literal{parcela};
-    bool unilateral = *rc::gen::arbitrary<bool>();
+    Lado lado = *rc::gen::element(Lado::Bilateral, Lado::Unilateral);
 };
 
 void ProbarISC(Percances percances) {
     Prueba p{percances};
-    ExigirIgual(p.literal.ISC(p.unilateral), [&] {
-        const RadiosDeCopa radios{p.arboles, p.parcela.forma, p.parcela.factorRadios};
-        return CalcularISC(p.vecindad, radios, p.unilateral);
+    ExigirIgual(p.literal.ISC(p.lado), [&] {
+        const RadiosDeCopa radios{p.arboles, p.parcela.datosDeCopa, p.parcela.factorRadios};
+        return CalcularISC(p.vecindad, radios, p.lado);
     });
 }
 
@@ -85,8 +85,8 @@ void ProbarAOI(Percances percances) {
                           SumaDePotencias{-1, 0.1, 1, 0, 0}, SumaDePotencias{0, 1, 0.5, 0, 0},
                           SumaDePotencias{3, -0.1, 1, 0, 0}, SumaDePotencias{0.5, 4, -1, 0, 0});
     const double k = *rc::gen::element(0.0, 0.5, 1.0, 2.0, -1.0);
-    ExigirIgual(p.literal.AOI(p.unilateral, radio, k), [&] {
-        return CalcularAOI(p.vecindad, RadiosDeInfluencia{p.arboles, radio}, p.unilateral, k);
+    ExigirIgual(p.literal.AOI(p.lado, radio, k), [&] {
+        return CalcularAOI(p.vecindad, RadiosDeInfluencia{p.arboles, radio}, p.lado, k);
     });
 }
 
@@ -96,8 +96,8 @@ void ProbarIDP(Percances percances) {
     const auto forma = *rc::gen::element(FormaIDP::ConArbolCentral, FormaIDP::SinArbolCentral);
     Seleccion seleccion{p.vecindad, regla.regla, OrdenDeRango::PorAngulo};
     Poner(seleccion, regla);
-    ExigirIgual(p.literal.IDP(regla, p.unilateral, forma),
-                [&] { return CalcularIDP(p.arboles, seleccion, p.unilateral, forma); });
+    ExigirIgual(p.literal.IDP(regla, p.lado, forma),
+                [&] { return CalcularIDP(p.arboles, seleccion, p.lado, forma); });
 }
 
 void ProbarDR(Percances percances) {
@@ -112,8 +112,8 @@ void ProbarDR(Percances percances) {
     Seleccion seleccion{p.vecindad, regla.regla, OrdenDeRango::PorDistancia};
     Poner(seleccion, regla);
     EntradaDeDistancia entrada{texto};
-    ExigirIgual(p.literal.DR(regla, p.unilateral, texto, k),
-                [&] { return CalcularDR(p.vecindad, seleccion, p.unilateral, entrada, k); });
+    ExigirIgual(p.literal.DR(regla, p.lado, texto, k),
+                [&] { return CalcularDR(p.arboles, seleccion, p.lado, entrada, k); });
 }
 
 RC_GTEST_PROP(ISC, LasCopasCercanasBastan, ()) {

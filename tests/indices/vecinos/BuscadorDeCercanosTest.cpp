@@ -1,4 +1,4 @@
-#include "indices/vecinos/Vecindario.h"
+#include "indices/vecinos/BuscadorDeCercanos.h"
 
 #include "apoyo/Fallos.h"
 #include "indices/vecinos/Borde.h"
@@ -13,27 +13,27 @@
 namespace varo::prueba {
 namespace {
 
-using Filas = std::vector<Vecindario::Fila>;
+using Filas = std::vector<Cuadricula::Fila>;
 
 bool Contiene(const Filas& filas, std::size_t j) {
-    return std::binary_search(filas.begin(), filas.end(), static_cast<Vecindario::Fila>(j));
+    return std::binary_search(filas.begin(), filas.end(), static_cast<Cuadricula::Fila>(j));
 }
 
 double L(const Arboles& arboles, std::size_t i, std::size_t j) {
     return Distancia(arboles.x(i), arboles.y(i), arboles.x(j), arboles.y(j));
 }
 
-RC_GTEST_PROP(Vecindario, DaLosCercanosEnOrdenYApenasNingunoMas, ()) {
+RC_GTEST_PROP(BuscadorDeCercanos, DaLosCercanosEnOrdenYApenasNingunoMas, ()) {
     const ParcelaLiteral parcela = ParcelaAlAzar(Percances::Ninguno);
     const Arboles arboles = ArbolesDe(parcela);
-    const Vecindario vecindario{arboles};
+    const BuscadorDeCercanos buscador{arboles};
     const double radio = *rc::gen::inRange(-2, 60) * 0.5;
     Filas filas;
     for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
         if (arboles.sinTamano(i)) {
             continue;
         }
-        vecindario.buscar(i, radio, filas);
+        buscador.buscar(i, radio, filas);
         RC_ASSERT(std::is_sorted(filas.begin(), filas.end()));
         bool alguienEncima = false;
         for (std::size_t j = 0; j < arboles.cuantos(); ++j) {
@@ -42,18 +42,18 @@ RC_GTEST_PROP(Vecindario, DaLosCercanosEnOrdenYApenasNingunoMas, ()) {
                 continue;
             }
             const double distancia = L(arboles, i, j);
-            RC_ASSERT(distancia <= vecindario.extension());
+            RC_ASSERT(distancia <= buscador.extension());
             RC_ASSERT(Contiene(filas, j) == (distancia <= std::max(radio, 0.0)));
             alguienEncima = alguienEncima || distancia == 0;
         }
-        RC_ASSERT(vecindario.comparteSitio(i) == alguienEncima);
+        RC_ASSERT(buscador.comparteSitio(i) == alguienEncima);
     }
 }
 
-RC_GTEST_PROP(Vecindario, PorTamanoCadaUnoTieneSuAlcance, ()) {
+RC_GTEST_PROP(BuscadorDeCercanos, PorTamanoCadaUnoTieneSuAlcance, ()) {
     const ParcelaLiteral parcela = ParcelaAlAzar(Percances::Ninguno);
     const Arboles arboles = ArbolesDe(parcela);
-    const Vecindario vecindario{arboles};
+    const BuscadorDeCercanos buscador{arboles};
     const double porD = *rc::gen::inRange(0, 120) * 0.25;
     const double radio = *rc::gen::inRange(0, 10) * 0.5;
     Filas filas;
@@ -61,7 +61,7 @@ RC_GTEST_PROP(Vecindario, PorTamanoCadaUnoTieneSuAlcance, ()) {
         if (arboles.sinTamano(i)) {
             continue;
         }
-        vecindario.buscarPorTamano(i, porD, radio, filas);
+        buscador.buscarPorTamano(i, porD, radio, filas);
         RC_ASSERT(std::is_sorted(filas.begin(), filas.end()));
         for (std::size_t j = 0; j < arboles.cuantos(); ++j) {
             const bool dentro =
@@ -71,9 +71,9 @@ RC_GTEST_PROP(Vecindario, PorTamanoCadaUnoTieneSuAlcance, ()) {
     }
 }
 
-TEST(Vecindario, NoEsFiableSiUnArbolConTamanoTieneUnaCeldaMala) {
+TEST(BuscadorDeCercanos, NoEsFiableSiUnArbolConTamanoTieneUnaCeldaMala) {
     const auto fiable = [](const ArbolDado& segundo) {
-        return Parcelita{{{"0", "0", "1"}, segundo}}.vecindad->vecindario.fiable();
+        return Parcelita{{{"0", "0", "1"}, segundo}}.vecindad->buscador.fiable();
     };
     EXPECT_TRUE(fiable({"1", "1", "1"}));
     EXPECT_FALSE(fiable({"x", "1", "1"}));
@@ -83,13 +83,13 @@ TEST(Vecindario, NoEsFiableSiUnArbolConTamanoTieneUnaCeldaMala) {
     EXPECT_TRUE(fiable({"x", "1", ""})) << "sin tamaño no hay árbol";
 }
 
-TEST(Vecindario, UnArbolMuyLejosDeLosDemasSeEncuentraIgual) {
+TEST(BuscadorDeCercanos, UnArbolMuyLejosDeLosDemasSeEncuentraIgual) {
     // Trees far apart on one line; the cells stay in proportion to them.
     const Parcelita parcela{{{"0", "0", "1"}, {"1", "0", "1"}, {"1000000", "0", "1"}}};
     Filas filas;
-    parcela.vecindad->vecindario.buscar(0, 2, filas);
+    parcela.vecindad->buscador.buscar(0, 2, filas);
     EXPECT_EQ(filas, Filas{1});
-    parcela.vecindad->vecindario.buscar(0, 2000000, filas);
+    parcela.vecindad->buscador.buscar(0, 2000000, filas);
     EXPECT_EQ(filas, (Filas{1, 2}));
 }
 
@@ -97,18 +97,19 @@ RC_GTEST_PROP(PrimerCompetidor, EsElPrimeroQuePasaLaReglaDelLado, ()) {
     const ParcelaLiteral parcela = ParcelaAlAzar(Percances::Ninguno);
     const Arboles arboles = ArbolesDe(parcela);
     const PrimerCompetidor primero{arboles};
-    for (const bool unilateral : {false, true}) {
+    for (const Lado lado : {Lado::Bilateral, Lado::Unilateral}) {
         for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
             if (arboles.sinTamano(i)) {
                 continue;
             }
             std::optional<std::size_t> esperado;
             for (std::size_t j = arboles.cuantos(); j-- > 0;) {
-                if (j != i && !arboles.sinTamano(j) && !(unilateral && arboles.d(j) < arboles.d(i))) {
+                if (j != i && !arboles.sinTamano(j) &&
+                    (lado == Lado::Bilateral || arboles.d(j) >= arboles.d(i))) {
                     esperado = j;
                 }
             }
-            RC_ASSERT(primero.de(i, unilateral) == esperado);
+            RC_ASSERT(primero.de(i, lado) == esperado);
         }
     }
 }

@@ -1,6 +1,7 @@
-#include "indices/vecinos/Vecindario.h"
+#include "indices/vecinos/BuscadorDeCercanos.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <utility>
 
@@ -23,7 +24,7 @@ double ConHolgura(double distancia) {
 
 } // namespace
 
-Vecindario::Vecindario(const Arboles& arboles) : arboles_{arboles} {
+BuscadorDeCercanos::BuscadorDeCercanos(const Arboles& arboles) : arboles_{arboles} {
     std::vector<Fila> conTamano;
     for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
         if (arboles.sinTamano(i)) {
@@ -54,10 +55,11 @@ Vecindario::Vecindario(const Arboles& arboles) : arboles_{arboles} {
     }
 }
 
-/// `alcanceDe` gives the reach of the tree in a place of the grid; none of them is beyond `mayorAlcance`.
+/// `alcanceDe` gives the reach (m) of the tree in a place of the grid, `mayorAlcance` at the most.
 template <class Alcance>
-void Vecindario::buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe,
-                          std::vector<Fila>& cercanas) const {
+void BuscadorDeCercanos::buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe,
+                                  std::vector<Fila>& cercanas) const {
+    assert(fiable_);
     cercanas.clear();
     const double x = arboles_.x(i);
     const double y = arboles_.y(i);
@@ -72,14 +74,14 @@ void Vecindario::buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe,
     std::sort(cercanas.begin(), cercanas.end());
 }
 
-void Vecindario::buscar(std::size_t i, double radio, std::vector<Fila>& cercanas) const {
+void BuscadorDeCercanos::buscar(std::size_t i, double radio, std::vector<Fila>& cercanas) const {
     const double alcance = ConHolgura(std::max(radio, 0.0));
     buscarEn(
         i, alcance, [&](std::size_t) { return alcance; }, cercanas);
 }
 
-void Vecindario::buscarPorTamano(std::size_t i, double porD, double radio,
-                                 std::vector<Fila>& cercanas) const {
+void BuscadorDeCercanos::buscarPorTamano(std::size_t i, double porD, double radio,
+                                         std::vector<Fila>& cercanas) const {
     const auto alcanceDe = [&](double d) { return ConHolgura(std::max(porD * d, radio)); };
     buscarEn(
         i, alcanceDe(mayorD_), [&](std::size_t lugar) { return alcanceDe(d_[lugar]); }, cercanas);
