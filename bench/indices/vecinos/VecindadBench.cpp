@@ -1,10 +1,12 @@
-// One column of each family of neighbours, with what it works out first about the plot.
+// One column of each family of neighbours, with what it computes first about the plot, and the same column by
+// the literal procedure of the tests.
 #include "indices/vecinos/AOI.h"
 #include "indices/vecinos/DR.h"
 #include "indices/vecinos/IDP.h"
 #include "indices/vecinos/ISC.h"
 
 #include "basico/Numeros.h"
+#include "indices/vecinos/VecindadLiteral.h"
 #include "plot/calculo/Envolvente.h"
 
 #include <benchmark/benchmark.h>
@@ -29,30 +31,29 @@ struct Parcela {
             ys.push_back(ANumero(Formato(coordenada(azar), "##0.00")));
         }
         std::sort(xs.begin(), xs.end()); // the walk round the plot starts at the first one
-        std::vector<std::string> tx, ty, td, tr;
+        celdas.copa.resize(1);
         for (std::size_t i = 0; i < xs.size(); ++i) {
             const double d = diametro(azar);
-            tx.push_back(ATexto(xs[i]));
-            ty.push_back(ATexto(ys[i]));
-            td.push_back(Formato(d, "##0.0"));
-            tr.push_back(Formato(d / 10, "##0.0"));
+            celdas.x.push_back(ATexto(xs[i]));
+            celdas.y.push_back(ATexto(ys[i]));
+            celdas.tamano.push_back(Formato(d, "##0.0"));
+            celdas.copa[0].push_back(Formato(d / 10, "##0.0"));
         }
         for (const int i : EnvolverArboles(xs, ys).arboles) {
-            contornoX.push_back(xs[static_cast<std::size_t>(i)]);
-            contornoY.push_back(ys[static_cast<std::size_t>(i)]);
+            celdas.contornoX.push_back(xs[static_cast<std::size_t>(i)]);
+            celdas.contornoY.push_back(ys[static_cast<std::size_t>(i)]);
         }
-        CeldasDeArboles celdas;
-        celdas.x = {"X", std::move(tx)};
-        celdas.y = {"Y", std::move(ty)};
-        celdas.tamano = {"DAP", std::move(td)};
-        celdas.copa.emplace_back("R", std::move(tr));
-        arboles.emplace(std::move(celdas), UnidadesTallo{false, UnidadLongitud::Centimetros}, contorno());
+        celdas.unidades = {false, UnidadLongitud::Centimetros};
+        arboles.emplace(ArbolesDe(celdas));
     }
-    [[nodiscard]] ContornoXY contorno() const { return {contornoX, contornoY}; }
+    [[nodiscard]] ContornoXY contorno() const { return celdas.contorno(); }
 
-    std::vector<double> contornoX, contornoY;
+    prueba::ParcelaLiteral celdas;
     std::optional<Arboles> arboles;
 };
+
+constexpr SumaDePotencias radioDeInfluencia{0.5, 0.1, 1, 0, 0};
+const char* const peso = "HIP, a: 1,0000; b: 1,0000; c: 1,0000; d: 0,0000; e: 0,0000";
 
 void Reconocer(benchmark::State& estado) {
     const Parcela parcela{estado.range(0)};
@@ -65,8 +66,8 @@ void ISC(benchmark::State& estado) {
     const Parcela parcela{estado.range(0)};
     for (auto _ : estado) {
         Vecindad vecindad{*parcela.arboles, parcela.contorno()};
-        const RadiosDeCopa radios{*parcela.arboles, FormaDeCopa::RadioMedio, 1};
-        benchmark::DoNotOptimize(CalcularISC(vecindad, radios, false));
+        const RadiosDeCopa radios{*parcela.arboles, DatosDeCopa::RadioMedio, 1};
+        benchmark::DoNotOptimize(CalcularISC(vecindad, radios, Lado::Bilateral));
     }
 }
 
@@ -74,8 +75,8 @@ void AOI(benchmark::State& estado) {
     const Parcela parcela{estado.range(0)};
     for (auto _ : estado) {
         Vecindad vecindad{*parcela.arboles, parcela.contorno()};
-        const RadiosDeInfluencia radios{*parcela.arboles, {0.5, 0.1, 1, 0, 0}};
-        benchmark::DoNotOptimize(CalcularAOI(vecindad, radios, false, 1));
+        const RadiosDeInfluencia radios{*parcela.arboles, radioDeInfluencia};
+        benchmark::DoNotOptimize(CalcularAOI(vecindad, radios, Lado::Bilateral, 1));
     }
 }
 
@@ -85,7 +86,8 @@ void IDP(benchmark::State& estado, ReglaDeSeleccion regla, double p) {
         Vecindad vecindad{*parcela.arboles, parcela.contorno()};
         Seleccion seleccion{vecindad, regla, OrdenDeRango::PorAngulo};
         seleccion.poner(p);
-        benchmark::DoNotOptimize(CalcularIDP(*parcela.arboles, seleccion, false, FormaIDP::ConArbolCentral));
+        benchmark::DoNotOptimize(
+            CalcularIDP(*parcela.arboles, seleccion, Lado::Bilateral, FormaIDP::ConArbolCentral));
     }
 }
 
@@ -95,13 +97,49 @@ void DR(benchmark::State& estado, ReglaDeSeleccion regla, double p) {
         Vecindad vecindad{*parcela.arboles, parcela.contorno()};
         Seleccion seleccion{vecindad, regla, OrdenDeRango::PorDistancia};
         seleccion.poner(p);
-        EntradaDeDistancia entrada{"HIP, a: 1,0000; b: 1,0000; c: 1,0000; d: 0,0000; e: 0,0000"};
-        benchmark::DoNotOptimize(CalcularDR(vecindad, seleccion, false, entrada, 1));
+        EntradaDeDistancia entrada{peso};
+        benchmark::DoNotOptimize(CalcularDR(*parcela.arboles, seleccion, Lado::Bilateral, entrada, 1));
+    }
+}
+
+void ISCLiteral(benchmark::State& estado) {
+    const Parcela parcela{estado.range(0)};
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(prueba::VecindadLiteral{parcela.celdas}.ISC(Lado::Bilateral));
+    }
+}
+
+void AOILiteral(benchmark::State& estado) {
+    const Parcela parcela{estado.range(0)};
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(
+            prueba::VecindadLiteral{parcela.celdas}.AOI(Lado::Bilateral, radioDeInfluencia, 1));
+    }
+}
+
+void IDPLiteral(benchmark::State& estado, ReglaDeSeleccion regla, double p) {
+    const Parcela parcela{estado.range(0)};
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(prueba::VecindadLiteral{parcela.celdas}.IDP({regla, p, {}}, Lado::Bilateral,
+                                                                             FormaIDP::ConArbolCentral));
+    }
+}
+
+void DRLiteral(benchmark::State& estado, ReglaDeSeleccion regla, double p) {
+    const Parcela parcela{estado.range(0)};
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(
+            prueba::VecindadLiteral{parcela.celdas}.DR({regla, p, {}}, Lado::Bilateral, peso, 1));
     }
 }
 
 void Tamanos(benchmark::internal::Benchmark* medida) {
     medida->Arg(200)->Arg(1000)->Arg(5000)->Arg(20000)->Unit(benchmark::kMillisecond);
+}
+
+/// The sizes that take some seconds at the most.
+void TamanosLiterales(benchmark::internal::Benchmark* medida) {
+    medida->Arg(200)->Arg(1000)->Unit(benchmark::kMillisecond);
 }
 
 BENCHMARK(Reconocer)->Apply(Tamanos);
@@ -113,6 +151,15 @@ BENCHMARK_CAPTURE(IDP, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(Tamano
 BENCHMARK_CAPTURE(DR, diez_metros, ReglaDeSeleccion::Distancia, 10)->Apply(Tamanos);
 BENCHMARK_CAPTURE(DR, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(Tamanos);
 BENCHMARK_CAPTURE(DR, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(Tamanos);
+
+BENCHMARK(ISCLiteral)->Apply(TamanosLiterales);
+BENCHMARK(AOILiteral)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(IDPLiteral, diez_metros, ReglaDeSeleccion::Distancia, 10)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(IDPLiteral, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(IDPLiteral, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(DRLiteral, diez_metros, ReglaDeSeleccion::Distancia, 10)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(DRLiteral, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(DRLiteral, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(TamanosLiterales);
 
 } // namespace
 } // namespace varo
