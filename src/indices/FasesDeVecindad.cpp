@@ -48,10 +48,10 @@ Arboles ReunirArboles(Programa& programa) {
 template <class Pasada>
 std::vector<Pasada> PasadasDe(const Casilla& casillaUna, Pasada una, const Casilla& casillaOtra,
                               Pasada otra) {
-    if (Pasadas(casillaUna, casillaOtra) == 2) {
-        return {una, otra};
+    if (casillaOtra.Value() != 1) {
+        return {una};
     }
-    return {casillaOtra.Value() == 1 ? otra : una};
+    return casillaUna.Value() == 1 ? std::vector{una, otra} : std::vector{otra};
 }
 
 std::vector<Lado> LadosDe(const Casilla& bilateral, const Casilla& unilateral) {

@@ -46,8 +46,4 @@ double CuantosParametros(const OpcionesPrograma& opciones, FamiliaConSeleccion f
                : CuantosCaben(intervalo);
 }
 
-int Pasadas(const Casilla& una, const Casilla& otra) {
-    return una.Value() == 1 && otra.Value() == 1 ? 2 : 1;
-}
-
 } // namespace varo

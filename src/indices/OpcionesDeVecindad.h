@@ -20,7 +20,4 @@ Intervalo IntervaloDeSeleccion(const OpcionesPrograma& opciones, FamiliaConSelec
 double CuantosParametros(const OpcionesPrograma& opciones, FamiliaConSeleccion familia,
                          const Intervalo& intervalo);
 
-/// 2 with both checks on, else 1.
-int Pasadas(const Casilla& una, const Casilla& otra);
-
 } // namespace varo
