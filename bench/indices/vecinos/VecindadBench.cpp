@@ -137,7 +137,7 @@ void Tamanos(benchmark::internal::Benchmark* medida) {
     medida->Arg(200)->Arg(1000)->Arg(5000)->Arg(20000)->Unit(benchmark::kMillisecond);
 }
 
-/// The sizes that take some seconds at the most.
+/// Plots on which a literal column takes seconds; with a fixed number of stems only the smallest one does.
 void TamanosLiterales(benchmark::internal::Benchmark* medida) {
     medida->Arg(200)->Arg(1000)->Unit(benchmark::kMillisecond);
 }
@@ -156,10 +156,14 @@ BENCHMARK(ISCLiteral)->Apply(TamanosLiterales);
 BENCHMARK(AOILiteral)->Apply(TamanosLiterales);
 BENCHMARK_CAPTURE(IDPLiteral, diez_metros, ReglaDeSeleccion::Distancia, 10)->Apply(TamanosLiterales);
 BENCHMARK_CAPTURE(IDPLiteral, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(TamanosLiterales);
-BENCHMARK_CAPTURE(IDPLiteral, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(IDPLiteral, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)
+    ->Arg(200)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(DRLiteral, diez_metros, ReglaDeSeleccion::Distancia, 10)->Apply(TamanosLiterales);
 BENCHMARK_CAPTURE(DRLiteral, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(TamanosLiterales);
-BENCHMARK_CAPTURE(DRLiteral, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(DRLiteral, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)
+    ->Arg(200)
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace varo
