@@ -20,7 +20,7 @@ constexpr std::size_t largoExacto = 800;
 constexpr int cifrasDe64Bits = 15;
 constexpr int cifrasDe32Bits = 7;
 
-void quitarCerosFinales(std::string& cifras) {
+void QuitarCerosFinales(std::string& cifras) {
     cifras.erase(cifras.find_last_not_of('0') + 1);
 }
 
@@ -40,7 +40,7 @@ FormaDecimal DeCientifica(std::string_view texto) {
     ++forma.punto; // from one digit before the point to none
     forma.cifras = texto[0];
     forma.cifras += texto.substr(0, e).substr(std::min<std::size_t>(e, 2)); // past the decimal point
-    quitarCerosFinales(forma.cifras);
+    QuitarCerosFinales(forma.cifras);
     return forma.cifras.empty() ? FormaDecimal{} : forma;
 }
 
@@ -67,7 +67,7 @@ void FormaDecimal::redondear(int cuantas) {
     const bool sube = cifras[corte] >= '5';
     cifras.erase(corte);
     if (!sube) {
-        quitarCerosFinales(cifras);
+        QuitarCerosFinales(cifras);
         return;
     }
     // The carry runs over the nines at the end; past the first digit it makes a new one.

@@ -22,7 +22,7 @@ Leyendas ConExtremos(const Leyendas& copa) {
     return papeles;
 }
 
-bool contiene(const std::string& texto, std::string_view palabra) {
+bool Contiene(const std::string& texto, std::string_view palabra) {
     return texto.find(palabra) != std::string::npos;
 }
 
@@ -114,13 +114,13 @@ void SelColumnas::habilitarSegunLinea(const std::string& linea) {
     // The whole line is searched, the field name in the brackets too.
     int indice = 0;
     for (const auto& papel : papeles_.papeles) {
-        if (contiene(linea, papel.palabra)) {
+        if (Contiene(linea, papel.palabra)) {
             Command1(indice).Enabled = true;
             return;
         }
         ++indice;
     }
-    if (contiene(linea, "DAP") || contiene(linea, "CAP")) {
+    if (Contiene(linea, "DAP") || Contiene(linea, "CAP")) {
         CmdDAP.Enabled = true;
     }
 }
@@ -173,7 +173,7 @@ void SelColumnas::Form_Activate() {
 
     int lineaCodigo = -1;
     for (int i = 0; i < List1.ListCount(); ++i) {
-        if (contiene(List1.List(i), "Código")) {
+        if (Contiene(List1.List(i), "Código")) {
             lineaCodigo = i;
         }
     }

@@ -18,11 +18,11 @@ std::string Identidad::completa() const {
     return indice == sinIndice ? nombre : nombre + "(" + std::to_string(indice) + ")";
 }
 
-void faltaMiembro(const std::string& nombre, int indice) {
+void FaltaMiembro(const std::string& nombre, int indice) {
     throw ErrorEjecucion{340, "No existe el control " + Identidad{nombre, indice}.completa()};
 }
 
-void sobraMiembro(const std::string& nombre, int indice) {
+void SobraMiembro(const std::string& nombre, int indice) {
     throw ErrorEjecucion{360, "Ya existe el control " + Identidad{nombre, indice}.completa()};
 }
 
@@ -93,7 +93,7 @@ void ConLineas::Clear() {
     avisar();
 }
 
-void ConLineas::Lineas(const std::vector<std::string>& textos) {
+void ConLineas::lineas(const std::vector<std::string>& textos) {
     lineas_.clear();
     lineas_.reserve(textos.size());
     for (const auto& texto : textos) {

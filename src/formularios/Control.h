@@ -194,7 +194,7 @@ public:
     void RemoveItem(int linea);
     void Clear();
     /// These lines in place of all.
-    void Lineas(const std::vector<std::string>& textos);
+    void lineas(const std::vector<std::string>& textos);
 
 protected:
     struct Linea {
@@ -270,8 +270,8 @@ private:
     std::vector<std::vector<Control*>> contenido_;
 };
 
-[[noreturn]] void faltaMiembro(const std::string& nombre, int indice);
-[[noreturn]] void sobraMiembro(const std::string& nombre, int indice);
+[[noreturn]] void FaltaMiembro(const std::string& nombre, int indice);
+[[noreturn]] void SobraMiembro(const std::string& nombre, int indice);
 
 /// An array of controls that share a name: TxtBAF1(6). A member that is not there throws 340; making one that
 /// is there already throws 360.
@@ -283,7 +283,7 @@ public:
     template <class... Argumentos>
     C& crear(int indice, Argumentos&&... argumentos) {
         if (tiene(indice)) {
-            sobraMiembro(nombre_, indice);
+            SobraMiembro(nombre_, indice);
         }
         auto miembro = std::make_unique<C>(ventana_, Identidad{nombre_, indice},
                                            std::forward<Argumentos>(argumentos)...);
@@ -293,7 +293,7 @@ public:
     C& operator()(int indice) const {
         const auto miembro = miembros_.find(indice);
         if (miembro == miembros_.end()) {
-            faltaMiembro(nombre_, indice);
+            FaltaMiembro(nombre_, indice);
         }
         return *miembro->second;
     }

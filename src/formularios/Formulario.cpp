@@ -35,7 +35,7 @@ Control* Formulario::buscarControl(const std::string& nombre, int indice) const 
 Control& Formulario::control(const std::string& nombre, int indice) const {
     Control* const encontrado = buscarControl(nombre, indice);
     if (encontrado == nullptr) {
-        faltaMiembro(nombre_ + "." + nombre, indice);
+        FaltaMiembro(nombre_ + "." + nombre, indice);
     }
     return *encontrado;
 }

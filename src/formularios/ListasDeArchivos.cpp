@@ -103,7 +103,7 @@ void ListaCarpetas::Path(const std::string& ruta) {
     }
     const auto carpetas = Carpetas(ruta);
     ruta_ = ruta;
-    Lineas(carpetas);
+    lineas(carpetas);
     lanzar(Change);
 }
 
@@ -115,7 +115,7 @@ ListaArchivos::ListaArchivos(Formulario& ventana, Identidad identidad)
 void ListaArchivos::Path(const std::string& ruta) {
     const auto archivos = Archivos(ruta);
     ruta_ = ruta;
-    Lineas(archivos);
+    lineas(archivos);
 }
 
 std::string ListaArchivos::FileName() const {

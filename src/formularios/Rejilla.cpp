@@ -14,10 +14,10 @@ namespace {
 constexpr int anchoDeDiseno = 960;
 
 /// A cell as the generic sort sees it: empty cells, then numbers, then texts.
-struct ClaveDeOrden {
+struct ClaveDeCelda {
     enum class Clase { Vacia, Numero, Texto };
 
-    explicit ClaveDeOrden(const std::string& celda) {
+    explicit ClaveDeCelda(const std::string& celda) {
         if (celda.empty()) {
             return;
         }
@@ -30,7 +30,7 @@ struct ClaveDeOrden {
         }
     }
 
-    friend bool operator<(const ClaveDeOrden& a, const ClaveDeOrden& b) {
+    friend bool operator<(const ClaveDeCelda& a, const ClaveDeCelda& b) {
         if (a.clase != b.clase) {
             return a.clase < b.clase;
         }
@@ -117,8 +117,8 @@ void Rejilla::RemoveItem(int fila) {
     avisar();
 }
 
-void Rejilla::OrdenarAscendente() {
-    std::vector<ClaveDeOrden> claves;
+void Rejilla::ordenarAscendente() {
+    std::vector<ClaveDeCelda> claves;
     claves.reserve(filas_.size());
     for (const auto& fila : filas_) {
         claves.emplace_back(fila[static_cast<std::size_t>(columna_)]);

@@ -44,7 +44,7 @@ public:
 
     /// The generic ascending sort of the rows on the current column. It is stable: empty cells first, then
     /// numbers by value, then texts by code point.
-    void OrdenarAscendente();
+    void ordenarAscendente();
 
 private:
     static constexpr int filasFijas = 1;

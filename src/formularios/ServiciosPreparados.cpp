@@ -7,7 +7,7 @@ namespace varo {
 namespace {
 
 template <class Elemento>
-Elemento siguiente(std::deque<Elemento>& cola, const char* peticion) {
+Elemento Siguiente(std::deque<Elemento>& cola, const char* peticion) {
     if (cola.empty()) {
         throw SinRespuestaPreparada{peticion};
     }
@@ -62,16 +62,16 @@ void ServiciosPreparados::fallo(const ErrorEjecucion& error) {
 }
 
 void ServiciosPreparados::elegirArchivo(DialogoAbrir& dialogo) {
-    dialogo.FileName = siguiente(archivos_, "nadie preparó la elección de un archivo");
+    dialogo.FileName = Siguiente(archivos_, "nadie preparó la elección de un archivo");
     ultimoDialogo_ = dialogo;
 }
 
 std::optional<Fuente> ServiciosPreparados::elegirFuente(const Fuente& /*actual*/) {
-    return siguiente(fuentes_, "nadie preparó la elección de una fuente");
+    return Siguiente(fuentes_, "nadie preparó la elección de una fuente");
 }
 
 std::optional<Color> ServiciosPreparados::elegirColor(Color /*actual*/) {
-    return siguiente(colores_, "nadie preparó la elección de un color");
+    return Siguiente(colores_, "nadie preparó la elección de un color");
 }
 
 float ServiciosPreparados::anchoTexto(const std::string& texto) {

@@ -6,12 +6,12 @@ namespace varo {
 
 namespace {
 
-bool tomaElFoco(TipoControl tipo) {
+bool TomaElFoco(TipoControl tipo) {
     return tipo != TipoControl::Etiqueta && tipo != TipoControl::Imagen && tipo != TipoControl::Marco &&
            tipo != TipoControl::Menu;
 }
 
-std::optional<Impedimento> impedimentoPropio(const Control& control) {
+std::optional<Impedimento> ImpedimentoPropio(const Control& control) {
     if (!control.Visible()) {
         return Impedimento{Impedimento::Motivo::Invisible, &control};
     }
@@ -21,26 +21,26 @@ std::optional<Impedimento> impedimentoPropio(const Control& control) {
     return std::nullopt;
 }
 
-const Control* superior(const Control& control) {
+const Control* Superior(const Control& control) {
     if (control.tipo() == TipoControl::Menu) {
         return static_cast<const Menu&>(control).padre();
     }
     return control.contenedor;
 }
 
-void exigirUsable(const Control& control) {
+void ExigirUsable(const Control& control) {
     if (const auto impedimento = Usuario::impedimento(control)) {
         throw ActoImposible{control.nombreCompleto() + ": " + impedimento->texto()};
     }
 }
 
-void exigirALaVista(const Formulario& ventana) {
+void ExigirALaVista(const Formulario& ventana) {
     if (!ventana.Visible()) {
         throw ActoImposible{"la ventana " + ventana.nombre() + " no está a la vista"};
     }
 }
 
-void exigirLinea(const ConLineas& lista, int linea) {
+void ExigirLinea(const ConLineas& lista, int linea) {
     if (linea < 0 || linea >= lista.ListCount()) {
         throw ActoImposible{lista.nombreCompleto() + ": no tiene la línea " + std::to_string(linea)};
     }
@@ -64,8 +64,8 @@ std::optional<Impedimento> Usuario::impedimento(const Control& control) {
     if (!control.ventana().Visible()) {
         return Impedimento{Impedimento::Motivo::VentanaOculta, &control};
     }
-    for (const Control* eslabon = &control; eslabon != nullptr; eslabon = superior(*eslabon)) {
-        if (const auto impedimento = impedimentoPropio(*eslabon)) {
+    for (const Control* eslabon = &control; eslabon != nullptr; eslabon = Superior(*eslabon)) {
+        if (const auto impedimento = ImpedimentoPropio(*eslabon)) {
             return impedimento;
         }
     }
@@ -83,14 +83,14 @@ void Usuario::llevarActivacion(Formulario& ventana) {
 }
 
 void Usuario::usar(Control& control, const std::function<void()>& acto) {
-    exigirUsable(control);
+    ExigirUsable(control);
     ventanas_.atender([&] {
-        const bool conFoco = tomaElFoco(control.tipo());
+        const bool conFoco = TomaElFoco(control.tipo());
         llevarActivacion(control.ventana());
         if (conFoco) {
             ventanas_.darFoco(control);
         }
-        exigirUsable(control); // leaving the old window or field may have disabled or hidden this control
+        ExigirUsable(control); // leaving the old window or field may have disabled or hidden this control
         if (conFoco && ventanas_.foco() != &control) {
             return; // the field that was left took the focus back: the act does not reach the control
         }
@@ -140,7 +140,7 @@ void Usuario::desplegar(Desplegable& lista) {
 
 void Usuario::elegir(Desplegable& lista, int linea) {
     usar(lista, [&] {
-        exigirLinea(lista, linea);
+        ExigirLinea(lista, linea);
         lista.Text = lista.List(linea);
         if (lista.Click) {
             lista.Click();
@@ -150,7 +150,7 @@ void Usuario::elegir(Desplegable& lista, int linea) {
 
 void Usuario::elegir(Lista& lista, int linea, bool seleccionada) {
     usar(lista, [&] {
-        exigirLinea(lista, linea);
+        ExigirLinea(lista, linea);
         lista.Selected(linea, seleccionada);
         if (lista.Click) {
             lista.Click();
@@ -184,15 +184,15 @@ void Usuario::dejarFoco() {
 }
 
 void Usuario::activar(Formulario& ventana) {
-    exigirALaVista(ventana);
+    ExigirALaVista(ventana);
     ventanas_.atender([&] { llevarActivacion(ventana); });
 }
 
 void Usuario::cerrar(Formulario& ventana) {
-    exigirALaVista(ventana);
+    ExigirALaVista(ventana);
     ventanas_.atender([&] {
         llevarActivacion(ventana);
-        exigirALaVista(ventana);
+        ExigirALaVista(ventana);
         ventana.pulsarCierre();
     });
 }

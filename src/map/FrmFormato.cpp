@@ -66,11 +66,11 @@ void FrmFormato::Form_Load() {
         if (columnaCodigo != sesion.Columnas(papelX)) {
             auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
             rejilla.Col(columnaCodigo.valor());
-            rejilla.OrdenarAscendente();
+            rejilla.ordenarAscendente();
             ListaCodigos();
             FilasCodigos();
             rejilla.Col(1);
-            rejilla.OrdenarAscendente();
+            rejilla.ordenarAscendente();
         }
     }
     CboTitFont.Text = CboTitFont.Font().nombre;

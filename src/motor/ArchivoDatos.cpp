@@ -1,13 +1,13 @@
 #include "motor/ArchivoDatos.h"
 
 #include "basico/ErrorEjecucion.h"
+#include "motor/lectores/Bytes.h"
 #include "motor/lectores/LectorXls.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
-#include <span>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -15,8 +15,6 @@
 namespace varo {
 
 namespace {
-
-using Bytes = std::span<const std::byte>;
 
 /// Far beyond any plot: what is larger is some other kind of file, and is not read into memory.
 constexpr std::uintmax_t tamanoMaximo = std::uintmax_t{512} * 1024 * 1024;
@@ -105,8 +103,7 @@ std::string PorQueNoSeReconoce(Bytes bytes) {
     const std::string consejo = "guárdelo desde la hoja de cálculo como libro de Excel 97-2003 (.xls)";
     if (EsBaseDeDatos(bytes)) {
         return "las bases de datos (.mdb) todavía no se pueden leer; guarde la tabla en un libro de Excel "
-               "97-2003 "
-               "(.xls)";
+               "97-2003 (.xls)";
     }
     if (EsZip(bytes)) {
         return "es un archivo comprimido, como los .xlsx y los .ods; " + consejo;

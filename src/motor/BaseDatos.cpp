@@ -25,7 +25,7 @@ const Tabla& Buscar(const Coleccion<Tabla>& tablas, const std::string& nombre) {
 BaseDatos::BaseDatos(std::vector<Tabla> tablas)
     : tablas_{std::make_shared<const Coleccion<Tabla>>(std::move(tablas))} {}
 
-BaseDatos BaseDatos::Abrir(const std::filesystem::path& archivo) {
+BaseDatos BaseDatos::abrir(const std::filesystem::path& archivo) {
     return BaseDatos{LeerArchivoDatos(archivo)};
 }
 
@@ -33,7 +33,7 @@ const Coleccion<Tabla>& BaseDatos::TableDefs() const {
     return *tablas_;
 }
 
-Recordset BaseDatos::AbrirTabla(const std::string& nombre) const {
+Recordset BaseDatos::abrirTabla(const std::string& nombre) const {
     // The recordset keeps all the tables alive and looks at this one.
     return Recordset{std::shared_ptr<const Tabla>{tablas_, &Buscar(*tablas_, nombre)}};
 }

@@ -19,12 +19,12 @@ public:
 
     /// Recognises the file by its content and reads it. A file that cannot be read, or whose content is
     /// foreign, damaged or encrypted, throws ErrorMotor with its name.
-    static BaseDatos Abrir(const std::filesystem::path& archivo);
+    static BaseDatos abrir(const std::filesystem::path& archivo);
 
     [[nodiscard]] const Coleccion<Tabla>& TableDefs() const;
 
     /// The rows of a table, by its name, as a snapshot.
-    [[nodiscard]] Recordset AbrirTabla(const std::string& nombre) const;
+    [[nodiscard]] Recordset abrirTabla(const std::string& nombre) const;
 
     /// The rows of a SELECT text as a snapshot. A broken text, an unknown name or a type that does not fit
     /// throws ErrorMotor.

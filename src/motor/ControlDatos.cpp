@@ -15,13 +15,13 @@ void ControlDatos::DatabaseName(std::string archivo) {
 
 void ControlDatos::Refresh() {
     if (porAbrir_) {
-        base_ = BaseDatos::Abrir(std::u8string{archivo_.begin(), archivo_.end()});
+        base_ = BaseDatos::abrir(std::u8string{archivo_.begin(), archivo_.end()});
         filas_.reset();
         porAbrir_ = false;
     } else if (RecordSource.empty()) {
         filas_.reset();
     } else {
-        filas_ = Database().AbrirTabla(RecordSource);
+        filas_ = Database().abrirTabla(RecordSource);
     }
 }
 

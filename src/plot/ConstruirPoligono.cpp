@@ -40,7 +40,7 @@ private:
 
 void OrdenarPor(Rejilla& rejilla, int columna) {
     rejilla.Col(columna);
-    rejilla.OrdenarAscendente();
+    rejilla.ordenarAscendente();
 }
 
 /// Mean crown radius of one tree in the unit of the sheet.

@@ -254,7 +254,7 @@ TEST(Rejilla, OrdenarPoneVaciasLuegoNumerosPorValorLuegoTextosPorCodigo) {
     ConRejilla banco;
     banco.llenar(1, {"pino", "10", "", "9,5", "Ñu", "1.000", "Zarza", "-2", "2E1"});
     banco.rejilla.Col(1);
-    banco.rejilla.OrdenarAscendente();
+    banco.rejilla.ordenarAscendente();
     // Ñ (U+00D1) comes behind every letter of ASCII.
     EXPECT_EQ(banco.columna(1),
               (std::vector<std::string>{"", "-2", "9,5", "10", "2E1", "1.000", "Zarza", "pino", "Ñu"}));
@@ -268,7 +268,7 @@ TEST(Rejilla, OrdenarDejaLaCabeceraArribaYLlevaLasFilasEnteras) {
     banco.llenar(1, {"3", "1", "2"});
     rejilla.TextMatrix(0, 1, "9");
     rejilla.Col(1);
-    rejilla.OrdenarAscendente();
+    rejilla.ordenarAscendente();
     EXPECT_EQ(rejilla.TextMatrix(0, 1), "9");
     EXPECT_EQ(banco.columna(0), (std::vector<std::string>{"primero", "segundo", "tercero"}));
 }
@@ -278,7 +278,7 @@ TEST(Rejilla, OrdenarConservaElOrdenDeLasFilasIguales) {
     banco.llenar(0, {"a", "b", "c", "d", "e"});
     banco.llenar(1, {"1,0", "0", "1", "-0", "1,00"});
     banco.rejilla.Col(1);
-    banco.rejilla.OrdenarAscendente();
+    banco.rejilla.ordenarAscendente();
     EXPECT_EQ(banco.columna(0), (std::vector<std::string>{"b", "d", "a", "c", "e"}));
 }
 
@@ -286,7 +286,7 @@ TEST(Rejilla, LoQueNoSeLeeComoNumeroSeOrdenaComoTexto) {
     ConRejilla banco;
     banco.llenar(1, {"1,5,2", "500", "12a", " "});
     banco.rejilla.Col(1);
-    banco.rejilla.OrdenarAscendente();
+    banco.rejilla.ordenarAscendente();
     EXPECT_EQ(banco.columna(1), (std::vector<std::string>{"500", " ", "1,5,2", "12a"}));
 }
 
@@ -294,7 +294,7 @@ TEST(Rejilla, OrdenarSinFilasDeDatosNoHaceNada) {
     ConRejilla banco;
     banco.rejilla.TextMatrix(0, 0, "X");
     banco.rejilla.Rows(1);
-    banco.rejilla.OrdenarAscendente();
+    banco.rejilla.ordenarAscendente();
     EXPECT_EQ(banco.rejilla.Rows(), 1);
     EXPECT_EQ(banco.rejilla.TextMatrix(0, 0), "X");
 }
@@ -311,7 +311,7 @@ TEST(Rejilla, AvisaDeSuFormaYSuOrdenPeroNoDeCadaCelda) {
     EXPECT_EQ(banco.visto(), Diario{"aviso"});
     rejilla.Cols(4);
     EXPECT_EQ(banco.visto(), Diario{"aviso"});
-    rejilla.OrdenarAscendente();
+    rejilla.ordenarAscendente();
     EXPECT_EQ(banco.visto(), Diario{"aviso"});
     rejilla.RemoveItem(1);
     EXPECT_EQ(banco.visto(), Diario{"aviso"});
@@ -329,7 +329,7 @@ RC_GTEST_PROP(Rejilla, OrdenarEsLaInsercionLiteral, ()) {
     banco.llenar(0, numeros);
     banco.llenar(1, textos);
     banco.rejilla.Col(1);
-    banco.rejilla.OrdenarAscendente();
+    banco.rejilla.ordenarAscendente();
 
     std::vector<std::string> textosEnOrden;
     std::vector<std::string> numerosEnOrden;

@@ -48,19 +48,19 @@ TEST(BaseDatos, LasTablasSeDanEnSuOrdenPorPosicionOPorNombre) {
 
 TEST(BaseDatos, UnaTablaSeAbrePorSuNombreSinImportarMayusculas) {
     const auto base = ConDosTablas();
-    EXPECT_EQ(base.AbrirTabla("parcela1$").RecordCount(), 2);
-    EXPECT_TRUE(base.AbrirTabla("VACÍA$").Eof());
+    EXPECT_EQ(base.abrirTabla("parcela1$").RecordCount(), 2);
+    EXPECT_TRUE(base.abrirTabla("VACÍA$").Eof());
 }
 
 TEST(BaseDatos, UnaTablaQueNoHayFallaConSuNombre) {
     const auto base = ConDosTablas();
-    EXPECT_EQ(FalloDe([&] { (void)base.AbrirTabla("Parcela1"); }), fallo::tablaDesconocida);
-    EXPECT_NE(MensajeDe([&] { (void)base.AbrirTabla("Parcela1"); }).find("«Parcela1»"), std::string::npos);
+    EXPECT_EQ(FalloDe([&] { (void)base.abrirTabla("Parcela1"); }), fallo::tablaDesconocida);
+    EXPECT_NE(MensajeDe([&] { (void)base.abrirTabla("Parcela1"); }).find("«Parcela1»"), std::string::npos);
 }
 
 TEST(BaseDatos, LasFilasSobrevivenALaBase) {
     std::optional<BaseDatos> base = ConDosTablas();
-    auto tabla = base->AbrirTabla("Parcela1$");
+    auto tabla = base->abrirTabla("Parcela1$");
     auto consulta = base->OpenRecordset("SELECT Sum([CAP]) FROM [Parcela1$]");
     base.reset();
     EXPECT_EQ(tabla.Fields(1).Value, Valor{30.0});
@@ -93,7 +93,7 @@ TEST(BaseDatos, LosFallosDeUnaConsultaSonDelMotor) {
 /// Opening it fails with this number, and the message tells the file and this.
 void EsperarFallo(const std::filesystem::path& archivo, int numero, std::string_view dice) {
     try {
-        (void)BaseDatos::Abrir(archivo);
+        (void)BaseDatos::abrir(archivo);
         ADD_FAILURE() << archivo << " se abre";
     } catch (const ErrorMotor& error) {
         EXPECT_EQ(error.numero(), numero) << error.what();
@@ -122,11 +122,11 @@ TEST(BaseDatosAbrir, UnLibroSeLeeConSusHojasEnOrden) {
                                             {2.0, Nulo{}},
                                             {3.0, std::string{"12,5"}}}},
                                 {.nombre = "Alfa", .celdas = {{std::string{"a"}}, {true}}, .oculta = true}});
-    const auto base = BaseDatos::Abrir(archivo);
+    const auto base = BaseDatos::abrir(archivo);
     ASSERT_EQ(base.TableDefs().Count(), 2);
     EXPECT_EQ(base.TableDefs()(0).Name, "Zeta$");
     EXPECT_EQ(base.TableDefs()(1).Name, "Alfa$");
-    EXPECT_EQ(base.AbrirTabla("Zeta$").RecordCount(), 3);
+    EXPECT_EQ(base.abrirTabla("Zeta$").RecordCount(), 3);
     EXPECT_EQ(base.OpenRecordset("SELECT Sum ( [CAP] ) FROM [Zeta$]").Fields(0).Value, Valor{75.0});
 }
 
@@ -134,7 +134,7 @@ TEST(BaseDatosAbrir, ElNombreNoDiceLoQueEs) {
     const CarpetaTemporal carpeta;
     const auto archivo = carpeta / "parcela.mdb";
     prueba::EscribirArchivoXls(archivo, {{.nombre = "Hoja1", .celdas = {{std::string{"a"}}, {1.0}}}});
-    EXPECT_EQ(BaseDatos::Abrir(archivo).TableDefs()(0).Name, "Hoja1$");
+    EXPECT_EQ(BaseDatos::abrir(archivo).TableDefs()(0).Name, "Hoja1$");
 }
 
 TEST(BaseDatosAbrir, UnArchivoQueNoHay) {
@@ -233,7 +233,7 @@ TEST(BaseDatosAbrir, LoQueNadieConoceSeRechaza) {
 
 TEST(BaseDatosAbrir, LosLibrosDeOtrosProgramasSeLeen) {
     for (const auto& archivo : prueba::LibrosPropios()) {
-        EXPECT_GT(BaseDatos::Abrir(archivo).TableDefs().Count(), 0) << archivo;
+        EXPECT_GT(BaseDatos::abrir(archivo).TableDefs().Count(), 0) << archivo;
     }
 }
 
@@ -256,7 +256,7 @@ TEST(BaseDatosAbrir, LasMuestrasBuenasSeLeenYLasMalasSeRechazan) {
         GTEST_SKIP() << "no están las muestras";
     }
     for (const auto& entrada : std::filesystem::directory_iterator{muestras / "xls"}) {
-        EXPECT_GT(BaseDatos::Abrir(entrada.path()).TableDefs().Count(), 0) << entrada.path();
+        EXPECT_GT(BaseDatos::abrir(entrada.path()).TableDefs().Count(), 0) << entrada.path();
     }
     for (const std::string otra : {"other/lo.xlsx", "other/lo.ods", "xls-bad/xlsx_renamed.xls"}) {
         EsperarFallo(muestras / otra, fallo::formatoNoReconocido, "archivo comprimido");

@@ -26,11 +26,11 @@ std::string Libro(const CarpetaTemporal& carpeta, const std::string& nombre, dou
 
 class ControlDatosConLibro : public testing::Test {
 protected:
-    void Abrir(const std::string& archivo) {
+    void abrir(const std::string& archivo) {
         datos.DatabaseName(archivo);
         datos.Refresh();
     }
-    void Mostrar(const std::string& tabla) {
+    void mostrar(const std::string& tabla) {
         datos.RecordSource = tabla;
         datos.Refresh();
     }
@@ -64,71 +64,71 @@ TEST_F(ControlDatosConLibro, NombrarUnArchivoNoLoAbreHastaRefresh) {
 }
 
 TEST_F(ControlDatosConLibro, AbrirLaConexionNoMuestraFilas) {
-    Abrir(libro);
+    abrir(libro);
     EXPECT_EQ(FalloDe([&] { (void)datos.Recordset(); }), fallo::objetoNoEstablecido);
 }
 
 TEST_F(ControlDatosConLibro, RefreshMuestraLasFilasDeSuTabla) {
-    Abrir(libro);
-    Mostrar("Hoja1$");
+    abrir(libro);
+    mostrar("Hoja1$");
     EXPECT_EQ(datos.Recordset().RecordCount(), 1);
     EXPECT_EQ(datos.Recordset().Fields(0).Value, Valor{30.0});
-    Mostrar("hoja2$");
+    mostrar("hoja2$");
     EXPECT_EQ(datos.Recordset().campos().Count(), 2);
 }
 
 TEST_F(ControlDatosConLibro, OtroRefreshVuelveALaPrimeraFila) {
-    Abrir(libro);
-    Mostrar("Hoja1$");
+    abrir(libro);
+    mostrar("Hoja1$");
     datos.Recordset().MoveNext();
     datos.Refresh();
     EXPECT_FALSE(datos.Recordset().Eof());
 }
 
 TEST_F(ControlDatosConLibro, RefrescarLasFilasNoVuelveALeerElArchivo) {
-    Abrir(libro);
+    abrir(libro);
     std::filesystem::remove(libro);
-    Mostrar("Hoja1$");
+    mostrar("Hoja1$");
     EXPECT_EQ(datos.Recordset().Fields(0).Value, Valor{30.0});
 }
 
 TEST_F(ControlDatosConLibro, NombrarDeNuevoElMismoArchivoLoVuelveALeer) {
-    Abrir(libro);
+    abrir(libro);
     ASSERT_EQ(Libro(carpeta, "libro ñ.xls", 40), libro);
-    Abrir(libro);
-    Mostrar("Hoja1$");
+    abrir(libro);
+    mostrar("Hoja1$");
     EXPECT_EQ(datos.Recordset().Fields(0).Value, Valor{40.0});
 }
 
 TEST_F(ControlDatosConLibro, OtroArchivoOcupaElLugarDelPrimero) {
-    Abrir(libro);
-    Mostrar("Hoja1$");
-    Abrir(Libro(carpeta, "otro.xls", 50));
+    abrir(libro);
+    mostrar("Hoja1$");
+    abrir(Libro(carpeta, "otro.xls", 50));
     EXPECT_EQ(FalloDe([&] { (void)datos.Recordset(); }), fallo::objetoNoEstablecido);
-    Mostrar("Hoja1$");
+    mostrar("Hoja1$");
     EXPECT_EQ(datos.Recordset().Fields(0).Value, Valor{50.0});
 }
 
 TEST_F(ControlDatosConLibro, UnaTablaQueNoHayDejaLoQueSeMostraba) {
-    Abrir(libro);
-    Mostrar("Hoja1$");
-    EXPECT_EQ(FalloDe([&] { Mostrar("(ninguna)"); }), fallo::tablaDesconocida);
+    abrir(libro);
+    mostrar("Hoja1$");
+    EXPECT_EQ(FalloDe([&] { mostrar("(ninguna)"); }), fallo::tablaDesconocida);
     EXPECT_EQ(datos.RecordSource, "(ninguna)");
     EXPECT_EQ(datos.Recordset().Fields(0).Value, Valor{30.0});
     EXPECT_EQ(datos.Database().TableDefs().Count(), 2);
 }
 
 TEST_F(ControlDatosConLibro, UnArchivoQueNoSeAbreDejaElDeAntes) {
-    Abrir(libro);
-    Mostrar("Hoja1$");
-    EXPECT_EQ(FalloDe([&] { Abrir((carpeta / "nada.xls").string()); }), fallo::archivoNoEncontrado);
+    abrir(libro);
+    mostrar("Hoja1$");
+    EXPECT_EQ(FalloDe([&] { abrir((carpeta / "nada.xls").string()); }), fallo::archivoNoEncontrado);
     EXPECT_EQ(datos.Database().TableDefs().Count(), 2);
     EXPECT_EQ(datos.Recordset().Fields(0).Value, Valor{30.0});
 }
 
 TEST_F(ControlDatosConLibro, VaciarElNombreDesconecta) {
-    Abrir(libro);
-    Mostrar("Hoja1$");
+    abrir(libro);
+    mostrar("Hoja1$");
     datos.RecordSource.clear();
     datos.DatabaseName("");
     EXPECT_EQ(FalloDe([&] { (void)datos.Database(); }), fallo::objetoNoEstablecido);
@@ -138,16 +138,16 @@ TEST_F(ControlDatosConLibro, VaciarElNombreDesconecta) {
 }
 
 TEST_F(ControlDatosConLibro, VaciarLaTablaQuitaLasFilas) {
-    Abrir(libro);
-    Mostrar("Hoja1$");
-    Mostrar("");
+    abrir(libro);
+    mostrar("Hoja1$");
+    mostrar("");
     EXPECT_EQ(FalloDe([&] { (void)datos.Recordset(); }), fallo::objetoNoEstablecido);
     EXPECT_EQ(datos.Database().TableDefs().Count(), 2);
 }
 
 TEST_F(ControlDatosConLibro, LaCadenaDeConexionNoDecideNada) {
     datos.Connect = "Access";
-    Abrir(libro);
+    abrir(libro);
     EXPECT_EQ(datos.Database().TableDefs()(0).Name, "Hoja1$");
 }
 

@@ -224,7 +224,7 @@ private:
 } // namespace
 
 std::string PlantillaDeTrabajo(const std::filesystem::path& archivo) {
-    const auto base = BaseDatos::Abrir(archivo);
+    const auto base = BaseDatos::abrir(archivo);
     return Redactor{archivo, base.TableDefs()}.redactar();
 }
 

@@ -26,7 +26,7 @@ std::string BloqueDe(const Tabla& tabla) {
 } // namespace
 
 std::string ListaDeTablas(const std::filesystem::path& archivo) {
-    const auto base = BaseDatos::Abrir(archivo);
+    const auto base = BaseDatos::abrir(archivo);
     std::string lista;
     for (const auto& tabla : base.TableDefs()) {
         lista += BloqueDe(tabla);

@@ -47,9 +47,9 @@ public:
     Cadena(const std::vector<std::uint32_t>& enlaces, std::uint32_t primero)
         : enlaces_{enlaces}, vistos_(enlaces.size()), siguiente_{primero} {}
 
-    [[nodiscard]] bool Acabada() const { return siguiente_ == finDeCadena; }
+    [[nodiscard]] bool acabada() const { return siguiente_ == finDeCadena; }
 
-    std::uint32_t Siguiente() {
+    std::uint32_t siguiente() {
         const auto sector = siguiente_;
         if (sector >= enlaces_.size() || vistos_[sector]) {
             ArchivoDanado("una cadena de sectores está rota");
@@ -67,7 +67,7 @@ private:
 
 } // namespace
 
-Bytes TablaDeSectores::Sector(std::uint32_t sector) const {
+Bytes TablaDeSectores::sector(std::uint32_t sector) const {
     const std::size_t lugar = sector * tamanoSector;
     if (lugar >= sectores.size()) {
         ArchivoDanado("le faltan sectores");
@@ -75,7 +75,7 @@ Bytes TablaDeSectores::Sector(std::uint32_t sector) const {
     return sectores.subspan(lugar, std::min(tamanoSector, sectores.size() - lugar));
 }
 
-std::vector<std::byte> TablaDeSectores::Leer(std::uint32_t primero, std::uint64_t tamano) const {
+std::vector<std::byte> TablaDeSectores::leer(std::uint32_t primero, std::uint64_t tamano) const {
     if (tamano > sectores.size()) {
         ArchivoDanado("una secuencia es más larga que el archivo");
     }
@@ -84,23 +84,23 @@ std::vector<std::byte> TablaDeSectores::Leer(std::uint32_t primero, std::uint64_
     Cadena cadena{enlaces, primero};
     while (bytes.size() < tamano) {
         const std::size_t cuantos = std::min<std::size_t>(tamanoSector, tamano - bytes.size());
-        const auto trozo = Trozo(Sector(cadena.Siguiente()), 0, cuantos);
+        const auto trozo = Trozo(sector(cadena.siguiente()), 0, cuantos);
         bytes.insert(bytes.end(), trozo.begin(), trozo.end());
     }
     return bytes;
 }
 
-std::vector<std::byte> TablaDeSectores::LeerEntera(std::uint32_t primero) const {
+std::vector<std::byte> TablaDeSectores::leerEntera(std::uint32_t primero) const {
     std::vector<std::byte> bytes;
     Cadena cadena{enlaces, primero};
-    while (!cadena.Acabada()) {
-        const auto trozo = Trozo(Sector(cadena.Siguiente()), 0, tamanoSector);
+    while (!cadena.acabada()) {
+        const auto trozo = Trozo(sector(cadena.siguiente()), 0, tamanoSector);
         bytes.insert(bytes.end(), trozo.begin(), trozo.end());
     }
     return bytes;
 }
 
-bool ArchivoCompuesto::EsCompuesto(Bytes archivo) {
+bool ArchivoCompuesto::esCompuesto(Bytes archivo) {
     constexpr std::array<std::uint8_t, 8> firma{0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
     return archivo.size() >= firma.size() &&
            std::equal(firma.begin(), firma.end(), archivo.begin(), [](std::uint8_t esperado, std::byte byte) {
@@ -112,15 +112,15 @@ ArchivoCompuesto::ArchivoCompuesto(Bytes archivo) : archivo_{archivo} {
     // The header takes the place of one sector, whatever their size.
     sectores_.tamanoSector = TamanoDeSector(archivo);
     sectores_.sectores = archivo.subspan(std::min(sectores_.tamanoSector, archivo.size()));
-    for (const auto sector : SectoresDeLaFat()) {
-        AnadirEnlaces(sectores_.enlaces, sectores_.Sector(sector));
+    for (const auto sector : sectoresDeLaFat()) {
+        AnadirEnlaces(sectores_.enlaces, sectores_.sector(sector));
     }
-    directorio_ = sectores_.LeerEntera(LeerU32(archivo, lugarDirectorio));
+    directorio_ = sectores_.leerEntera(LeerU32(archivo, lugarDirectorio));
 }
 
 /// The sectors that hold the table of links: the first ones are named in the header, the others in a chain of
 /// sectors of their own, each one ended by the number of the next.
-std::vector<std::uint32_t> ArchivoCompuesto::SectoresDeLaFat() const {
+std::vector<std::uint32_t> ArchivoCompuesto::sectoresDeLaFat() const {
     std::vector<std::uint32_t> difat;
     AnadirEnlaces(difat, Trozo(archivo_, lugarEnlacesDifat, 4 * enlacesEnCabecera));
     const std::size_t sectoresDelArchivo = sectores_.sectores.size() / sectores_.tamanoSector + 1;
@@ -130,7 +130,7 @@ std::vector<std::uint32_t> ArchivoCompuesto::SectoresDeLaFat() const {
         if (++vistos > sectoresDelArchivo) {
             ArchivoDanado("una cadena de sectores está rota");
         }
-        AnadirEnlaces(difat, Trozo(sectores_.Sector(sector), 0, sectores_.tamanoSector));
+        AnadirEnlaces(difat, Trozo(sectores_.sector(sector), 0, sectores_.tamanoSector));
         sector = difat.back();
         difat.pop_back();
     }
@@ -141,9 +141,9 @@ std::vector<std::uint32_t> ArchivoCompuesto::SectoresDeLaFat() const {
     return difat;
 }
 
-ArchivoCompuesto::Entrada ArchivoCompuesto::LeerEntrada(std::size_t numero) const {
+ArchivoCompuesto::EntradaDeFlujo ArchivoCompuesto::leerEntrada(std::size_t numero) const {
     const auto bytes = Trozo(directorio_, numero * tamanoEntrada, tamanoEntrada);
-    Entrada entrada;
+    EntradaDeFlujo entrada;
     const std::size_t bytesDelNombre = LeerU16(bytes, 64);
     if (bytesDelNombre > 64) {
         ArchivoDanado("un nombre de su directorio es demasiado largo");
@@ -162,8 +162,8 @@ ArchivoCompuesto::Entrada ArchivoCompuesto::LeerEntrada(std::size_t numero) cons
 }
 
 /// The root's entries form a binary tree through their left and right siblings.
-std::optional<ArchivoCompuesto::Entrada> ArchivoCompuesto::Buscar(std::string_view nombre) const {
-    const auto raiz = LeerEntrada(0);
+std::optional<ArchivoCompuesto::EntradaDeFlujo> ArchivoCompuesto::buscar(std::string_view nombre) const {
+    const auto raiz = leerEntrada(0);
     if (raiz.tipo != tipoRaiz) {
         ArchivoDanado("su directorio no tiene raíz");
     }
@@ -175,7 +175,7 @@ std::optional<ArchivoCompuesto::Entrada> ArchivoCompuesto::Buscar(std::string_vi
         if (numero == libre) {
             continue;
         }
-        auto entrada = LeerEntrada(numero);
+        auto entrada = leerEntrada(numero);
         if (++vistas > directorio_.size() / tamanoEntrada) {
             ArchivoDanado("su directorio da vueltas");
         }
@@ -189,23 +189,23 @@ std::optional<ArchivoCompuesto::Entrada> ArchivoCompuesto::Buscar(std::string_vi
 }
 
 /// Short streams lie in sectors of 64 bytes inside one stream that belongs to the root.
-std::vector<std::byte> ArchivoCompuesto::LeerMini(const Entrada& entrada) const {
-    const auto raiz = LeerEntrada(0);
-    const auto contenido = sectores_.Leer(raiz.primerSector, raiz.tamano);
+std::vector<std::byte> ArchivoCompuesto::leerMini(const EntradaDeFlujo& entrada) const {
+    const auto raiz = leerEntrada(0);
+    const auto contenido = sectores_.leer(raiz.primerSector, raiz.tamano);
     TablaDeSectores mini{contenido, tamanoMiniSector, {}};
-    AnadirEnlaces(mini.enlaces, sectores_.LeerEntera(LeerU32(archivo_, lugarMiniFat)));
-    return mini.Leer(entrada.primerSector, entrada.tamano);
+    AnadirEnlaces(mini.enlaces, sectores_.leerEntera(LeerU32(archivo_, lugarMiniFat)));
+    return mini.leer(entrada.primerSector, entrada.tamano);
 }
 
-std::optional<std::vector<std::byte>> ArchivoCompuesto::Flujo(std::string_view nombre) const {
-    const auto entrada = Buscar(nombre);
+std::optional<std::vector<std::byte>> ArchivoCompuesto::flujo(std::string_view nombre) const {
+    const auto entrada = buscar(nombre);
     if (!entrada) {
         return std::nullopt;
     }
     if (entrada->tamano < LeerU32(archivo_, lugarLimiteMini)) {
-        return LeerMini(*entrada);
+        return leerMini(*entrada);
     }
-    return sectores_.Leer(entrada->primerSector, entrada->tamano);
+    return sectores_.leer(entrada->primerSector, entrada->tamano);
 }
 
 } // namespace varo

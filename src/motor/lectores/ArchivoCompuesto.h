@@ -18,25 +18,25 @@ struct TablaDeSectores {
     std::size_t tamanoSector = 0;
     std::vector<std::uint32_t> enlaces;
 
-    [[nodiscard]] Bytes Sector(std::uint32_t sector) const;
+    [[nodiscard]] Bytes sector(std::uint32_t sector) const;
     /// The first `tamano` bytes of a chain.
-    [[nodiscard]] std::vector<std::byte> Leer(std::uint32_t primero, std::uint64_t tamano) const;
-    [[nodiscard]] std::vector<std::byte> LeerEntera(std::uint32_t primero) const;
+    [[nodiscard]] std::vector<std::byte> leer(std::uint32_t primero, std::uint64_t tamano) const;
+    [[nodiscard]] std::vector<std::byte> leerEntera(std::uint32_t primero) const;
 };
 
 class ArchivoCompuesto {
 public:
-    static bool EsCompuesto(Bytes archivo);
+    static bool esCompuesto(Bytes archivo);
 
     /// The bytes must outlive it. A structure that does not hold throws ErrorMotor.
     explicit ArchivoCompuesto(Bytes archivo);
 
     /// A stream of the root storage, by its name without regard to case; none when it is not there. Streams
     /// of inner storages (embedded objects) are not looked at.
-    [[nodiscard]] std::optional<std::vector<std::byte>> Flujo(std::string_view nombre) const;
+    [[nodiscard]] std::optional<std::vector<std::byte>> flujo(std::string_view nombre) const;
 
 private:
-    struct Entrada {
+    struct EntradaDeFlujo {
         std::string nombre;
         int tipo = 0;
         std::uint32_t izquierda = 0;
@@ -46,10 +46,10 @@ private:
         std::uint64_t tamano = 0;
     };
 
-    [[nodiscard]] std::vector<std::uint32_t> SectoresDeLaFat() const;
-    [[nodiscard]] Entrada LeerEntrada(std::size_t numero) const;
-    [[nodiscard]] std::optional<Entrada> Buscar(std::string_view nombre) const;
-    [[nodiscard]] std::vector<std::byte> LeerMini(const Entrada& entrada) const;
+    [[nodiscard]] std::vector<std::uint32_t> sectoresDeLaFat() const;
+    [[nodiscard]] EntradaDeFlujo leerEntrada(std::size_t numero) const;
+    [[nodiscard]] std::optional<EntradaDeFlujo> buscar(std::string_view nombre) const;
+    [[nodiscard]] std::vector<std::byte> leerMini(const EntradaDeFlujo& entrada) const;
 
     Bytes archivo_;
     TablaDeSectores sectores_;

@@ -41,15 +41,15 @@ void AnadirUnidades(std::u16string& unidades, Bytes bytes, bool ancho) {
 std::u16string LeerUnidades(LectorContinuo& lector, std::size_t cuantas, bool ancho) {
     std::u16string unidades;
     while (unidades.size() < cuantas) {
-        if (lector.RestoDelFragmento() == 0) {
-            ancho = (lector.U8() & banderaAncho) != 0;
+        if (lector.restoDelFragmento() == 0) {
+            ancho = (lector.u8() & banderaAncho) != 0;
         }
         const std::size_t tamano = ancho ? 2 : 1;
-        const std::size_t caben = std::min(cuantas - unidades.size(), lector.RestoDelFragmento() / tamano);
+        const std::size_t caben = std::min(cuantas - unidades.size(), lector.restoDelFragmento() / tamano);
         if (caben == 0) {
             ArchivoDanado("un texto está cortado");
         }
-        AnadirUnidades(unidades, lector.Tomar(caben * tamano), ancho);
+        AnadirUnidades(unidades, lector.tomar(caben * tamano), ancho);
     }
     return unidades;
 }
@@ -58,83 +58,83 @@ std::u16string LeerUnidades(LectorContinuo& lector, std::size_t cuantas, bool an
 
 LectorContinuo::LectorContinuo(std::vector<Bytes> fragmentos) : fragmentos_{std::move(fragmentos)} {}
 
-bool LectorContinuo::Acabado() const {
-    return RestoDelFragmento() == 0 && actual_ + 1 >= fragmentos_.size();
+bool LectorContinuo::acabado() const {
+    return restoDelFragmento() == 0 && actual_ + 1 >= fragmentos_.size();
 }
 
-std::size_t LectorContinuo::RestoDelFragmento() const {
+std::size_t LectorContinuo::restoDelFragmento() const {
     return actual_ < fragmentos_.size() ? fragmentos_[actual_].size() - lugar_ : 0;
 }
 
-Bytes LectorContinuo::Tomar(std::size_t cuantos) {
+Bytes LectorContinuo::tomar(std::size_t cuantos) {
     const auto bytes = Trozo(fragmentos_[actual_], lugar_, cuantos);
     lugar_ += cuantos;
     return bytes;
 }
 
-std::uint8_t LectorContinuo::U8() {
-    while (RestoDelFragmento() == 0) {
+std::uint8_t LectorContinuo::u8() {
+    while (restoDelFragmento() == 0) {
         if (actual_ + 1 >= fragmentos_.size()) {
             ArchivoDanado("un texto está cortado");
         }
         ++actual_;
         lugar_ = 0;
     }
-    return LeerU8(Tomar(1), 0);
+    return LeerU8(tomar(1), 0);
 }
 
-std::uint16_t LectorContinuo::U16() {
-    const unsigned bajo = U8();
-    return static_cast<std::uint16_t>(bajo | static_cast<unsigned>(U8()) << 8);
+std::uint16_t LectorContinuo::u16() {
+    const unsigned bajo = u8();
+    return static_cast<std::uint16_t>(bajo | static_cast<unsigned>(u8()) << 8);
 }
 
-std::uint32_t LectorContinuo::U32() {
-    const std::uint32_t bajo = U16();
-    return bajo | static_cast<std::uint32_t>(U16()) << 16;
+std::uint32_t LectorContinuo::u32() {
+    const std::uint32_t bajo = u16();
+    return bajo | static_cast<std::uint32_t>(u16()) << 16;
 }
 
-void LectorContinuo::Saltar(std::size_t cuantos) {
+void LectorContinuo::saltar(std::size_t cuantos) {
     while (cuantos > 0) {
-        U8();
-        const std::size_t enEste = std::min(cuantos - 1, RestoDelFragmento());
-        Tomar(enEste);
+        u8();
+        const std::size_t enEste = std::min(cuantos - 1, restoDelFragmento());
+        tomar(enEste);
         cuantos -= 1 + enEste;
     }
 }
 
-std::string CadenasBiff::Leer(LectorContinuo& lector, std::size_t longitud) const {
+std::string CadenasBiff::leer(LectorContinuo& lector, std::size_t longitud) const {
     if (!unicode_) {
-        return LeerBytes(lector, longitud);
+        return leerBytes(lector, longitud);
     }
     // Some writers leave the flags of an empty text out.
-    if (longitud == 0 && lector.Acabado()) {
+    if (longitud == 0 && lector.acabado()) {
         return {};
     }
-    const int banderas = lector.U8();
+    const int banderas = lector.u8();
     // Runs of character formats and phonetic data: told in front of the characters, kept behind them.
-    const std::size_t formatos = (banderas & banderaFormato) != 0 ? lector.U16() : 0;
-    const std::size_t extension = (banderas & banderaExtension) != 0 ? lector.U32() : 0;
+    const std::size_t formatos = (banderas & banderaFormato) != 0 ? lector.u16() : 0;
+    const std::size_t extension = (banderas & banderaExtension) != 0 ? lector.u32() : 0;
     const auto unidades = LeerUnidades(lector, longitud, (banderas & banderaAncho) != 0);
-    lector.Saltar(4 * formatos + extension);
+    lector.saltar(4 * formatos + extension);
     return DeUtf16(unidades);
 }
 
-std::string CadenasBiff::LeerCorta(LectorContinuo& lector) const {
-    const std::size_t longitud = lector.U8();
-    return Leer(lector, longitud);
+std::string CadenasBiff::leerCorta(LectorContinuo& lector) const {
+    const std::size_t longitud = lector.u8();
+    return leer(lector, longitud);
 }
 
-std::string CadenasBiff::LeerLarga(LectorContinuo& lector) const {
-    const std::size_t longitud = lector.U16();
-    return Leer(lector, longitud);
+std::string CadenasBiff::leerLarga(LectorContinuo& lector) const {
+    const std::size_t longitud = lector.u16();
+    return leer(lector, longitud);
 }
 
 /// Code pages other than UTF-16 are read as Windows-1252, the page of the western workbooks of that time:
 /// plain letters and digits are the same in all of them.
-std::string CadenasBiff::LeerBytes(LectorContinuo& lector, std::size_t longitud) const {
+std::string CadenasBiff::leerBytes(LectorContinuo& lector, std::size_t longitud) const {
     std::string bytes;
     while (bytes.size() < longitud) {
-        bytes.push_back(static_cast<char>(lector.U8()));
+        bytes.push_back(static_cast<char>(lector.u8()));
     }
     if (pagina_ != paginaUtf16) {
         return DeWindows1252(bytes);

@@ -15,16 +15,16 @@ class LectorContinuo {
 public:
     explicit LectorContinuo(std::vector<Bytes> fragmentos);
 
-    std::uint8_t U8();
-    std::uint16_t U16();
-    std::uint32_t U32();
-    void Saltar(std::size_t cuantos);
+    std::uint8_t u8();
+    std::uint16_t u16();
+    std::uint32_t u32();
+    void saltar(std::size_t cuantos);
 
-    [[nodiscard]] bool Acabado() const;
+    [[nodiscard]] bool acabado() const;
     /// Bytes left in the piece at hand.
-    [[nodiscard]] std::size_t RestoDelFragmento() const;
+    [[nodiscard]] std::size_t restoDelFragmento() const;
     /// Takes bytes of the piece at hand, no more than are left in it.
-    Bytes Tomar(std::size_t cuantos);
+    Bytes tomar(std::size_t cuantos);
 
 private:
     std::vector<Bytes> fragmentos_;
@@ -37,16 +37,16 @@ class CadenasBiff {
 public:
     explicit CadenasBiff(bool unicode) : unicode_{unicode} {}
 
-    void PonerPagina(int paginaDeCodigos) { pagina_ = paginaDeCodigos; }
+    void ponerPagina(int paginaDeCodigos) { pagina_ = paginaDeCodigos; }
 
     /// A text whose length, in characters, has been read already.
-    std::string Leer(LectorContinuo& lector, std::size_t longitud) const;
+    std::string leer(LectorContinuo& lector, std::size_t longitud) const;
     /// A text behind its 8-bit or 16-bit length.
-    std::string LeerCorta(LectorContinuo& lector) const;
-    std::string LeerLarga(LectorContinuo& lector) const;
+    std::string leerCorta(LectorContinuo& lector) const;
+    std::string leerLarga(LectorContinuo& lector) const;
 
 private:
-    [[nodiscard]] std::string LeerBytes(LectorContinuo& lector, std::size_t longitud) const;
+    [[nodiscard]] std::string leerBytes(LectorContinuo& lector, std::size_t longitud) const;
 
     bool unicode_;
     int pagina_ = 1252;

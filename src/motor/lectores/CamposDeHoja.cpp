@@ -42,7 +42,7 @@ std::string NombreEscrito(const Valor& celda) {
 /// The names given so far.
 class NombresDados {
 public:
-    std::string Nuevo(const std::string& nombre) {
+    std::string nuevo(const std::string& nombre) {
         if (dados_.insert(Minusculas(nombre)).second) {
             return nombre;
         }
@@ -72,7 +72,7 @@ std::vector<Campo> CamposDeHoja(const std::vector<Valor>& cabecera) {
         if (nombre.empty()) {
             nombre = "F" + std::to_string(campos.size() + 1);
         }
-        campos.push_back({dados.Nuevo(nombre)});
+        campos.push_back({dados.nuevo(nombre)});
     }
     return campos;
 }

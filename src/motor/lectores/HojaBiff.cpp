@@ -51,15 +51,15 @@ public:
     LectorDeHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites)
         : registros_{flujo, comienzo}, libro_{libro}, limites_{limites} {}
 
-    HojaBiff Leer() {
+    HojaBiff leer() {
         if (registros_.clase() != biff::hojaDeCalculo) {
             ArchivoDanado("una hoja no es de la clase que el libro dice");
         }
-        while (const auto registro = registros_.Siguiente()) {
-            ComprobarTextoPendiente(registro->tipo);
-            Atender(*registro);
+        while (const auto registro = registros_.siguiente()) {
+            comprobarTextoPendiente(registro->tipo);
+            atender(*registro);
         }
-        ComprobarTextoPendiente(biff::eof);
+        comprobarTextoPendiente(biff::eof);
         Ordenar(hoja_.celdas);
         if (!hoja_.celdas.empty()) {
             hoja_.zonaUsada = Alrededor(hoja_.celdas);
@@ -69,52 +69,52 @@ public:
     }
 
 private:
-    void Atender(const Registro& registro) {
+    void atender(const Registro& registro) {
         const auto datos = registro.datos;
         switch (registro.tipo) {
         case biff::numero:
-            AnadirNumero(datos, LeerReal(datos, tamanoComienzo));
+            anadirNumero(datos, LeerReal(datos, tamanoComienzo));
             break;
         case biff::rk:
-            AnadirNumero(datos, NumeroRk(LeerU32(datos, tamanoComienzo)));
+            anadirNumero(datos, NumeroRk(LeerU32(datos, tamanoComienzo)));
             break;
         case biff::mulRk:
-            LeerMulRk(datos);
+            leerMulRk(datos);
             break;
         case biff::labelSst:
-            LeerTextoCompartido(datos);
+            leerTextoCompartido(datos);
             break;
         case biff::label:
         case biff::rString:
-            Anadir(datos, LeerTexto(registro, tamanoComienzo));
+            anadir(datos, leerTexto(registro, tamanoComienzo));
             break;
         case biff::boolErr:
-            Anadir(datos, VerdadOError(LeerU8(datos, 6), LeerU8(datos, 7) != 0));
+            anadir(datos, verdadOError(LeerU8(datos, 6), LeerU8(datos, 7) != 0));
             break;
         case biff::formula:
-            LeerFormula(datos);
+            leerFormula(datos);
             break;
         case biff::cadena:
-            LeerTextoDeFormula(registro);
+            leerTextoDeFormula(registro);
             break;
         default:
             break;
         }
     }
 
-    void Anadir(Bytes comienzo, Valor valor) { AnadirEn(LeerU16(comienzo, 2), comienzo, std::move(valor)); }
+    void anadir(Bytes comienzo, Valor valor) { anadirEn(LeerU16(comienzo, 2), comienzo, std::move(valor)); }
 
-    void AnadirEn(std::uint16_t columna, Bytes comienzo, Valor valor) {
+    void anadirEn(std::uint16_t columna, Bytes comienzo, Valor valor) {
         if (columna >= columnasDeUnaHoja) {
             ArchivoDanado("una celda está fuera de la hoja");
         }
         hoja_.celdas.push_back({LeerU16(comienzo, 0), columna, std::move(valor)});
     }
 
-    void AnadirNumero(Bytes datos, double numero) { Anadir(datos, Numero(numero, LeerU16(datos, 4))); }
+    void anadirNumero(Bytes datos, double numero) { anadir(datos, valorNumerico(numero, LeerU16(datos, 4))); }
 
     /// What is no finite number shows as an error in a sheet, and is null like one.
-    [[nodiscard]] Valor Numero(double numero, std::size_t formato) const {
+    [[nodiscard]] Valor valorNumerico(double numero, std::size_t formato) const {
         if (!std::isfinite(numero)) {
             return Nulo{};
         }
@@ -122,10 +122,10 @@ private:
         return esFecha ? FechaDeSerie(numero, libro_.calendario1904) : Valor{numero};
     }
 
-    static Valor VerdadOError(int valor, bool esError) { return esError ? Valor{} : Valor{valor != 0}; }
+    static Valor verdadOError(int valor, bool esError) { return esError ? Valor{} : Valor{valor != 0}; }
 
     /// Row and first column, a format and a number for each column, and the last column.
-    void LeerMulRk(Bytes datos) {
+    void leerMulRk(Bytes datos) {
         constexpr std::size_t tamanoNumero = 6;
         const std::size_t primera = LeerU16(datos, 2);
         const std::size_t cuantas = datos.size() < 6 ? 0 : (datos.size() - 6) / tamanoNumero;
@@ -135,63 +135,63 @@ private:
         }
         for (std::size_t i = 0; i < cuantas; ++i) {
             const std::size_t lugar = 4 + i * tamanoNumero;
-            AnadirEn(static_cast<std::uint16_t>(primera + i), datos,
-                     Numero(NumeroRk(LeerU32(datos, lugar + 2)), LeerU16(datos, lugar)));
+            anadirEn(static_cast<std::uint16_t>(primera + i), datos,
+                     valorNumerico(NumeroRk(LeerU32(datos, lugar + 2)), LeerU16(datos, lugar)));
         }
     }
 
-    void LeerTextoCompartido(Bytes datos) {
+    void leerTextoCompartido(Bytes datos) {
         const std::size_t numero = LeerU32(datos, tamanoComienzo);
         if (numero >= libro_.textos.size()) {
             ArchivoDanado("una celda pide un texto que no hay");
         }
-        limites_.ContarTexto(libro_.textos[numero].size());
-        Anadir(datos, libro_.textos[numero]);
+        limites_.contarTexto(libro_.textos[numero].size());
+        anadir(datos, libro_.textos[numero]);
     }
 
-    std::string LeerTexto(const Registro& registro, std::size_t lugar) {
-        auto fragmentos = registros_.ConContinuaciones(registro);
+    std::string leerTexto(const Registro& registro, std::size_t lugar) {
+        auto fragmentos = registros_.conContinuaciones(registro);
         fragmentos.front() = Trozo(registro.datos, lugar, registro.datos.size() - lugar);
         LectorContinuo lector{std::move(fragmentos)};
-        return libro_.cadenas.LeerLarga(lector);
+        return libro_.cadenas.leerLarga(lector);
     }
 
     /// A result that is no number has all bits of its last two bytes set and tells its kind in the first.
-    void LeerFormula(Bytes datos) {
+    void leerFormula(Bytes datos) {
         const auto resultado = Trozo(datos, tamanoComienzo, 8);
         if (LeerU16(resultado, 6) != 0xFFFF) {
-            AnadirNumero(datos, LeerReal(resultado, 0));
+            anadirNumero(datos, LeerReal(resultado, 0));
             return;
         }
-        enum { texto, verdad, error, textoVacio };
+        enum { Texto, Verdad, Error, TextoVacio };
         switch (LeerU8(resultado, 0)) {
-        case texto:
-            Anadir(datos, std::string{});
+        case Texto:
+            anadir(datos, std::string{});
             faltaTexto_ = true;
             break;
-        case verdad:
-            Anadir(datos, VerdadOError(LeerU8(resultado, 2), false));
+        case Verdad:
+            anadir(datos, verdadOError(LeerU8(resultado, 2), false));
             break;
-        case error:
-            Anadir(datos, Nulo{});
+        case Error:
+            anadir(datos, Nulo{});
             break;
-        case textoVacio:
-            Anadir(datos, std::string{});
+        case TextoVacio:
+            anadir(datos, std::string{});
             break;
         default:
             ArchivoDanado("el resultado de una fórmula no es válido");
         }
     }
 
-    void LeerTextoDeFormula(const Registro& registro) {
+    void leerTextoDeFormula(const Registro& registro) {
         if (faltaTexto_) {
-            hoja_.celdas.back().valor = LeerTexto(registro, 0);
+            hoja_.celdas.back().valor = leerTexto(registro, 0);
             faltaTexto_ = false;
         }
     }
 
     /// The text of a formula follows it, behind the record of a shared or array formula at most.
-    void ComprobarTextoPendiente(int tipo) const {
+    void comprobarTextoPendiente(int tipo) const {
         const bool puedeSeguir = tipo == biff::cadena || tipo == biff::shrFmla || tipo == biff::array ||
                                  tipo == biff::table || tipo == biff::continuacion;
         if (faltaTexto_ && !puedeSeguir) {
@@ -209,7 +209,7 @@ private:
 } // namespace
 
 HojaBiff LeerHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites) {
-    return LectorDeHoja{flujo, comienzo, libro, limites}.Leer();
+    return LectorDeHoja{flujo, comienzo, libro, limites}.leer();
 }
 
 } // namespace varo

@@ -42,12 +42,12 @@ int VersionDeExcel(Bytes bytes) {
 
 /// The workbook stream of a compound file. A file for two versions of Excel has both: the newer one counts.
 std::vector<std::byte> FlujoDelLibro(Bytes bytes) {
-    if (!ArchivoCompuesto::EsCompuesto(bytes)) {
+    if (!ArchivoCompuesto::esCompuesto(bytes)) {
         return {bytes.begin(), bytes.end()};
     }
     const ArchivoCompuesto archivo{bytes};
     for (const auto* nombre : {"Workbook", "Book"}) {
-        if (auto flujo = archivo.Flujo(nombre)) {
+        if (auto flujo = archivo.flujo(nombre)) {
             return std::move(*flujo);
         }
     }
@@ -99,7 +99,7 @@ std::vector<Tabla> TablasDelLibro(Bytes flujo, LimitesDeLectura& limites) {
 } // namespace
 
 bool PareceXls(std::span<const std::byte> bytes) {
-    return ArchivoCompuesto::EsCompuesto(bytes) || VersionDeExcel(bytes) != 0;
+    return ArchivoCompuesto::esCompuesto(bytes) || VersionDeExcel(bytes) != 0;
 }
 
 std::vector<Tabla> LeerXls(std::span<const std::byte> bytes, const std::string& archivo) {

@@ -18,87 +18,87 @@ public:
         : globales_{flujo, 0}, biff8_{globales_.version() == biff::version8},
           libro_{CadenasBiff{biff8_}, false, {}, {}, {}, {}} {}
 
-    LibroBiff Leer() {
+    LibroBiff leer() {
         if (globales_.clase() != biff::globales) {
             throw ErrorMotor{fallo::formatoNoReconocido, "no es un libro de Excel sino una hoja suelta"};
         }
-        while (const auto registro = globales_.Siguiente()) {
-            Atender(*registro);
+        while (const auto registro = globales_.siguiente()) {
+            atender(*registro);
         }
         for (const int formato : formatosDeCelda_) {
-            libro_.formatoEsFecha.push_back(EsFecha(formato));
+            libro_.formatoEsFecha.push_back(esFecha(formato));
         }
-        libro_.nombres = nombres_.Zonas(biff8_);
+        libro_.nombres = nombres_.zonas(biff8_);
         return std::move(libro_);
     }
 
 private:
-    void Atender(const Registro& registro) {
+    void atender(const Registro& registro) {
         switch (registro.tipo) {
         case biff::filePass:
             throw ErrorMotor{fallo::archivoCifrado, "el libro está protegido con una contraseña"};
         case biff::codePage:
-            libro_.cadenas.PonerPagina(LeerU16(registro.datos, 0));
+            libro_.cadenas.ponerPagina(LeerU16(registro.datos, 0));
             break;
         case biff::dateMode:
             libro_.calendario1904 = LeerU16(registro.datos, 0) != 0;
             break;
         case biff::boundSheet:
-            LeerHoja(registro.datos);
+            leerHoja(registro.datos);
             break;
         case biff::formato:
-            LeerFormato(registro.datos);
+            leerFormato(registro.datos);
             break;
         case biff::xf:
             formatosDeCelda_.push_back(LeerU16(registro.datos, 2));
             break;
         case biff::sst:
-            LeerTextos(Continuo(registro));
+            leerTextos(continuo(registro));
             break;
         case biff::supBook:
-            nombres_.AnadirLibroExterno(registro.datos);
+            nombres_.anadirLibroExterno(registro.datos);
             break;
         case biff::externSheet:
             if (biff8_) {
-                nombres_.AnadirReferencias(Continuo(registro));
+                nombres_.anadirReferencias(continuo(registro));
             }
             break;
         case biff::nombre:
-            nombres_.AnadirNombre(Continuo(registro), libro_.cadenas);
+            nombres_.anadirNombre(continuo(registro), libro_.cadenas);
             break;
         default:
             break;
         }
     }
 
-    LectorContinuo Continuo(const Registro& registro) {
-        return LectorContinuo{globales_.ConContinuaciones(registro)};
+    LectorContinuo continuo(const Registro& registro) {
+        return LectorContinuo{globales_.conContinuaciones(registro)};
     }
 
-    void LeerHoja(Bytes datos) {
+    void leerHoja(Bytes datos) {
         LectorContinuo nombre{{Trozo(datos, 6, datos.size() - 6)}};
         libro_.hojas.push_back(
-            {libro_.cadenas.LeerCorta(nombre), LeerU32(datos, 0), LeerU8(datos, 5) == hojaDeCalculo});
+            {libro_.cadenas.leerCorta(nombre), LeerU32(datos, 0), LeerU8(datos, 5) == hojaDeCalculo});
     }
 
-    void LeerFormato(Bytes datos) {
+    void leerFormato(Bytes datos) {
         const int numero = LeerU16(datos, 0);
         LectorContinuo texto{{datos.subspan(2)}};
-        const auto formato = biff8_ ? libro_.cadenas.LeerLarga(texto) : libro_.cadenas.LeerCorta(texto);
+        const auto formato = biff8_ ? libro_.cadenas.leerLarga(texto) : libro_.cadenas.leerCorta(texto);
         formatos_[numero] = EsFormatoDeFecha(formato);
     }
 
-    void LeerTextos(LectorContinuo tabla) {
-        tabla.Saltar(4);
-        const std::size_t cuantos = tabla.U32();
+    void leerTextos(LectorContinuo tabla) {
+        tabla.saltar(4);
+        const std::size_t cuantos = tabla.u32();
         while (libro_.textos.size() < cuantos) {
-            libro_.textos.push_back(libro_.cadenas.LeerLarga(tabla));
+            libro_.textos.push_back(libro_.cadenas.leerLarga(tabla));
         }
     }
 
     /// A format that the workbook spells out is what its text says, a built-in number too. Number 0 is always
     /// the general format, whatever its name in the language of the workbook.
-    [[nodiscard]] bool EsFecha(int formato) const {
+    [[nodiscard]] bool esFecha(int formato) const {
         const auto propio = formatos_.find(formato);
         return formato != 0 && (propio != formatos_.end() ? propio->second : EsFormatoDeFecha(formato));
     }
@@ -114,7 +114,7 @@ private:
 } // namespace
 
 LibroBiff LeerLibro(Bytes flujo) {
-    return LectorDeLibro{flujo}.Leer();
+    return LectorDeLibro{flujo}.leer();
 }
 
 } // namespace varo

@@ -27,11 +27,11 @@ LimitesDeLectura::LimitesDeLectura(std::size_t bytesDeArchivo)
     : celdasQueQuedan_{celdasDeTodoArchivo + bytesDeArchivo / bytesPorCelda},
       textoQueQueda_{textoDeTodoArchivo + bytesDeArchivo * textoPorByte} {}
 
-void LimitesDeLectura::ContarCeldas(std::size_t cuantas) {
+void LimitesDeLectura::contarCeldas(std::size_t cuantas) {
     Gastar(celdasQueQuedan_, cuantas, "sus tablas ocupan");
 }
 
-void LimitesDeLectura::ContarTexto(std::size_t bytes) {
+void LimitesDeLectura::contarTexto(std::size_t bytes) {
     Gastar(textoQueQueda_, bytes, "sus textos ocupan");
 }
 

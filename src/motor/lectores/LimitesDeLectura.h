@@ -12,8 +12,8 @@ public:
     explicit LimitesDeLectura(std::size_t bytesDeArchivo);
 
     /// Call before making them.
-    void ContarCeldas(std::size_t cuantas);
-    void ContarTexto(std::size_t bytes);
+    void contarCeldas(std::size_t cuantas);
+    void contarTexto(std::size_t bytes);
 
 private:
     std::size_t celdasQueQuedan_;

@@ -9,7 +9,7 @@ constexpr int banderaPredefinido = 0x0020;
 constexpr int marcaDeLibroPropio = 0x0401;
 
 /// What a formula refers to when it is one reference to another sheet and nothing else.
-enum class Referencia3d { ninguna, celda, zona };
+enum class Referencia3d { Ninguna, Celda, Zona };
 
 /// The corners as they are stored, for a single cell both the same.
 struct Esquinas {
@@ -50,22 +50,22 @@ Referencia3d ReferenciaSola(Bytes formula, std::size_t longitudCelda, std::size_
     constexpr int zona3d = 0x1B;
     const int marca = formula.empty() ? 0 : LeerU8(formula, 0);
     if ((marca & 0x60) != 0 && (marca & 0x9F) == zona3d && formula.size() == longitudZona) {
-        return Referencia3d::zona;
+        return Referencia3d::Zona;
     }
     if ((marca & 0x60) != 0 && (marca & 0x9F) == celda3d && formula.size() == longitudCelda) {
-        return Referencia3d::celda;
+        return Referencia3d::Celda;
     }
-    return Referencia3d::ninguna;
+    return Referencia3d::Ninguna;
 }
 
 /// BIFF5 tells the sheets in the reference itself; its first number is negative for the workbook's own ones.
 std::optional<NombreDeZona> ZonaBiff5(Bytes formula) {
     const auto referencia = ReferenciaSola(formula, 18, 21);
-    if (referencia == Referencia3d::ninguna || LeerU16(formula, 1) < 0x8000 ||
+    if (referencia == Referencia3d::Ninguna || LeerU16(formula, 1) < 0x8000 ||
         LeerU16(formula, 11) != LeerU16(formula, 13)) {
         return std::nullopt;
     }
-    const auto zona = ZonaConBanderasEnFila(formula.subspan(15), referencia == Referencia3d::zona);
+    const auto zona = ZonaConBanderasEnFila(formula.subspan(15), referencia == Referencia3d::Zona);
     if (!zona) {
         return std::nullopt;
     }
@@ -74,41 +74,41 @@ std::optional<NombreDeZona> ZonaBiff5(Bytes formula) {
 
 } // namespace
 
-void NombresBiff::AnadirLibroExterno(Bytes supBook) {
+void NombresBiff::anadirLibroExterno(Bytes supBook) {
     libroEsPropio_.push_back(supBook.size() == 4 && LeerU16(supBook, 2) == marcaDeLibroPropio);
 }
 
-void NombresBiff::AnadirReferencias(LectorContinuo externSheet) {
-    const std::size_t cuantas = externSheet.U16();
+void NombresBiff::anadirReferencias(LectorContinuo externSheet) {
+    const std::size_t cuantas = externSheet.u16();
     for (std::size_t i = 0; i < cuantas; ++i) {
         Referencia referencia;
-        referencia.libro = externSheet.U16();
-        referencia.primeraHoja = externSheet.U16();
-        referencia.ultimaHoja = externSheet.U16();
+        referencia.libro = externSheet.u16();
+        referencia.primeraHoja = externSheet.u16();
+        referencia.ultimaHoja = externSheet.u16();
         referencias_.push_back(referencia);
     }
 }
 
-void NombresBiff::AnadirNombre(LectorContinuo registro, const CadenasBiff& cadenas) {
-    const int banderas = registro.U16();
-    registro.Saltar(1);
-    const std::size_t longitud = registro.U8();
-    const std::size_t bytesDeFormula = registro.U16();
-    registro.Saltar(2);
-    const bool deUnaHoja = registro.U16() != 0;
-    registro.Saltar(4);
+void NombresBiff::anadirNombre(LectorContinuo registro, const CadenasBiff& cadenas) {
+    const int banderas = registro.u16();
+    registro.saltar(1);
+    const std::size_t longitud = registro.u8();
+    const std::size_t bytesDeFormula = registro.u16();
+    registro.saltar(2);
+    const bool deUnaHoja = registro.u16() != 0;
+    registro.saltar(4);
     if (deUnaHoja || (banderas & banderaPredefinido) != 0) {
         return;
     }
-    Nombre nombre{cadenas.Leer(registro, longitud), {}};
+    Nombre nombre{cadenas.leer(registro, longitud), {}};
     while (nombre.formula.size() < bytesDeFormula) {
-        nombre.formula.push_back(static_cast<std::byte>(registro.U8()));
+        nombre.formula.push_back(static_cast<std::byte>(registro.u8()));
     }
     nombres_.push_back(std::move(nombre));
 }
 
 /// BIFF8 tells the sheets of a reference by a number in a list, which says of which workbook they are.
-std::optional<std::size_t> NombresBiff::HojaPropia(std::size_t numero) const {
+std::optional<std::size_t> NombresBiff::hojaPropia(std::size_t numero) const {
     if (numero >= referencias_.size()) {
         return std::nullopt;
     }
@@ -119,23 +119,23 @@ std::optional<std::size_t> NombresBiff::HojaPropia(std::size_t numero) const {
     return primeraHoja;
 }
 
-std::optional<NombreDeZona> NombresBiff::ZonaBiff8(Bytes formula) const {
+std::optional<NombreDeZona> NombresBiff::zonaBiff8(Bytes formula) const {
     const auto referencia = ReferenciaSola(formula, 7, 11);
-    if (referencia == Referencia3d::ninguna) {
+    if (referencia == Referencia3d::Ninguna) {
         return std::nullopt;
     }
-    const auto hoja = HojaPropia(LeerU16(formula, 1));
-    const auto zona = ZonaConBanderasEnColumna(formula.subspan(3), referencia == Referencia3d::zona);
+    const auto hoja = hojaPropia(LeerU16(formula, 1));
+    const auto zona = ZonaConBanderasEnColumna(formula.subspan(3), referencia == Referencia3d::Zona);
     if (!hoja || !zona) {
         return std::nullopt;
     }
     return NombreDeZona{{}, *hoja, *zona};
 }
 
-std::vector<NombreDeZona> NombresBiff::Zonas(bool biff8) const {
+std::vector<NombreDeZona> NombresBiff::zonas(bool biff8) const {
     std::vector<NombreDeZona> zonas;
     for (const auto& [texto, formula] : nombres_) {
-        auto zona = biff8 ? ZonaBiff8(formula) : ZonaBiff5(formula);
+        auto zona = biff8 ? zonaBiff8(formula) : ZonaBiff5(formula);
         if (zona) {
             zona->nombre = texto;
             zonas.push_back(std::move(*zona));

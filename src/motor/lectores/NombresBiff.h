@@ -27,13 +27,13 @@ struct NombreDeZona {
 /// Gathers the records that tell where references between sheets lead, and the names.
 class NombresBiff {
 public:
-    void AnadirLibroExterno(Bytes supBook);
-    void AnadirReferencias(LectorContinuo externSheet);
-    void AnadirNombre(LectorContinuo registro, const CadenasBiff& cadenas);
+    void anadirLibroExterno(Bytes supBook);
+    void anadirReferencias(LectorContinuo externSheet);
+    void anadirNombre(LectorContinuo registro, const CadenasBiff& cadenas);
 
     /// The names that cover a rectangle, in the workbook's order. Call when all records are in: names that
     /// belong to one sheet, built-in ones and those that stand for anything else are left out.
-    [[nodiscard]] std::vector<NombreDeZona> Zonas(bool biff8) const;
+    [[nodiscard]] std::vector<NombreDeZona> zonas(bool biff8) const;
 
 private:
     struct Referencia {
@@ -46,8 +46,8 @@ private:
         std::vector<std::byte> formula;
     };
 
-    [[nodiscard]] std::optional<std::size_t> HojaPropia(std::size_t numero) const;
-    [[nodiscard]] std::optional<NombreDeZona> ZonaBiff8(Bytes formula) const;
+    [[nodiscard]] std::optional<std::size_t> hojaPropia(std::size_t numero) const;
+    [[nodiscard]] std::optional<NombreDeZona> zonaBiff8(Bytes formula) const;
 
     std::vector<bool> libroEsPropio_;
     std::vector<Referencia> referencias_;

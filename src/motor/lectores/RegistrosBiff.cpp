@@ -3,7 +3,7 @@
 namespace varo {
 
 Subflujo::Subflujo(Bytes flujo, std::size_t comienzo) : flujo_{flujo}, comienzo_{comienzo}, lugar_{comienzo} {
-    const auto bof = Leer();
+    const auto bof = leer();
     if (bof.tipo != biff::bof) {
         ArchivoDanado("una hoja no está donde el libro dice");
     }
@@ -11,7 +11,7 @@ Subflujo::Subflujo(Bytes flujo, std::size_t comienzo) : flujo_{flujo}, comienzo_
     clase_ = LeerU16(bof.datos, 2);
 }
 
-Registro Subflujo::Leer() {
+Registro Subflujo::leer() {
     const int tipo = LeerU16(flujo_, lugar_);
     const std::size_t longitud = LeerU16(flujo_, lugar_ + 2);
     const auto datos = Trozo(flujo_, lugar_ + 4, longitud);
@@ -19,9 +19,9 @@ Registro Subflujo::Leer() {
     return {tipo, datos};
 }
 
-std::optional<Registro> Subflujo::Siguiente() {
+std::optional<Registro> Subflujo::siguiente() {
     for (int profundidad = 0;;) {
-        const auto registro = Leer();
+        const auto registro = leer();
         if (registro.tipo == biff::bof) {
             ++profundidad;
         } else if (registro.tipo == biff::eof) {
@@ -35,10 +35,10 @@ std::optional<Registro> Subflujo::Siguiente() {
     }
 }
 
-std::vector<Bytes> Subflujo::ConContinuaciones(const Registro& registro) {
+std::vector<Bytes> Subflujo::conContinuaciones(const Registro& registro) {
     std::vector<Bytes> fragmentos{registro.datos};
     while (LeerU16(flujo_, lugar_) == biff::continuacion) {
-        fragmentos.push_back(Leer().datos);
+        fragmentos.push_back(leer().datos);
     }
     return fragmentos;
 }

@@ -61,13 +61,13 @@ public:
     /// How many bytes have been read from the BOF on.
     [[nodiscard]] std::size_t leidos() const { return lugar_ - comienzo_; }
 
-    std::optional<Registro> Siguiente();
-    /// The bytes of the record that Siguiente gave last and of the CONTINUE records behind it, which are used
-    /// up.
-    std::vector<Bytes> ConContinuaciones(const Registro& registro);
+    std::optional<Registro> siguiente();
+    /// The bytes of the record that `siguiente` gave last and of the CONTINUE records behind it, which are
+    /// used up.
+    std::vector<Bytes> conContinuaciones(const Registro& registro);
 
 private:
-    Registro Leer();
+    Registro leer();
 
     Bytes flujo_;
     std::size_t comienzo_;

@@ -22,7 +22,7 @@ std::vector<Valor> FilaDeZona(const HojaBiff& hoja, std::size_t fila, const Zona
     for (; celda != hoja.celdas.end() && celda->fila == fila && celda->columna <= zona.ultimaColumna;
          ++celda) {
         if (const auto* texto = std::get_if<std::string>(&celda->valor)) {
-            limites.ContarTexto(texto->size());
+            limites.contarTexto(texto->size());
         }
         valores[celda->columna - zona.primeraColumna] = celda->valor;
     }
@@ -48,7 +48,7 @@ Tabla TablaDeZona(const HojaBiff& hoja, const ZonaDeHoja& zona, const std::strin
     ZonaDeHoja cubierta = zona;
     cubierta.ultimaFila = std::min(zona.ultimaFila, hoja.zonaUsada->ultimaFila);
     cubierta.ultimaColumna = std::min(zona.ultimaColumna, hoja.zonaUsada->ultimaColumna);
-    limites.ContarCeldas((cubierta.ultimaFila - cubierta.primeraFila + 1) *
+    limites.contarCeldas((cubierta.ultimaFila - cubierta.primeraFila + 1) *
                          (cubierta.ultimaColumna - cubierta.primeraColumna + 1));
     tabla.Fields = Coleccion<Campo>{CamposDeHoja(FilaDeZona(hoja, cubierta.primeraFila, cubierta, limites))};
     tabla.filas.reserve(cubierta.ultimaFila - cubierta.primeraFila);

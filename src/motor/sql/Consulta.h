@@ -12,54 +12,54 @@
 namespace varo::sql {
 
 enum class Operacion : std::uint8_t {
-    campo,     // puts the value of field `indice` on the stack
-    constante, // puts constant `indice` on the stack
-    negacion,
-    no,
-    suma,
-    resta,
-    producto,
-    cociente,
-    potencia,
-    igual,
-    distinto,
-    menor,
-    mayor,
-    menorOIgual,
-    mayorOIgual,
-    ambos,  // AND
-    alguno, // OR
+    Campo,     // puts the value of field `indice` on the stack
+    Constante, // puts constant `indice` on the stack
+    Negacion,
+    No,
+    Suma,
+    Resta,
+    Producto,
+    Cociente,
+    Potencia,
+    Igual,
+    Distinto,
+    Menor,
+    Mayor,
+    MenorOIgual,
+    MayorOIgual,
+    Ambos,  // AND
+    Alguno, // OR
 };
 
 struct Paso {
-    Operacion operacion = Operacion::constante;
+    Operacion operacion = Operacion::Constante;
     std::size_t indice = 0;
 };
 
 /// An expression in postfix order: operands first, then what joins them. So a long one is no deep one, and
 /// nothing recurses over it.
-struct Expresion {
+struct ExpresionPostfija {
     std::vector<Paso> pasos;
     std::vector<std::string> campos; // each name once, in the order of writing
     std::vector<Valor> constantes;
 
     /// A field and nothing else.
-    [[nodiscard]] bool EsCampo() const {
-        return pasos.size() == 1 && pasos.front().operacion == Operacion::campo;
+    [[nodiscard]] bool esCampo() const {
+        return pasos.size() == 1 && pasos.front().operacion == Operacion::Campo;
     }
 };
 
-enum class Agregado : std::uint8_t { suma, media, maximo, minimo, cuenta };
+enum class Agregado : std::uint8_t { Suma, Media, Maximo, Minimo, Cuenta };
 
 /// One column of the result.
 struct Elemento {
     std::optional<Agregado> agregado;
-    Expresion expresion;
+    ExpresionPostfija expresion;
     std::string alias; // empty without AS
 };
 
 struct Orden {
-    Expresion clave;
+    ExpresionPostfija clave;
     bool descendente = false;
 };
 
@@ -67,10 +67,10 @@ struct Consulta {
     std::optional<std::size_t> primeras; // TOP
     std::vector<Elemento> elementos;     // either all of them aggregates or none
     std::string tabla;
-    std::optional<Expresion> condicion;
+    std::optional<ExpresionPostfija> condicion;
     std::optional<Orden> orden; // never together with aggregates
 
-    [[nodiscard]] bool EsResumen() const { return elementos.front().agregado.has_value(); }
+    [[nodiscard]] bool esResumen() const { return elementos.front().agregado.has_value(); }
 };
 
 } // namespace varo::sql

@@ -27,7 +27,7 @@ void EnCadaFila(const Tabla& tabla, const Filas& filas, Accion accion) {
     }
 }
 
-Filas QueCumplen(const std::optional<Expresion>& condicion, const Tabla& tabla) {
+Filas QueCumplen(const std::optional<ExpresionPostfija>& condicion, const Tabla& tabla) {
     Filas todas(tabla.filas.size());
     std::iota(todas.begin(), todas.end(), std::size_t{0});
     if (!condicion) {
@@ -72,7 +72,7 @@ std::vector<Campo> Columnas(const Consulta& consulta, const Tabla& tabla) {
     for (const auto& elemento : consulta.elementos) {
         if (!elemento.alias.empty()) {
             columnas.push_back({elemento.alias});
-        } else if (!elemento.agregado && elemento.expresion.EsCampo()) {
+        } else if (!elemento.agregado && elemento.expresion.esCampo()) {
             columnas.push_back(tabla.Fields(elemento.expresion.campos.front()));
         } else {
             columnas.push_back({"Expr" + std::to_string(sinNombre++)});
@@ -96,7 +96,7 @@ std::vector<std::vector<Valor>> Proyectadas(const Consulta& consulta, const Tabl
         auto& nueva = proyectadas.emplace_back();
         nueva.reserve(evaluadores.size());
         for (auto& evaluador : evaluadores) {
-            nueva.push_back(evaluador.Entero(tabla.filas[fila]));
+            nueva.push_back(evaluador.entero(tabla.filas[fila]));
         }
     });
     return proyectadas;
@@ -111,7 +111,7 @@ std::vector<std::vector<Valor>> Resumidas(const Consulta& consulta, const Tabla&
     }
     EnCadaFila(tabla, QueCumplen(consulta.condicion, tabla), [&](std::size_t fila) {
         for (auto& resumen : resumenes) {
-            resumen.Anadir(tabla.filas[fila]);
+            resumen.anadir(tabla.filas[fila]);
         }
     });
     if (consulta.primeras == 0U) {
@@ -120,7 +120,7 @@ std::vector<std::vector<Valor>> Resumidas(const Consulta& consulta, const Tabla&
     std::vector<Valor> fila;
     fila.reserve(resumenes.size());
     for (const auto& resumen : resumenes) {
-        fila.push_back(resumen.Resultado());
+        fila.push_back(resumen.resultado());
     }
     return {std::move(fila)};
 }
@@ -133,7 +133,7 @@ Tabla Ejecutar(const Consulta& consulta, const Tabla& tabla) {
         evaluadores.emplace_back(elemento.expresion, tabla);
     }
     Tabla resultado{.Name = {}, .Fields = Coleccion<Campo>{Columnas(consulta, tabla)}, .filas = {}};
-    resultado.filas = consulta.EsResumen() ? Resumidas(consulta, tabla, std::move(evaluadores))
+    resultado.filas = consulta.esResumen() ? Resumidas(consulta, tabla, std::move(evaluadores))
                                            : Proyectadas(consulta, tabla, std::move(evaluadores));
     return resultado;
 }

@@ -7,7 +7,7 @@
 
 namespace varo::sql {
 
-Evaluador::Evaluador(const Expresion& expresion, const Tabla& tabla) : expresion_{expresion} {
+Evaluador::Evaluador(const ExpresionPostfija& expresion, const Tabla& tabla) : expresion_{expresion} {
     for (const auto& nombre : expresion.campos) {
         const auto hallado = std::find_if(tabla.Fields.begin(), tabla.Fields.end(), [&](const Campo& campo) {
             return MismoNombre(campo.Name, nombre);
@@ -25,14 +25,14 @@ Evaluador::Evaluador(const Expresion& expresion, const Tabla& tabla) : expresion
 }
 
 Operando Evaluador::operator()(const std::vector<Valor>& fila) {
-    return AlFallar([this](ErrorEjecucion& error) { Situar(error); }, [&] { return Calculado(fila); });
+    return AlFallar([this](ErrorEjecucion& error) { situar(error); }, [&] { return calculado(fila); });
 }
 
-Valor Evaluador::Entero(const std::vector<Valor>& fila) {
-    return expresion_.EsCampo() ? fila[columnas_.front().posicion] : AValor((*this)(fila));
+Valor Evaluador::entero(const std::vector<Valor>& fila) {
+    return expresion_.esCampo() ? fila[columnas_.front().posicion] : AValor((*this)(fila));
 }
 
-void Evaluador::Situar(ErrorEjecucion& error) const {
+void Evaluador::situar(ErrorEjecucion& error) const {
     if (!error.lugar().empty() || columnas_.empty()) {
         return;
     }
@@ -43,20 +43,20 @@ void Evaluador::Situar(ErrorEjecucion& error) const {
     error.en((columnas_.size() == 1 ? "campo " : "campos ") + nombres);
 }
 
-Operando Evaluador::Calculado(const std::vector<Valor>& fila) {
+Operando Evaluador::calculado(const std::vector<Valor>& fila) {
     std::size_t altura = 0;
     for (const auto& paso : expresion_.pasos) {
         switch (paso.operacion) {
-        case Operacion::campo: {
+        case Operacion::Campo: {
             const auto& columna = columnas_[paso.indice];
             pila_[altura++] = DeValor(fila[columna.posicion], columna.nombre);
             break;
         }
-        case Operacion::constante:
+        case Operacion::Constante:
             pila_[altura++] = constantes_[paso.indice];
             break;
-        case Operacion::negacion:
-        case Operacion::no:
+        case Operacion::Negacion:
+        case Operacion::No:
             pila_[altura - 1] = Calcular(paso.operacion, pila_[altura - 1]);
             break;
         default:

@@ -16,25 +16,25 @@ namespace varo::sql {
 class Evaluador {
 public:
     /// A name that is no field of the table throws ErrorMotor 3061.
-    Evaluador(const Expresion& expresion, const Tabla& tabla);
+    Evaluador(const ExpresionPostfija& expresion, const Tabla& tabla);
 
     /// The value on one row of the table. Faults tell the field.
     Operando operator()(const std::vector<Valor>& fila);
 
     /// The same as it is handed out: a field keeps its kind, a date stays a date.
-    Valor Entero(const std::vector<Valor>& fila);
+    Valor entero(const std::vector<Valor>& fila);
 
     /// Adds the fields of the expression to a fault that tells no place yet.
-    void Situar(ErrorEjecucion& error) const;
+    void situar(ErrorEjecucion& error) const;
 
 private:
     struct Columna {
         std::size_t posicion = 0;
         const std::string* nombre = nullptr;
     };
-    Operando Calculado(const std::vector<Valor>& fila);
+    Operando calculado(const std::vector<Valor>& fila);
 
-    const Expresion& expresion_;
+    const ExpresionPostfija& expresion_;
     std::vector<Columna> columnas_; // one for each of the expression's names
     std::vector<Operando> constantes_;
     std::vector<Operando> pila_; // never higher than the number of steps

@@ -32,28 +32,28 @@ class Cortador {
 public:
     explicit Cortador(std::string_view consulta) : consulta_{consulta} {}
 
-    std::vector<Pieza> Trocear();
+    std::vector<Pieza> trocear();
 
 private:
-    Pieza Siguiente();
-    Pieza Palabra();
-    Pieza Nombre();
-    Pieza Numero();
-    Pieza Texto();
-    Pieza Signo();
+    Pieza siguiente();
+    Pieza palabra();
+    Pieza nombre();
+    Pieza numero();
+    Pieza texto();
+    Pieza signo();
 
     /// Bytes of the letter that stands here, 0 when no letter does.
-    [[nodiscard]] std::size_t Letra() const;
+    [[nodiscard]] std::size_t letra() const;
     /// The character further on, or a character that no piece holds.
-    [[nodiscard]] char Mirar(std::size_t adelante = 0) const {
+    [[nodiscard]] char mirar(std::size_t adelante = 0) const {
         return lugar_ + adelante < consulta_.size() ? consulta_[lugar_ + adelante] : '\0';
     }
-    void PasarCifras() {
-        while (EsCifra(Mirar())) {
+    void pasarCifras() {
+        while (EsCifra(mirar())) {
             ++lugar_;
         }
     }
-    [[nodiscard]] std::string DesdeHastaAqui(std::size_t comienzo) const {
+    [[nodiscard]] std::string desdeHastaAqui(std::size_t comienzo) const {
         return std::string{consulta_.substr(comienzo, lugar_ - comienzo)};
     }
 
@@ -61,47 +61,47 @@ private:
     std::size_t lugar_ = 0;
 };
 
-std::vector<Pieza> Cortador::Trocear() {
+std::vector<Pieza> Cortador::trocear() {
     std::vector<Pieza> piezas;
     do {
         lugar_ = std::min(consulta_.find_first_not_of(blancos, lugar_), consulta_.size());
         const auto comienzo = lugar_;
-        piezas.push_back(Siguiente());
+        piezas.push_back(siguiente());
         piezas.back().comienzo = comienzo;
-    } while (piezas.back().clase != Pieza::Clase::fin);
+    } while (piezas.back().clase != Pieza::Clase::Fin);
     return piezas;
 }
 
-Pieza Cortador::Siguiente() {
+Pieza Cortador::siguiente() {
     if (lugar_ == consulta_.size()) {
         return Pieza{};
     }
-    if (Letra() > 0) {
-        return Palabra();
+    if (letra() > 0) {
+        return palabra();
     }
-    if (EsCifra(Mirar()) || (Mirar() == '.' && EsCifra(Mirar(1)))) {
-        return Numero();
+    if (EsCifra(mirar()) || (mirar() == '.' && EsCifra(mirar(1)))) {
+        return numero();
     }
-    if (Mirar() == '[') {
-        return Nombre();
+    if (mirar() == '[') {
+        return nombre();
     }
-    return Mirar() == '\'' ? Texto() : Signo();
+    return mirar() == '\'' ? texto() : signo();
 }
 
-std::size_t Cortador::Letra() const {
+std::size_t Cortador::letra() const {
     auto resto = consulta_.substr(lugar_);
     return !resto.empty() && EsLetra(SacarUtf8(resto)) ? consulta_.size() - lugar_ - resto.size() : 0;
 }
 
-Pieza Cortador::Palabra() {
+Pieza Cortador::palabra() {
     const auto comienzo = lugar_;
-    while (Letra() > 0 || EsCifra(Mirar()) || Mirar() == '_') {
-        lugar_ += std::max<std::size_t>(Letra(), 1);
+    while (letra() > 0 || EsCifra(mirar()) || mirar() == '_') {
+        lugar_ += std::max<std::size_t>(letra(), 1);
     }
-    return {.clase = Pieza::Clase::palabra, .texto = DesdeHastaAqui(comienzo)};
+    return {.clase = Pieza::Clase::Palabra, .texto = desdeHastaAqui(comienzo)};
 }
 
-Pieza Cortador::Nombre() {
+Pieza Cortador::nombre() {
     const auto comienzo = lugar_;
     const auto cierre = consulta_.find(']', lugar_);
     if (cierre == std::string_view::npos) {
@@ -112,30 +112,30 @@ Pieza Cortador::Nombre() {
         throw SintaxisRota(consulta_, comienzo, "no hay ningún nombre entre los corchetes");
     }
     lugar_ = cierre + 1;
-    return {.clase = Pieza::Clase::nombre, .texto = std::move(nombre)};
+    return {.clase = Pieza::Clase::Nombre, .texto = std::move(nombre)};
 }
 
-Pieza Cortador::Numero() {
+Pieza Cortador::numero() {
     const auto comienzo = lugar_;
-    PasarCifras();
-    if (Mirar() == '.') {
+    pasarCifras();
+    if (mirar() == '.') {
         ++lugar_;
-        PasarCifras();
+        pasarCifras();
     }
-    const std::size_t signo = Mirar(1) == '+' || Mirar(1) == '-' ? 1 : 0;
-    if ((Mirar() == 'E' || Mirar() == 'e') && EsCifra(Mirar(1 + signo))) {
+    const std::size_t signo = mirar(1) == '+' || mirar(1) == '-' ? 1 : 0;
+    if ((mirar() == 'E' || mirar() == 'e') && EsCifra(mirar(1 + signo))) {
         lugar_ += 1 + signo;
-        PasarCifras();
+        pasarCifras();
     }
-    if (Letra() > 0) {
+    if (letra() > 0) {
         throw SintaxisRota(consulta_, comienzo, "un número no puede llevar letras detrás");
     }
-    auto escrito = DesdeHastaAqui(comienzo);
+    auto escrito = desdeHastaAqui(comienzo);
     const double valor = Val(escrito);
-    return {.clase = Pieza::Clase::numero, .texto = std::move(escrito), .numero = valor};
+    return {.clase = Pieza::Clase::Numero, .texto = std::move(escrito), .numero = valor};
 }
 
-Pieza Cortador::Texto() {
+Pieza Cortador::texto() {
     const auto comienzo = lugar_;
     std::string texto;
     for (;;) {
@@ -145,30 +145,30 @@ Pieza Cortador::Texto() {
         }
         texto += consulta_.substr(lugar_ + 1, comilla - lugar_ - 1);
         lugar_ = comilla + 1;
-        if (Mirar() != '\'') {
-            return {.clase = Pieza::Clase::texto, .texto = std::move(texto)};
+        if (mirar() != '\'') {
+            return {.clase = Pieza::Clase::Texto, .texto = std::move(texto)};
         }
         texto += '\'';
     }
 }
 
-Pieza Cortador::Signo() {
+Pieza Cortador::signo() {
     const auto comienzo = lugar_;
     const auto dos = consulta_.substr(lugar_, 2);
     if (std::ranges::find(signosDeDosLetras, dos) != signosDeDosLetras.end()) {
         lugar_ += 2;
-    } else if (signosDeUnaLetra.find(Mirar()) != std::string_view::npos) {
+    } else if (signosDeUnaLetra.find(mirar()) != std::string_view::npos) {
         lugar_ += 1;
     } else {
         throw SintaxisRota(consulta_, comienzo, "aquí no puede haber este signo");
     }
-    return {.clase = Pieza::Clase::signo, .texto = DesdeHastaAqui(comienzo)};
+    return {.clase = Pieza::Clase::Signo, .texto = desdeHastaAqui(comienzo)};
 }
 
 } // namespace
 
 std::vector<Pieza> Trocear(std::string_view consulta) {
-    return Cortador{consulta}.Trocear();
+    return Cortador{consulta}.trocear();
 }
 
 bool EsPalabraReservada(std::string_view palabra) {

@@ -13,14 +13,14 @@ namespace varo::sql {
 
 struct Pieza {
     enum class Clase : std::uint8_t {
-        palabra, // bare: a keyword, a name or a function
-        nombre,  // what stands between square brackets
-        numero,
-        texto, // without its quotes, '' already one quote
-        signo,
-        fin,
+        Palabra, // bare: a keyword, a name or a function
+        Nombre,  // what stands between square brackets
+        Numero,
+        Texto, // without its quotes, '' already one quote
+        Signo,
+        Fin,
     };
-    Clase clase = Clase::fin;
+    Clase clase = Clase::Fin;
     std::string texto;
     double numero = 0;
     std::size_t comienzo = 0; // its first byte in the query

@@ -14,24 +14,24 @@ Operando DeVerdad(std::optional<bool> verdad) {
     if (!verdad) {
         return {};
     }
-    return {.clase = Clase::verdad, .numero = *verdad ? -1.0 : 0.0};
+    return {.clase = Clase::Verdad, .numero = *verdad ? -1.0 : 0.0};
 }
 
 bool EsComparacion(Operacion operacion) {
-    return operacion >= Operacion::igual && operacion <= Operacion::mayorOIgual;
+    return operacion >= Operacion::Igual && operacion <= Operacion::MayorOIgual;
 }
 
 bool Cumple(Operacion comparacion, std::partial_ordering orden) {
     switch (comparacion) {
-    case Operacion::igual:
+    case Operacion::Igual:
         return std::is_eq(orden);
-    case Operacion::distinto:
+    case Operacion::Distinto:
         return std::is_neq(orden); // what has no order is unequal
-    case Operacion::menor:
+    case Operacion::Menor:
         return std::is_lt(orden);
-    case Operacion::mayor:
+    case Operacion::Mayor:
         return std::is_gt(orden);
-    case Operacion::menorOIgual:
+    case Operacion::MenorOIgual:
         return std::is_lteq(orden);
     default:
         return std::is_gteq(orden);
@@ -40,13 +40,13 @@ bool Cumple(Operacion comparacion, std::partial_ordering orden) {
 
 double Aritmetica(Operacion operacion, double a, double b) {
     switch (operacion) {
-    case Operacion::suma:
+    case Operacion::Suma:
         return ExigirFinito(a + b);
-    case Operacion::resta:
+    case Operacion::Resta:
         return ExigirFinito(a - b);
-    case Operacion::producto:
+    case Operacion::Producto:
         return ExigirFinito(a * b);
-    case Operacion::cociente:
+    case Operacion::Cociente:
         return Dividir(a, b);
     default:
         return Potencia(a, b);
@@ -64,7 +64,7 @@ std::optional<bool> Junta(std::optional<bool> a, std::optional<bool> b, bool que
 } // namespace
 
 Operando DeNumero(double numero) {
-    return {.clase = Clase::numero, .numero = numero};
+    return {.clase = Clase::Numero, .numero = numero};
 }
 
 Operando DeValor(const Valor& valor, const std::string* campo) {
@@ -72,7 +72,7 @@ Operando DeValor(const Valor& valor, const std::string* campo) {
         return DeNumero(*numero);
     }
     if (const auto* texto = std::get_if<std::string>(&valor)) {
-        return {.clase = Clase::texto, .texto = *texto, .campo = campo};
+        return {.clase = Clase::Texto, .texto = *texto, .campo = campo};
     }
     if (const auto* fecha = std::get_if<Fecha>(&valor)) {
         return DeNumero(fecha->serie);
@@ -85,11 +85,11 @@ Operando DeValor(const Valor& valor, const std::string* campo) {
 
 Valor AValor(const Operando& operando) {
     switch (operando.clase) {
-    case Clase::numero:
+    case Clase::Numero:
         return operando.numero;
-    case Clase::verdad:
+    case Clase::Verdad:
         return operando.numero != 0;
-    case Clase::texto:
+    case Clase::Texto:
         return std::string{operando.texto};
     default:
         return Nulo{};
@@ -97,10 +97,10 @@ Valor AValor(const Operando& operando) {
 }
 
 std::optional<double> ComoNumero(const Operando& operando) {
-    if (operando.EsNulo()) {
+    if (operando.esNulo()) {
         return std::nullopt;
     }
-    if (operando.clase != Clase::texto) {
+    if (operando.clase != Clase::Texto) {
         return operando.numero;
     }
     return EsNumerico(operando.texto) ? std::optional{ANumero(operando.texto)} : std::nullopt;
@@ -121,25 +121,25 @@ double NumeroExigido(const Operando& operando) {
 }
 
 std::optional<bool> Verdad(const Operando& operando) {
-    if (operando.EsNulo()) {
+    if (operando.esNulo()) {
         return std::nullopt;
     }
     return NumeroExigido(operando) != 0;
 }
 
 Operando Calcular(Operacion operacion, const Operando& a) {
-    if (a.EsNulo()) {
+    if (a.esNulo()) {
         return {};
     }
-    return operacion == Operacion::no ? DeVerdad(!*Verdad(a)) : DeNumero(-NumeroExigido(a));
+    return operacion == Operacion::No ? DeVerdad(!*Verdad(a)) : DeNumero(-NumeroExigido(a));
 }
 
 Operando Calcular(Operacion operacion, const Operando& a, const Operando& b) {
-    if (operacion == Operacion::ambos || operacion == Operacion::alguno) {
+    if (operacion == Operacion::Ambos || operacion == Operacion::Alguno) {
         const auto izquierda = Verdad(a);
-        return DeVerdad(Junta(izquierda, Verdad(b), operacion == Operacion::alguno));
+        return DeVerdad(Junta(izquierda, Verdad(b), operacion == Operacion::Alguno));
     }
-    if (a.EsNulo() || b.EsNulo()) {
+    if (a.esNulo() || b.esNulo()) {
         return {};
     }
     if (EsComparacion(operacion)) {
@@ -150,7 +150,7 @@ Operando Calcular(Operacion operacion, const Operando& a, const Operando& b) {
 }
 
 std::partial_ordering Comparar(const Operando& a, const Operando& b) {
-    if (a.clase == Clase::texto && b.clase == Clase::texto) {
+    if (a.clase == Clase::Texto && b.clase == Clase::Texto) {
         return a.texto <=> b.texto; // bytes of UTF-8 stand in the order of the code points
     }
     const auto izquierdo = ComoNumero(a);
@@ -160,10 +160,10 @@ std::partial_ordering Comparar(const Operando& a, const Operando& b) {
 
 ClaveDeOrden::ClaveDeOrden(const Operando& operando) {
     if (const auto numero = ComoNumero(operando)) {
-        rango_ = Rango::numero;
+        rango_ = Rango::Numero;
         numero_ = *numero;
-    } else if (!operando.EsNulo()) {
-        rango_ = Rango::texto;
+    } else if (!operando.esNulo()) {
+        rango_ = Rango::Texto;
         texto_ = operando.texto;
     }
 }
@@ -172,7 +172,7 @@ std::weak_ordering operator<=>(const ClaveDeOrden& a, const ClaveDeOrden& b) {
     if (a.rango_ != b.rango_) {
         return a.rango_ <=> b.rango_;
     }
-    if (a.rango_ == ClaveDeOrden::Rango::numero) {
+    if (a.rango_ == ClaveDeOrden::Rango::Numero) {
         return std::weak_order(a.numero_, b.numero_);
     }
     return a.texto_ <=> b.texto_;

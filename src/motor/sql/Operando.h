@@ -14,13 +14,13 @@ namespace varo::sql {
 
 /// A value without storage of its own: texts stay where they are, in the table or in the query.
 struct Operando {
-    enum class Clase : std::uint8_t { nulo, numero, verdad, texto };
-    Clase clase = Clase::nulo;
+    enum class Clase : std::uint8_t { Nulo, Numero, Verdad, Texto };
+    Clase clase = Clase::Nulo;
     double numero = 0; // a date is its serial, a truth value -1 or 0
     std::string_view texto{};
     const std::string* campo = nullptr; // where a text was read, for the faults
 
-    [[nodiscard]] bool EsNulo() const { return clase == Clase::nulo; }
+    [[nodiscard]] bool esNulo() const { return clase == Clase::Nulo; }
 };
 
 Operando DeNumero(double numero);
@@ -56,8 +56,8 @@ public:
     friend bool operator==(const ClaveDeOrden& a, const ClaveDeOrden& b) { return std::is_eq(a <=> b); }
 
 private:
-    enum class Rango : std::uint8_t { nulo, numero, texto };
-    Rango rango_ = Rango::nulo;
+    enum class Rango : std::uint8_t { Nulo, Numero, Texto };
+    Rango rango_ = Rango::Nulo;
     double numero_ = 0;
     std::string_view texto_;
 };

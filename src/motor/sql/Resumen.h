@@ -17,13 +17,13 @@ public:
 
     /// All but Count take numbers alone: a text that is none throws ErrorMotor 3464; a sum beyond the range
     /// of a 64-bit float throws 6.
-    void Anadir(const std::vector<Valor>& fila);
+    void anadir(const std::vector<Valor>& fila);
 
     /// Null over nothing, but 0 for Count.
-    [[nodiscard]] Valor Resultado() const;
+    [[nodiscard]] Valor resultado() const;
 
 private:
-    void Acumular(double numero);
+    void acumular(double numero);
 
     Agregado agregado_;
     Evaluador evaluador_;

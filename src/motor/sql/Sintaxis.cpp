@@ -33,60 +33,60 @@ struct Binario {
 };
 
 constexpr std::array<Binario, 13> binarios{{
-    {"OR", Operacion::alguno, nivelAlguno},
-    {"AND", Operacion::ambos, nivelAmbos},
-    {"=", Operacion::igual, nivelComparacion},
-    {"<>", Operacion::distinto, nivelComparacion},
-    {"<", Operacion::menor, nivelComparacion},
-    {">", Operacion::mayor, nivelComparacion},
-    {"<=", Operacion::menorOIgual, nivelComparacion},
-    {">=", Operacion::mayorOIgual, nivelComparacion},
-    {"+", Operacion::suma, nivelSuma},
-    {"-", Operacion::resta, nivelSuma},
-    {"*", Operacion::producto, nivelProducto},
-    {"/", Operacion::cociente, nivelProducto},
-    {"^", Operacion::potencia, nivelPotencia},
+    {"OR", Operacion::Alguno, nivelAlguno},
+    {"AND", Operacion::Ambos, nivelAmbos},
+    {"=", Operacion::Igual, nivelComparacion},
+    {"<>", Operacion::Distinto, nivelComparacion},
+    {"<", Operacion::Menor, nivelComparacion},
+    {">", Operacion::Mayor, nivelComparacion},
+    {"<=", Operacion::MenorOIgual, nivelComparacion},
+    {">=", Operacion::MayorOIgual, nivelComparacion},
+    {"+", Operacion::Suma, nivelSuma},
+    {"-", Operacion::Resta, nivelSuma},
+    {"*", Operacion::Producto, nivelProducto},
+    {"/", Operacion::Cociente, nivelProducto},
+    {"^", Operacion::Potencia, nivelPotencia},
 }};
 
 constexpr std::array<std::pair<std::string_view, Agregado>, 5> agregados{{
-    {"Sum", Agregado::suma},
-    {"Avg", Agregado::media},
-    {"Max", Agregado::maximo},
-    {"Min", Agregado::minimo},
-    {"Count", Agregado::cuenta},
+    {"Sum", Agregado::Suma},
+    {"Avg", Agregado::Media},
+    {"Max", Agregado::Maximo},
+    {"Min", Agregado::Minimo},
+    {"Count", Agregado::Cuenta},
 }};
 
 class Analizador {
 public:
     explicit Analizador(std::string_view texto) : texto_{texto}, piezas_{Trocear(texto)} {}
 
-    Consulta Analizar();
+    Consulta analizar();
 
 private:
-    std::size_t Top();
-    Elemento UnElemento();
-    std::optional<Agregado> ComienzoDeAgregado();
-    Orden UnOrden();
-    void ComprobarResumen(const Consulta& consulta) const;
+    std::size_t top();
+    Elemento unElemento();
+    std::optional<Agregado> comienzoDeAgregado();
+    Orden unOrden();
+    void comprobarResumen(const Consulta& consulta) const;
 
-    Expresion UnaExpresion();
+    ExpresionPostfija unaExpresion();
     /// Appends what stands up to the first operator that binds looser than `nivelMinimo`.
-    void Operaciones(Expresion& expresion, int nivelMinimo);
-    void UnOperando(Expresion& expresion, int nivelMinimo);
-    void Prefijado(Expresion& expresion, int nivel);
-    void EntreParentesis(Expresion& expresion);
-    void Termino(Expresion& expresion);
-    [[nodiscard]] const Binario* OperadorAqui() const;
-    void Entrar();
+    void operaciones(ExpresionPostfija& expresion, int nivelMinimo);
+    void unOperando(ExpresionPostfija& expresion, int nivelMinimo);
+    void prefijado(ExpresionPostfija& expresion, int nivel);
+    void entreParentesis(ExpresionPostfija& expresion);
+    void termino(ExpresionPostfija& expresion);
+    [[nodiscard]] const Binario* operadorAqui() const;
+    void entrar();
 
-    [[nodiscard]] std::string Nombre(const std::string& queFalta);
-    [[nodiscard]] const Pieza& Actual() const { return piezas_[lugar_]; }
-    [[nodiscard]] const Pieza& Siguiente() const { return piezas_[std::min(lugar_ + 1, piezas_.size() - 1)]; }
-    [[nodiscard]] bool Es(std::string_view palabraOSigno) const;
-    bool Tomar(std::string_view palabraOSigno);
-    void Exigir(std::string_view palabraOSigno);
-    [[noreturn]] void Romper(const std::string& motivo) const {
-        throw SintaxisRota(texto_, Actual().comienzo, motivo);
+    [[nodiscard]] std::string tomarNombre(const std::string& queFalta);
+    [[nodiscard]] const Pieza& actual() const { return piezas_[lugar_]; }
+    [[nodiscard]] const Pieza& siguiente() const { return piezas_[std::min(lugar_ + 1, piezas_.size() - 1)]; }
+    [[nodiscard]] bool es(std::string_view palabraOSigno) const;
+    bool tomar(std::string_view palabraOSigno);
+    void exigir(std::string_view palabraOSigno);
+    [[noreturn]] void romper(const std::string& motivo) const {
+        throw SintaxisRota(texto_, actual().comienzo, motivo);
     }
 
     std::string_view texto_;
@@ -95,68 +95,68 @@ private:
     int anidamiento_ = 0;
 };
 
-Consulta Analizador::Analizar() {
+Consulta Analizador::analizar() {
     Consulta consulta;
-    Exigir("SELECT");
-    if (Tomar("TOP")) {
-        consulta.primeras = Top();
+    exigir("SELECT");
+    if (tomar("TOP")) {
+        consulta.primeras = top();
     }
     do {
-        consulta.elementos.push_back(UnElemento());
-    } while (Tomar(","));
-    Exigir("FROM");
-    consulta.tabla = Nombre("se esperaba el nombre de una tabla");
-    if (Tomar("WHERE")) {
-        consulta.condicion = UnaExpresion();
+        consulta.elementos.push_back(unElemento());
+    } while (tomar(","));
+    exigir("FROM");
+    consulta.tabla = tomarNombre("se esperaba el nombre de una tabla");
+    if (tomar("WHERE")) {
+        consulta.condicion = unaExpresion();
     }
-    if (Es("ORDER")) {
-        consulta.orden = UnOrden();
+    if (es("ORDER")) {
+        consulta.orden = unOrden();
     }
-    if (Actual().clase != Clase::fin) {
-        Romper("la consulta ya estaba completa");
+    if (actual().clase != Clase::Fin) {
+        romper("la consulta ya estaba completa");
     }
-    ComprobarResumen(consulta);
+    comprobarResumen(consulta);
     return consulta;
 }
 
-std::size_t Analizador::Top() {
-    const auto& pieza = Actual();
+std::size_t Analizador::top() {
+    const auto& pieza = actual();
     const bool soloCifras =
-        pieza.clase == Clase::numero && pieza.texto.find_first_not_of("0123456789") == std::string::npos;
+        pieza.clase == Clase::Numero && pieza.texto.find_first_not_of("0123456789") == std::string::npos;
     if (!soloCifras || pieza.numero > topMaximo) {
-        Romper("detrás de TOP se esperaba un número entero de filas");
+        romper("detrás de TOP se esperaba un número entero de filas");
     }
     ++lugar_;
     return static_cast<std::size_t>(pieza.numero);
 }
 
-Elemento Analizador::UnElemento() {
+Elemento Analizador::unElemento() {
     Elemento elemento;
-    elemento.agregado = ComienzoDeAgregado();
+    elemento.agregado = comienzoDeAgregado();
     if (!elemento.agregado) {
-        elemento.expresion = UnaExpresion();
+        elemento.expresion = unaExpresion();
     } else {
-        if (elemento.agregado == Agregado::cuenta && Tomar("*")) {
+        if (elemento.agregado == Agregado::Cuenta && tomar("*")) {
             // Count(*) counts the rows: something that is Null in none of them.
-            elemento.expresion = {.pasos = {{Operacion::constante, 0}}, .campos = {}, .constantes = {1.0}};
+            elemento.expresion = {.pasos = {{Operacion::Constante, 0}}, .campos = {}, .constantes = {1.0}};
         } else {
-            elemento.expresion = UnaExpresion();
+            elemento.expresion = unaExpresion();
         }
-        Exigir(")");
+        exigir(")");
     }
-    if (Tomar("AS")) {
-        elemento.alias = Nombre("se esperaba un nombre para la columna");
+    if (tomar("AS")) {
+        elemento.alias = tomarNombre("se esperaba un nombre para la columna");
     }
     return elemento;
 }
 
 /// Takes the function and its opening parenthesis.
-std::optional<Agregado> Analizador::ComienzoDeAgregado() {
-    if (Actual().clase != Clase::palabra || Siguiente().clase != Clase::signo || Siguiente().texto != "(") {
+std::optional<Agregado> Analizador::comienzoDeAgregado() {
+    if (actual().clase != Clase::Palabra || siguiente().clase != Clase::Signo || siguiente().texto != "(") {
         return std::nullopt;
     }
     const auto* hallado = std::ranges::find_if(
-        agregados, [&](const auto& agregado) { return MismoNombre(agregado.first, Actual().texto); });
+        agregados, [&](const auto& agregado) { return MismoNombre(agregado.first, actual().texto); });
     if (hallado == agregados.end()) {
         return std::nullopt;
     }
@@ -164,144 +164,144 @@ std::optional<Agregado> Analizador::ComienzoDeAgregado() {
     return hallado->second;
 }
 
-Orden Analizador::UnOrden() {
-    Exigir("ORDER");
-    Exigir("BY");
-    Orden orden{.clave = UnaExpresion()};
-    orden.descendente = Tomar("DESC");
+Orden Analizador::unOrden() {
+    exigir("ORDER");
+    exigir("BY");
+    Orden orden{.clave = unaExpresion()};
+    orden.descendente = tomar("DESC");
     if (!orden.descendente) {
-        Tomar("ASC");
+        tomar("ASC");
     }
     return orden;
 }
 
-void Analizador::ComprobarResumen(const Consulta& consulta) const {
+void Analizador::comprobarResumen(const Consulta& consulta) const {
     const auto esAgregado = [](const Elemento& elemento) { return elemento.agregado.has_value(); };
     if (std::ranges::none_of(consulta.elementos, esAgregado)) {
         return;
     }
     const std::string no = "una consulta que resume las filas no puede ";
     if (!std::ranges::all_of(consulta.elementos, esAgregado)) {
-        Romper(no + "llevar columnas sin resumir");
+        romper(no + "llevar columnas sin resumir");
     }
     if (consulta.orden) {
-        Romper(no + "ordenarlas");
+        romper(no + "ordenarlas");
     }
 }
 
-Expresion Analizador::UnaExpresion() {
-    Expresion expresion;
-    Operaciones(expresion, nivelAlguno);
+ExpresionPostfija Analizador::unaExpresion() {
+    ExpresionPostfija expresion;
+    operaciones(expresion, nivelAlguno);
     return expresion;
 }
 
-void Analizador::Operaciones(Expresion& expresion, int nivelMinimo) {
-    UnOperando(expresion, nivelMinimo);
-    for (const auto* operador = OperadorAqui(); operador != nullptr && operador->nivel >= nivelMinimo;
-         operador = OperadorAqui()) {
+void Analizador::operaciones(ExpresionPostfija& expresion, int nivelMinimo) {
+    unOperando(expresion, nivelMinimo);
+    for (const auto* operador = operadorAqui(); operador != nullptr && operador->nivel >= nivelMinimo;
+         operador = operadorAqui()) {
         ++lugar_;
-        Operaciones(expresion, operador->nivel + 1);
+        operaciones(expresion, operador->nivel + 1);
         expresion.pasos.push_back({operador->operacion});
     }
 }
 
-const Binario* Analizador::OperadorAqui() const {
+const Binario* Analizador::operadorAqui() const {
     const auto* hallado =
-        std::ranges::find_if(binarios, [&](const Binario& binario) { return Es(binario.escrito); });
+        std::ranges::find_if(binarios, [&](const Binario& binario) { return es(binario.escrito); });
     return hallado == binarios.end() ? nullptr : hallado;
 }
 
-void Analizador::UnOperando(Expresion& expresion, int nivelMinimo) {
-    if (nivelMinimo <= nivelNo && Tomar("NOT")) {
-        Prefijado(expresion, nivelNo);
-        expresion.pasos.push_back({Operacion::no});
-    } else if (Tomar("-")) {
+void Analizador::unOperando(ExpresionPostfija& expresion, int nivelMinimo) {
+    if (nivelMinimo <= nivelNo && tomar("NOT")) {
+        prefijado(expresion, nivelNo);
+        expresion.pasos.push_back({Operacion::No});
+    } else if (tomar("-")) {
         // The sign takes a power with it, -2^2 = -4, unless it stands inside an exponent: 2^-1.
-        Prefijado(expresion, std::max(nivelSigno, nivelMinimo));
-        expresion.pasos.push_back({Operacion::negacion});
-    } else if (Tomar("+")) {
-        Prefijado(expresion, std::max(nivelSigno, nivelMinimo));
-    } else if (Tomar("(")) {
-        EntreParentesis(expresion);
+        prefijado(expresion, std::max(nivelSigno, nivelMinimo));
+        expresion.pasos.push_back({Operacion::Negacion});
+    } else if (tomar("+")) {
+        prefijado(expresion, std::max(nivelSigno, nivelMinimo));
+    } else if (tomar("(")) {
+        entreParentesis(expresion);
     } else {
-        Termino(expresion);
+        termino(expresion);
     }
 }
 
-void Analizador::Prefijado(Expresion& expresion, int nivel) {
-    Entrar();
-    Operaciones(expresion, nivel);
+void Analizador::prefijado(ExpresionPostfija& expresion, int nivel) {
+    entrar();
+    operaciones(expresion, nivel);
     --anidamiento_;
 }
 
-void Analizador::EntreParentesis(Expresion& expresion) {
-    Entrar();
-    Operaciones(expresion, nivelAlguno);
-    Exigir(")");
+void Analizador::entreParentesis(ExpresionPostfija& expresion) {
+    entrar();
+    operaciones(expresion, nivelAlguno);
+    exigir(")");
     --anidamiento_;
 }
 
-void Analizador::Entrar() {
+void Analizador::entrar() {
     if (++anidamiento_ > anidamientoMaximo) {
-        Romper("hay demasiados paréntesis o signos unos dentro de otros");
+        romper("hay demasiados paréntesis o signos unos dentro de otros");
     }
 }
 
-void Analizador::Termino(Expresion& expresion) {
-    const auto& pieza = Actual();
-    if (pieza.clase == Clase::numero || pieza.clase == Clase::texto) {
-        expresion.pasos.push_back({Operacion::constante, expresion.constantes.size()});
-        expresion.constantes.push_back(pieza.clase == Clase::numero ? Valor{pieza.numero}
+void Analizador::termino(ExpresionPostfija& expresion) {
+    const auto& pieza = actual();
+    if (pieza.clase == Clase::Numero || pieza.clase == Clase::Texto) {
+        expresion.pasos.push_back({Operacion::Constante, expresion.constantes.size()});
+        expresion.constantes.push_back(pieza.clase == Clase::Numero ? Valor{pieza.numero}
                                                                     : Valor{pieza.texto});
         ++lugar_;
         return;
     }
-    const auto nombre = Nombre("se esperaba un nombre, un número o un texto");
-    if (pieza.clase == Clase::palabra && Es("(")) {
+    const auto nombre = tomarNombre("se esperaba un nombre, un número o un texto");
+    if (pieza.clase == Clase::Palabra && es("(")) {
         throw SintaxisRota(texto_, pieza.comienzo, "la función «" + nombre + "» no puede ir aquí");
     }
     const auto conocido = std::ranges::find(expresion.campos, nombre);
     expresion.pasos.push_back(
-        {Operacion::campo, static_cast<std::size_t>(conocido - expresion.campos.begin())});
+        {Operacion::Campo, static_cast<std::size_t>(conocido - expresion.campos.begin())});
     if (conocido == expresion.campos.end()) {
         expresion.campos.push_back(nombre);
     }
 }
 
-std::string Analizador::Nombre(const std::string& queFalta) {
-    const auto& pieza = Actual();
-    if (pieza.clase == Clase::palabra && EsPalabraReservada(pieza.texto)) {
-        Romper(queFalta + ", y «" + pieza.texto + "» es una palabra reservada");
+std::string Analizador::tomarNombre(const std::string& queFalta) {
+    const auto& pieza = actual();
+    if (pieza.clase == Clase::Palabra && EsPalabraReservada(pieza.texto)) {
+        romper(queFalta + ", y «" + pieza.texto + "» es una palabra reservada");
     }
-    if (pieza.clase != Clase::palabra && pieza.clase != Clase::nombre) {
-        Romper(queFalta);
+    if (pieza.clase != Clase::Palabra && pieza.clase != Clase::Nombre) {
+        romper(queFalta);
     }
     ++lugar_;
     return pieza.texto;
 }
 
-bool Analizador::Es(std::string_view palabraOSigno) const {
-    const auto& pieza = Actual();
-    return (pieza.clase == Clase::palabra || pieza.clase == Clase::signo) &&
+bool Analizador::es(std::string_view palabraOSigno) const {
+    const auto& pieza = actual();
+    return (pieza.clase == Clase::Palabra || pieza.clase == Clase::Signo) &&
            pieza.texto.size() == palabraOSigno.size() && MismoNombre(pieza.texto, palabraOSigno);
 }
 
-bool Analizador::Tomar(std::string_view palabraOSigno) {
-    const bool esta = Es(palabraOSigno);
+bool Analizador::tomar(std::string_view palabraOSigno) {
+    const bool esta = es(palabraOSigno);
     lugar_ += esta ? 1 : 0;
     return esta;
 }
 
-void Analizador::Exigir(std::string_view palabraOSigno) {
-    if (!Tomar(palabraOSigno)) {
-        Romper("se esperaba «" + std::string{palabraOSigno} + "»");
+void Analizador::exigir(std::string_view palabraOSigno) {
+    if (!tomar(palabraOSigno)) {
+        romper("se esperaba «" + std::string{palabraOSigno} + "»");
     }
 }
 
 } // namespace
 
 Consulta Analizar(std::string_view texto) {
-    return Analizador{texto}.Analizar();
+    return Analizador{texto}.analizar();
 }
 
 } // namespace varo::sql

@@ -29,7 +29,7 @@ void Poner32(std::vector<std::byte>& bytes, std::size_t lugar, std::uint32_t val
 /// Reading the stream "Libro" ends in a damaged file that tells this.
 testing::AssertionResult Danado(const std::vector<std::byte>& archivo, std::string_view defecto) {
     return prueba::FallaCon(fallo::archivoDanado, defecto,
-                            [&] { (void)ArchivoCompuesto{archivo}.Flujo("Libro"); });
+                            [&] { (void)ArchivoCompuesto{archivo}.flujo("Libro"); });
 }
 
 constexpr const char* cadenaRota = "una cadena de sectores está rota";
@@ -55,8 +55,8 @@ TEST(ArchivoCompuesto, DevuelveLosFlujosGrandesYLosPequenos) {
             const auto archivo = prueba::EscribirCompuesto(
                 {{"Otro", Contenido(777)}, {"Libro", Contenido(tamano)}, {"Ultimo", Contenido(9000)}},
                 tamanoSector);
-            EXPECT_EQ(Contenido(tamano), ArchivoCompuesto{archivo}.Flujo("Libro")) << tamano;
-            EXPECT_EQ(Contenido(777), ArchivoCompuesto{archivo}.Flujo("Otro")) << tamano;
+            EXPECT_EQ(Contenido(tamano), ArchivoCompuesto{archivo}.flujo("Libro")) << tamano;
+            EXPECT_EQ(Contenido(777), ArchivoCompuesto{archivo}.flujo("Otro")) << tamano;
         }
     }
 }
@@ -64,13 +64,13 @@ TEST(ArchivoCompuesto, DevuelveLosFlujosGrandesYLosPequenos) {
 TEST(ArchivoCompuesto, LeeUnArchivoCuyaFatNoCabeEnLaCabecera) {
     const std::size_t tamano = 20'000'000; // some 39,000 sectors: 306 sectors of FAT
     const auto archivo = prueba::EscribirCompuesto({{"Libro", Contenido(tamano)}});
-    EXPECT_EQ(Contenido(tamano), ArchivoCompuesto{archivo}.Flujo("Libro"));
+    EXPECT_EQ(Contenido(tamano), ArchivoCompuesto{archivo}.flujo("Libro"));
 }
 
 TEST(ArchivoCompuesto, ElNombreNoDistingueMayusculas) {
     const auto archivo = Grande();
-    EXPECT_TRUE(ArchivoCompuesto{archivo}.Flujo("LIBRO"));
-    EXPECT_FALSE(ArchivoCompuesto{archivo}.Flujo("Libros"));
+    EXPECT_TRUE(ArchivoCompuesto{archivo}.flujo("LIBRO"));
+    EXPECT_FALSE(ArchivoCompuesto{archivo}.flujo("Libros"));
 }
 
 TEST(ArchivoCompuesto, NoMiraDentroDeLosAlmacenesInteriores) {
@@ -80,7 +80,7 @@ TEST(ArchivoCompuesto, NoMiraDentroDeLosAlmacenesInteriores) {
     archivo[directorio + 128 + 66] = std::byte{1};
     Poner32(archivo, directorio + 128 + 72, 0xFFFFFFFF);
     Poner32(archivo, directorio + 128 + 76, 2);
-    EXPECT_FALSE(ArchivoCompuesto{archivo}.Flujo("Libro"));
+    EXPECT_FALSE(ArchivoCompuesto{archivo}.flujo("Libro"));
 }
 
 TEST(ArchivoCompuesto, ElUltimoSectorPuedeEstarSinRellenar) {
@@ -91,7 +91,7 @@ TEST(ArchivoCompuesto, ElUltimoSectorPuedeEstarSinRellenar) {
     Poner32(archivo, Enlace(8), 12);
     Poner32(archivo, Enlace(12), 0xFFFFFFFE);
     archivo.insert(archivo.end(), copia.begin(), copia.end());
-    EXPECT_EQ(Contenido(5000), ArchivoCompuesto{archivo}.Flujo("Libro"));
+    EXPECT_EQ(Contenido(5000), ArchivoCompuesto{archivo}.flujo("Libro"));
     archivo.pop_back();
     EXPECT_TRUE(Danado(archivo, "faltan bytes"));
 }

@@ -23,14 +23,14 @@ LectorContinuo Lector(const Fragmentos& fragmentos) {
 
 std::string Unicode(const Fragmentos& fragmentos) {
     auto lector = Lector(fragmentos);
-    return CadenasBiff{true}.LeerLarga(lector);
+    return CadenasBiff{true}.leerLarga(lector);
 }
 
 std::string EnPagina(int pagina, std::string_view bytes) {
     auto lector = Lector({bytes});
     CadenasBiff cadenas{false};
-    cadenas.PonerPagina(pagina);
-    return cadenas.LeerCorta(lector);
+    cadenas.ponerPagina(pagina);
+    return cadenas.leerCorta(lector);
 }
 
 testing::AssertionResult Cortado(const Fragmentos& fragmentos) {
@@ -79,9 +79,9 @@ TEST(CadenasBiff, SaltaFormatosYDatosFoneticos) {
                           "FFFF"sv,
                           "xyz\1\0\0c"sv});
     const CadenasBiff cadenas{true};
-    EXPECT_EQ("ab", cadenas.LeerLarga(lector));
-    EXPECT_EQ("c", cadenas.LeerLarga(lector));
-    EXPECT_TRUE(lector.Acabado());
+    EXPECT_EQ("ab", cadenas.leerLarga(lector));
+    EXPECT_EQ("c", cadenas.leerLarga(lector));
+    EXPECT_TRUE(lector.acabado());
 }
 
 TEST(CadenasBiff, UnosFormatosQueFaltanEstanDanados) {

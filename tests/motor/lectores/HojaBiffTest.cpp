@@ -55,33 +55,33 @@ Contenido Texto(std::string_view texto, Contenido contenido = {}) {
 /// The records of a sheet, between its BOF and its EOF.
 class HojaAMano {
 public:
-    HojaAMano() { AnadirBof(biff::hojaDeCalculo); }
+    HojaAMano() { anadirBof(biff::hojaDeCalculo); }
 
-    HojaAMano& Registro(int tipo, const Contenido& contenido = {}) {
+    HojaAMano& registro(int tipo, const Contenido& contenido = {}) {
         AnadirRegistro(flujo_, tipo, contenido);
         return *this;
     }
 
-    HojaAMano& AnadirBof(int clase) {
+    HojaAMano& anadirBof(int clase) {
         Contenido contenido;
         AnadirU16(contenido, biff::version8);
         AnadirU16(contenido, clase);
-        return Registro(biff::bof, contenido);
+        return registro(biff::bof, contenido);
     }
 
-    HojaAMano& Numero(int fila, int columna, double numero, int formato = formatoGeneral) {
+    HojaAMano& numero(int fila, int columna, double numero, int formato = formatoGeneral) {
         auto contenido = Comienzo(fila, columna, formato);
         AnadirReal(contenido, numero);
-        return Registro(biff::numero, contenido);
+        return registro(biff::numero, contenido);
     }
 
-    HojaAMano& Rk(std::uint32_t rk) {
+    HojaAMano& rk(std::uint32_t rk) {
         auto contenido = Comienzo(0, 0);
         AnadirU32(contenido, rk);
-        return Registro(biff::rk, contenido);
+        return registro(biff::rk, contenido);
     }
 
-    HojaBiff Leer(bool calendario1904 = false) const {
+    HojaBiff leer(bool calendario1904 = false) const {
         auto flujo = flujo_;
         AnadirRegistro(flujo, biff::eof, {});
         const LibroBiff libro{CadenasBiff{true}, calendario1904, {}, {"uno", "dos"}, {false, true}, {}};
@@ -90,9 +90,9 @@ public:
     }
 
     /// The cells as "row,column=value", parted by blanks.
-    std::string Celdas(bool calendario1904 = false) const {
+    std::string celdas(bool calendario1904 = false) const {
         std::string celdas;
-        for (const auto& celda : Leer(calendario1904).celdas) {
+        for (const auto& celda : leer(calendario1904).celdas) {
             celdas += (celdas.empty() ? "" : " ") + std::to_string(celda.fila) + "," +
                       std::to_string(celda.columna) + "=" + prueba::Escrito(celda.valor);
         }
@@ -104,18 +104,18 @@ private:
 };
 
 TEST(HojaBiff, LeeLosNumerosCortos) {
-    EXPECT_EQ("0,0=1", HojaAMano{}.Rk(0x3FF00000).Celdas());
-    EXPECT_EQ("0,0=0.01", HojaAMano{}.Rk(0x3FF00001).Celdas());
-    EXPECT_EQ("0,0=1234", HojaAMano{}.Rk(1234U << 2 | 2).Celdas());
-    EXPECT_EQ("0,0=12.34", HojaAMano{}.Rk(1234U << 2 | 3).Celdas());
-    EXPECT_EQ("0,0=-5", HojaAMano{}.Rk(static_cast<std::uint32_t>(-5) << 2 | 2).Celdas());
-    EXPECT_EQ("0,0=-536870912", HojaAMano{}.Rk(0x80000002).Celdas());
-    EXPECT_EQ("0,0=536870911", HojaAMano{}.Rk(0x7FFFFFFE).Celdas());
+    EXPECT_EQ("0,0=1", HojaAMano{}.rk(0x3FF00000).celdas());
+    EXPECT_EQ("0,0=0.01", HojaAMano{}.rk(0x3FF00001).celdas());
+    EXPECT_EQ("0,0=1234", HojaAMano{}.rk(1234U << 2 | 2).celdas());
+    EXPECT_EQ("0,0=12.34", HojaAMano{}.rk(1234U << 2 | 3).celdas());
+    EXPECT_EQ("0,0=-5", HojaAMano{}.rk(static_cast<std::uint32_t>(-5) << 2 | 2).celdas());
+    EXPECT_EQ("0,0=-536870912", HojaAMano{}.rk(0x80000002).celdas());
+    EXPECT_EQ("0,0=536870911", HojaAMano{}.rk(0x7FFFFFFE).celdas());
 }
 
 /// A sheet whose only record is this one ends in a damaged file that tells this.
 testing::AssertionResult RegistroDanado(int tipo, const Contenido& contenido, std::string_view texto) {
-    return FallaCon(fallo::archivoDanado, texto, [&] { HojaAMano{}.Registro(tipo, contenido).Celdas(); });
+    return FallaCon(fallo::archivoDanado, texto, [&] { HojaAMano{}.registro(tipo, contenido).celdas(); });
 }
 
 TEST(HojaBiff, LeeUnaFilaDeNumerosCortos) {
@@ -128,7 +128,7 @@ TEST(HojaBiff, LeeUnaFilaDeNumerosCortos) {
         AnadirU32(contenido, numero << 2 | 2);
     }
     AnadirU16(contenido, 3);
-    EXPECT_EQ("4,2=7 4,3=#43831", HojaAMano{}.Registro(biff::mulRk, contenido).Celdas());
+    EXPECT_EQ("4,2=7 4,3=#43831", HojaAMano{}.registro(biff::mulRk, contenido).celdas());
 
     contenido.back() = std::byte{1};
     EXPECT_TRUE(RegistroDanado(biff::mulRk, contenido, "una fila de números no es válida"));
@@ -139,30 +139,30 @@ TEST(HojaBiff, LeeUnaFilaDeNumerosCortos) {
 }
 
 TEST(HojaBiff, LosNumerosConFormatoDeFechaSonFechas) {
-    EXPECT_EQ("0,0=#43831.5", HojaAMano{}.Numero(0, 0, 43831.5, formatoFecha).Celdas());
-    EXPECT_EQ("0,0=#45293.5", HojaAMano{}.Numero(0, 0, 43831.5, formatoFecha).Celdas(true));
-    EXPECT_EQ("0,0=43831.5", HojaAMano{}.Numero(0, 0, 43831.5).Celdas());
+    EXPECT_EQ("0,0=#43831.5", HojaAMano{}.numero(0, 0, 43831.5, formatoFecha).celdas());
+    EXPECT_EQ("0,0=#45293.5", HojaAMano{}.numero(0, 0, 43831.5, formatoFecha).celdas(true));
+    EXPECT_EQ("0,0=43831.5", HojaAMano{}.numero(0, 0, 43831.5).celdas());
 }
 
 TEST(HojaBiff, UnFormatoQueNoEstaEnElLibroEsElGeneral) {
-    EXPECT_EQ("0,0=5", HojaAMano{}.Numero(0, 0, 5, 999).Celdas());
+    EXPECT_EQ("0,0=5", HojaAMano{}.numero(0, 0, 5, 999).celdas());
 }
 
 TEST(HojaBiff, LoQueNoEsUnNumeroFinitoEsNulo) {
     EXPECT_EQ("0,0=- 0,1=-", HojaAMano{}
-                                 .Numero(0, 0, std::numeric_limits<double>::infinity())
-                                 .Numero(0, 1, std::numeric_limits<double>::quiet_NaN())
-                                 .Celdas());
+                                 .numero(0, 0, std::numeric_limits<double>::infinity())
+                                 .numero(0, 1, std::numeric_limits<double>::quiet_NaN())
+                                 .celdas());
 }
 
 TEST(HojaBiff, LeeTextosPropiosYCompartidos) {
     auto compartido = Comienzo(0, 1);
     AnadirU32(compartido, 1);
     EXPECT_EQ("0,0='a' 0,1='dos' 0,2='b'", HojaAMano{}
-                                               .Registro(biff::label, Texto("a", Comienzo(0, 0)))
-                                               .Registro(biff::labelSst, compartido)
-                                               .Registro(biff::rString, Texto("b", Comienzo(0, 2)))
-                                               .Celdas());
+                                               .registro(biff::label, Texto("a", Comienzo(0, 0)))
+                                               .registro(biff::labelSst, compartido)
+                                               .registro(biff::rString, Texto("b", Comienzo(0, 2)))
+                                               .celdas());
     compartido[6] = std::byte{2};
     EXPECT_TRUE(RegistroDanado(biff::labelSst, compartido, "una celda pide un texto que no hay"));
 }
@@ -173,21 +173,21 @@ TEST(HojaBiff, LosErroresSonNulosYLasVerdadesVerdades) {
         auto contenido = Comienzo(0, columna);
         AnadirU8(contenido, valor);
         AnadirU8(contenido, esError);
-        hoja.Registro(biff::boolErr, contenido);
+        hoja.registro(biff::boolErr, contenido);
     }
-    EXPECT_EQ("0,0=V 0,1=F 0,2=- 0,3=-", hoja.Celdas());
+    EXPECT_EQ("0,0=V 0,1=F 0,2=- 0,3=-", hoja.celdas());
 }
 
 TEST(HojaBiff, LasFormulasDanSuResultadoGuardado) {
     EXPECT_EQ("0,0=2.5 0,1=V 0,2=F 0,3=- 0,4='' 0,5=#43831",
               HojaAMano{}
-                  .Registro(biff::formula, Formula(0, 0, std::bit_cast<std::uint64_t>(2.5)))
-                  .Registro(biff::formula, Formula(0, 1, 0xFFFF'0000'0001'0001))
-                  .Registro(biff::formula, Formula(0, 2, 0xFFFF'0000'0000'0001))
-                  .Registro(biff::formula, Formula(0, 3, 0xFFFF'0000'0007'0002))
-                  .Registro(biff::formula, Formula(0, 4, resultadoVacio))
-                  .Registro(biff::formula, Formula(0, 5, std::bit_cast<std::uint64_t>(43831.0), formatoFecha))
-                  .Celdas());
+                  .registro(biff::formula, Formula(0, 0, std::bit_cast<std::uint64_t>(2.5)))
+                  .registro(biff::formula, Formula(0, 1, 0xFFFF'0000'0001'0001))
+                  .registro(biff::formula, Formula(0, 2, 0xFFFF'0000'0000'0001))
+                  .registro(biff::formula, Formula(0, 3, 0xFFFF'0000'0007'0002))
+                  .registro(biff::formula, Formula(0, 4, resultadoVacio))
+                  .registro(biff::formula, Formula(0, 5, std::bit_cast<std::uint64_t>(43831.0), formatoFecha))
+                  .celdas());
     EXPECT_TRUE(RegistroDanado(biff::formula, Formula(0, 0, 0xFFFF'0000'0000'0004),
                                "el resultado de una fórmula no es válido"));
 }
@@ -195,71 +195,71 @@ TEST(HojaBiff, LasFormulasDanSuResultadoGuardado) {
 TEST(HojaBiff, ElTextoDeUnaFormulaVieneDetras) {
     for (const int enMedio : {biff::shrFmla, biff::array, biff::table}) {
         EXPECT_EQ("3,1='abc' 3,2=1", HojaAMano{}
-                                         .Registro(biff::formula, Formula(3, 1, resultadoTexto))
-                                         .Registro(enMedio, Comienzo(3, 1))
-                                         .Registro(biff::cadena, Texto("abc"))
-                                         .Numero(3, 2, 1)
-                                         .Celdas());
+                                         .registro(biff::formula, Formula(3, 1, resultadoTexto))
+                                         .registro(enMedio, Comienzo(3, 1))
+                                         .registro(biff::cadena, Texto("abc"))
+                                         .numero(3, 2, 1)
+                                         .celdas());
     }
     auto continua = Texto("abc");
     continua[0] = std::byte{5};
     EXPECT_EQ("3,1='abcde'", HojaAMano{}
-                                 .Registro(biff::formula, Formula(3, 1, resultadoTexto))
-                                 .Registro(biff::cadena, continua)
-                                 .Registro(biff::continuacion, {std::byte{0}, std::byte{'d'}, std::byte{'e'}})
-                                 .Celdas());
+                                 .registro(biff::formula, Formula(3, 1, resultadoTexto))
+                                 .registro(biff::cadena, continua)
+                                 .registro(biff::continuacion, {std::byte{0}, std::byte{'d'}, std::byte{'e'}})
+                                 .celdas());
 }
 
 TEST(HojaBiff, UnaFormulaSinSuTextoEstaDanada) {
     HojaAMano hoja;
-    hoja.Registro(biff::formula, Formula(3, 1, resultadoTexto));
+    hoja.registro(biff::formula, Formula(3, 1, resultadoTexto));
     const std::string falta = "falta el resultado de una fórmula";
-    EXPECT_TRUE(FallaCon(fallo::archivoDanado, falta, [&] { hoja.Celdas(); }));
-    hoja.Numero(3, 2, 1).Registro(biff::cadena, Texto("abc"));
-    EXPECT_TRUE(FallaCon(fallo::archivoDanado, falta, [&] { hoja.Celdas(); }));
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, falta, [&] { hoja.celdas(); }));
+    hoja.numero(3, 2, 1).registro(biff::cadena, Texto("abc"));
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, falta, [&] { hoja.celdas(); }));
 }
 
 TEST(HojaBiff, UnTextoDeFormulaSueltoNoCambiaNada) {
-    EXPECT_EQ("0,0=1", HojaAMano{}.Numero(0, 0, 1).Registro(biff::cadena, Texto("abc")).Celdas());
+    EXPECT_EQ("0,0=1", HojaAMano{}.numero(0, 0, 1).registro(biff::cadena, Texto("abc")).celdas());
 }
 
 TEST(HojaBiff, LasCeldasDeUnGraficoIncrustadoNoSonDeLaHoja) {
     EXPECT_EQ("0,0=1 0,1=3", HojaAMano{}
-                                 .Numero(0, 0, 1)
-                                 .AnadirBof(0x20)
-                                 .Numero(5, 5, 2)
-                                 .Registro(biff::eof)
-                                 .Numero(0, 1, 3)
-                                 .Celdas());
+                                 .numero(0, 0, 1)
+                                 .anadirBof(0x20)
+                                 .numero(5, 5, 2)
+                                 .registro(biff::eof)
+                                 .numero(0, 1, 3)
+                                 .celdas());
 }
 
 TEST(HojaBiff, LasCeldasSalenOrdenadasYLaUltimaDeUnSitioVaDetras) {
     EXPECT_EQ("0,1=3 2,0=2 2,3=1 2,3=4",
-              HojaAMano{}.Numero(2, 3, 1).Numero(2, 0, 2).Numero(0, 1, 3).Numero(2, 3, 4).Celdas());
+              HojaAMano{}.numero(2, 3, 1).numero(2, 0, 2).numero(0, 1, 3).numero(2, 3, 4).celdas());
 }
 
 TEST(HojaBiff, LaZonaUsadaRodeaLoQueTieneContenido) {
     const int blank = 0x0201;
     const int mulBlank = 0x00BE;
     const auto zona = HojaAMano{}
-                          .Registro(blank, Comienzo(90, 9))
-                          .Registro(mulBlank, Contenido(10))
-                          .Numero(3, 7, 1)
-                          .Numero(5, 2, 1)
-                          .Leer()
+                          .registro(blank, Comienzo(90, 9))
+                          .registro(mulBlank, Contenido(10))
+                          .numero(3, 7, 1)
+                          .numero(5, 2, 1)
+                          .leer()
                           .zonaUsada;
     ASSERT_TRUE(zona);
     EXPECT_EQ(3U, zona->primeraFila);
     EXPECT_EQ(5U, zona->ultimaFila);
     EXPECT_EQ(2U, zona->primeraColumna);
     EXPECT_EQ(7U, zona->ultimaColumna);
-    EXPECT_FALSE(HojaAMano{}.Registro(blank, Comienzo(90, 9)).Leer().zonaUsada);
+    EXPECT_FALSE(HojaAMano{}.registro(blank, Comienzo(90, 9)).leer().zonaUsada);
 }
 
 TEST(HojaBiff, UnaColumnaFueraDeLaHojaEstaDanada) {
-    EXPECT_EQ("65535,255=1", HojaAMano{}.Numero(65535, 255, 1).Celdas());
+    EXPECT_EQ("65535,255=1", HojaAMano{}.numero(65535, 255, 1).celdas());
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, "una celda está fuera de la hoja",
-                         [] { HojaAMano{}.Numero(0, 256, 1).Celdas(); }));
+                         [] { HojaAMano{}.numero(0, 256, 1).celdas(); }));
 }
 
 TEST(HojaBiff, UnRegistroCortoEstaDanado) {

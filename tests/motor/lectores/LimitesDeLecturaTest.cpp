@@ -16,24 +16,24 @@ constexpr const char* celdasDeMas = "sus tablas ocupan demasiado para su tamaño
 
 TEST(LimitesDeLectura, LasCeldasVanEnProporcionAlTamano) {
     LimitesDeLectura limites{1000};
-    limites.ContarCeldas(600'000);
-    limites.ContarCeldas(400'500);
-    EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.ContarCeldas(1); }));
+    limites.contarCeldas(600'000);
+    limites.contarCeldas(400'500);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarCeldas(1); }));
 }
 
 TEST(LimitesDeLectura, LosTextosVanEnProporcionAlTamano) {
     LimitesDeLectura limites{1000};
-    limites.ContarTexto(64'016'000);
+    limites.contarTexto(64'016'000);
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, "sus textos ocupan demasiado para su tamaño",
-                         [&] { limites.ContarTexto(1); }));
-    limites.ContarCeldas(1);
+                         [&] { limites.contarTexto(1); }));
+    limites.contarCeldas(1);
 }
 
 TEST(LimitesDeLectura, UnaCuentaInmensaNoDaLaVuelta) {
     LimitesDeLectura limites{1000};
-    limites.ContarCeldas(1);
+    limites.contarCeldas(1);
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas,
-                         [&] { limites.ContarCeldas(std::numeric_limits<std::size_t>::max()); }));
+                         [&] { limites.contarCeldas(std::numeric_limits<std::size_t>::max()); }));
 }
 
 } // namespace

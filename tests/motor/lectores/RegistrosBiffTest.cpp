@@ -21,7 +21,7 @@ std::vector<int> Tipos(const std::vector<int>& tipos) {
     }
     Subflujo registros{flujo, 0};
     std::vector<int> dados;
-    while (const auto registro = registros.Siguiente()) {
+    while (const auto registro = registros.siguiente()) {
         dados.push_back(registro->tipo);
     }
     return dados;
@@ -48,7 +48,7 @@ TEST(RegistrosBiff, UnRegistroMasLargoQueElFlujoEstaDanado) {
     prueba::AnadirRegistro(flujo, biff::numero, comienzo);
     flujo.pop_back();
     Subflujo registros{flujo, 0};
-    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "faltan bytes", [&] { registros.Siguiente(); }));
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "faltan bytes", [&] { registros.siguiente(); }));
 }
 
 TEST(RegistrosBiff, DiceSuVersionSuClaseYSuLongitud) {
@@ -58,7 +58,7 @@ TEST(RegistrosBiff, DiceSuVersionSuClaseYSuLongitud) {
     Subflujo registros{flujo, 3};
     EXPECT_EQ(biff::version8, registros.version());
     EXPECT_EQ(biff::hojaDeCalculo, registros.clase());
-    EXPECT_FALSE(registros.Siguiente());
+    EXPECT_FALSE(registros.siguiente());
     EXPECT_EQ(12U, registros.leidos());
 }
 
@@ -80,13 +80,13 @@ TEST(RegistrosBiff, JuntaUnRegistroConSusContinuaciones) {
     prueba::AnadirRegistro(flujo, biff::rk, {});
     prueba::AnadirRegistro(flujo, biff::eof, {});
     Subflujo registros{flujo, 0};
-    const auto sst = registros.Siguiente();
+    const auto sst = registros.siguiente();
     ASSERT_TRUE(sst);
-    const auto fragmentos = registros.ConContinuaciones(*sst);
+    const auto fragmentos = registros.conContinuaciones(*sst);
     ASSERT_EQ(3U, fragmentos.size());
     EXPECT_EQ(std::byte{2}, fragmentos[1][0]);
     EXPECT_EQ(2U, fragmentos[2].size());
-    EXPECT_EQ(biff::rk, registros.Siguiente()->tipo);
+    EXPECT_EQ(biff::rk, registros.siguiente()->tipo);
 }
 
 } // namespace
