@@ -1,7 +1,5 @@
 #include "lote/LineaDeOrdenes.h"
 
-#include "lote/Version.h"
-
 #include <CLI/CLI.hpp>
 
 #include <charconv>
@@ -126,7 +124,7 @@ Ordenes LeerOrdenes(const std::vector<std::string>& argumentos) {
     }
     if (escritas.ayuda || escritas.version) {
         Ordenes ordenes;
-        ordenes.texto = escritas.ayuda ? app.help() : std::string{"varo-lote "} + version + "\n";
+        ordenes.texto = escritas.ayuda ? app.help() : "varo-lote " VARO_VERSION "\n";
         return ordenes;
     }
     return Interpretar(escritas);

@@ -1,8 +1,11 @@
 #include "lote/LineaDeOrdenes.h"
 
-#include "lote/Version.h"
+#include "apoyo/Jornada.h"
+#include "apoyo/Lugares.h"
 
 #include <gtest/gtest.h>
+
+#include <regex>
 
 namespace varo::prueba {
 namespace {
@@ -74,8 +77,11 @@ TEST(LineaDeOrdenes, LaAyudaNombraTodasLasOpciones) {
     }
 }
 
-TEST(LineaDeOrdenes, LaVersionLaDiceElPrograma) {
-    EXPECT_EQ(LeerOrdenes({"--version"}).texto, std::string{"varo-lote "} + version + "\n");
+TEST(LineaDeOrdenes, LaVersionEsLaDelProyecto) {
+    const auto cmake = LeerArchivo(Proyecto() / "CMakeLists.txt");
+    std::smatch version;
+    ASSERT_TRUE(std::regex_search(cmake, version, std::regex{R"(project\(varo\s+VERSION ([0-9.]+))"}));
+    EXPECT_EQ(LeerOrdenes({"--version"}).texto, "varo-lote " + version.str(1) + "\n");
 }
 
 } // namespace
