@@ -1,60 +1,50 @@
 #include "basico/ErrorEjecucion.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace varo {
 
+namespace {
+
+struct Descrito {
+    int numero;
+    const char* descripcion;
+};
+
+constexpr std::array<Descrito, 23> descritos{{
+    {fallo::argumentoNoValido, "Argumento o llamada a procedimiento no válida"},
+    {fallo::desbordamiento, "Desbordamiento"},
+    {fallo::fueraDeIndice, "El subíndice está fuera del intervalo"},
+    {fallo::divisionPorCero, "División por cero"},
+    {fallo::tiposDistintos, "No coinciden los tipos"},
+    {fallo::nombreDeArchivo, "Nombre o número de archivo incorrecto"},
+    {fallo::archivoNoEncontrado, "No se encontró el archivo"},
+    {fallo::discoLleno, "Disco lleno"},
+    {fallo::permisoDenegado, "Permiso denegado"},
+    {fallo::accesoAlArchivo, "Error de acceso a la ruta o al archivo"},
+    {fallo::rutaNoEncontrada, "No se encontró la ruta de acceso"},
+    {fallo::objetoNoEstablecido, "Variable de objeto no establecida"},
+    {fallo::usoDeNulo, "Uso no válido de Null"},
+    {fallo::funcionDeHoja, "El argumento está fuera del dominio de la función de la hoja de cálculo"},
+    {fallo::sinRegistroActual, "No hay ningún registro activo"},
+    {fallo::formatoNoReconocido, "Formato de base de datos no reconocido"},
+    {fallo::archivoDanado, "No se puede abrir el archivo de datos: está dañado"},
+    {fallo::archivoCifrado, "No se puede abrir el archivo de datos: está cifrado o protegido con contraseña"},
+    {fallo::elementoNoEncontrado, "No se encontró el elemento en esta colección"},
+    {fallo::nombreDesconocido, "Nombre desconocido en la consulta"},
+    {fallo::tablaDesconocida, "No se encuentra la tabla de la consulta"},
+    {fallo::sintaxisDeConsulta, "Error de sintaxis en la consulta"},
+    {fallo::tiposDistintosEnConsulta, "No coinciden los tipos de datos en la consulta"},
+}};
+
+} // namespace
+
 std::string DescripcionError(int numero) {
-    switch (numero) {
-    case fallo::argumentoNoValido:
-        return "Argumento o llamada a procedimiento no válida";
-    case fallo::desbordamiento:
-        return "Desbordamiento";
-    case fallo::fueraDeIndice:
-        return "El subíndice está fuera del intervalo";
-    case fallo::divisionPorCero:
-        return "División por cero";
-    case fallo::tiposDistintos:
-        return "No coinciden los tipos";
-    case fallo::nombreDeArchivo:
-        return "Nombre o número de archivo incorrecto";
-    case fallo::archivoNoEncontrado:
-        return "No se encontró el archivo";
-    case fallo::discoLleno:
-        return "Disco lleno";
-    case fallo::permisoDenegado:
-        return "Permiso denegado";
-    case fallo::accesoAlArchivo:
-        return "Error de acceso a la ruta o al archivo";
-    case fallo::rutaNoEncontrada:
-        return "No se encontró la ruta de acceso";
-    case fallo::objetoNoEstablecido:
-        return "Variable de objeto no establecida";
-    case fallo::usoDeNulo:
-        return "Uso no válido de Null";
-    case fallo::funcionDeHoja:
-        return "El argumento está fuera del dominio de la función de la hoja de cálculo";
-    case fallo::sinRegistroActual:
-        return "No hay ningún registro activo";
-    case fallo::formatoNoReconocido:
-        return "Formato de base de datos no reconocido";
-    case fallo::archivoDanado:
-        return "No se puede abrir el archivo de datos: está dañado";
-    case fallo::archivoCifrado:
-        return "No se puede abrir el archivo de datos: está cifrado o protegido con contraseña";
-    case fallo::elementoNoEncontrado:
-        return "No se encontró el elemento en esta colección";
-    case fallo::nombreDesconocido:
-        return "Nombre desconocido en la consulta";
-    case fallo::tablaDesconocida:
-        return "No se encuentra la tabla de la consulta";
-    case fallo::sintaxisDeConsulta:
-        return "Error de sintaxis en la consulta";
-    case fallo::tiposDistintosEnConsulta:
-        return "No coinciden los tipos de datos en la consulta";
-    default:
-        return "Error definido por la aplicación o el objeto";
-    }
+    const auto* const descrito = std::ranges::find(descritos, numero, &Descrito::numero);
+    return descrito == descritos.end() ? "Error definido por la aplicación o el objeto"
+                                       : descrito->descripcion;
 }
 
 ErrorEjecucion::ErrorEjecucion(int numero) : ErrorEjecucion{numero, DescripcionError(numero)} {}

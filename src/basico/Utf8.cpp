@@ -1,6 +1,7 @@
 // Characters to UTF-8 and back.
 #include "basico/Texto.h"
 
+#include <cassert>
 #include <optional>
 
 namespace varo {
@@ -80,6 +81,7 @@ void AnadirUtf8(std::string& texto, char32_t caracter) {
 }
 
 char32_t SacarUtf8(std::string_view& texto) {
+    assert(!texto.empty());
     const auto cabecera = LeerCabecera(static_cast<unsigned char>(texto.front()));
     const auto caracter = cabecera ? Decodificar(texto, *cabecera) : std::nullopt;
     // A broken sequence costs one byte, so that the characters behind it are not lost with it.

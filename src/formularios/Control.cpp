@@ -38,14 +38,14 @@ void Control::SetFocus() {
 void CajaTexto::alCambiar(const void* propiedad) {
     avisar();
     if (propiedad == &Text) {
-        lanzar(Change);
+        Lanzar(Change);
     }
 }
 
 void Casilla::alCambiar(const void* propiedad) {
     avisar();
     if (propiedad == &Value) {
-        lanzar(Click);
+        Lanzar(Click);
     }
 }
 
@@ -67,7 +67,7 @@ void Opcion::alCambiar(const void* propiedad) {
     }
     avisar();
     if (encendida) {
-        lanzar(Click);
+        Lanzar(Click);
     }
 }
 
@@ -116,7 +116,7 @@ void Lista::Selected(int linea, bool seleccionada) {
 void Desplegable::alCambiar(const void* propiedad) {
     avisar();
     if (propiedad == &Text) {
-        lanzar(Change);
+        Lanzar(Change);
     }
 }
 

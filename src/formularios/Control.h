@@ -36,6 +36,13 @@ std::string_view NombreTipo(TipoControl tipo);
 
 using Suceso = std::function<void()>;
 
+/// Raises an event, if anybody waits for it.
+inline void Lanzar(const Suceso& suceso) {
+    if (suceso) {
+        suceso();
+    }
+}
+
 /// What a control is called: its name and, for a member of an array of controls, its index.
 struct Identidad {
     static constexpr int sinIndice = -1;
@@ -85,12 +92,8 @@ public:
     /// Gives the control the focus; the one that had it loses it.
     void SetFocus();
 
-protected:
-    static void lanzar(const Suceso& suceso) {
-        if (suceso) {
-            suceso();
-        }
-    }
+    /// Does what a person's click does.
+    virtual void pulsar() { Lanzar(Click); }
 
 private:
     Formulario& ventana_;
@@ -157,6 +160,8 @@ public:
 
     Propiedad<int> Value;
 
+    void pulsar() override { Value = Value() == 0 ? 1 : 0; }
+
 protected:
     void alCambiar(const void* propiedad) override;
 };
@@ -174,6 +179,7 @@ public:
 
     Propiedad<bool> Value;
 
+    void pulsar() override { Value = true; }
     [[nodiscard]] const GrupoOpciones& grupo() const { return grupo_; }
 
 protected:
@@ -193,7 +199,7 @@ public:
     void AddItem(std::string texto);
     void RemoveItem(int linea);
     void Clear();
-    /// These lines in place of all.
+    /// Puts these lines in place of all.
     void lineas(const std::vector<std::string>& textos);
 
 protected:
@@ -243,8 +249,8 @@ private:
     bool editable_;
 };
 
-/// A tabbed dialog: its captions, the tab on show and what lies on each. A person may show any tab, so a tab
-/// keeps nobody from a control.
+/// A tabbed dialog: its captions, the tab on show and what lies on each. A control on a hidden tab is within
+/// reach, since a person may show any tab.
 class Fichas : public Control {
 public:
     Fichas(Formulario& ventana, Identidad identidad, std::vector<std::string> leyendas, int ficha)

@@ -78,7 +78,7 @@ ListaUnidades::ListaUnidades(Formulario& ventana, Identidad identidad)
 void ListaUnidades::alCambiar(const void* propiedad) {
     avisar();
     if (propiedad == &Drive) {
-        lanzar(Change);
+        Lanzar(Change);
     }
 }
 
@@ -104,7 +104,7 @@ void ListaCarpetas::Path(const std::string& ruta) {
     const auto carpetas = Carpetas(ruta);
     ruta_ = ruta;
     lineas(carpetas);
-    lanzar(Change);
+    Lanzar(Change);
 }
 
 ListaArchivos::ListaArchivos(Formulario& ventana, Identidad identidad)

@@ -4,6 +4,7 @@
 #include "basico/Numeros.h"
 
 #include <algorithm>
+#include <cassert>
 #include <compare>
 #include <numeric>
 
@@ -118,6 +119,7 @@ void Rejilla::RemoveItem(int fila) {
 }
 
 void Rejilla::ordenarAscendente() {
+    assert(Rows() >= filasFijas && columna_ < Cols());
     std::vector<ClaveDeCelda> claves;
     claves.reserve(filas_.size());
     for (const auto& fila : filas_) {

@@ -65,7 +65,7 @@ public:
     virtual void fallo(const ErrorEjecucion& error) = 0;
     /// Lets a person choose a file: sets `FileName`, to the empty text when they cancel.
     virtual void elegirArchivo(DialogoAbrir& dialogo) = 0;
-    /// Nothing when the person cancels.
+    /// Nothing when the person cancels, for both.
     virtual std::optional<Fuente> elegirFuente(const Fuente& actual) = 0;
     virtual std::optional<Color> elegirColor(Color actual) = 0;
     /// Width of a text in twips, in the font of the windows.

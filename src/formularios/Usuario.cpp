@@ -40,9 +40,11 @@ void ExigirALaVista(const Formulario& ventana) {
     }
 }
 
-void ExigirLinea(const ConLineas& lista, int linea) {
-    if (linea < 0 || linea >= lista.ListCount()) {
-        throw ActoImposible{lista.nombreCompleto() + ": no tiene la línea " + std::to_string(linea)};
+/// `numero` counts from 0; `parte` says of what.
+void ExigirQueTenga(const Control& control, const char* parte, int numero, int cuantas) {
+    if (numero < 0 || numero >= cuantas) {
+        throw ActoImposible{control.nombreCompleto() + ": no tiene la " + parte + " " +
+                            std::to_string(numero)};
     }
 }
 
@@ -73,7 +75,7 @@ std::optional<Impedimento> Usuario::impedimento(const Control& control) {
 }
 
 void Usuario::llevarActivacion(Formulario& ventana) {
-    // The main window is active through its child: what a person does to it leaves the child active.
+    // The main window is active through its child; an act on the main window leaves the child active.
     const Formulario* const activa = ventanas_.activa();
     const bool activaPorSuHija =
         ventana.tipo() == TipoVentana::Marco && activa != nullptr && activa->tipo() == TipoVentana::Hija;
@@ -99,24 +101,11 @@ void Usuario::usar(Control& control, const std::function<void()>& acto) {
 }
 
 void Usuario::clic(Control& control) {
-    usar(control, [&] {
-        if (control.tipo() == TipoControl::Casilla) {
-            auto& casilla = static_cast<Casilla&>(control);
-            casilla.Value = casilla.Value() == 0 ? 1 : 0;
-        } else if (control.tipo() == TipoControl::Opcion) {
-            static_cast<Opcion&>(control).Value = true;
-        } else if (control.Click) {
-            control.Click();
-        }
-    });
+    usar(control, [&] { control.pulsar(); });
 }
 
 void Usuario::dobleClic(Control& control) {
-    usar(control, [&] {
-        if (control.DblClick) {
-            control.DblClick();
-        }
-    });
+    usar(control, [&] { Lanzar(control.DblClick); });
 }
 
 void Usuario::escribir(CajaTexto& caja, const std::string& texto) {
@@ -131,48 +120,35 @@ void Usuario::escribir(Desplegable& caja, const std::string& texto) {
 }
 
 void Usuario::desplegar(Desplegable& lista) {
-    usar(lista, [&] {
-        if (lista.DropDown) {
-            lista.DropDown();
-        }
-    });
+    usar(lista, [&] { Lanzar(lista.DropDown); });
 }
 
 void Usuario::elegir(Desplegable& lista, int linea) {
     usar(lista, [&] {
-        ExigirLinea(lista, linea);
+        ExigirQueTenga(lista, "línea", linea, lista.ListCount());
         lista.Text = lista.List(linea);
-        if (lista.Click) {
-            lista.Click();
-        }
+        Lanzar(lista.Click);
     });
 }
 
 void Usuario::elegir(Lista& lista, int linea, bool seleccionada) {
     usar(lista, [&] {
-        ExigirLinea(lista, linea);
+        ExigirQueTenga(lista, "línea", linea, lista.ListCount());
         lista.Selected(linea, seleccionada);
-        if (lista.Click) {
-            lista.Click();
-        }
+        Lanzar(lista.Click);
     });
 }
 
 void Usuario::seleccionarColumna(Rejilla& rejilla, int columna) {
     usar(rejilla, [&] {
-        if (columna < 0 || columna >= rejilla.Cols()) {
-            throw ActoImposible{rejilla.nombreCompleto() + ": no tiene la columna " +
-                                std::to_string(columna)};
-        }
+        ExigirQueTenga(rejilla, "columna", columna, rejilla.Cols());
         rejilla.ColSel = columna;
     });
 }
 
 void Usuario::mostrarFicha(Fichas& fichas, int ficha) {
     usar(fichas, [&] {
-        if (ficha < 0 || ficha >= fichas.Tabs()) {
-            throw ActoImposible{fichas.nombreCompleto() + ": no tiene la ficha " + std::to_string(ficha)};
-        }
+        ExigirQueTenga(fichas, "ficha", ficha, fichas.Tabs());
         fichas.Tab = ficha;
     });
 }

@@ -30,9 +30,9 @@ struct Impedimento {
 };
 
 /// Does what a person does with the mouse and the keyboard, and refuses with ActoImposible what a person
-/// could not do. Each act moves the activation and the focus first, as a real one would. It is refused too
-/// when that puts its control out of reach, and it comes to nothing when the field that was left takes the
-/// focus back.
+/// could not do. Each act first moves the activation and the focus, as a real one does. If that puts the
+/// control out of reach, the act is refused; if the field that was left takes the focus back, the act comes
+/// to nothing.
 class Usuario {
 public:
     explicit Usuario(Ventanas& ventanas) : ventanas_{ventanas} {}
@@ -40,11 +40,11 @@ public:
     /// What keeps a person from using the control at this moment; nothing when they can.
     [[nodiscard]] static std::optional<Impedimento> impedimento(const Control& control);
 
-    /// Clicks a button, a check, an option, a menu entry or any control with a click of its own.
+    /// Clicks a button, a check, an option, a menu entry or any other control that listens to clicks.
     void clic(Control& control);
     void dobleClic(Control& control);
 
-    /// Types a whole text in place of the one that is there.
+    /// Replaces the text by another one.
     void escribir(CajaTexto& caja, const std::string& texto);
     void escribir(Desplegable& caja, const std::string& texto);
 
@@ -61,7 +61,7 @@ public:
     /// Shows a tab of a tabbed dialog.
     void mostrarFicha(Fichas& fichas, int ficha);
 
-    /// Leaves the control that has the focus, as the tabulator key does.
+    /// Leaves the control that has the focus, as the Tab key does.
     void dejarFoco();
 
     /// Clicks on the window's title.

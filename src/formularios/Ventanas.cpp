@@ -3,8 +3,13 @@
 #include "basico/AlSalir.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace varo {
+
+Ventanas::~Ventanas() {
+    assert(!atendiendo() && "the windows outlive every act");
+}
 
 Formulario* Ventanas::buscar(std::type_index clase) const {
     const auto encontrada = std::find_if(cargadas_.begin(), cargadas_.end(),
@@ -13,12 +18,13 @@ Formulario* Ventanas::buscar(std::type_index clase) const {
 }
 
 Formulario& Ventanas::cargar(std::type_index clase, std::unique_ptr<Formulario> ventana) {
+    assert(buscar(clase) == nullptr && "a window is loaded once");
     Formulario& nueva = *ventana;
     cargadas_.push_back({clase, std::move(ventana)});
     try {
         nueva.Form_Load();
     } catch (...) {
-        quitar(nueva); // half loaded it serves nobody: the next touch starts afresh
+        quitar(nueva); // drop the half-loaded window; the next touch starts afresh
         throw;
     }
     if (alCargar) {
@@ -66,7 +72,7 @@ bool Ventanas::descargar(Formulario& ventana) {
 }
 
 bool Ventanas::descargarHijas() {
-    // One child's unloading may take others with it.
+    // Unloading one child may unload others.
     const auto ventanas = todas();
     return std::all_of(ventanas.begin(), ventanas.end(), [this](Formulario* ventana) {
         return !estaCargada(ventana) || ventana->tipo() != TipoVentana::Hija || descargar(*ventana);
@@ -79,6 +85,7 @@ void Ventanas::quitar(Formulario& ventana) {
     const auto lugar = std::find_if(cargadas_.begin(), cargadas_.end(), [&](const Cargada& cargada) {
         return cargada.ventana.get() == &ventana;
     });
+    assert(lugar != cargadas_.end() && "only a loaded window goes");
     retiradas_.push_back(std::move(lugar->ventana));
     cargadas_.erase(lugar);
     std::erase(recientes_, &ventana);
@@ -162,16 +169,14 @@ void Ventanas::quitarFoco(Control& control) {
         return;
     }
     foco_ = nullptr;
-    if (control.LostFocus) {
-        control.LostFocus();
-    }
+    Lanzar(control.LostFocus);
 }
 
 void Ventanas::soltarFoco(const Formulario& ventana) {
     if (foco_ != nullptr && &foco_->ventana() == &ventana) {
         quitarFoco(*foco_);
     }
-    olvidarFoco(ventana); // a control cannot take the focus back to a window that is left
+    olvidarFoco(ventana); // no control takes the focus back to a window that was left
 }
 
 void Ventanas::olvidarFoco(const Formulario& ventana) {
@@ -190,7 +195,7 @@ void Ventanas::atender(const std::function<void()>& acto) {
     }
 }
 
-/// Hands back what is no fault of the program: it belongs to who set the act off.
+/// Tells a run-time fault; hands back any other exception, for whoever set the act off.
 std::exception_ptr Ventanas::correr(const std::function<void()>& acto) {
     ++profundidad_;
     const AlSalir salir{[this] {

@@ -28,12 +28,12 @@ public:
     explicit Ventanas(Servicios& servicios) : servicios_{servicios} {}
     Ventanas(const Ventanas&) = delete;
     Ventanas& operator=(const Ventanas&) = delete;
-    virtual ~Ventanas() = default;
+    virtual ~Ventanas();
 
     [[nodiscard]] Servicios& servicios() const { return servicios_; }
 
-    /// The window F, made hidden in its design state by `F{contexto}`, and its Form_Load run, if it is not
-    /// there.
+    /// The window F. One that is not there is made hidden, in its design state, by `F{contexto}`, and runs
+    /// its Form_Load.
     template <class F, class Contexto>
     F& tocarEn(Contexto& contexto) {
         if (F* const ventana = cargada<F>()) {
@@ -62,35 +62,36 @@ public:
     /// Makes a loaded window visible and active; one that was unloaded meanwhile throws 364.
     void mostrar(Formulario& ventana);
     void ocultar(Formulario& ventana);
-    /// Makes a visible window the active one. The control with the focus in the old one loses it for good.
+    /// Makes a visible window the active one. The control with the focus in the old one loses it; going back
+    /// to that window does not bring it back.
     void activar(Formulario& ventana);
     [[nodiscard]] Formulario* activa() const { return activa_; }
     /// The loaded windows in the order of their loading.
     [[nodiscard]] std::vector<Formulario*> todas() const;
 
-    /// Moves the focus to a control of a visible window. LostFocus of the control that had it runs before
-    /// anything reaches the new one and may take the focus back, which then stays where it was.
+    /// Moves the focus to a control of a visible window. LostFocus of the control that had it runs first and
+    /// may take the focus back; then it stays there.
     void darFoco(Control& control);
     /// Takes the focus from the control, if it has it.
     void quitarFoco(Control& control);
     [[nodiscard]] Control* foco() const { return foco_; }
 
-    /// Runs what a person, or the platform, set off. A run-time fault ends it and is told; windows unloaded
-    /// on the way are destroyed when the outermost act is over.
+    /// Runs an act that a person, or the platform, set off. A run-time fault ends it and is told; windows
+    /// unloaded on the way are destroyed when the outermost act is over.
     void atender(const std::function<void()>& acto);
 
-    /// True while something that was set off is still going on.
+    /// True while an act is going on.
     [[nodiscard]] bool atendiendo() const { return profundidad_ > 0; }
 
     /// True once the main window was closed, or after a fatal fault.
     [[nodiscard]] bool terminado() const { return terminado_; }
 
-    /// Told of each window that is loaded and of each that is about to go.
+    /// Called for each window that is loaded, and for each that is about to go.
     std::function<void(Formulario&)> alCargar;
     std::function<void(Formulario&)> alDescargar;
-    /// Told when a window has become active, before the handlers run.
+    /// Called when a window has become active, before its handlers run.
     std::function<void(Formulario&)> alActivar;
-    /// Told when the outermost act is over.
+    /// Called when the outermost act is over.
     std::function<void()> alTerminarActo;
 
 private:

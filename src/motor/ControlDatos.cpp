@@ -1,5 +1,6 @@
 #include "motor/ControlDatos.h"
 
+#include <cassert>
 #include <utility>
 
 namespace varo {
@@ -36,6 +37,7 @@ varo::Recordset& ControlDatos::Recordset() {
     if (!filas_) {
         throw ErrorEjecucion{fallo::objetoNoEstablecido};
     }
+    assert(base_ && "rows come from an open base");
     return *filas_;
 }
 

@@ -1,10 +1,13 @@
 #include "motor/Recordset.h"
 
+#include <cassert>
 #include <utility>
 
 namespace varo {
 
-Recordset::Recordset(std::shared_ptr<const Tabla> filas) : filas_{std::move(filas)} {}
+Recordset::Recordset(std::shared_ptr<const Tabla> filas) : filas_{std::move(filas)} {
+    assert(filas_ != nullptr);
+}
 
 void Recordset::MoveFirst() {
     if (filas_->filas.empty()) {
@@ -38,6 +41,7 @@ Recordset::CampoActual Recordset::Fields(int posicion) const {
     if (Eof()) {
         throw ErrorMotor{fallo::sinRegistroActual};
     }
+    assert(filas_->filas[actual_].size() == static_cast<std::size_t>(filas_->Fields.Count()));
     return {campo.Name, filas_->filas[actual_][static_cast<std::size_t>(posicion)]};
 }
 

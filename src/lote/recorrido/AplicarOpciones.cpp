@@ -7,8 +7,10 @@
 #include "shell/VAROMAIN.h"
 
 #include <algorithm>
+#include <cassert>
 #include <charconv>
 #include <initializer_list>
+#include <optional>
 #include <tuple>
 
 namespace varo {
@@ -18,6 +20,19 @@ namespace {
 struct OpcionConControl {
     const OpcionPedida* pedida;
     Control* control;
+};
+
+/// The groups of options in the order in which a person needs them.
+enum class Turno {
+    DatosDeCopa,
+    Unidades,
+    FormaDeCopa,
+    Interruptores,
+    Casillas,
+    Opciones,
+    ClasesDeFuncion, ///< on show only once OptFunc is on
+    Campos,
+    Listas
 };
 
 /// "TxtBAF1(6)" is member 6 of TxtBAF1; a name that is not written so is a name alone.
@@ -36,6 +51,18 @@ Identidad IdentidadDe(const std::string& nombre) {
     return {nombre.substr(0, abre), miembro};
 }
 
+/// The state that a check is to take; nothing for a value that is no such state.
+std::optional<int> ValorDeCasilla(const ValorPedido& valor) {
+    if (const auto* const logico = std::get_if<bool>(&valor)) {
+        return *logico ? 1 : 0;
+    }
+    const auto* const entero = std::get_if<std::int64_t>(&valor);
+    if (entero == nullptr || *entero < 0 || *entero > 1) {
+        return std::nullopt;
+    }
+    return static_cast<int>(*entero);
+}
+
 bool EsUnoDe(const Control& control, std::initializer_list<const Control*> controles) {
     return std::find(controles.begin(), controles.end(), &control) != controles.end();
 }
@@ -46,6 +73,7 @@ public:
         : puesto_{puesto}, opciones_{puesto.programa.tocar<OpcionesPrograma>()} {}
 
     void aplicar() {
+        assert(opciones_.Visible());
         std::vector<OpcionConControl> pedidas;
         for (const auto& pedida : puesto_.trabajo.opciones) {
             pedidas.push_back({&pedida, &control(pedida)});
@@ -76,43 +104,44 @@ private:
         puesto_.rechazar(pedida.lugar(), "clave desconocida: no hay ningún control con ese nombre");
     }
 
-    /// The turn of a control: its group, and inside it the members of a sweep together, first, last, step.
-    [[nodiscard]] std::tuple<int, int, std::string> orden(const Control& control) const {
+    /// By group; inside it the fields of a sweep stand together, first, last, step.
+    [[nodiscard]] std::tuple<Turno, int, std::string> orden(const Control& control) const {
         return {turno(control), control.Index(), control.Name()};
     }
 
-    [[nodiscard]] int turno(const Control& control) const {
-        const auto& datos = opciones_;
-        if (EsUnoDe(control, {&datos.Opt4R, &datos.Opt2D, &datos.OptRM})) {
-            return 0;
+    [[nodiscard]] Turno turno(const Control& control) const {
+        const auto& o = opciones_;
+        if (EsUnoDe(control, {&o.Opt4R, &o.Opt2D, &o.OptRM})) {
+            return Turno::DatosDeCopa;
         }
-        if (EsUnoDe(control, {&datos.Optcirc, &datos.OptElipse})) {
-            return 2;
+        if (EsUnoDe(control, {&o.Optcirc, &o.OptElipse})) {
+            return Turno::FormaDeCopa;
         }
-        if (FichaDe(datos, control) == 0) {
-            return 1;
+        if (FichaDe(o, control) == 0) {
+            return Turno::Unidades;
         }
-        if (EsUnoDe(control, {&datos.ChSupCopa, &datos.ChAOIActivar, &datos.ChIDPActivar, &datos.ChDRActivar,
-                              &datos.ChAPA})) {
-            return 3;
+        if (EsUnoDe(control, {&o.ChSupCopa, &o.ChAOIActivar, &o.ChIDPActivar, &o.ChDRActivar, &o.ChAPA})) {
+            return Turno::Interruptores;
         }
         return turnoEnFamilia(control);
     }
 
-    static int turnoEnFamilia(const Control& control) {
+    static Turno turnoEnFamilia(const Control& control) {
         switch (control.tipo()) {
         case TipoControl::Casilla:
-            return 4;
-        case TipoControl::Opcion: // the class of a function shows only once OptFunc is on
-            return control.Name() == "OptRichard" || control.Name() == "OptHiper" ? 6 : 5;
+            return Turno::Casillas;
+        case TipoControl::Opcion:
+            return control.Name() == "OptRichard" || control.Name() == "OptHiper" ? Turno::ClasesDeFuncion
+                                                                                  : Turno::Opciones;
         case TipoControl::CajaTexto:
-            return 7;
+            return Turno::Campos;
         default:
-            return 8;
+            return Turno::Listas;
         }
     }
 
-    /// An option that is to be off needs no hand of its own: another one of its group turns it off.
+    /// An option that is to be off is not touched, so it may be disabled: another one of its group turns it
+    /// off.
     void exigirSinEstorbo(const OpcionPedida& pedida, const Control& control) const {
         const bool sinTocar = control.tipo() == TipoControl::Opcion && pedida.valor == ValorPedido{false};
         const Casilla* const interruptor = InterruptorDe(opciones_, control);
@@ -145,16 +174,11 @@ private:
     }
 
     void marcar(const OpcionPedida& pedida, Casilla& casilla) {
-        int valor = -1;
-        if (const auto* const logico = std::get_if<bool>(&pedida.valor)) {
-            valor = *logico ? 1 : 0;
-        } else if (const auto* const entero = std::get_if<std::int64_t>(&pedida.valor)) {
-            valor = *entero == 0 || *entero == 1 ? static_cast<int>(*entero) : -1;
-        }
-        if (valor < 0) {
+        const auto valor = ValorDeCasilla(pedida.valor);
+        if (!valor) {
             puesto_.rechazar(pedida.lugar(), "es una casilla: se espera 0, 1, false o true");
         }
-        if (casilla.Value() != valor) {
+        if (casilla.Value() != *valor) {
             puesto_.hacer(pedida.lugar(), [&] { puesto_.usuario.clic(casilla); });
         }
     }
@@ -184,7 +208,7 @@ private:
         }
     }
 
-    /// A field that takes the focus back, as after the message about its interval, lets a person go by way
+    /// Leaves a field. One that takes the focus back, as after the message about its interval, is left by way
     /// of another window.
     void dejar(const CajaTexto& caja) {
         puesto_.usuario.dejarFoco();

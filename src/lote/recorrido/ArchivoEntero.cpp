@@ -2,6 +2,7 @@
 
 #include "basico/ErrorEjecucion.h"
 
+#include <cassert>
 #include <random>
 #include <string>
 #include <system_error>
@@ -61,11 +62,13 @@ ArchivoEntero::~ArchivoEntero() {
 }
 
 void ArchivoEntero::publicar() {
+    assert(!publicado_);
     std::error_code error;
     fs::rename(provisional(), destino_, error);
     if (error) {
         NoSePuede("escribir en", destino_);
     }
+    publicado_ = true;
 }
 
 } // namespace varo

@@ -5,8 +5,8 @@
 
 namespace varo {
 
-/// The file is written in a folder of its own beside its target; `publicar` puts it in the target's place.
-/// Until then a target that exists stays as it is, and without it nothing is left behind.
+/// The file is written in a new folder beside its target; `publicar` puts it in the target's place. Until
+/// then an existing target stays as it is; without `publicar` nothing is left behind.
 class ArchivoEntero {
 public:
     /// Makes the target's folder when it is missing. A folder that cannot be made or written, and a target
@@ -16,17 +16,18 @@ public:
     ArchivoEntero& operator=(const ArchivoEntero&) = delete;
     ~ArchivoEntero();
 
-    /// The folder in which the file is written, and the name that it takes there: its own.
+    /// The new folder, and the name of the file in it: that of the target.
     [[nodiscard]] const std::filesystem::path& carpeta() const { return carpeta_; }
     [[nodiscard]] std::filesystem::path nombre() const { return destino_.filename(); }
     [[nodiscard]] std::filesystem::path provisional() const { return carpeta_ / nombre(); }
 
-    /// Throws ErrorEjecucion 75 when the target's place cannot be taken.
+    /// Call once, with the file written. Throws ErrorEjecucion 75 when the target's place cannot be taken.
     void publicar();
 
 private:
     std::filesystem::path destino_;
     std::filesystem::path carpeta_;
+    bool publicado_ = false;
 };
 
 } // namespace varo

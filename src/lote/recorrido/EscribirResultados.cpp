@@ -5,6 +5,7 @@
 #include "map/FrmMapa.h"
 
 #include <algorithm>
+#include <cassert>
 #include <fstream>
 #include <string>
 
@@ -40,9 +41,10 @@ void Guardar(PuestoDeTrabajo& puesto, const ArchivoEntero& archivo) {
 } // namespace
 
 int EscribirResultados(PuestoDeTrabajo& puesto, const SalidaPedida& salida) {
+    auto& mapa = puesto.programa.tocar<FrmMapa>();
+    assert(mapa.Visible());
     puesto.empezar("calculando los índices");
-    puesto.hacer({"cálculo de los índices"},
-                 [&] { puesto.usuario.clic(puesto.programa.tocar<FrmMapa>().mnuIndices); });
+    puesto.hacer({"cálculo de los índices"}, [&] { puesto.usuario.clic(mapa.mnuIndices); });
     puesto.empezar("escribiendo " + salida.ruta.string());
     int columnas = 0;
     puesto.hacer(

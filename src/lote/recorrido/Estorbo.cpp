@@ -4,33 +4,52 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace varo {
 
 namespace {
 
-/// The option of its selection of competitors that shows a control, or the empty text.
+/// An array of controls of which each competitor selection shows `porSeleccion` members, in order, while
+/// these options of the selection are on.
+struct Mostrado {
+    std::string_view control;
+    int porSeleccion;
+    std::string_view opcion;
+    std::string_view otra = {};
+};
+
+constexpr std::array<Mostrado, 5> mostrados{{
+    {"OptRichard", 1, "OptFunc"},
+    {"OptHiper", 1, "OptFunc"},
+    {"LstRich", 1, "OptFunc"},
+    {"TxtRich", 3, "OptFunc", "OptRichard"},
+    {"TxtHIP", 7, "OptFunc", "OptHiper"},
+}};
+
+std::string NombreDe(std::string_view opcion, int seleccion) {
+    return Identidad{std::string{opcion}, seleccion}.completa();
+}
+
+std::string OpcionQueMuestraIntervalo(int miembro, int seleccion) {
+    return EsDePies(miembro) ? NombreDe("OptNumFijo", seleccion)
+                             : NombreDe("OptBAF", seleccion) + " u " + NombreDe("OptRadioFijo", seleccion);
+}
+
+/// The options of its competitor selection that show a control, or the empty text.
 std::string OpcionQueMuestra(const Control& control) {
     const std::string& nombre = control.Name();
-    const auto con = [](const char* opcion, int seleccion) {
-        return Identidad{opcion, seleccion}.completa();
-    };
     const bool esIntervalo = nombre == "TxtBAF1" || nombre == "TxtBAF2" || nombre == "TxtBAF3";
     if (const auto seleccion = SeleccionDe(control.Index()); esIntervalo && seleccion) {
-        return EsDePies(control.Index())
-                   ? con("OptNumFijo", *seleccion)
-                   : con("OptBAF", *seleccion) + " u " + con("OptRadioFijo", *seleccion);
+        return OpcionQueMuestraIntervalo(control.Index(), *seleccion);
     }
-    if (nombre == "TxtRich") {
-        return con("OptFunc", control.Index() / 3) + " y " + con("OptRichard", control.Index() / 3);
+    const auto* const mostrado = std::ranges::find(mostrados, nombre, &Mostrado::control);
+    if (mostrado == mostrados.end()) {
+        return {};
     }
-    if (nombre == "TxtHIP") {
-        return con("OptFunc", control.Index() / 7) + " y " + con("OptHiper", control.Index() / 7);
-    }
-    if (nombre == "LstRich" || nombre == "OptRichard" || nombre == "OptHiper") {
-        return con("OptFunc", control.Index());
-    }
-    return {};
+    const int seleccion = control.Index() / mostrado->porSeleccion;
+    const std::string opcion = NombreDe(mostrado->opcion, seleccion);
+    return mostrado->otra.empty() ? opcion : opcion + " y " + NombreDe(mostrado->otra, seleccion);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "lote/trabajo/Trabajo.h"
 
-#include "basico/Numeros.h"
 #include "lote/trabajo/ClavesDePapeles.h"
 
 #include <toml++/toml.h>
@@ -40,6 +39,16 @@ std::string NombreDeTipo(const toml::node& nodo) {
     default:
         return "una fecha o una hora";
     }
+}
+
+/// The shortest digits of a number, as a person writes them: 0,00005.
+std::string SinExponente(double numero) {
+    std::array<char, 400> letras{};
+    const auto fin =
+        std::to_chars(letras.data(), letras.data() + letras.size(), numero, std::chars_format::fixed);
+    std::string texto{letras.data(), fin.ptr};
+    std::replace(texto.begin(), texto.end(), '.', ',');
+    return texto;
 }
 
 /// Walks the tree of a TOML text and takes from it what a job may hold.
@@ -258,20 +267,6 @@ Trabajo LeerTrabajo(const fs::path& ruta, const Cambios& cambios) {
     }
     return InterpretarTrabajo(texto, ruta, cambios);
 }
-
-namespace {
-
-/// The shortest digits of a number, as a person writes them: 0,00005.
-std::string SinExponente(double numero) {
-    std::array<char, 400> letras{};
-    const auto fin =
-        std::to_chars(letras.data(), letras.data() + letras.size(), numero, std::chars_format::fixed);
-    std::string texto{letras.data(), fin.ptr};
-    std::replace(texto.begin(), texto.end(), '.', ',');
-    return texto;
-}
-
-} // namespace
 
 std::optional<std::string> TextoTecleado(const ValorPedido& valor) {
     if (const auto* const texto = std::get_if<std::string>(&valor)) {

@@ -3,6 +3,7 @@
 
 #include "basico/Valor.h"
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -70,7 +71,10 @@ struct Consulta {
     std::optional<ExpresionPostfija> condicion;
     std::optional<Orden> orden; // never together with aggregates
 
-    [[nodiscard]] bool esResumen() const { return elementos.front().agregado.has_value(); }
+    [[nodiscard]] bool esResumen() const {
+        assert(!elementos.empty());
+        return elementos.front().agregado.has_value();
+    }
 };
 
 } // namespace varo::sql

@@ -4,6 +4,7 @@
 #include "basico/Texto.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace varo::sql {
 
@@ -64,6 +65,7 @@ Operando Evaluador::calculado(const std::vector<Valor>& fila) {
             pila_[altura - 1] = Calcular(paso.operacion, pila_[altura - 1], pila_[altura]);
         }
     }
+    assert(altura == 1 && "an expression leaves one value");
     return pila_.front();
 }
 

@@ -4,6 +4,8 @@
 #include "basico/ErrorEjecucion.h"
 #include "basico/Numeros.h"
 
+#include <cassert>
+
 namespace varo::sql {
 
 namespace {
@@ -107,6 +109,7 @@ std::optional<double> ComoNumero(const Operando& operando) {
 }
 
 double NumeroExigido(const Operando& operando) {
+    assert(!operando.esNulo());
     const auto numero = ComoNumero(operando);
     if (!numero) {
         ErrorMotor error{fallo::tiposDistintosEnConsulta, DescripcionError(fallo::tiposDistintosEnConsulta) +
@@ -150,6 +153,7 @@ Operando Calcular(Operacion operacion, const Operando& a, const Operando& b) {
 }
 
 std::partial_ordering Comparar(const Operando& a, const Operando& b) {
+    assert(!a.esNulo() && !b.esNulo());
     if (a.clase == Clase::Texto && b.clase == Clase::Texto) {
         return a.texto <=> b.texto; // bytes of UTF-8 stand in the order of the code points
     }
