@@ -18,8 +18,8 @@ public:
     [[nodiscard]] int numero() const noexcept { return numero_; }
     [[nodiscard]] const std::string& descripcion() const noexcept { return descripcion_; }
 
-    /// Adds where it happened. Each layer calls it on the way out, so the innermost place comes first;
-    /// `lugar()` tells them outermost first: "familia di/dmed, fila 12, celda «CAP»".
+    /// Adds where it happened. Each layer calls it on the way out, the innermost one first; `lugar()` tells
+    /// the outermost place first: "familia di/dmed, fila 12, celda «CAP»".
     ErrorEjecucion& en(const std::string& lugar);
     [[nodiscard]] const std::string& lugar() const noexcept { return lugar_; }
 
@@ -42,8 +42,8 @@ public:
     using ErrorEjecucion::ErrorEjecucion;
 };
 
+/// The fault numbers in use.
 namespace fallo {
-// The numbers the program uses, by name.
 inline constexpr int argumentoNoValido = 5;
 inline constexpr int desbordamiento = 6;
 inline constexpr int fueraDeIndice = 9;

@@ -70,7 +70,7 @@ void FormaDecimal::redondear(int cuantas) {
         QuitarCerosFinales(cifras);
         return;
     }
-    // The carry runs over the nines at the end; past the first digit it makes a new one.
+    // The carry turns the nines at the end into zeros, which go; past the first digit it adds a digit.
     cifras.erase(cifras.find_last_not_of('9') + 1);
     if (cifras.empty()) {
         cifras.push_back('1');

@@ -78,7 +78,7 @@ std::string Formatear(FormaDecimal forma, std::string_view formato) {
         return {};
     }
     forma.redondear(forma.punto + seccion.decimalesMaximos);
-    // A section of their own leaves the sign of the negatives to itself.
+    // A section for negatives writes their sign itself, or leaves it out.
     const bool conSigno = forma.negativo && elegida == 0;
     return (conSigno ? "-" : "") + Rellenar(forma, seccion);
 }

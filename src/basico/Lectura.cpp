@@ -71,7 +71,7 @@ private:
     std::string_view resto_;
 };
 
-/// The power of ten of the first digit that is no zero, plus one. Only a number that has one is asked.
+/// The power of ten of the first digit that is no zero, plus one. Not for zero.
 std::int64_t Orden(const NumeroEscrito& numero) {
     std::int32_t exponente = 0;
     const char* const fin = numero.exponente.data() + numero.exponente.size();

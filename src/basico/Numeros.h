@@ -9,7 +9,7 @@ namespace varo {
 /// Reads a whole text as a number: blanks trimmed, one leading sign, "." as group separator anywhere in the
 /// whole part, one decimal comma, an exponent. Anything else, the empty text too, throws 13.
 double ANumero(std::string_view texto);
-// Texts go here and not by way of a Valor, which takes them too.
+// A text converts to a Valor too: these two keep the call from being ambiguous.
 inline double ANumero(const std::string& texto) {
     return ANumero(std::string_view{texto});
 }

@@ -1,4 +1,4 @@
-// "Skip failing statements": runs one statement and swallows its run-time fault.
+// Runs one statement and hands back the run-time fault that it meets.
 #pragma once
 
 #include "basico/ErrorEjecucion.h"
@@ -8,8 +8,7 @@
 
 namespace varo {
 
-/// Runs one statement. A run-time fault abandons it and is handed back, so that the caller may look at it or
-/// keep a record; anything that is no run-time fault of the program goes on its way.
+/// Runs one statement. A run-time fault ends the statement and is handed back; other exceptions pass through.
 template <class Sentencia>
 std::optional<ErrorEjecucion> saltando(Sentencia&& sentencia) {
     try {

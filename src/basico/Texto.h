@@ -20,8 +20,7 @@ std::string Medio(std::string_view texto, std::size_t desde);
 std::string Medio(std::string_view texto, std::size_t desde, std::size_t cuantos);
 
 /// The position of the first `buscado` in `texto` from position `desde` on, 0 when it is not there. An empty
-/// `buscado` is found at `desde`, unless the text has no character there. Position 0
-/// throws 5.
+/// `buscado` is found at `desde`, unless the text has no character there. Position 0 throws 5.
 std::size_t Posicion(std::string_view texto, std::string_view buscado, std::size_t desde = 1);
 
 /// Without blanks (character 32) at both ends.
@@ -40,7 +39,7 @@ std::string DeWindows1252(std::string_view bytes);
 
 /// Appends one Unicode scalar value as UTF-8 (an invalid one as U+FFFD).
 void AnadirUtf8(std::string& texto, char32_t caracter);
-/// Takes the first character off a text that is not empty. A byte that is no UTF-8 goes as U+FFFD.
+/// Takes the first character off a text, which is not empty. A byte that is no UTF-8 counts as U+FFFD.
 char32_t SacarUtf8(std::string_view& texto);
 
 } // namespace varo

@@ -84,7 +84,7 @@ char32_t SacarUtf8(std::string_view& texto) {
     assert(!texto.empty());
     const auto cabecera = LeerCabecera(static_cast<unsigned char>(texto.front()));
     const auto caracter = cabecera ? Decodificar(texto, *cabecera) : std::nullopt;
-    // A broken sequence costs one byte, so that the characters behind it are not lost with it.
+    // A broken sequence takes one byte, so that the characters behind it survive.
     texto.remove_prefix(caracter ? cabecera->continuaciones + 1 : 1);
     return caracter.value_or(caracterNoValido);
 }

@@ -9,8 +9,8 @@ namespace varo {
 
 namespace {
 
-// Bytes 80 to 9F. The five bytes without a character of their own stand for the control character of the same
-// number; all other bytes are the character of their number.
+// Bytes 80 to 9F. Five of them have no character and stand for the control character of that number. All
+// other bytes are the character of their number.
 constexpr unsigned char primeroPropio = 0x80;
 // clang-format off
 constexpr std::array<char32_t, 32> propios = {

@@ -15,8 +15,8 @@ namespace varo {
 
 namespace {
 
-/// Removes the rows without data. The bound is taken once: after a removal the pass runs past the end of the
-/// grid, and that fault, like the one of removing the last row, ends it.
+/// Removes the rows without data. Meant: the bound is taken once, so after a removal the walk runs past the
+/// end of the grid; that fault, like the one of removing the last row, ends the walk.
 void QuitarFilasVacias(Rejilla& rejilla) {
     saltando([&] {
         const int ultima = rejilla.Rows() - 1;
@@ -121,7 +121,7 @@ void FrmSeleccion::escribirEncabezados(const std::string& hoja) {
         rejilla.ColWidth(columna, static_cast<int>(anchoConMargen(rejilla.Text())));
     }
     rejilla.TextMatrix(0, 0, "Nº de punto");
-    // The current cell is still the first field's header: column 0 is meant to take its width from that.
+    // Meant: column 0 takes its width from the current cell, which is still the first field's header.
     rejilla.ColWidth(0, static_cast<int>(anchoConMargen(rejilla.Text())));
 }
 
@@ -140,7 +140,7 @@ void FrmSeleccion::copiarFilas(const std::string& hoja) {
 
 void FrmSeleccion::copiarFila(const Recordset& filas, int campos, Entero16& contador) {
     auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
-    // The loop is meant to end one short: the last field of a table gets a header and no data.
+    // Meant: the loop ends one short, so the last field of a table gets a header and no data.
     for (int columna = 0; columna < campos; ++columna) {
         rejilla.Col(columna);
         if (columna == 0) {

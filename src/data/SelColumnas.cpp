@@ -73,10 +73,10 @@ void SelColumnas::anadirLinea(const std::string& prefijo, int columna) {
 void SelColumnas::comprobarRepeticion(Boton& boton, int columna) {
     const std::string buscada = "Columna: " + ATexto(columna + 1);
     const int lineas = List1.ListCount();
-    // The walk goes on after a hit: the last comparison is meant to decide the button.
+    // Meant: the walk goes on after a hit, so the last comparison decides the button.
     for (int i = 0; i <= lineas - 2; ++i) {
         const std::string& linea = List1.List(i);
-        // Only 11 characters are compared: a number of three digits counts with its first two.
+        // Meant: 11 characters are compared, so only the first two digits of a number count.
         const bool repetida = Recortar(Medio(linea, Posicion(linea, "Columna"), 11)) == buscada;
         if (repetida) {
             programa_.servicios().mensaje("Has introducido dos veces la misma columna", "Columna repetida",
@@ -103,7 +103,7 @@ void SelColumnas::Command1_Click(int Index) {
 
 void SelColumnas::CmdDAP_Click() {
     const int columna = programa_.tocar<Hojadedatos>().MSFlexGrid1.ColSel;
-    // The enabled state is meant, not the value: nothing ever disables OptCAP.
+    // Meant: the enabled state, not the value; nothing ever disables OptCAP.
     anadirLinea(programa_.tocar<OpcionesPrograma>().OptCAP.Enabled() ? "CAP: " : "DAP: ", columna);
     programa_.sesion.ColumnaDAP = columna;
     CmdDAP.Enabled = false;
@@ -111,7 +111,7 @@ void SelColumnas::CmdDAP_Click() {
 }
 
 void SelColumnas::habilitarSegunLinea(const std::string& linea) {
-    // The whole line is searched, the field name in the brackets too.
+    // Meant: the whole line is searched, the field name in the brackets too.
     int indice = 0;
     for (const auto& papel : papeles_.papeles) {
         if (Contiene(linea, papel.palabra)) {

@@ -171,7 +171,7 @@ class Opcion;
 /// Options of which at most one is on.
 using GrupoOpciones = std::vector<Opcion*>;
 
-/// An exclusive option. Value = true on one that was false clears its group and raises its Click.
+/// An exclusive option. Turning it on turns off the others of its group and raises its Click.
 class Opcion : public Control {
 public:
     Opcion(Formulario& ventana, Identidad identidad, std::string leyenda, GrupoOpciones& grupo,

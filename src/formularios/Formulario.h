@@ -16,8 +16,8 @@ enum class TipoVentana {
     Libre  ///< a free top-level window
 };
 
-/// The state of a window. It is made hidden, in its design state, on its first touch, and is gone when it is
-/// unloaded; Ventanas keeps its life cycle. Measures are in twips.
+/// The state of a window. Ventanas makes it on its first touch, hidden and in its design state, and destroys
+/// it when it is unloaded. Measures are in twips.
 class Formulario : public Observable {
 public:
     Formulario(Ventanas& ventanas, std::string nombre, TipoVentana tipo, std::string leyenda);
@@ -42,7 +42,7 @@ public:
     /// Makes it invisible; it stays loaded with its values.
     void Hide();
 
-    /// The controls in the order in which they were made.
+    /// The controls in the order of their making.
     [[nodiscard]] const std::vector<Control*>& controles() const { return controles_; }
     /// Null when there is no such control.
     [[nodiscard]] Control* buscarControl(const std::string& nombre, int indice = Identidad::sinIndice) const;
@@ -59,7 +59,7 @@ public:
     /// False refuses the unloading.
     virtual bool Form_QueryUnload() { return true; }
     virtual void Form_Unload() {}
-    /// What the window's own close box does: it unloads the window, unless the window says otherwise.
+    /// Does what the close box does: unloads the window, unless the window says otherwise.
     virtual void pulsarCierre();
 
 protected:

@@ -30,7 +30,7 @@ inline constexpr int respondeNo = 7;
 /// The settings of an open-file dialog.
 struct DialogoAbrir {
     std::string DialogTitle;
-    std::string FileName; ///< the path that was chosen; empty when the person cancelled
+    std::string FileName; ///< the chosen path; empty when the person cancels
     std::string DefaultExt;
     std::string Filter;
     int Flags = 0;
@@ -61,7 +61,7 @@ public:
 
     /// Shows a modal message box and hands back the answer.
     virtual int mensaje(const std::string& texto, const std::string& titulo, int opciones) = 0;
-    /// Tells a person of the run-time fault that ended what they had asked for.
+    /// Tells a person of the run-time fault that ended their act.
     virtual void fallo(const ErrorEjecucion& error) = 0;
     /// Lets a person choose a file: sets `FileName`, to the empty text when they cancel.
     virtual void elegirArchivo(DialogoAbrir& dialogo) = 0;

@@ -1,4 +1,4 @@
-// A platform without a screen: answers prepared beforehand and a log of what was asked.
+// A platform without a screen: prepared answers and a log of the questions.
 #pragma once
 
 #include "formularios/Servicios.h"
@@ -10,13 +10,13 @@
 
 namespace varo {
 
-/// Something was asked of the platform for which nobody had prepared an answer.
+/// A question to the platform that has no prepared answer.
 class SinRespuestaPreparada : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// A message box that nobody had prepared for.
+/// A message box without a prepared answer.
 class MensajeInesperado : public SinRespuestaPreparada {
 public:
     MensajeInesperado(const std::string& texto, const std::string& titulo)
@@ -27,7 +27,7 @@ private:
     std::string texto_;
 };
 
-/// A run-time fault that nobody had prepared for.
+/// A run-time fault that was not expected.
 class FalloInesperado : public SinRespuestaPreparada {
 public:
     explicit FalloInesperado(const ErrorEjecucion& error)
@@ -38,8 +38,8 @@ private:
     ErrorEjecucion error_;
 };
 
-/// Message boxes, faults, files, fonts and colours are answered from queues, in the order in which they were
-/// prepared; what was not prepared throws, so that it never passes in silence.
+/// Answers message boxes, faults, files, fonts and colours from queues, in the order of preparation. A
+/// question without an answer throws.
 class ServiciosPreparados : public Servicios {
 public:
     struct Mensaje {
@@ -58,7 +58,7 @@ public:
     void prepararArchivo(std::string ruta);
     void prepararFuente(std::optional<Fuente> fuente);
     void prepararColor(std::optional<Color> color);
-    /// True when everything that was prepared has been asked for.
+    /// True when no prepared answer is left.
     [[nodiscard]] bool todoPedido() const;
 
     [[nodiscard]] const std::vector<Mensaje>& mensajes() const { return mensajes_; }

@@ -92,9 +92,9 @@ void Usuario::usar(Control& control, const std::function<void()>& acto) {
         if (conFoco) {
             ventanas_.darFoco(control);
         }
-        ExigirUsable(control); // leaving the old window or field may have disabled or hidden this control
+        ExigirUsable(control); // leaving the old window or field may disable or hide this control
         if (conFoco && ventanas_.foco() != &control) {
-            return; // the field that was left took the focus back: the act does not reach the control
+            return; // the field that was left took the focus back
         }
         acto();
     });

@@ -1,4 +1,4 @@
-// A person's hands without a screen.
+// Acts of a person, without a screen.
 #pragma once
 
 #include "formularios/Control.h"
@@ -37,7 +37,7 @@ class Usuario {
 public:
     explicit Usuario(Ventanas& ventanas) : ventanas_{ventanas} {}
 
-    /// What keeps a person from using the control at this moment; nothing when they can.
+    /// What keeps a person from using the control now; nothing when they can.
     [[nodiscard]] static std::optional<Impedimento> impedimento(const Control& control);
 
     /// Clicks a button, a check, an option, a menu entry or any other control that listens to clicks.
@@ -66,7 +66,7 @@ public:
 
     /// Clicks on the window's title.
     void activar(Formulario& ventana);
-    /// Closes the window with its own close box.
+    /// Presses the close box of the window.
     void cerrar(Formulario& ventana);
 
 private:

@@ -114,7 +114,7 @@ void Ventanas::activar(Formulario& ventana) {
     if (activa_ != nullptr && activa_ != &ventana) {
         soltarFoco(*activa_);
     }
-    // What runs on losing the focus may have moved the activation already, or taken the window away.
+    // LostFocus may move the activation already, or take the window away.
     if (activa_ == &ventana || !ventana.Visible()) {
         return;
     }
@@ -158,7 +158,7 @@ void Ventanas::darFoco(Control& control) {
     if (foco_ != nullptr) {
         quitarFoco(*foco_);
     }
-    // The control that was left may have taken the focus back, or taken the window away.
+    // LostFocus may give the focus back to its control, or take the window away.
     if (foco_ == nullptr && control.ventana().Visible()) {
         foco_ = &control;
     }

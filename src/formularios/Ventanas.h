@@ -22,7 +22,7 @@ public:
 
 /// Keeps each window once. One visible window is active: showing another one, or a person's click, moves the
 /// activation and runs Deactivate of the old one, then Activate of the new one. Hiding or unloading the
-/// active one passes it to the visible window that was active last before it.
+/// active one passes it to the visible window that was last active.
 class Ventanas {
 public:
     explicit Ventanas(Servicios& servicios) : servicios_{servicios} {}
@@ -59,7 +59,7 @@ public:
     /// The main window takes its children with it and ends the program.
     bool descargar(Formulario& ventana);
 
-    /// Makes a loaded window visible and active; one that was unloaded meanwhile throws 364.
+    /// Makes a loaded window visible and active; an unloaded one throws 364.
     void mostrar(Formulario& ventana);
     void ocultar(Formulario& ventana);
     /// Makes a visible window the active one. The control with the focus in the old one loses it; going back
@@ -83,7 +83,7 @@ public:
     /// True while an act is going on.
     [[nodiscard]] bool atendiendo() const { return profundidad_ > 0; }
 
-    /// True once the main window was closed, or after a fatal fault.
+    /// True once the main window is closed, or after a fatal fault.
     [[nodiscard]] bool terminado() const { return terminado_; }
 
     /// Called for each window that is loaded, and for each that is about to go.

@@ -15,7 +15,7 @@ escriben. Para empezar uno:  varo-lote --plantilla parcela.xls > trabajo.toml
 Acaba con 0 si todo se ha hecho; 2 si un trabajo o una orden no es correcta; 3 si falla un cálculo; 4 si un
 archivo no se puede leer o escribir. Con varios trabajos cuenta el primero que falla.)";
 
-/// The options as they are written, before they mean anything.
+/// The options as they are written.
 struct Escritas {
     std::vector<std::string> trabajos;
     std::optional<std::string> archivo;
@@ -55,7 +55,7 @@ void Declarar(CLI::App& app, Escritas& escritas) {
     }
 }
 
-/// The library tells its errors in English; the kind of error and the option say it all.
+/// Tells in Spanish, by the kind of error and the option, what the library tells in English.
 [[noreturn]] void Rechazar(const CLI::App& app, const CLI::ParseError& error) {
     if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
         throw ErrorDeOrden{"no se conoce la opción " + app.remaining().front()};

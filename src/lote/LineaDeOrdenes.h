@@ -23,7 +23,7 @@ struct Ordenes {
     int aLaVez = 1; ///< jobs that run at once
     std::optional<std::filesystem::path> tablas;
     std::optional<std::filesystem::path> plantilla;
-    /// What --help or --version asks to print; nothing else is done then.
+    /// The answer to --help or --version; nothing else is done then.
     std::optional<std::string> texto;
 };
 

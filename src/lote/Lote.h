@@ -11,9 +11,9 @@ namespace varo {
 
 /// Where the command writes. Everything is UTF-8.
 struct Consola {
-    std::ostream& salida;   ///< what was asked for: a line for each job that is done
+    std::ostream& salida;   ///< the answer: a line for each job that is done
     std::ostream& errores;  ///< errors and warnings, one line each
-    bool conAvance = false; ///< tell on `errores` how far the jobs are
+    bool conAvance = false; ///< tells on `errores` how far the jobs are
 };
 
 /// Runs the command with these arguments, without the program's name.

@@ -83,7 +83,7 @@ void FrmFormato::ListaCodigos() {
     const int columna = sesion.Columnas(sesion.UltimaColumna.valor()).valor();
     sesion.NumCodigos = 0;
     sesion.Codigos.clear();
-    // The first data row is compared with the header: a code that is equal to it is not taken there.
+    // Meant: the first data row is compared with the header, so a code equal to it is not taken there.
     for (int fila = 0; fila + 1 < rejilla.Rows(); ++fila) {
         const std::string& siguiente = rejilla.TextMatrix(fila + 1, columna);
         if (siguiente != rejilla.TextMatrix(fila, columna) && !siguiente.empty()) {
@@ -151,7 +151,7 @@ void FrmFormato::limpiarRejilla() {
     const auto& sesion = programa_.sesion;
     auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
     const int ultima = rejilla.Rows() - 1;
-    // The bound is taken once: after a removal the walk runs past the end, and that fault ends it.
+    // Meant: the bound is taken once, so after a removal the walk runs past the end; that fault ends it.
     saltando([&] {
         for (int fila = 1; fila <= ultima; ++fila) {
             if (rejilla.TextMatrix(fila, sesion.Columnas(papelX).valor()).empty() &&

@@ -16,7 +16,7 @@ namespace varo {
 
 namespace {
 
-/// A surface takes the measures of the main window.
+/// Gives a surface the size of the main window.
 void TomarMedidasDelMarco(Formulario& superficie, Programa& programa) {
     const auto& marco = programa.tocar<VAROMAIN>();
     superficie.Height = marco.Height();

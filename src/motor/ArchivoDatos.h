@@ -8,9 +8,9 @@
 
 namespace varo {
 
-/// The tables of the file, in the order that its reader gives. A file that is not there (53), that is no file
-/// (75), that may not be read (70) or only in part (75), and a content that no reader knows (3343) throw
-/// ErrorMotor with its name; so do the readers.
+/// The tables of the file, in the order that its reader gives. Throws ErrorMotor with its name: 53 when it is
+/// not there, 75 when it is no file or cannot be read whole, 70 when it may not be read, 3343 when no reader
+/// knows its content, and what the readers throw.
 std::vector<Tabla> LeerArchivoDatos(const std::filesystem::path& archivo);
 
 } // namespace varo

@@ -20,8 +20,8 @@ public:
     /// detaches at once.
     void DatabaseName(std::string archivo);
 
-    /// Opens the connection when a file was named since the last time; otherwise the rows of RecordSource.
-    /// Throws ErrorMotor, and what was open stays open; 91 when there is nothing to take the rows from.
+    /// Opens the connection when a file waits to be opened; otherwise the rows of RecordSource. A fault
+    /// (ErrorMotor, or 91 when no connection is open) leaves open what is open.
     void Refresh();
 
     /// 91 while nothing is open.

@@ -9,7 +9,7 @@
 
 namespace varo {
 
-/// Rows that no longer change. It opens on its first row, or at the end when there is none.
+/// Rows that do not change. It opens on its first row, or at the end when there is none.
 class Recordset {
 public:
     /// A field of the current row.

@@ -80,7 +80,7 @@ void OpcionesPrograma::CmdAñadirDist_Click() {
     } else {
         avisar({"El denominador es nulo", "Valor no admitido"});
     }
-    anotar(LstDist, linea); // the blank line of a null denominator is meant
+    anotar(LstDist, linea); // Meant: a null denominator adds a blank line.
 }
 
 void OpcionesPrograma::CmdAñadirRich_Click(int i) {

@@ -37,7 +37,7 @@ void OpcionesPrograma::CmdAceptar_Click() {
 }
 
 void OpcionesPrograma::CmdCancelar_Click() {
-    // It undoes nothing: what was changed stands.
+    // Meant: it undoes nothing.
     cerrar();
 }
 
@@ -63,11 +63,11 @@ void OpcionesPrograma::OptRM_Click() {
 }
 
 void OpcionesPrograma::Opt2D_Click() {
-    OptElipse.Enabled = true; // Optcirc is meant to stay as it stands
+    OptElipse.Enabled = true; // Meant: Optcirc stays as it is.
 }
 
 void OpcionesPrograma::Opt4R_Click() {
-    OptElipse.Enabled = true; // Optcirc is meant to stay as it stands
+    OptElipse.Enabled = true; // Meant: Optcirc stays as it is.
 }
 
 void OpcionesPrograma::Form_Activate() {

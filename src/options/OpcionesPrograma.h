@@ -1,5 +1,5 @@
 // The options of the program. The window is the options record: each option is the control of that name, and
-// every reader asks the control at the moment it needs it. What a person changes holds at once.
+// every reader asks the control at the moment of need. What a person changes holds at once.
 #pragma once
 
 #include "formularios/Control.h"
@@ -216,8 +216,7 @@ public:
     void Opt2D_Click();
     void Opt4R_Click();
 
-    // The numeric fields. A text that is refused stays, a message tells why, and its field gets the focus
-    // back.
+    // The numeric fields. A refused text stays, a message tells why, and its field takes the focus back.
     void TxtEXP_Change(int i);
     void TxtEXP_LostFocus(int i);
     void TxtHIP_Change(int i);

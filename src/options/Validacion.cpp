@@ -62,7 +62,7 @@ void OpcionesPrograma::conectarCampos() {
         for (const auto& [indice, campo] : campos.miembros()) {
             campo->Change = [this, cambio, i = indice] { (this->*cambio)(i); };
             campo->LostFocus = [this, salida, i = indice] {
-                // A field that loses the focus to the box about itself has not been left.
+                // Losing the focus to the box about its own text is not leaving the field.
                 if (!avisoAbierto_) {
                     (this->*salida)(i);
                 }

@@ -16,14 +16,14 @@ namespace varo {
 struct Sesion {
     // The column choice: for each role the grid column. Entries outlive their removal from the list.
     MatrizDinamica<Entero16> Columnas;
-    Entero16 UltimaColumna; ///< highest index of Columnas; 0 until a column dialog was first activated
+    Entero16 UltimaColumna; ///< highest index of Columnas; 0 before a column dialog is first activated
     Entero16 ColumnaDAP;    ///< column of the stem size; 0 when never chosen
 
     // Tree codes and the life of the format window.
     std::vector<std::string> Codigos;
     Entero16 NumCodigos;
     Entero16 CambiosCodigo;  ///< clicks on ChCodigo since the last "Dibujar"; its parity counts
-    Entero16 VecesFormato;   ///< 0 until the format window was shown for the open file
+    Entero16 VecesFormato;   ///< 0 until the format window shows for the open file
     Entero16 CierresConMapa; ///< closings in a row of files that reached the format window
     Entero16 AltoFormato;    ///< design height of the format window, in twips
     std::string NombreArchivoDatos;
@@ -40,7 +40,7 @@ struct Sesion {
     double AbHaActual = 0;   ///< basal area, m2/ha
     double PiesHaActual = 0; ///< stems/ha
 
-    /// What the closing of a file resets. The column choice, the boundary and the results keep their values.
+    /// Resets what belongs to the open file. The column choice, the boundary and the results stay.
     void reiniciarAlCerrar() {
         if (VecesFormato == 0) {
             CierresConMapa = 0;

@@ -28,7 +28,7 @@ SelColumnas* DialogoDeColumnas(Programa& programa) {
     return nullptr;
 }
 
-/// The first visible column dialog is hidden; the others are not looked at.
+/// Hides the first visible column dialog and does not look at the others.
 void OcultarDialogoDeColumnas(Programa& programa) {
     const std::initializer_list<SelColumnas*> dialogos{
         programa.cargada<SelCol4R>(), programa.cargada<SelCol2D>(), programa.cargada<SelColRM>()};
@@ -64,7 +64,7 @@ void VAROMAIN::mnuAbrir_Click() {
     programa_.tocar<Hojadedatos>().Hide();
     programa_.servicios().elegirArchivo(DlogoAbrir);
     if (DlogoAbrir.FileName.empty()) {
-        return; // the hourglass is meant to stay until a later opening succeeds
+        return; // Meant: the hourglass stays until a later opening succeeds.
     }
     AbrirArchivoDeDatos(DlogoAbrir.FileName);
     programa_.tocar<FrmSeleccion>().Show();
@@ -75,8 +75,7 @@ void VAROMAIN::AbrirArchivoDeDatos(const std::string& ruta) {
     auto& datos = programa_.tocar<Hojadedatos>().Data1;
     auto& lista = programa_.tocar<FrmSeleccion>().CboHoja;
     try {
-        // Every file is connected as a spreadsheet, whatever its name: the engine recognises it by its
-        // content.
+        // Whatever the name says: the engine recognises the file by its content.
         datos.Connect = "Excel 8.0";
         datos.DatabaseName(ruta);
         datos.Refresh();

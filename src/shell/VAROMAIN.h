@@ -1,4 +1,4 @@
-// The main window: the menu, the opening of a plot file and the way out of the program.
+// The main window: the menu, the opening of a plot file and the end of the program.
 #pragma once
 
 #include "formularios/Control.h"

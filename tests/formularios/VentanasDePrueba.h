@@ -24,7 +24,7 @@ struct ProgramaDePrueba : Ventanas {
     }
 
     void anotar(std::string linea) { diario.push_back(std::move(linea)); }
-    /// What was logged since the last look.
+    /// What is new in the log since the last look.
     Diario visto() { return std::exchange(diario, {}); }
 
     Diario diario;

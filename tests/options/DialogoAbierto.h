@@ -49,7 +49,7 @@ protected:
     }
     void teclear(CajaTexto& campo, const std::string& texto) { usuario.escribir(campo, texto); }
     void dejar() { usuario.dejarFoco(); }
-    /// Leaves a field that keeps the focus, by way of another window.
+    /// Leaves a field that keeps the focus, through another window.
     void salirPorOtraVentana() {
         usuario.activar(principal);
         usuario.activar(opciones);

@@ -290,7 +290,7 @@ TEST_F(OpcionesALaVista, ElDialogoAntiguoSeRecreaConSuBotonDeCodigoHabilitado) {
     usuario.clic(opciones.ChCodigo);
     usuario.clic(opciones.OptRM);
     usuario.clic(opciones.CmdAceptar);
-    // The buttons were disabled before the window of the four radii was unloaded.
+    // The buttons are disabled before the window of the four radii is unloaded.
     EXPECT_TRUE(programa.tocar<SelCol4R>().Command1(7).Enabled());
     EXPECT_FALSE(programa.tocar<SelCol2D>().Command1(5).Enabled());
     EXPECT_FALSE(programa.tocar<SelColRM>().Command1(4).Enabled());

@@ -228,7 +228,7 @@ TEST(VAROMAIN, CerrarLaHojaConSuBotonHaceLoMismoQueElMenu) {
     const auto conElBoton =
         trasCerrar([](Jornada& jornada) { jornada.usuario.cerrar(jornada.programa.tocar<Hojadedatos>()); });
     EXPECT_EQ(conElBoton, conElMenu);
-    // The options were never left, so nothing has touched the two other column dialogs.
+    // Nobody leaves the options here, so nothing touches the two other column dialogs.
     const std::vector<std::string> quedan{"VAROMAIN", "SelCol4R (oculta)", "FrmMapa2 (oculta)"};
     auto ventanas = std::get<0>(conElMenu);
     EXPECT_TRUE(std::is_permutation(ventanas.begin(), ventanas.end(), quedan.begin(), quedan.end()))

@@ -6,8 +6,8 @@
 
 namespace varo {
 
-/// The text of a job in TOML. The roles are proposed by the headers that are usual for them; those without a
-/// proposal stand as comments. A file that cannot be read throws ErrorMotor.
+/// The text of a job in TOML. Usual headers propose the roles; a role without a proposal stands as a comment.
+/// A file that cannot be read throws ErrorMotor.
 std::string PlantillaDeTrabajo(const std::filesystem::path& archivo);
 
 } // namespace varo

@@ -140,8 +140,7 @@ private:
         }
     }
 
-    /// An option that is to be off is not touched, so it may be disabled: another one of its group turns it
-    /// off.
+    /// An option that is to be off may be disabled: another one of its group turns it off.
     void exigirSinEstorbo(const OpcionPedida& pedida, const Control& control) const {
         const bool sinTocar = control.tipo() == TipoControl::Opcion && pedida.valor == ValorPedido{false};
         const Casilla* const interruptor = InterruptorDe(opciones_, control);

@@ -21,7 +21,7 @@ fs::path CarpetaDe(const fs::path& archivo) {
     return archivo.has_parent_path() ? archivo.parent_path() : fs::path{"."};
 }
 
-/// A new folder with a name that nobody else uses.
+/// Makes a folder with a new name.
 fs::path CarpetaNueva(const fs::path& donde) {
     std::random_device azar;
     std::error_code error;

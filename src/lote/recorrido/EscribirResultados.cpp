@@ -20,7 +20,8 @@ int ColumnasDe(const std::filesystem::path& resultados) {
     return static_cast<int>(std::count(cabecera.begin(), cabecera.end(), '\t')) + 1;
 }
 
-/// Names the file in the dialog and accepts it. The writing passes over what fails: its record tells.
+/// Names the file in the dialog and accepts it. The writing passes over its faults but records them; the
+/// first one is thrown here.
 void Guardar(PuestoDeTrabajo& puesto, const ArchivoEntero& archivo) {
     auto& dialogo = puesto.programa.tocar<FrmCrearArchivo>();
     dialogo.DirLista.Path(archivo.carpeta().string());

@@ -1,4 +1,4 @@
-// Where a job is done: the program, a person's hands and the job that they follow.
+// Where a job is done: the job, the program and the acts of a person.
 #pragma once
 
 #include "formularios/Usuario.h"
@@ -12,8 +12,7 @@
 
 namespace varo {
 
-/// Whom a running job tells how far it is and what a person should look at. Both are one line without its
-/// end.
+/// Hears how far a running job is, and its warnings. Both are one line without its end.
 struct Seguimiento {
     std::function<void(const std::string&)> etapa = [](const std::string&) {};
     std::function<void(const std::string&)> aviso = [](const std::string&) {};
@@ -29,7 +28,7 @@ public:
     Programa programa{servicios};
     Usuario usuario{programa};
 
-    /// Does a piece of the job. What a person could not do, a message box that nobody prepared for and a
+    /// Does a piece of the job. An act that is refused, a message box without a prepared answer and a
     /// run-time fault end the job with an ErrorTrabajo that names `lugar`; a fault ends it with `siFalla`.
     void hacer(const Lugar& lugar, const std::function<void()>& acto,
                Estado siFalla = Estado::FalloDeCalculo);

@@ -8,17 +8,17 @@
 
 namespace varo {
 
-/// What a person wants to know of a job that is done.
+/// What a person wants to know of a finished job.
 struct Informe {
     int arboles = 0;
     double superficie = 0; ///< area of the plot, m2 when the coordinates are in m
-    int columnas = 0;      ///< of the results file; 0 when none was asked for
+    int columnas = 0;      ///< of the results file; 0 without one
 
     /// "60 árboles, superficie de la parcela: 1103,0 m2, 17 columnas -> indices.txt"
     [[nodiscard]] std::string texto(const Trabajo& trabajo) const;
 };
 
-/// Does a job as a person would, by the same windows. What ends it before its time is an ErrorTrabajo.
+/// Does a job as a person would, through the same windows. What ends it early is an ErrorTrabajo.
 Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento = {});
 
 } // namespace varo

@@ -8,8 +8,8 @@
 
 namespace varo {
 
-/// A message about an interval that is no whole number of steps is kept as a warning: the desktop too keeps
-/// what was typed, and a sweep from 0,1 to 0,3 by 0,1 meets it through binary rounding.
+/// Keeps the message about an interval that is no whole number of steps as a warning: the desktop too keeps
+/// such an interval, and binary rounding brings the message to a sweep from 0,1 to 0,3 by 0,1.
 class ServiciosDeTrabajo : public ServiciosPreparados {
 public:
     int mensaje(const std::string& texto, const std::string& titulo, int opciones) override;

@@ -1,4 +1,4 @@
-// How a job ends, and the error that ends it before its time.
+// How a job ends, and the error that ends it early.
 #pragma once
 
 #include <filesystem>
@@ -18,8 +18,8 @@ enum class Estado {
     ErrorDeArchivo = 4 ///< a file cannot be read or written
 };
 
-/// Where in a job something stands: its key ("opciones.ChN"), its line in the job file, 0 when it has none,
-/// and the value that is being typed, where there is one.
+/// A place in a job: its key ("opciones.ChN"), its line in the job file, 0 when it has none, and the value
+/// that is being typed, if any.
 struct Lugar {
     std::string clave;
     int linea = 0;

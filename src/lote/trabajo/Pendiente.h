@@ -5,7 +5,7 @@
 
 namespace varo {
 
-/// Refuses with ErrorTrabajo what is still to come: it is never passed over.
+/// Refuses with ErrorTrabajo what is still to come.
 void RechazarLoPendiente(const Trabajo& trabajo);
 
 } // namespace varo

@@ -1,4 +1,4 @@
-// The outputs of jobs: that none of them destroys another file of the jobs.
+// Guards the files of the jobs from their outputs.
 #pragma once
 
 #include "lote/trabajo/Trabajo.h"

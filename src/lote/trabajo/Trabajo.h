@@ -1,5 +1,4 @@
-// A job: one plot, the roles of its columns, the options and the files that are wanted, as plain data read
-// from a TOML file.
+// A job: one plot, the roles of its columns, the options and the wanted files, read from a TOML file.
 #pragma once
 
 #include "lote/trabajo/ErrorTrabajo.h"
@@ -55,7 +54,7 @@ struct Trabajo {
     [[nodiscard]] const ColumnaPedida* columna(std::string_view papel) const;
 };
 
-/// What the command line puts in place of the jobs' own words.
+/// What the command line puts in place of what the jobs say.
 struct Cambios {
     std::optional<std::filesystem::path> archivo;
     std::optional<std::string> hoja;
@@ -71,8 +70,7 @@ Trabajo InterpretarTrabajo(std::string_view texto, const std::filesystem::path& 
 /// Reads the job file. One that cannot be read throws ErrorTrabajo with Estado::ErrorDeArchivo.
 Trabajo LeerTrabajo(const std::filesystem::path& ruta, const Cambios& cambios = {});
 
-/// A number as a person types it into a text field; a text stands as it is. Other values are no text:
-/// nothing.
+/// A number as a person types it into a text field, a text as it is; nothing for other values.
 std::optional<std::string> TextoTecleado(const ValorPedido& valor);
 
 } // namespace varo

@@ -118,8 +118,8 @@ ArchivoCompuesto::ArchivoCompuesto(Bytes archivo) : archivo_{archivo} {
     directorio_ = sectores_.leerEntera(LeerU32(archivo, lugarDirectorio));
 }
 
-/// The sectors that hold the table of links: the first ones are named in the header, the others in a chain of
-/// sectors of their own, each one ended by the number of the next.
+/// The sectors that hold the table of links. The header names the first ones, a chain of extra sectors the
+/// others; each of these ends with the number of the next.
 std::vector<std::uint32_t> ArchivoCompuesto::sectoresDeLaFat() const {
     std::vector<std::uint32_t> difat;
     AnadirEnlaces(difat, Trozo(archivo_, lugarEnlacesDifat, 4 * enlacesEnCabecera));
@@ -156,7 +156,7 @@ ArchivoCompuesto::EntradaDeFlujo ArchivoCompuesto::leerEntrada(std::size_t numer
     entrada.derecha = LeerU32(bytes, 72);
     entrada.hijo = LeerU32(bytes, 76);
     entrada.primerSector = LeerU32(bytes, 116);
-    // With sectors of 512 bytes the size has 32 bits, and what stands above them is of no account.
+    // With sectors of 512 bytes the size has 32 bits; the upper ones are undefined.
     entrada.tamano = sectores_.tamanoSector == 512 ? LeerU32(bytes, 120) : LeerU64(bytes, 120);
     return entrada;
 }

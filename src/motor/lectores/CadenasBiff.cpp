@@ -111,7 +111,7 @@ std::string CadenasBiff::leer(LectorContinuo& lector, std::size_t longitud) cons
         return {};
     }
     const int banderas = lector.u8();
-    // Runs of character formats and phonetic data: told in front of the characters, kept behind them.
+    // Character formats and phonetic data: their sizes stand before the characters, they themselves behind.
     const std::size_t formatos = (banderas & banderaFormato) != 0 ? lector.u16() : 0;
     const std::size_t extension = (banderas & banderaExtension) != 0 ? lector.u32() : 0;
     const auto unidades = LeerUnidades(lector, longitud, (banderas & banderaAncho) != 0);

@@ -21,9 +21,9 @@ public:
     void saltar(std::size_t cuantos);
 
     [[nodiscard]] bool acabado() const;
-    /// Bytes left in the piece at hand.
+    /// Bytes left in the current piece.
     [[nodiscard]] std::size_t restoDelFragmento() const;
-    /// Takes bytes of the piece at hand, no more than are left in it.
+    /// Takes bytes of the current piece, no more than are left in it.
     Bytes tomar(std::size_t cuantos);
 
 private:
@@ -39,7 +39,7 @@ public:
 
     void ponerPagina(int paginaDeCodigos) { pagina_ = paginaDeCodigos; }
 
-    /// A text whose length, in characters, has been read already.
+    /// A text of this length, in characters.
     std::string leer(LectorContinuo& lector, std::size_t longitud) const;
     /// A text behind its 8-bit or 16-bit length.
     std::string leerCorta(LectorContinuo& lector) const;

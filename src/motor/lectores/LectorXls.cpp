@@ -17,7 +17,7 @@ constexpr int bofBiff2 = 0x0009;
 constexpr int bofBiff3 = 0x0209;
 constexpr int bofBiff4 = 0x0409;
 
-/// The version of Excel that a bare stream was made for, by its first record; 0 when it is none.
+/// The version of Excel of a bare stream, by its first record; 0 when it is none.
 int VersionDeExcel(Bytes bytes) {
     if (bytes.size() < 8) {
         return 0;

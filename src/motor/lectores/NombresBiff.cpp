@@ -8,7 +8,7 @@ namespace {
 constexpr int banderaPredefinido = 0x0020;
 constexpr int marcaDeLibroPropio = 0x0401;
 
-/// What a formula refers to when it is one reference to another sheet and nothing else.
+/// What a formula of a single reference to another sheet refers to.
 enum class Referencia3d { Ninguna, Celda, Zona };
 
 /// The corners as they are stored, for a single cell both the same.

@@ -31,8 +31,8 @@ public:
     void anadirReferencias(LectorContinuo externSheet);
     void anadirNombre(LectorContinuo registro, const CadenasBiff& cadenas);
 
-    /// The names that cover a rectangle, in the workbook's order. Call when all records are in: names that
-    /// belong to one sheet, built-in ones and those that stand for anything else are left out.
+    /// The names that cover a rectangle, in the workbook's order. Call when all records are in. Left out:
+    /// names that belong to one sheet, built-in ones and those that stand for anything else.
     [[nodiscard]] std::vector<NombreDeZona> zonas(bool biff8) const;
 
 private:

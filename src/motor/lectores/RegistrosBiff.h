@@ -58,7 +58,7 @@ public:
 
     [[nodiscard]] int version() const { return version_; }
     [[nodiscard]] int clase() const { return clase_; }
-    /// How many bytes have been read from the BOF on.
+    /// Bytes from the BOF up to here.
     [[nodiscard]] std::size_t leidos() const { return lugar_ - comienzo_; }
 
     std::optional<Registro> siguiente();

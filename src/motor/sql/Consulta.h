@@ -1,4 +1,4 @@
-// A SELECT as it was written, its names not yet looked for in any table.
+// A SELECT as it is written: no name is looked up in a table.
 #pragma once
 
 #include "basico/Valor.h"
@@ -37,7 +37,7 @@ struct Paso {
     std::size_t indice = 0;
 };
 
-/// An expression in postfix order: operands first, then what joins them. So a long one is no deep one, and
+/// An expression in postfix order: operands first, then what joins them. So a long one is not deep, and
 /// nothing recurses over it.
 struct ExpresionPostfija {
     std::vector<Paso> pasos;

@@ -21,7 +21,7 @@ public:
     /// The value on one row of the table. Faults tell the field.
     Operando operator()(const std::vector<Valor>& fila);
 
-    /// The same as it is handed out: a field keeps its kind, a date stays a date.
+    /// The value for a result: a bare field keeps its kind, so a date stays a date.
     Valor entero(const std::vector<Valor>& fila);
 
     /// Adds the fields of the expression to a fault that tells no place yet.

@@ -12,13 +12,13 @@
 
 namespace varo::sql {
 
-/// A value without storage of its own: texts stay where they are, in the table or in the query.
+/// A value that refers to its text, which stays in the table or in the query.
 struct Operando {
     enum class Clase : std::uint8_t { Nulo, Numero, Verdad, Texto };
     Clase clase = Clase::Nulo;
     double numero = 0; // a date is its serial, a truth value -1 or 0
     std::string_view texto{};
-    const std::string* campo = nullptr; // where a text was read, for the faults
+    const std::string* campo = nullptr; // the field of a text, for the faults
 
     [[nodiscard]] bool esNulo() const { return clase == Clase::Nulo; }
 };

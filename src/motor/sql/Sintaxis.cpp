@@ -137,7 +137,7 @@ Elemento Analizador::unElemento() {
         elemento.expresion = unaExpresion();
     } else {
         if (elemento.agregado == Agregado::Cuenta && tomar("*")) {
-            // Count(*) counts the rows: something that is Null in none of them.
+            // Count(*) counts every row: a constant is Null in none.
             elemento.expresion = {.pasos = {{Operacion::Constante, 0}}, .campos = {}, .constantes = {1.0}};
         } else {
             elemento.expresion = unaExpresion();

@@ -14,7 +14,7 @@ namespace varo::prueba {
 /// Throws std::runtime_error when the file is not there.
 std::vector<std::byte> BytesDe(const std::filesystem::path& archivo);
 
-/// The project's own workbook of that name.
+/// The workbook of the project with that name.
 std::vector<std::byte> BytesDeLibro(const std::string& nombre);
 
 /// All of them, in order of name.

@@ -15,7 +15,7 @@
 namespace varo {
 namespace {
 
-/// The project's own workbooks and, where they are, those of other programs.
+/// The workbooks of the project and, where they are, those of other programs.
 std::vector<std::vector<std::byte>> LibrosBuenos() {
     auto archivos = prueba::LibrosPropios();
     const auto muestras = prueba::Muestras("xls");
