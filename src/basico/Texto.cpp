@@ -3,6 +3,8 @@
 #include "basico/ErrorEjecucion.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 
 namespace varo {
 
@@ -35,22 +37,32 @@ std::string_view Resto(std::string_view texto, std::size_t desde) {
     return texto.substr(Comienzo(texto, desde - 1));
 }
 
+/// Capitals that stand `paso` apart, each `salto` before its small letter.
+struct Mayusculas {
+    char32_t primera;
+    char32_t ultima;
+    char32_t paso;
+    std::int32_t salto;
+};
+
+/// The first one that holds a letter counts. Latin Extended-A pairs each capital with the letter behind it.
+constexpr std::array<Mayusculas, 9> mayusculas{{
+    {U'A', U'Z', 1, 0x20},
+    {U'À', U'Ö', 1, 0x20},
+    {U'Ø', U'Þ', 1, 0x20},
+    {U'İ', U'İ', 1, 'i' - 0x130},
+    {U'Ÿ', U'Ÿ', 1, 0xFF - 0x178},
+    {U'Ā', U'ķ', 2, 1},
+    {U'Ĺ', U'ň', 2, 1},
+    {U'Ŋ', U'ŷ', 2, 1},
+    {U'Ź', U'ž', 2, 1},
+}};
+
 char32_t Minuscula(char32_t c) {
-    if ((c >= U'A' && c <= U'Z') || (c >= U'À' && c <= U'Þ' && c != U'×')) {
-        return c + 0x20;
-    }
-    if (c == U'İ') {
-        return U'i';
-    }
-    if (c == U'Ÿ') {
-        return U'ÿ';
-    }
-    // Latin Extended-A pairs each capital with the letter behind it: capitals are the even ones, and the odd
-    // ones in two stretches.
-    const bool impares = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
-    const bool pares = (c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177);
-    const bool mayuscula = (impares && c % 2 == 1) || (pares && c % 2 == 0);
-    return mayuscula ? c + 1 : c;
+    const auto* const grupo = std::ranges::find_if(mayusculas, [c](const Mayusculas& letras) {
+        return c >= letras.primera && c <= letras.ultima && (c - letras.primera) % letras.paso == 0;
+    });
+    return grupo == mayusculas.end() ? c : static_cast<char32_t>(static_cast<std::int32_t>(c) + grupo->salto);
 }
 
 } // namespace

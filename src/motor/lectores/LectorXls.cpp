@@ -6,34 +6,37 @@
 #include "motor/lectores/RegistrosBiff.h"
 #include "motor/lectores/TablasDeHoja.h"
 
+#include <algorithm>
+#include <array>
 #include <map>
 #include <utility>
 
 namespace varo {
 namespace {
 
-// How a stream of each version begins.
-constexpr int bofBiff2 = 0x0009;
-constexpr int bofBiff3 = 0x0209;
-constexpr int bofBiff4 = 0x0409;
+/// How the stream of a version begins: the type of its BOF, and the number at a place in it.
+struct Comienzo {
+    int version;
+    int tipo;
+    std::size_t lugar;
+    int numero;
+};
+
+constexpr std::array<Comienzo, 5> comienzos{{{2, 0x0009, 2, 4},
+                                             {3, 0x0209, 2, 6},
+                                             {4, 0x0409, 2, 6},
+                                             {5, biff::bof, 4, biff::version5},
+                                             {8, biff::bof, 4, biff::version8}}};
 
 /// The version of Excel of a bare stream, by its first record; 0 when it is none.
 int VersionDeExcel(Bytes bytes) {
     if (bytes.size() < 8) {
         return 0;
     }
-    switch (LeerU16(bytes, 0)) {
-    case bofBiff2:
-        return LeerU16(bytes, 2) == 4 ? 2 : 0;
-    case bofBiff3:
-        return LeerU16(bytes, 2) == 6 ? 3 : 0;
-    case bofBiff4:
-        return LeerU16(bytes, 2) == 6 ? 4 : 0;
-    case biff::bof:
-        return LeerU16(bytes, 4) == biff::version5 ? 5 : LeerU16(bytes, 4) == biff::version8 ? 8 : 0;
-    default:
-        return 0;
-    }
+    const auto* const hallado = std::ranges::find_if(comienzos, [bytes](const Comienzo& comienzo) {
+        return LeerU16(bytes, 0) == comienzo.tipo && LeerU16(bytes, comienzo.lugar) == comienzo.numero;
+    });
+    return hallado == comienzos.end() ? 0 : hallado->version;
 }
 
 [[noreturn]] void FormatoNoReconocido(const std::string& motivo) {
