@@ -37,25 +37,34 @@ struct PapelExplicado {
     const char* explicacion;
 };
 
-std::vector<PapelExplicado> PapelesDe(DatosDeCopa copa) {
-    std::vector<PapelExplicado> papeles{{"X", "coordenada X del pie, en metros"},
-                                        {"Y", "coordenada Y del pie, en metros"}};
-    switch (copa) {
-    case DatosDeCopa::CuatroRadios:
-        papeles.insert(papeles.end(), {{"N", "radio de copa hacia el norte"},
-                                       {"E", "radio de copa hacia el este"},
-                                       {"S", "radio de copa hacia el sur"},
-                                       {"O", "radio de copa hacia el oeste"}});
-        break;
-    case DatosDeCopa::DosDiametros:
-        papeles.insert(papeles.end(),
-                       {{"NS", "diámetro de copa norte-sur"}, {"EO", "diámetro de copa este-oeste"}});
-        break;
-    case DatosDeCopa::RadioMedio:
-        papeles.push_back({"Radio", "radio medio de copa"});
-        break;
-    }
-    return papeles;
+/// What a job says of one kind of crown data.
+struct CopaExplicada {
+    DatosDeCopa datos;
+    std::vector<PapelExplicado> papeles;
+    std::vector<const char*> opciones;
+};
+
+constexpr const char* conElipses = "OptElipse = true  # las copas son elipses; si no, Optcirc (círculos)";
+
+const std::array<CopaExplicada, 3> copas{{
+    {DatosDeCopa::CuatroRadios,
+     {{"N", "radio de copa hacia el norte"},
+      {"E", "radio de copa hacia el este"},
+      {"S", "radio de copa hacia el sur"},
+      {"O", "radio de copa hacia el oeste"}},
+     {"Opt4R = true      # cuatro radios por copa; si no, Opt2D (dos diámetros) u OptRM (radio medio)",
+      conElipses}},
+    {DatosDeCopa::DosDiametros,
+     {{"NS", "diámetro de copa norte-sur"}, {"EO", "diámetro de copa este-oeste"}},
+     {"Opt2D = true      # dos diámetros por copa; si no, Opt4R (cuatro radios) u OptRM (radio medio)",
+      conElipses}},
+    {DatosDeCopa::RadioMedio,
+     {{"Radio", "radio medio de copa"}},
+     {"OptRM = true      # un radio medio por copa; si no, Opt4R (cuatro radios) u Opt2D (dos diámetros)"}},
+}};
+
+const CopaExplicada& Explicada(DatosDeCopa datos) {
+    return *std::ranges::find(copas, datos, &CopaExplicada::datos);
 }
 
 class Redactor {
@@ -112,7 +121,9 @@ private:
                   (columna == tabla_->Fields.Count() ? "   (la última: sus datos no se leen)" : ""));
         }
         linea("[columnas]");
-        for (const auto& [nombre, explicacion] : PapelesDe(propuesta_.copa)) {
+        papel("X", "coordenada X del pie, en metros");
+        papel("Y", "coordenada Y del pie, en metros");
+        for (const auto& [nombre, explicacion] : Explicada(propuesta_.copa).papeles) {
             papel(nombre, explicacion);
         }
         if (propuesto("Indice")) {
@@ -138,21 +149,8 @@ private:
     void descripcion() {
         linea("[opciones]");
         linea("Optdecim = true   # las copas se miden en decímetros; si no, Optcm u Optmetro");
-        switch (propuesta_.copa) {
-        case DatosDeCopa::CuatroRadios:
-            linea("Opt4R = true      # cuatro radios por copa; si no, Opt2D (dos diámetros) u OptRM (radio "
-                  "medio)");
-            linea("OptElipse = true  # las copas son elipses; si no, Optcirc (círculos)");
-            break;
-        case DatosDeCopa::DosDiametros:
-            linea("Opt2D = true      # dos diámetros por copa; si no, Opt4R (cuatro radios) u OptRM (radio "
-                  "medio)");
-            linea("OptElipse = true  # las copas son elipses; si no, Optcirc (círculos)");
-            break;
-        case DatosDeCopa::RadioMedio:
-            linea("OptRM = true      # un radio medio por copa; si no, Opt4R (cuatro radios) u Opt2D (dos "
-                  "diámetros)");
-            break;
+        for (const char* const opcion : Explicada(propuesta_.copa).opciones) {
+            linea(opcion);
         }
         linea(propuesta_.esCircunferencia
                   ? "OptCAP = true     # el pie se mide por su circunferencia; si no, OptDAP (diámetro)"

@@ -163,19 +163,19 @@ private:
             anadirNumero(datos, LeerReal(resultado, 0));
             return;
         }
-        enum { Texto, Verdad, Error, TextoVacio };
+        enum { texto, verdad, error, textoVacio };
         switch (LeerU8(resultado, 0)) {
-        case Texto:
+        case texto:
             anadir(datos, std::string{});
             faltaTexto_ = true;
             break;
-        case Verdad:
+        case verdad:
             anadir(datos, verdadOError(LeerU8(resultado, 2), false));
             break;
-        case Error:
+        case error:
             anadir(datos, Nulo{});
             break;
-        case TextoVacio:
+        case textoVacio:
             anadir(datos, std::string{});
             break;
         default:
