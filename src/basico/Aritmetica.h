@@ -4,7 +4,7 @@
 namespace varo {
 
 /// The literal that the whole program uses for pi.
-inline constexpr double Pi = 3.1415927;
+inline constexpr double numeroPi = 3.1415927;
 
 /// The number itself; an infinity or a NaN throws 6.
 double ExigirFinito(double numero);

@@ -10,7 +10,7 @@ namespace varo {
 
 /// Runs one statement. A run-time fault ends the statement and is handed back; other exceptions pass through.
 template <class Sentencia>
-std::optional<ErrorEjecucion> saltando(Sentencia&& sentencia) {
+std::optional<ErrorEjecucion> Saltando(Sentencia&& sentencia) {
     try {
         std::forward<Sentencia>(sentencia)();
     } catch (const ErrorEjecucion& error) {

@@ -18,7 +18,7 @@ namespace {
 /// Removes the rows without data. Meant: the bound is taken once, so after a removal the walk runs past the
 /// end of the grid; that fault, like the one of removing the last row, ends the walk.
 void QuitarFilasVacias(Rejilla& rejilla) {
-    saltando([&] {
+    Saltando([&] {
         const int ultima = rejilla.Rows() - 1;
         for (int fila = 1; fila <= ultima; ++fila) {
             bool vacia = true;
@@ -35,7 +35,7 @@ void QuitarFilasVacias(Rejilla& rejilla) {
 
 /// Hides the columns without data; their header stays.
 void OcultarColumnasVacias(Rejilla& rejilla) {
-    saltando([&] {
+    Saltando([&] {
         for (int columna = 1; columna < rejilla.Cols(); ++columna) {
             bool vacia = true;
             for (int fila = 1; vacia && fila < rejilla.Rows(); ++fila) {

@@ -152,7 +152,7 @@ void FrmFormato::limpiarRejilla() {
     auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
     const int ultima = rejilla.Rows() - 1;
     // Meant: the bound is taken once, so after a removal the walk runs past the end; that fault ends it.
-    saltando([&] {
+    Saltando([&] {
         for (int fila = 1; fila <= ultima; ++fila) {
             if (rejilla.TextMatrix(fila, sesion.Columnas(papelX).valor()).empty() &&
                 rejilla.TextMatrix(fila, sesion.Columnas(papelY).valor()).empty()) {

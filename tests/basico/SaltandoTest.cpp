@@ -9,13 +9,13 @@ using namespace varo;
 
 TEST(Saltando, UnaSentenciaSinFalloHaceSuEfecto) {
     int n = 1;
-    EXPECT_FALSE(saltando([&] { n = 2; }).has_value());
+    EXPECT_FALSE(Saltando([&] { n = 2; }).has_value());
     EXPECT_EQ(n, 2);
 }
 
 TEST(Saltando, UnFalloAbandonaLaSentenciaYVuelveContado) {
     double x = 1;
-    const auto error = saltando([&] {
+    const auto error = Saltando([&] {
         x = Dividir(x, 0);
         x = 3;
     });
@@ -25,11 +25,11 @@ TEST(Saltando, UnFalloAbandonaLaSentenciaYVuelveContado) {
 }
 
 TEST(Saltando, TambienSaltaLosFallosDelMotor) {
-    const auto error = saltando([] { throw ErrorMotor{fallo::nombreDesconocido, "DAP"}; });
+    const auto error = Saltando([] { throw ErrorMotor{fallo::nombreDesconocido, "DAP"}; });
     ASSERT_TRUE(error.has_value());
     EXPECT_EQ(error->descripcion(), "DAP");
 }
 
 TEST(Saltando, LoQueNoEsFalloDelProgramaSigueSuCamino) {
-    EXPECT_THROW(saltando([] { throw std::logic_error{"defecto"}; }), std::logic_error);
+    EXPECT_THROW(Saltando([] { throw std::logic_error{"defecto"}; }), std::logic_error);
 }

@@ -28,11 +28,11 @@ public:
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
         if (arboles_.sinTamano(i)) {
-            return SinArbol;
+            return sinArbol;
         }
         static_cast<void>(arboles_.d(i)); // A size that is no number faults even at a vertex.
         if (arboles_.esVertice(i)) {
-            return ArbolDeContorno;
+            return arbolDeContorno;
         }
         girar(pareja);
         if (!dibujo_) {
@@ -54,7 +54,7 @@ private:
 
     /// Whether the short turn may read the tree without a fault of its cells or its weight.
     [[nodiscard]] bool esLegible(std::size_t j) const {
-        const auto fallo = saltando([&] {
+        const auto fallo = Saltando([&] {
             static_cast<void>(arboles_.x(j));
             static_cast<void>(arboles_.y(j));
             static_cast<void>(pesos_.de(j));

@@ -50,7 +50,7 @@ std::optional<PuntoAPA> CorteConElContorno(const ContornoXY& contorno, const Pun
                                            const PuntoAPA& hacia) {
     std::optional<PuntoAPA> corte;
     for (std::size_t k = 0; k + 1 < contorno.x.size() && !corte; ++k) {
-        saltando([&] { corte = CorteConLado(contorno, k, desde, hacia); });
+        Saltando([&] { corte = CorteConLado(contorno, k, desde, hacia); });
     }
     return corte;
 }
@@ -103,7 +103,7 @@ double MedirCelda(std::span<const LadoAPA> lados, const ContornoXY& contorno, st
     const bool cortada =
         std::adjacent_find(dentro.begin(), dentro.end(), std::not_equal_to<>{}) != dentro.end();
     if (cortada) {
-        return EfectoBorde;
+        return efectoBorde;
     }
     double area = 0;
     for (std::size_t v = 1; v + 2 < vertices.size(); ++v) {

@@ -15,7 +15,7 @@ struct TrazoAPA {
     bool operator==(const TrazoAPA&) const = default;
 };
 
-/// The area of the cell with those sides (m2), at least one, fanned from its first vertex; EfectoBorde when a
+/// The area of the cell with those sides (m2), at least one, fanned from its first vertex; efectoBorde when a
 /// side of it goes from the inside of the boundary to the outside. Meant: a cell with all its vertices
 /// outside keeps its area. `trazos`, where there is one, becomes the sides that lie inside and the inner part
 /// of those that are cut. Faults: 11 on two sides in a row that are parallel, and those of PuntoEnPoligono

@@ -87,7 +87,7 @@ bool CercanosAPA::girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& 
         return false;
     }
     // A fault among some of the trees may not be the fault among all of them: the whole turn tells.
-    return !saltando([&] {
+    return !Saltando([&] {
         ReunirVecinos(pesos_, filas_, pareja, vecinos);
         giro.dar(vecinos, pareja);
     });

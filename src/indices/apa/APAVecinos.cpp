@@ -37,7 +37,7 @@ PesosAPA::PesosAPA(const Arboles& arboles, double k)
     for (std::size_t i = 0; i < pesos_.size(); ++i) {
         if (!arboles.sinTamano(i)) {
             // A weight that faults stays NaN: `de` faults when it is asked for.
-            saltando([&] { pesos_[i] = Potencia(arboles.d(i), k); });
+            Saltando([&] { pesos_[i] = Potencia(arboles.d(i), k); });
         }
     }
 }

@@ -39,7 +39,7 @@ void FrmCrearArchivo::DirLista_Change() {
 }
 
 void FrmCrearArchivo::DrvLista_Change() {
-    while (saltando([&] { DirLista.Path(DrvLista.Drive); })) {
+    while (Saltando([&] { DirLista.Path(DrvLista.Drive); })) {
         const int respuesta =
             programa_.servicios().mensaje("Cierra la puerta de la unidad", "Disco no preparado",
                                           mensaje::reintentarCancelar + mensaje::critico);
@@ -63,7 +63,7 @@ std::string FrmCrearArchivo::rutaElegida() const {
 
 /// Runs one statement of the writing under its trap: a bad file name is told, any fault is passed over.
 void FrmCrearArchivo::sentencia(const std::function<void()>& acto) {
-    const auto fallado = saltando(acto);
+    const auto fallado = Saltando(acto);
     if (!fallado) {
         return;
     }

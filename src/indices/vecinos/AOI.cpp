@@ -44,14 +44,14 @@ public:
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
         if (arboles_.sinTamanoOCero(i)) {
-            return SinArbol;
+            return sinArbol;
         }
         const double Ri = radios_.de(i);
         if (arboles_.esVertice(i)) {
-            return ArbolDeContorno;
+            return arbolDeContorno;
         }
         if (vecindad_.borde.algunaAlturaMenorOIgual(i, Ri)) {
-            return EfectoBorde;
+            return efectoBorde;
         }
         double suma = 0;
         const auto sumar = [&](std::size_t j, double /*diametro*/) {
@@ -65,7 +65,7 @@ public:
 private:
     /// The trees whose circle may meet the subject's. The others would add 0, unless a step with them faults.
     std::span<const Cuadricula::Fila> vecinos(std::size_t i, double Ri) {
-        const double propia = Pi * (Ri * Ri);
+        const double propia = numeroPi * (Ri * Ri);
         const bool sinFallos = sinFallos_ && arboles_.tamano(i) > 0 && propia > 0 && std::isfinite(propia);
         if (!sinFallos) {
             return vecindad_.todas;
@@ -83,7 +83,7 @@ private:
         const double xj = arboles_.x(j);
         const double yj = arboles_.y(j);
         const double area = AreaInterseccionCirculos(xi, yi, xj, yj, Ri, Rj);
-        return Dividir(area, ExigirFinito(Pi * (Ri * Ri))) * w;
+        return Dividir(area, ExigirFinito(numeroPi * (Ri * Ri))) * w;
     }
 
     const Arboles& arboles_;
@@ -103,7 +103,7 @@ RadiosDeInfluencia::RadiosDeInfluencia(const Arboles& arboles, const SumaDePoten
         if (arboles.sinTamano(i)) {
             continue;
         }
-        if (saltando([&] { radios_[i] = funcion.en(arboles.diametro(i)); })) {
+        if (Saltando([&] { radios_[i] = funcion.en(arboles.diametro(i)); })) {
             todosSinFallo_ = false;
         } else {
             mayor_ = std::max(mayor_, radios_[i]);

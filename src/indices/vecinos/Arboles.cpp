@@ -41,7 +41,7 @@ ColumnaDeCeldas::ColumnaDeCeldas(std::string nombre, std::vector<std::string> te
     numeros_.reserve(textos_.size());
     for (const auto& texto : textos_) {
         double numero = sinNumero;
-        saltando([&] { numero = ANumero(texto); }); // `numero` throws the fault again when it is asked for
+        Saltando([&] { numero = ANumero(texto); }); // `numero` throws the fault again when it is asked for
         numeros_.push_back(numero);
     }
 }
@@ -51,7 +51,7 @@ void ColumnaDeCeldas::situar(ErrorEjecucion& error, std::size_t i) const {
 }
 
 void ColumnaDeCeldas::fallar(std::size_t i) const {
-    ErrorEjecucion error = saltando([&] { ANumero(textos_[i]); }).value();
+    ErrorEjecucion error = Saltando([&] { ANumero(textos_[i]); }).value();
     situar(error, i);
     throw error;
 }
@@ -76,7 +76,7 @@ void Arboles::fallarDiametro(std::size_t i) const {
 FactoresDeTamano FactoresDe(const UnidadesTallo& unidades) {
     FactoresDeTamano factores;
     if (unidades.circunferencia) {
-        factores.dap = static_cast<float>(1.0 / Pi);
+        factores.dap = static_cast<float>(1.0 / numeroPi);
     }
     switch (unidades.unidad) {
     case UnidadLongitud::Centimetros:

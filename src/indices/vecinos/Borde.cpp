@@ -53,7 +53,7 @@ Borde::Alturas Borde::calcular(std::size_t i) const {
     const double x = arboles_.x(i);
     const double y = arboles_.y(i);
     std::size_t k = 0;
-    const auto fallado = saltando([&] {
+    const auto fallado = Saltando([&] {
         double hastaVertice = Distancia(x, y, contorno_.x[0], contorno_.y[0]);
         for (; k < lados_.size(); ++k) {
             const double hastaSiguiente = Distancia(x, y, contorno_.x[k + 1], contorno_.y[k + 1]);

@@ -25,11 +25,11 @@ double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
     EntradaDeDistancia& entrada = columna.entrada;
     const std::size_t i = pareja.sujeto;
     if (arboles.sinTamanoOCero(i)) {
-        return SinArbol;
+        return sinArbol;
     }
     const double di = arboles.d(i);
     if (arboles.esVertice(i)) {
-        return ArbolDeContorno;
+        return arbolDeContorno;
     }
     seleccion.empezar(i, columna.lado);
     const auto apartados = seleccion.distanciasDeApartados();
@@ -47,7 +47,7 @@ double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
         return veredicto.juicio != Veredicto::Juicio::Borde;
     };
     if (!RecorrerCompetidores<&Arboles::d>(arboles, seleccion.candidatos(), columna.lado, pareja, sumar)) {
-        return EfectoBorde;
+        return efectoBorde;
     }
     return suma;
 }
@@ -67,7 +67,7 @@ bool EntradaDeDistancia::sinFallosEntre(double desde, double hasta) {
         return true;
     }
     bool sinFallos = false;
-    saltando([&] { sinFallos = funcion().sinFallosEntre(desde, hasta); });
+    Saltando([&] { sinFallos = funcion().sinFallosEntre(desde, hasta); });
     if (sinFallos) {
         sinFallosDesde_ = desde;
     }

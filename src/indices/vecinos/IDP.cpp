@@ -10,11 +10,11 @@ namespace {
 double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, Lado lado, double h) {
     const std::size_t i = pareja.sujeto;
     if (arboles.sinTamano(i)) {
-        return SinArbol;
+        return sinArbol;
     }
     static_cast<void>(arboles.d(i)); // a size that is no number faults even at a vertex
     if (arboles.esVertice(i)) {
-        return ArbolDeContorno;
+        return arbolDeContorno;
     }
     seleccion.empezar(i, lado);
     double suma = 0;
@@ -29,7 +29,7 @@ double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, La
         return veredicto.juicio != Veredicto::Juicio::Borde;
     };
     if (!RecorrerCompetidores<&Arboles::d>(arboles, seleccion.candidatos(), lado, pareja, sumar)) {
-        return EfectoBorde;
+        return efectoBorde;
     }
     return m > 0 ? ExigirFinito(Dividir(2500, m) * suma) : 0;
 }

@@ -28,18 +28,18 @@ public:
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
         if (arboles_.sinTamano(i)) {
-            return SinArbol;
+            return sinArbol;
         }
         static_cast<void>(arboles_.diametro(i)); // a size that is no number faults even without a crown
         const double ri = radios_.de(i);
         if (ri == 0) {
-            return SinArbol;
+            return sinArbol;
         }
         if (arboles_.esVertice(i)) {
-            return ArbolDeContorno;
+            return arbolDeContorno;
         }
         if (vecindad_.borde.algunaAlturaMenor(i, ri)) {
-            return EfectoBorde;
+            return efectoBorde;
         }
         float suma = 0;
         const auto sumar = [&](std::size_t j, double /*diametro*/) {
@@ -47,7 +47,7 @@ public:
             return true;
         };
         RecorrerCompetidores<&Arboles::diametro>(arboles_, vecinos(i, ri), lado_, pareja, sumar);
-        return Dividir(static_cast<double>(suma), Pi * (ri * ri));
+        return Dividir(static_cast<double>(suma), numeroPi * (ri * ri));
     }
 
 private:
@@ -86,7 +86,7 @@ RadiosDeCopa::RadiosDeCopa(const Arboles& arboles, DatosDeCopa datos, int factor
         if (arboles.sinTamano(i)) {
             continue;
         }
-        if (saltando([&] { radios_[i] = calcular(i); })) {
+        if (Saltando([&] { radios_[i] = calcular(i); })) {
             todosSinFallo_ = false;
         } else {
             mayor_ = std::max(mayor_, radios_[i]);

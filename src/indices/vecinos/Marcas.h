@@ -10,9 +10,9 @@
 
 namespace varo {
 
-inline constexpr double SinArbol = -3;        ///< the row holds no tree
-inline constexpr double ArbolDeContorno = -1; ///< the tree stands on a vertex of the plot boundary
-inline constexpr double EfectoBorde = -2;     ///< what the tree needs reaches beyond the boundary
+inline constexpr double sinArbol = -3;        ///< the row holds no tree
+inline constexpr double arbolDeContorno = -1; ///< the tree stands on a vertex of the plot boundary
+inline constexpr double efectoBorde = -2;     ///< what the tree needs reaches beyond the boundary
 
 /// The pair under work, for the place of a fault.
 struct Pareja {

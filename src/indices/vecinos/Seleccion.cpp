@@ -85,7 +85,7 @@ void Seleccion::empezarPorNumero() {
                                                     : std::max(buscador.mayorD(), 0.0) / radio * (1 + 1E-9);
     };
     const double abundantes = std::min(2 * puesto + 6, static_cast<double>(buscador.cuantos()));
-    double radio = buscador.lado() * std::sqrt(abundantes / (2 * Pi));
+    double radio = buscador.lado() * std::sqrt(abundantes / (2 * numeroPi));
     for (;; radio *= 1.5) {
         proponer(radio);
         ordenarClaves();
@@ -120,7 +120,7 @@ void Seleccion::empezarPorLimite(Lado lado) {
         return;
     }
     bool sigue = false;
-    saltando([&] { sigue = !vecindad_.borde.algunaAlturaMenor(*sujeto_, limite()); });
+    Saltando([&] { sigue = !vecindad_.borde.algunaAlturaMenor(*sujeto_, limite()); });
     if (sigue) {
         proponer(std::max(limite(), vecindad_.buscador.lado()));
     }

@@ -8,13 +8,13 @@ double AreaBasimetrica(double tamano, const UnidadesTallo& unidades) {
     const double cuadrado = Potencia(tamano, 2);
     switch (unidades.unidad) {
     case UnidadLongitud::Centimetros:
-        return unidades.circunferencia ? cuadrado / 125663.708 : (cuadrado * Pi) / 40000.0;
+        return unidades.circunferencia ? cuadrado / 125663.708 : (cuadrado * numeroPi) / 40000.0;
     case UnidadLongitud::Decimetros:
-        return unidades.circunferencia ? cuadrado / 1256.63708 : (cuadrado * Pi) / 400.0;
+        return unidades.circunferencia ? cuadrado / 1256.63708 : (cuadrado * numeroPi) / 400.0;
     case UnidadLongitud::Metros:
         break;
     }
-    return unidades.circunferencia ? cuadrado / 12.5663708 : (cuadrado * Pi) / 4.0;
+    return unidades.circunferencia ? cuadrado / 12.5663708 : (cuadrado * numeroPi) / 4.0;
 }
 
 std::string ConsultaAreaBasimetrica(const std::string& campo, const std::string& hoja,
@@ -38,13 +38,14 @@ double TerminoAreaBasimetrica(double tamano, const UnidadesTallo& unidades) {
     const double cuadrado = Potencia(tamano, 2);
     switch (unidades.unidad) {
     case UnidadLongitud::Centimetros:
-        return unidades.circunferencia ? cuadrado / (4 * Pi * 10000) : cuadrado * Pi / (4 * 10000);
+        return unidades.circunferencia ? cuadrado / (4 * numeroPi * 10000)
+                                       : cuadrado * numeroPi / (4 * 10000);
     case UnidadLongitud::Decimetros:
-        return unidades.circunferencia ? cuadrado / (4 * Pi * 100) : cuadrado * Pi / (4 * 100);
+        return unidades.circunferencia ? cuadrado / (4 * numeroPi * 100) : cuadrado * numeroPi / (4 * 100);
     case UnidadLongitud::Metros:
         break;
     }
-    return unidades.circunferencia ? cuadrado / (4 * Pi) : cuadrado * Pi / 4;
+    return unidades.circunferencia ? cuadrado / (4 * numeroPi) : cuadrado * numeroPi / 4;
 }
 
 } // namespace varo

@@ -30,7 +30,7 @@ double AreaInterseccionCirculos(double x1, double y1, double x2, double y2, doub
         return 0;
     }
     if (grande - pequeno > d) {
-        return ExigirFinito((pequeno * pequeno) * Pi);
+        return ExigirFinito((pequeno * pequeno) * numeroPi);
     }
     const double c1 = Dividir((r1 * r1 + d * d) - r2 * r2, (2 * r1) * d);
     const double c2 = Dividir((r2 * r2 + d * d) - r1 * r1, (2 * r2) * d);

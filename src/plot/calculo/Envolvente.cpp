@@ -14,7 +14,7 @@ namespace varo {
 namespace {
 
 /// Direction from the current tree to itself: larger than every other one.
-constexpr double DireccionDelActual = 999.0;
+constexpr double direccionDelActual = 999.0;
 
 struct Posiciones {
     std::span<const double> x;
@@ -31,7 +31,7 @@ double Direccion(double dx, double dy) {
     if (dx == 0) {
         return dy > 0 ? 0.0 : 180.0;
     }
-    const double t = GradosPorRadian * std::atan(dx / dy);
+    const double t = gradosPorRadian * std::atan(dx / dy);
     if (dy < 0) {
         return t + 180.0;
     }
@@ -53,7 +53,7 @@ void ApuntarDirecciones(const Posiciones& arboles, std::size_t actual, bool deVu
                         std::vector<double>& AnguloCandidato) {
     for (std::size_t s = 0; s < AnguloCandidato.size(); ++s) {
         if (s == actual) {
-            AnguloCandidato[s] = DireccionDelActual;
+            AnguloCandidato[s] = direccionDelActual;
             continue;
         }
         const double dx = arboles.dx(actual, s);

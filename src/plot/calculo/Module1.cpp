@@ -103,12 +103,12 @@ double AnguloVertice(double x1, double y1, double x2, double y2, double x3, doub
     const double mx = (x2 + x3) / 2.0;
     const double my = (y2 + y3) / 2.0;
     const bool sobreElLado = Distancia(mx, my, qx, qy) <= Distancia(mx, my, x2, y2);
-    return sobreElLado ? Pi - t : t;
+    return sobreElLado ? numeroPi - t : t;
 }
 
 double AnguloDireccion(double x1, double y1, double x2, double y2) {
     const double A = AreaTrianguloPuntos(x1, y1, x1 + 1.0, y1, x2, y2);
-    const double t = Asin(Dividir(A * 2.0, Distancia(x1, y1, x2, y2))) * GradosPorRadian;
+    const double t = Asin(Dividir(A * 2.0, Distancia(x1, y1, x2, y2))) * gradosPorRadian;
 
     // Meant: 1 is taken off before comparing, so that a difference too small to survive it counts as none.
     const double ux1 = x1 - 1.0;

@@ -10,7 +10,7 @@
 namespace varo {
 
 /// From radians to degrees.
-inline constexpr double GradosPorRadian = 180.0 / Pi;
+inline constexpr double gradosPorRadian = 180.0 / numeroPi;
 
 /// Distance between two points.
 double Distancia(double x1, double y1, double x2, double y2);

@@ -39,7 +39,7 @@ TEST(APACelda, UnaCeldaDentroDeLaParcelaTieneSuAreaYDibujaSusLados) {
 
 TEST(APACelda, UnaCeldaQueSaleDeLaParcelaEsEfectoDeBordeYSeDibujaHastaElContorno) {
     std::vector<TrazoAPA> trazos;
-    EXPECT_EQ(MedirCelda(rectangulo, porEncimaDeMenosUno.xy(), &trazos), EfectoBorde);
+    EXPECT_EQ(MedirCelda(rectangulo, porEncimaDeMenosUno.xy(), &trazos), efectoBorde);
     EXPECT_EQ(trazos, cortadosEnMenosUno);
 }
 
@@ -61,7 +61,7 @@ TEST(APACelda, UnLadoDelContornoParaleloAlDeLaCeldaSePasaPorAltoAlBuscarElCorte)
     // Its second side falls with the slope -2 of two sides of the cell: to cross them is a division by zero.
     const Contorno conParalelo{{-10, -9, 4, 9.5, -10}, {-1, 10, 10, -1, -1}};
     std::vector<TrazoAPA> trazos;
-    EXPECT_EQ(MedirCelda(rectangulo, conParalelo.xy(), &trazos), EfectoBorde);
+    EXPECT_EQ(MedirCelda(rectangulo, conParalelo.xy(), &trazos), efectoBorde);
     EXPECT_EQ(trazos, cortadosEnMenosUno);
 }
 

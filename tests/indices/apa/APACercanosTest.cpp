@@ -19,7 +19,7 @@ namespace {
 
 literal::Columna Rapida(const Arboles& arboles, const ContornoXY& contorno, double k) {
     literal::Columna columna;
-    const auto error = saltando([&] {
+    const auto error = Saltando([&] {
         columna.indices =
             CalcularAPA(arboles, contorno, k, [&](std::size_t arbol, std::span<const TrazoAPA> trazos) {
                 for (const auto& trazo : trazos) {
@@ -162,7 +162,7 @@ RC_GTEST_PROP(APACercanos, GruposYArbolesEnUnaCircunferenciaDanLosMismosBits, ()
             parcela.anadir(Escrito(10 * azar.entero(0, 3) + azar.entre(-0.5, 0.5)),
                            Escrito(10 * azar.entero(0, 3) + azar.entre(-0.5, 0.5)));
         } else {
-            const double angulo = azar.entre(0, 2 * Pi);
+            const double angulo = azar.entre(0, 2 * numeroPi);
             const double radio = azar.unaDeCada(3) ? azar.entre(1, 10) : 10;
             parcela.anadir(Escrito(radio * std::cos(angulo)), Escrito(radio * std::sin(angulo)));
         }
@@ -185,7 +185,7 @@ RC_GTEST_PROP(APACercanos, ArbolesDeLaMismaXODeLaMismaYDanElMismoFallo, ()) {
         }
     }
     DarTamanos(parcela, azar, k);
-    RC_PRE(!saltando([&] { Envolver(parcela, azar); }));
+    RC_PRE(!Saltando([&] { Envolver(parcela, azar); }));
     CompararConLaLiteral(parcela, k);
 }
 

@@ -84,7 +84,7 @@ RC_GTEST_PROP(APACuadricula, EncuentraLosArbolesEnLinea, ()) {
     const Arboles arboles = parcela.arboles();
     const PesosAPA pesos{arboles, 0};
     const CuadriculaAPA cuadricula{pesos};
-    const double angulo = *rc::gen::inRange(0, 48) * Pi / 24;
+    const double angulo = *rc::gen::inRange(0, 48) * numeroPi / 24;
     const DireccionAPA direccion{std::cos(angulo), std::sin(angulo)};
     const double seno = *rc::gen::element(0.0, 1E-6, 0.02, 0.1, 0.7);
     Filas halladas;

@@ -33,7 +33,7 @@ public:
         : arboles_{arboles}, contorno_{contorno}, k_{k}, FilasGrid_{arboles.cuantos() + 1} {}
 
     Columna columna() {
-        const auto error = saltando([&] {
+        const auto error = Saltando([&] {
             for (std::size_t i = 1; i <= FilasGrid_ - 1; ++i) {
                 columna_.indices.push_back(indice(i));
             }
@@ -245,7 +245,7 @@ private:
         const auto py = contorno_.y;
         for (std::size_t k = 0; k + 1 < px.size(); ++k) {
             bool hallado = false;
-            saltando([&] {
+            Saltando([&] {
                 const double m = Dividir(q.y - p.y, q.x - p.x);
                 const double b = p.y - m * p.x;
                 const double mk = Dividir(py[k + 1] - py[k], px[k + 1] - px[k]);

@@ -28,7 +28,7 @@ int Fallo(const ParcelaAPA& parcela, double k = 0) {
 
 /// The place that a fault of that number names; empty where nothing faults.
 std::string LugarDelFallo(const ParcelaAPA& parcela, int numero) {
-    const auto error = saltando([&] { Columna(parcela, 0); });
+    const auto error = Saltando([&] { Columna(parcela, 0); });
     EXPECT_TRUE(error && error->numero() == numero);
     return error ? error->lugar() : std::string{};
 }
@@ -81,7 +81,7 @@ TEST(APA, ConExponenteCeroLaCeldaEsLaDeVoronoi) {
     const std::vector<double> columna = Columna(CuatroAlrededorDeUno("0,3"), 0);
     EXPECT_NEAR(columna[0], 5, redondeoDeArea);
     EXPECT_EQ((std::vector<double>(columna.begin() + 1, columna.end())),
-              std::vector<double>(4, ArbolDeContorno));
+              std::vector<double>(4, arbolDeContorno));
 }
 
 TEST(APA, UnArbolTresVecesMasGruesoEmpujaElLadoATresCuartos) {
@@ -147,7 +147,7 @@ TEST(APA, UnaCeldaSinTamanoEsSinArbolYNoEsVecina) {
     parcela.anadir(0.5, 0.25, "");
     const std::vector<double> columna = Columna(parcela, 0);
     EXPECT_NEAR(columna[0], 5, redondeoDeArea);
-    EXPECT_EQ(columna[5], SinArbol);
+    EXPECT_EQ(columna[5], sinArbol);
 }
 
 TEST(APA, UnArbolSinTamanoNoNecesitaSitio) {
@@ -179,7 +179,7 @@ TEST(APA, SinTamanoVaAntesQueElVertice) {
     parcela.tamano[1] = "";
     parcela.tamano[0] = "";
     EXPECT_EQ(Columna(parcela, 0),
-              (std::vector<double>{SinArbol, SinArbol, ArbolDeContorno, ArbolDeContorno, ArbolDeContorno}));
+              (std::vector<double>{sinArbol, sinArbol, arbolDeContorno, arbolDeContorno, arbolDeContorno}));
 }
 
 TEST(APA, DosArbolesConLaMismaXFallanYSeNombran) {
@@ -234,7 +234,7 @@ TEST(APA, UnCandidatoRechazadoNoVuelve) {
     parcela.contornoX = {-4, -0.5, 3, 0, -3, -4};
     parcela.contornoY = {3, 2, 2.5, -5, -4, 3};
     EXPECT_EQ(Columna(parcela, 0),
-              (std::vector<double>{0, ArbolDeContorno, ArbolDeContorno, ArbolDeContorno}));
+              (std::vector<double>{0, arbolDeContorno, arbolDeContorno, arbolDeContorno}));
 }
 
 TEST(APA, UnaParcelaSinArbolesNoTieneValores) {
@@ -261,7 +261,7 @@ TEST(APA, UnaCeldaIlegibleQueNadieLeeNoFalla) {
     const CeldasDeArboles celdas{{"X", {"0", "2", "x"}}, {"Y", {"0", "1", "y"}}, {"D", {"", "0,1", ""}}, {}};
     const Arboles arboles{celdas, {false, UnidadLongitud::Metros}, parcela.contorno()};
     EXPECT_EQ(CalcularAPA(arboles, parcela.contorno(), 0),
-              (std::vector<double>{SinArbol, ArbolDeContorno, SinArbol}));
+              (std::vector<double>{sinArbol, arbolDeContorno, sinArbol}));
 }
 
 TEST(APA, UnTamanoNegativoConExponenteFraccionarioFalla) {
