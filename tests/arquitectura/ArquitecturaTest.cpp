@@ -2,6 +2,7 @@
 #include "apoyo/Lugares.h"
 #include "arquitectura/Fuente.h"
 #include "arquitectura/Reglas.h"
+#include "arquitectura/ReglasDeNombres.h"
 
 #include <gtest/gtest.h>
 
@@ -40,6 +41,14 @@ TEST_F(Arquitectura, LasFuentesLlevanLasLetrasEnSuSitio) {
 
 TEST_F(Arquitectura, NingunaFuentePasaDeSeiscientasLineas) {
     EXPECT_EQ(FuentesDemasiadoLargas(fuentes), Infracciones{});
+}
+
+TEST_F(Arquitectura, LosNombresSeEscribenDeUnSoloModo) {
+    EXPECT_EQ(NombresFueraDeEstilo(fuentes), Infracciones{});
+}
+
+TEST_F(Arquitectura, NingunNombreValeParaDosTipos) {
+    EXPECT_EQ(NombresDeDosTipos(fuentes), Infracciones{});
 }
 
 } // namespace

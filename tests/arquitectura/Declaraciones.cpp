@@ -26,6 +26,7 @@ struct Ambito {
     Especie especie = Especie::Espacio;
     std::string nombre{}; ///< of the type
     bool privado = false; ///< what comes now in a type is private
+    bool conClase = true; ///< of an enumeration
 };
 
 /// A statement up to its end or to its first brace: what stands in round or square brackets is left out, but
@@ -167,6 +168,7 @@ private:
     Ambito tipo(const Sentencia& llana) {
         Ambito dentro{Es(llana[0], {"enum"}) ? Ambito::Especie::Enumeracion : Ambito::Especie::Tipo};
         dentro.privado = Es(llana[0], {"class"});
+        dentro.conClase = Lleva(llana, {"class", "struct"});
         auto nombre = std::ranges::find_if(llana, [](const Pieza& pieza) {
             return !Es(pieza, {"class", "struct", "enum"});
         });
@@ -190,7 +192,7 @@ private:
             return; // a comma goes on with the members that a constructor sets
         }
         if (ambito.especie == Ambito::Especie::Enumeracion) {
-            anotar(Clase::Enumerador, llana[0]);
+            anotar(ambito.conClase ? Clase::Enumerador : Clase::Constante, llana[0]);
         } else if (Es(llana[0], {"using"})) {
             const bool abrevia = sentencia_.back().texto == llana[1].texto;
             if (llana.size() == 3 && Es(llana[2], {"="}) && !abrevia &&

@@ -19,10 +19,10 @@ struct Declaracion {
     friend bool operator==(const Declaracion&, const Declaracion&) = default;
 };
 
-/// In the order of the text. A type counts where it is defined, not where it is only announced, and a
-/// function where no class stands before its name. Left out: constructors, operators, friends, public
-/// members, what the bodies of functions declare (but not what their types hold), and `using X = Y::X`, the
-/// short form of a type inside another one.
+/// In the order of the text. The names of a plain `enum` are constants. A type counts where it is defined,
+/// not where it is only announced, and a function where no class stands before its name. Left out:
+/// constructors, operators, friends, public members, what the bodies of functions declare (but not what their
+/// types hold), and `using X = Y::X`, the short form of a type inside another one.
 std::vector<Declaracion> Declaraciones(std::string_view texto);
 
 } // namespace varo::arquitectura

@@ -85,6 +85,12 @@ TEST(Declaraciones, LosEnumeradoresConSinValorYComaFinal) {
               (Textos{"Año.Uno", "Año.Dos", "Año.Tres"}));
 }
 
+TEST(Declaraciones, LosNombresDeUnaEnumeracionSinClaseSonConstantes) {
+    EXPECT_EQ(
+        Hallados("enum Modo : int { uno, dos };\nint F() { enum { tres }; return tres; }", Clase::Constante),
+        (Textos{"Modo.uno", "Modo.dos", "tres"}));
+}
+
 TEST(Declaraciones, LosMetodosSinConstructoresOperadoresNiAmigos) {
     EXPECT_EQ(
         Hallados(
