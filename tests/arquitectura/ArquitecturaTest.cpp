@@ -3,6 +3,7 @@
 #include "arquitectura/Fuente.h"
 #include "arquitectura/Reglas.h"
 #include "arquitectura/ReglasDeNombres.h"
+#include "arquitectura/ReglasDePalabras.h"
 
 #include <gtest/gtest.h>
 
@@ -49,6 +50,15 @@ TEST_F(Arquitectura, LosNombresSeEscribenDeUnSoloModo) {
 
 TEST_F(Arquitectura, NingunNombreValeParaDosTipos) {
     EXPECT_EQ(NombresDeDosTipos(fuentes), Infracciones{});
+}
+
+TEST_F(Arquitectura, LoQuePareceMalYEstaBienLlevaUnaSolaEtiqueta) {
+    EXPECT_EQ(EtiquetasMalEscritas(fuentes), Infracciones{});
+    EXPECT_EQ(EtiquetasMalEscritas(LeerFuentes(prueba::DatosDePrueba())), Infracciones{});
+}
+
+TEST_F(Arquitectura, LosComentariosDelEscritorioNombranAQt) {
+    EXPECT_EQ(ComentariosSinElNombreDeQt(fuentes), Infracciones{});
 }
 
 } // namespace
