@@ -21,14 +21,14 @@ void RuedaAPA::llenar(const std::vector<double>& angulos, Vecino primero) {
     enlazar();
     const auto desde = std::lower_bound(orden_.begin(), orden_.end(), ultimoLado_,
                                         [&](Vecino v, double angulo) { return angulos[v] < angulo; });
-    cabeza_ = desde == orden_.end() ? 0 : static_cast<Lugar>(desde - orden_.begin());
+    cabeza_ = desde == orden_.end() ? 0 : static_cast<LugarEnRueda>(desde - orden_.begin());
 }
 
 void RuedaAPA::enlazar() {
-    const auto cuantos = static_cast<Lugar>(orden_.size());
+    const auto cuantos = static_cast<LugarEnRueda>(orden_.size());
     siguiente_.resize(cuantos);
     anterior_.resize(cuantos);
-    for (Lugar lugar = 0; lugar < cuantos; ++lugar) {
+    for (LugarEnRueda lugar = 0; lugar < cuantos; ++lugar) {
         siguiente_[lugar] = lugar + 1 < cuantos ? lugar + 1 : 0;
         anterior_[lugar] = lugar > 0 ? lugar - 1 : cuantos - 1;
     }
@@ -54,17 +54,17 @@ void RuedaAPA::tomar() {
     cabeza_ = siguiente_[sacado_];
 }
 
-double RuedaAPA::giro(Lugar lugar) const {
+double RuedaAPA::giro(LugarEnRueda lugar) const {
     const double angulo = (*angulos_)[orden_[lugar]];
     return angulo < ultimoLado_ ? 360.0 - (ultimoLado_ - angulo) : angulo - ultimoLado_;
 }
 
 /// From the head on, the turn never falls: both branches of `giro` keep the order of the angles through
 /// rounding. So those that tie with the head stand right behind it.
-RuedaAPA::Lugar RuedaAPA::buscarElSiguiente() const {
+RuedaAPA::LugarEnRueda RuedaAPA::buscarElSiguiente() const {
     const double menor = giro(cabeza_);
-    Lugar elegido = cabeza_;
-    for (Lugar lugar = siguiente_[cabeza_]; lugar != cabeza_ && giro(lugar) == menor;
+    LugarEnRueda elegido = cabeza_;
+    for (LugarEnRueda lugar = siguiente_[cabeza_]; lugar != cabeza_ && giro(lugar) == menor;
          lugar = siguiente_[lugar]) {
         if (orden_[lugar] < orden_[elegido]) {
             elegido = lugar;

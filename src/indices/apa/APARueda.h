@@ -27,20 +27,20 @@ public:
     void tomar();
 
 private:
-    using Lugar = std::uint32_t; ///< a place in `orden_`
+    using LugarEnRueda = std::uint32_t; ///< a place in `orden_`
 
     /// From the last side to a direction (degrees).
-    [[nodiscard]] double giro(Lugar lugar) const;
-    [[nodiscard]] Lugar buscarElSiguiente() const;
+    [[nodiscard]] double giro(LugarEnRueda lugar) const;
+    [[nodiscard]] LugarEnRueda buscarElSiguiente() const;
     void enlazar();
 
     const std::vector<double>* angulos_ = nullptr;
-    std::vector<Vecino> orden_;               ///< by angle, then by row
-    std::vector<Lugar> siguiente_, anterior_; ///< a circular list of those that are left
+    std::vector<Vecino> orden_;                      ///< by angle, then by row
+    std::vector<LugarEnRueda> siguiente_, anterior_; ///< a circular list of those that are left
     std::size_t quedan_ = 0;
-    Lugar cabeza_ = 0;      ///< where the search begins: the first one that is left from the last side on
-    double ultimoLado_ = 0; ///< its direction (degrees)
-    Lugar sacado_ = 0;
+    LugarEnRueda cabeza_ = 0; ///< where the search begins: the first one that is left from the last side on
+    double ultimoLado_ = 0;   ///< its direction (degrees)
+    LugarEnRueda sacado_ = 0;
 };
 
 } // namespace varo
