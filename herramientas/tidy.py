@@ -66,7 +66,7 @@ def olvidar_las_viejas():
 
 
 def unidades(pedidas):
-    salida_de(["cmake", "--preset", "tidy"], cwd=RAIZ)
+    salida_de(["cmake", "--fresh", "--preset", "tidy"], cwd=RAIZ)
     todas = json.loads((RAIZ / "build" / "tidy" / "compile_commands.json").read_text())
     propias = [u for u in todas if Path(u["file"]).relative_to(RAIZ).parts[0] != "build"]
     nombradas = {str(Path(p).resolve()) for p in pedidas}

@@ -110,6 +110,7 @@ private:
 
     [[nodiscard]] int columnaConCabecera(const ColumnaPedida& pedida, const std::string& cabecera) const {
         std::vector<std::string> cabeceras;
+        cabeceras.reserve(static_cast<std::size_t>(rejilla_.Cols()));
         for (int columna = 0; columna < rejilla_.Cols(); ++columna) {
             cabeceras.push_back(rejilla_.TextMatrix(0, columna));
         }
