@@ -246,6 +246,16 @@ private:
                 r.IndAPA, ++numero, [&] { return RotuloAPA(k); },
                 [&] { return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k); });
         }
+        if (const auto exponentes = ValoresDe(r.APAk); !exponentes.empty()) {
+            guardarCentro(exponentes.back());
+        }
+    }
+
+    void guardarCentro(double ultimoExponente) {
+        if (const auto circulo = UltimoCirculoAPA(arboles(), ultimoExponente)) {
+            programa_.sesion.CentroCircX = circulo->CentroCircX;
+            programa_.sesion.CentroCircY = circulo->CentroCircY;
+        }
     }
 
     void poner(Seleccion& seleccion, ReglaDeSeleccion regla, FamiliaConSeleccion familia, double p) const {

@@ -75,6 +75,22 @@ std::vector<Valor> DatosDelVertice(const CeldasSituadas& celdas, int fila, const
     return datos;
 }
 
+/// The side that leads to the next vertex of the boundary.
+void GuardarLado(Sesion& sesion, const Envolvente& envolvente) {
+    const int lado = sesion.NumPuntosPoligono.valor() - 1;
+    sesion.AnguloLado.redimensionarConservando(lado);
+    sesion.AnguloLado(lado) = envolvente.AnguloLado[static_cast<std::size_t>(lado)];
+}
+
+MatrizDinamica<double> EnMatriz(const std::vector<double>& numeros) {
+    MatrizDinamica<double> matriz;
+    matriz.redimensionar(static_cast<int>(numeros.size()) - 1);
+    for (int i = 0; i <= matriz.limite(); ++i) {
+        matriz(i) = numeros[static_cast<std::size_t>(i)];
+    }
+    return matriz;
+}
+
 } // namespace
 
 void ConstruirPoligono(Programa& programa) {
@@ -88,17 +104,19 @@ void ConstruirPoligono(Programa& programa) {
     const CeldasSituadas celdas{rejilla};
     const std::vector<double> x = celdas.columna(columnaX);
     const std::vector<double> y = celdas.columna(sesion.Columnas(papelY).valor());
-    Envolvente envolvente = EnvolverArboles(x, y);
+    const Envolvente envolvente = EnvolverArboles(x, y);
 
     sesion.Poligono.vaciar();
     sesion.NumPuntosPoligono = 0;
     for (const int arbol : envolvente.arboles) {
         const auto i = static_cast<std::size_t>(arbol);
+        if (sesion.NumPuntosPoligono > 0) {
+            GuardarLado(sesion, envolvente);
+        }
         sesion.Poligono.anadir(x[i], y[i], DatosDelVertice(celdas, arbol + 1, sesion, opciones));
         ++sesion.NumPuntosPoligono;
     }
-    sesion.AnguloLado = std::move(envolvente.AnguloLado);
-    sesion.AnguloInterior = std::move(envolvente.AnguloInterior);
+    sesion.AnguloInterior = EnMatriz(envolvente.AnguloInterior);
     OrdenarPor(rejilla, 1);
 }
 

@@ -7,7 +7,8 @@ class Programa;
 
 /// Walks the convex hull of the trees and fills the boundary of the session: Poligono, NumPuntosPoligono,
 /// AnguloLado, AnguloInterior and FactorRadios. The grid is sorted by x on the way and left sorted by its
-/// first field. A cell that is no number throws 13 with its place.
+/// first field. A cell that is no number throws 13 with its place; then the boundary ends there, and
+/// AnguloInterior is still that of the walk before.
 void ConstruirPoligono(Programa& programa);
 
 } // namespace varo

@@ -32,9 +32,12 @@ struct Sesion {
     Entero16 FactorRadios; ///< divisor from the unit of crown radii to metres
     TablaPoligono Poligono;
     Entero16 NumPuntosPoligono;
-    double SupPoligono = 0; ///< plot area, in squared units of the coordinates
-    std::vector<double> AnguloLado;
-    std::vector<double> AnguloInterior;
+    double SupPoligono = 0;            ///< plot area, in squared units of the coordinates
+    MatrizDinamica<double> AnguloLado; ///< direction of each side, degrees clockwise from +y
+    MatrizDinamica<double>
+        AnguloInterior;     ///< at each vertex, degrees; that of the last walk that came to an end
+    double CentroCircX = 0; ///< of the last circle of APA, as the coordinates
+    double CentroCircY = 0;
 
     // Results of the last computation.
     double AbHaActual = 0;   ///< basal area, m2/ha

@@ -3,6 +3,7 @@
 #include "apoyo/Jornada.h"
 #include "data/Hojadedatos.h"
 #include "indices/archivo/FrmCrearArchivo.h"
+#include "map/FrmFormato.h"
 #include "map/FrmMapa.h"
 
 #include <gtest/gtest.h>
@@ -120,6 +121,52 @@ TEST(CorridaIndices, SinColumnaDeTamanoElNSirveYElABFalla) {
     jornada.servicios.esperarFallo(3265);
     jornada.usuario.clic(mapa.mnuIndices);
     EXPECT_TRUE(jornada.servicios.todoPedido());
+}
+
+/// Fields: Arbol, X, Y, RN, RE, RS, RO, Cod, CAP, X2, Y2, Nota. The first pair of coordinates is a triangle
+/// with four trees inside, the second one has all seven on its hull; the crown of the tree 6 is no number.
+Filas TrianguloYHeptagono() {
+    using T = std::string;
+    Filas filas{{T{"Arbol"}, T{"X"}, T{"Y"}, T{"RN"}, T{"RE"}, T{"RS"}, T{"RO"}, T{"Cod"}, T{"CAP"}, T{"X2"},
+                 T{"Y2"}, T{"Nota"}}};
+    const auto arbol = [&](double numero, double x, double y, double x2, double y2) {
+        const Valor norte = numero == 6 ? Valor{T{"mala"}} : Valor{10.0};
+        filas.push_back({numero, x, y, norte, 10.0, 10.0, 10.0, T{"PS"}, 10 * numero, x2, y2, T{"nota"}});
+    };
+    arbol(1, 0, 0, 0, 0);
+    arbol(2, 6, 30, 1, 4);
+    arbol(3, 5, 2, 3, 7);
+    arbol(4, 6, 3, 6, 9);
+    arbol(5, 7, 4, 9, 7);
+    arbol(6, 6, 5, 11, 4);
+    arbol(7, 12, 0, 12, 0);
+    return filas;
+}
+
+TEST(CorridaIndices, TrasUnDibujoQueFallaALaMitadElABSeSaleDeLosAngulosDelAnterior) {
+    Corrida corrida{{"ChAB"}, TrianguloYHeptagono()};
+    auto& sesion = corrida.programa.sesion;
+    EXPECT_EQ(sesion.NumPuntosPoligono, 4);
+    corrida.cambiarOpciones([](OpcionesPrograma&) {});
+    corrida.pedirColumnas();
+    auto& dialogo = corrida.programa.tocar<SelCol4R>();
+    corrida.usuario.clic(dialogo.CmdQuitarTodo);
+    const std::vector<int> columnas{10, 11, 4, 5, 6, 7, 1, 8};
+    for (int papel = 0; papel < 8; ++papel) {
+        corrida.elegirPapel(dialogo, papel, columnas[static_cast<std::size_t>(papel)]);
+    }
+    corrida.usuario.clic(dialogo.CmdDibujar);
+    corrida.servicios.esperarFallo(13);
+    corrida.usuario.clic(corrida.programa.tocar<FrmFormato>().CmdAceptar);
+    EXPECT_EQ(sesion.NumPuntosPoligono, 5) << "los vértices de antes del que falla";
+    EXPECT_EQ(sesion.AnguloLado.limite(), 4)
+        << "los lados que se anduvieron, también el que llega al que falla";
+    EXPECT_EQ(sesion.AnguloInterior.limite(), 2) << "los del triángulo";
+
+    corrida.servicios.esperarFallo(9);
+    corrida.correr();
+    EXPECT_EQ(corrida.servicios.fallos().back().lugar(), "familia ABha");
+    EXPECT_TRUE(corrida.servicios.todoPedido());
 }
 
 TEST(CorridaIndices, UnaRejillaConSoloCabeceraDaVectoresYNingunaFila) {

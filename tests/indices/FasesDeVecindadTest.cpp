@@ -277,6 +277,24 @@ TEST(FasesDeVecindad, ElISCLlevaCuatroDecimales) {
     EXPECT_NE(corrida.guardar().find("\r5\t5\t0,0000\r"), std::string::npos);
 }
 
+TEST(FasesDeVecindad, TrasElAPAQuedaElCentroDelUltimoCirculo) {
+    auto filas = CuadradoConCentro();
+    const std::vector<std::pair<double, double>> sitios{{0, 0}, {2, 1}, {-1, 2}, {-2, -1}, {1, -2}};
+    for (std::size_t i = 0; i < sitios.size(); ++i) {
+        filas[i + 1][1] = sitios[i].first;
+        filas[i + 1][2] = sitios[i].second;
+    }
+    Corrida corrida{filas};
+    corrida.opciones().ChAPA.Value = 1;
+    corrida.barrer(8, "0", "0", "0");
+    corrida.correr();
+    // The first tree, the only one inside, turns about the others in the order of the rows. The last circle
+    // goes through it, (-2, -1) and (1, -2): its centre lies where -2x - y = 2.5 and x - 2y = 2.5.
+    constexpr double redondeo = 1E-14; // m
+    EXPECT_NEAR(corrida.programa.sesion.CentroCircX, -0.5, redondeo);
+    EXPECT_NEAR(corrida.programa.sesion.CentroCircY, -1.5, redondeo);
+}
+
 TEST(FasesDeVecindad, UnaRejillaConSoloCabeceraDaLaCabeceraYNingunaFila) {
     Corrida corrida;
     corrida.pedirIDP();

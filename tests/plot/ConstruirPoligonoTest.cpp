@@ -31,7 +31,12 @@ TEST(ConstruirPoligono, ElCuadradoSeCierraConCincoPuntosYCuatroAngulosRectos) {
     Cuadrado cuadrado;
     const auto& sesion = cuadrado.programa.sesion;
     EXPECT_EQ(sesion.NumPuntosPoligono, 5);
-    EXPECT_EQ(sesion.AnguloInterior, (std::vector<double>{90, 90, 90, 90}));
+    ASSERT_EQ(sesion.AnguloLado.limite(), 3);
+    ASSERT_EQ(sesion.AnguloInterior.limite(), 3);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(sesion.AnguloLado(i), 90.0 * i) << i;
+        EXPECT_EQ(sesion.AnguloInterior(i), 90) << i;
+    }
     EXPECT_EQ(sesion.SupPoligono, 100);
     const std::vector<std::pair<double, double>> vertices{{0, 0}, {0, 10}, {10, 10}, {10, 0}, {0, 0}};
     for (int i = 0; i < 5; ++i) {

@@ -17,6 +17,10 @@ TEST(Sesion, TodoEmpiezaEnCeroOVacio) {
     EXPECT_EQ(sesion.CierresConMapa, 0);
     EXPECT_EQ(sesion.NumPuntosPoligono, 0);
     EXPECT_EQ(sesion.SupPoligono, 0);
+    EXPECT_EQ(sesion.AnguloLado.limite(), -1);
+    EXPECT_EQ(sesion.AnguloInterior.limite(), -1);
+    EXPECT_EQ(sesion.CentroCircX, 0);
+    EXPECT_EQ(sesion.CentroCircY, 0);
 }
 
 TEST(Sesion, ElCierreCuentaLosArchivosQueLlegaronAlFormato) {

@@ -11,15 +11,21 @@ namespace varo {
 
 namespace {
 
+std::vector<VecinosAPA::Fila> ConTamano(const Arboles& arboles) {
+    std::vector<VecinosAPA::Fila> filas;
+    for (std::size_t j = 0; j < arboles.cuantos(); ++j) {
+        if (!arboles.sinTamano(j)) {
+            filas.push_back(static_cast<VecinosAPA::Fila>(j));
+        }
+    }
+    return filas;
+}
+
 class ColumnaAPA {
 public:
     ColumnaAPA(const Arboles& arboles, const ContornoXY& contorno, double k, const DibujoAPA& dibujo)
-        : arboles_{arboles}, contorno_{contorno}, dibujo_{dibujo}, pesos_{arboles, k} {
-        for (std::size_t j = 0; j < arboles.cuantos(); ++j) {
-            if (!arboles.sinTamano(j)) {
-                conTamano_.push_back(static_cast<VecinosAPA::Fila>(j));
-            }
-        }
+        : arboles_{arboles}, contorno_{contorno}, dibujo_{dibujo}, pesos_{arboles, k}, conTamano_{ConTamano(
+                                                                                           arboles)} {
         if (std::all_of(conTamano_.begin(), conTamano_.end(), [&](auto j) { return esLegible(j); })) {
             cercanos_.emplace(pesos_);
         }
@@ -79,6 +85,25 @@ std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contor
                                 const DibujoAPA& dibujo) {
     ColumnaAPA columna{arboles, contorno, k, dibujo};
     return ParaCadaArbol(arboles.cuantos(), [&](Pareja& pareja) { return columna.indice(pareja); });
+}
+
+std::optional<CirculoCircunscrito> UltimoCirculoAPA(const Arboles& arboles, double k) {
+    const PesosAPA pesos{arboles, k};
+    const auto conTamano = ConTamano(arboles);
+    VecinosAPA vecinos;
+    GiroAPA giro;
+    for (auto sujeto = conTamano.rbegin(); sujeto != conTamano.rend(); ++sujeto) {
+        if (arboles.esVertice(*sujeto)) {
+            continue;
+        }
+        Pareja pareja{*sujeto, *sujeto};
+        ReunirVecinos(pesos, conTamano, pareja, vecinos);
+        giro.dar(vecinos, pareja);
+        if (giro.ultimoCirculo()) {
+            return giro.ultimoCirculo();
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace varo

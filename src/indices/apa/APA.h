@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -25,5 +26,9 @@ using DibujoAPA = std::function<void(std::size_t, std::span<const TrazoAPA>)>;
 /// Trees far from a cell are left out of its turn where that changes no bit of it (docs/apa.md).
 std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contorno, double k,
                                 const DibujoAPA& dibujo = {});
+
+/// The last circle that such a column asks for when its turns are over all trees: one of its last tree with a
+/// cell. None when no tree has two neighbours.
+std::optional<CirculoCircunscrito> UltimoCirculoAPA(const Arboles& arboles, double k);
 
 } // namespace varo

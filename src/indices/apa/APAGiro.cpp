@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cassert>
 #include <numeric>
-#include <optional>
 #include <utility>
 
 namespace varo {
@@ -13,6 +12,7 @@ void GiroAPA::dar(const VecinosAPA& vecinos, Pareja& pareja) {
     vecinos_ = &vecinos;
     lados_.clear();
     mayorRadio_ = 0;
+    ultimoCirculo_.reset();
 
     const Vecino primero = masCercano();
     pareja.vecino = vecinos.filas[primero];
@@ -65,7 +65,7 @@ void GiroAPA::probarLosDemas(Vecino primero, Pareja& pareja) {
     while (!rueda_.vacia()) {
         const Vecino q = rueda_.sacar();
         pareja.vecino = filas[q];
-        const CirculoCircunscrito circulo = RadioCircunscrito(xi, yi, x[p], y[p], x[q], y[q]);
+        const auto& circulo = ultimoCirculo_.emplace(RadioCircunscrito(xi, yi, x[p], y[p], x[q], y[q]));
         if (vacio(circulo, p, q)) {
             anadirLado(q);
             mayorRadio_ = std::max(mayorRadio_, circulo.radio);

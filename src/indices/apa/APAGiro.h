@@ -8,6 +8,7 @@
 #include "plot/calculo/Module1.h"
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace varo {
@@ -30,6 +31,8 @@ public:
     [[nodiscard]] const std::vector<LadoAPA>& lados() const { return lados_; }
     /// The radius of the largest of the empty circles by which neighbours were taken (m).
     [[nodiscard]] double mayorRadio() const { return mayorRadio_; }
+    /// The circle that was looked for last, empty or not; none about a single neighbour.
+    [[nodiscard]] const std::optional<CirculoCircunscrito>& ultimoCirculo() const { return ultimoCirculo_; }
 
 private:
     using Vecino = RuedaAPA::Vecino;
@@ -46,6 +49,7 @@ private:
     const VecinosAPA* vecinos_ = nullptr; ///< of the turn that is being made
     std::vector<LadoAPA> lados_;
     double mayorRadio_ = 0;
+    std::optional<CirculoCircunscrito> ultimoCirculo_;
     double mayorDistancia_ = 0; ///< from the subject to a neighbour (m)
 
     std::vector<double> angulo_; ///< of each neighbour, in degrees

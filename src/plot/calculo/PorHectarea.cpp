@@ -18,10 +18,10 @@ Valor SumaAreaBasimetrica(const BaseDatos& base, const std::string& campo, const
 }
 
 double AreaBasimetricaDeBorde(const TablaPoligono& poligono, int columna, int numPuntosPoligono,
-                              std::span<const double> anguloInterior) {
+                              const MatrizDinamica<double>& anguloInterior) {
     double quitar = 0;
     for (int i = 0; i <= numPuntosPoligono - 2; ++i) {
-        const double angulo = anguloInterior[static_cast<std::size_t>(i)];
+        const double angulo = anguloInterior(i);
         quitar = quitar + ANumero(poligono(columna, i)) * (1.0 - angulo / 360.0);
     }
     return quitar;

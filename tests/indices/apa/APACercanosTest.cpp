@@ -26,6 +26,10 @@ literal::Columna Rapida(const Arboles& arboles, const ContornoXY& contorno, doub
                     columna.trazos.push_back({arbol, trazo});
                 }
             });
+        if (const auto circulo = UltimoCirculoAPA(arboles, k)) {
+            columna.CentroCircX = circulo->CentroCircX;
+            columna.CentroCircY = circulo->CentroCircY;
+        }
     });
     columna.fallo = error ? error->numero() : 0;
     return columna;
@@ -40,11 +44,14 @@ void CompararConLaLiteral(const ParcelaAPA& parcela, double k) {
     const literal::Columna hallada = Rapida(arboles, contorno, k);
     if (esperada.fallo != 0) {
         esperada.indices.clear();
+        esperada.CentroCircX = esperada.CentroCircY = 0;
     }
     RC_CLASSIFY(esperada.fallo != 0, "con fallo");
     RC_ASSERT(hallada.fallo == esperada.fallo);
     RC_ASSERT(hallada.trazos == esperada.trazos);
     RC_ASSERT(hallada.indices == esperada.indices);
+    RC_ASSERT(hallada.CentroCircX == esperada.CentroCircX);
+    RC_ASSERT(hallada.CentroCircY == esperada.CentroCircY);
 }
 
 class Azar {

@@ -24,6 +24,7 @@ struct Columna {
     std::vector<double> indices;
     std::vector<Trazo> trazos;
     int fallo = 0;
+    double CentroCircX = 0, CentroCircY = 0; // of the last circle, 0 before there is one
     bool operator==(const Columna&) const = default;
 };
 
@@ -187,6 +188,8 @@ private:
                 }
                 visitado_[b] = true;
                 const auto circulo = RadioCircunscrito(X(i), Y(i), ax_[a_], ay_[a_], ax_[b], ay_[b]);
+                columna_.CentroCircX = circulo.CentroCircX;
+                columna_.CentroCircY = circulo.CentroCircY;
                 if (vacio(i, b, circulo)) {
                     break;
                 }

@@ -58,12 +58,18 @@ TEST(PorHectarea, UnVerticePesaPorSuAnguloInterior) {
     poligono.anadir(0, 0, {Valor{std::string{"PS"}}, Valor{0.8}});
     poligono.anadir(0, 10, {Valor{std::string{"PS"}}, Valor{0.4}});
     poligono.anadir(0, 0, {Valor{std::string{"PS"}}, Valor{0.8}});
-    const std::vector<double> angulos{90, 180};
+    MatrizDinamica<double> angulos;
+    angulos.redimensionar(1);
+    angulos(0) = 90;
+    angulos(1) = 180;
     // 0,8 * 3/4 + 0,4 * 1/2
     EXPECT_DOUBLE_EQ(AreaBasimetricaDeBorde(poligono, 3, 3, angulos), 0.8);
     EXPECT_EQ(FalloDe([&] { AreaBasimetricaDeBorde(poligono, 2, 3, angulos); }), 13)
         << "un código que no es número no se puede sumar";
     EXPECT_EQ(FalloDe([&] { AreaBasimetricaDeBorde(poligono, 4, 3, angulos); }), 9);
+    angulos.redimensionar(0);
+    EXPECT_EQ(FalloDe([&] { AreaBasimetricaDeBorde(poligono, 3, 3, angulos); }), 9)
+        << "un vértice sin ángulo";
 }
 
 TEST(PorHectarea, ElAreaPorHectareaQuitaElBorde) {
