@@ -161,7 +161,7 @@ def de_casillas():
         Caso("casillas_ninguna", base, []),
         Caso("casillas_algunas", base, ["ABj", "Dmax", "Ddom", "APDsum", "APBmax"]),
         Caso("sin_columna_de_tamano", base, ["N"], sin_dap=True),
-        Caso("sin_columna_de_tamano_ab", base, ["N", "AB"], sin_dap=True),
+        Caso("sin_columna_de_tamano_ab", base, ["N", "AB"], sin_dap="cero"),
     ]
 
 
@@ -228,6 +228,8 @@ def trabajo_de(caso):
     for papel in papeles:
         c = columnas.index(papel)
         lineas.append(f"{papel} = {toml(c + 1 if caso.por_numero else cabecera[c])}")
+    if caso.sin_dap == "cero":
+        lineas.append("DAP = 0")
     lineas += ["", "[opciones]", *(f"{clave(nombre)} = {toml(valor)}" for nombre, valor in opciones.items())]
     return "\n".join([*lineas, "", "[salida]", 'resultados = "indices.txt"', ""])
 

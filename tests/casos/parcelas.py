@@ -27,7 +27,7 @@ class Caso:
     por_numero: bool = False  # the job gives grid columns, not headers
     nombres: dict = field(default_factory=dict)  # headers other than the usual ones
     columnas: list = None  # order of the columns, where it is not the usual one
-    sin_dap: bool = False
+    sin_dap: bool = False  # no key for it; "cero": the column of the row numbers
     hoja: str = "Parcela1"
     otra_hoja: bool = False  # another sheet stands before the plot
     primera_fila: int = 0

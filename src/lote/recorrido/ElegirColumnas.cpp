@@ -3,6 +3,7 @@
 #include "basico/Texto.h"
 #include "data/Hojadedatos.h"
 #include "data/SelColumnas.h"
+#include "lote/recorrido/PapelesPedidos.h"
 #include "lote/trabajo/ClavesDePapeles.h"
 #include "options/OpcionesPrograma.h"
 #include "shell/VAROMAIN.h"
@@ -57,6 +58,7 @@ public:
             pulsar(dialogo.CmdDAP, *dap);
         }
         exigirCompletas(dialogo);
+        exigirDAP();
         puesto_.hacer({"columnas"}, [&] { puesto_.usuario.clic(dialogo.CmdDibujar); });
     }
 
@@ -139,6 +141,19 @@ private:
         puesto_.rechazar({"columnas"}, faltan.empty()
                                            ? "el programa no da por completa la selección de columnas"
                                            : "faltan papeles: " + Enumerar(faltan));
+    }
+
+    /// The dialog draws without a stem size, and the indices would take the row number for it.
+    void exigirDAP() const {
+        if (puesto_.trabajo.columna(claveDAP) != nullptr) {
+            return;
+        }
+        const auto piden = PidenDAP(puesto_.trabajo, opciones_);
+        if (!piden.empty()) {
+            puesto_.rechazar({"columnas"}, std::string{"falta columnas.DAP, "} +
+                                               (piden.size() == 1 ? "lo pide " : "lo piden ") +
+                                               Enumerar(piden));
+        }
     }
 
     PuestoDeTrabajo& puesto_;

@@ -103,6 +103,22 @@ TEST(ElegirColumnas, UnaColumnaSinDatosEnLaRejillaEsUnAviso) {
                           "la rejilla"});
 }
 
+TEST(ElegirColumnas, SinDAPSeRechazaLoQueLoPide) {
+    const std::string sinDAP = sinArbol + "Indice = 'Arbol'\n";
+    EXPECT_EQ(Error(sinDAP, "ChN = 1\n"), "");
+    EXPECT_EQ(Error(sinDAP, "ChN = 1\nChDmed = 1\n"), "columnas: falta columnas.DAP, lo pide ChDmed");
+    EXPECT_EQ(Error(sinDAP, "ChAPA = 1\nChAB = 1\n"), "columnas: falta columnas.DAP, lo piden ChAB, ChAPA");
+}
+
+TEST(ElegirColumnas, SinResultadosNoHaceFaltaElDAP) {
+    const ParcelaDePrueba parcela;
+    TextoDeTrabajo texto;
+    texto.columnas = sinArbol + "Indice = 'Arbol'\n";
+    texto.opciones = "ChAB = 1\n";
+    texto.salida = "";
+    EXPECT_EQ(Correr(parcela, texto).error, "");
+}
+
 TEST(ElegirColumnas, UnaCabeceraConLaPalabraCodigoNoQuitaElSitioAlCodigo) {
     auto filas = CuadradoConCentro();
     filas[0][0] = std::string{"Código"};
