@@ -10,6 +10,7 @@
 #include <cassert>
 #include <charconv>
 #include <initializer_list>
+#include <map>
 #include <optional>
 #include <tuple>
 
@@ -78,6 +79,7 @@ public:
         for (const auto& pedida : puesto_.trabajo.opciones) {
             pedidas.push_back({&pedida, &control(pedida)});
         }
+        exigirUnaPorGrupo(pedidas);
         std::stable_sort(pedidas.begin(), pedidas.end(), [this](const auto& a, const auto& b) {
             return orden(*a.control) < orden(*b.control);
         });
@@ -102,6 +104,29 @@ private:
             }
         }
         puesto_.rechazar(pedida.lugar(), "clave desconocida: no hay ningún control con ese nombre");
+    }
+
+    /// Two options of one group that are to be on: the one that is chosen last would win.
+    void exigirUnaPorGrupo(const std::vector<OpcionConControl>& pedidas) const {
+        std::map<const GrupoOpciones*, const OpcionPedida*> encendidas;
+        for (const auto& [pedida, control] : pedidas) {
+            if (control->tipo() != TipoControl::Opcion || pedida->valor != ValorPedido{true}) {
+                continue;
+            }
+            const auto [otra, esPrimera] =
+                encendidas.emplace(&static_cast<const Opcion*>(control)->grupo(), pedida);
+            if (!esPrimera) {
+                rechazarDosDeUnGrupo(*otra->second, *pedida);
+            }
+        }
+    }
+
+    [[noreturn]] void rechazarDosDeUnGrupo(const OpcionPedida& una, const OpcionPedida& otra) const {
+        const auto& [primera, segunda] =
+            std::minmax(una, otra, [](const auto& a, const auto& b) { return a.linea < b.linea; });
+        puesto_.rechazar(segunda.lugar(), "está encendida y " + primera.lugar().clave +
+                                              ", de su mismo grupo, también (línea " +
+                                              std::to_string(primera.linea) + "): deje encendida una sola");
     }
 
     /// By group; inside it the fields of a sweep stand together, first, last, step.

@@ -132,6 +132,27 @@ TEST(AplicarOpciones, ElOrdenEsElDeUnaPersonaYNoElDelArchivo) {
     EXPECT_EQ(orden, esperado);
 }
 
+TEST(AplicarOpciones, DosOpcionesDeUnGrupoEncendidasSeRechazanConSusLineas) {
+    EXPECT_EQ(
+        ErrorAlAplicar("OptMDIA = true\nChN = 1\nOptCMDIA = true\n"),
+        Error("OptCMDIA",
+              "está encendida y opciones.OptMDIA, de su mismo grupo, también (línea 14): deje encendida una "
+              "sola",
+              primeraLinea + 2));
+    EXPECT_EQ(
+        ErrorAlAplicar("ChDRActivar = 1\n\"OptBAF(1)\" = true\n\"OptNumFijo(1)\" = true\n"),
+        Error(
+            "OptNumFijo(1)",
+            "está encendida y opciones.OptBAF(1), de su mismo grupo, también (línea 15): deje encendida una "
+            "sola",
+            primeraLinea + 2));
+    EXPECT_EQ(ErrorAlAplicar("OptMDIA = true\nOptDAP = true\nOptCMDIA = false\n"), "");
+    EXPECT_EQ(
+        ErrorAlAplicar("ChIDPActivar = 1\nChDRActivar = 1\n\"OptBAF(0)\" = true\n\"OptNumFijo(1)\" = true\n"),
+        "")
+        << "cada familia tiene su grupo";
+}
+
 TEST(AplicarOpciones, ElRadioMedioHaceCirculosAunqueElArchivoPidaAntesLaElipse) {
     EXPECT_EQ(ErrorAlAplicar("OptElipse = true\nOptRM = true\n"),
               Error("OptElipse", "está inhabilitado: con OptRM las copas son círculos"));
