@@ -79,7 +79,14 @@ def de_gnumeric():
                            check=True, stderr=subprocess.DEVNULL)
 
 
+def de_gnumeric_con_otra_pagina():
+    """From a workbook for Excel 97 Gnumeric keeps the code page, UTF-16, and writes plain texts in bytes all the same."""
+    subprocess.run(["ssconvert", "-T", "Gnumeric_Excel:excel_biff7", CARPETA / "gnumeric_97.xls",
+                    CARPETA / "gnumeric_95_de_97.xls"], check=True, stderr=subprocess.DEVNULL)
+
+
 if __name__ == "__main__":
     CARPETA.mkdir(exist_ok=True)
     de_gnumeric()
+    de_gnumeric_con_otra_pagina()
     subprocess.run(["perl", AQUI / "libro_de_perl.pl", CARPETA / "perl.xls"], check=True)

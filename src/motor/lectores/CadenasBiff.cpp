@@ -1,5 +1,6 @@
 #include "motor/lectores/CadenasBiff.h"
 
+#include "basico/ErrorEjecucion.h"
 #include "basico/Texto.h"
 
 #include <algorithm>
@@ -30,11 +31,29 @@ std::string DeUtf16(std::u16string_view unidades) {
     return texto;
 }
 
+std::string TomarLetras(LectorContinuo& lector, std::size_t cuantas) {
+    std::string bytes;
+    while (bytes.size() < cuantas) {
+        bytes.push_back(static_cast<char>(lector.u8()));
+    }
+    return bytes;
+}
+
 void AnadirUnidades(std::u16string& unidades, Bytes bytes, bool ancho) {
     const std::size_t paso = ancho ? 2 : 1;
     for (std::size_t lugar = 0; lugar + paso <= bytes.size(); lugar += paso) {
         unidades.push_back(ancho ? LeerU16(bytes, lugar) : LeerU8(bytes, lugar));
     }
+}
+
+std::string DeBytesUtf16(const std::string& bytes) {
+    std::u16string unidades;
+    AnadirUnidades(unidades, std::as_bytes(std::span{bytes}), true);
+    return DeUtf16(unidades);
+}
+
+bool TieneNulos(const std::string& bytes) {
+    return bytes.find('\0') != std::string::npos;
 }
 
 /// Each CONTINUE that a text enters begins with the width of the characters in it.
@@ -64,6 +83,14 @@ bool LectorContinuo::acabado() const {
 
 std::size_t LectorContinuo::restoDelFragmento() const {
     return actual_ < fragmentos_.size() ? fragmentos_[actual_].size() - lugar_ : 0;
+}
+
+std::size_t LectorContinuo::resto() const {
+    std::size_t resto = restoDelFragmento();
+    for (std::size_t i = actual_ + 1; i < fragmentos_.size(); ++i) {
+        resto += fragmentos_[i].size();
+    }
+    return resto;
 }
 
 Bytes LectorContinuo::tomar(std::size_t cuantos) {
@@ -103,9 +130,10 @@ void LectorContinuo::saltar(std::size_t cuantos) {
 }
 
 std::string CadenasBiff::leer(LectorContinuo& lector, std::size_t longitud) const {
-    if (!unicode_) {
-        return leerBytes(lector, longitud);
-    }
+    return unicode_ ? leerUnicode(lector, longitud) : deBytes(TomarLetras(lector, longitud));
+}
+
+std::string CadenasBiff::leerUnicode(LectorContinuo& lector, std::size_t longitud) {
     // Some writers leave the flags of an empty text out.
     if (longitud == 0 && lector.acabado()) {
         return {};
@@ -121,27 +149,46 @@ std::string CadenasBiff::leer(LectorContinuo& lector, std::size_t longitud) cons
 
 std::string CadenasBiff::leerCorta(LectorContinuo& lector) const {
     const std::size_t longitud = lector.u8();
-    return leer(lector, longitud);
+    return leerUltima(lector, longitud);
 }
 
 std::string CadenasBiff::leerLarga(LectorContinuo& lector) const {
     const std::size_t longitud = lector.u16();
-    return leer(lector, longitud);
+    return leerUltima(lector, longitud);
+}
+
+std::string CadenasBiff::leerUltima(LectorContinuo& lector, std::size_t longitud) const {
+    if (unicode_ || pagina_ != paginaUtf16) {
+        return leer(lector, longitud);
+    }
+    const bool cabeElDoble = lector.resto() == 2 * longitud;
+    const bool esPar = longitud % 2 == 0;
+    const std::string bytes = TomarLetras(lector, longitud);
+    // The length counts characters: as many bytes would be left over, or a character would be cut in two.
+    if (esPar ? cabeElDoble : TieneNulos(bytes)) {
+        return DeBytesUtf16(bytes + TomarLetras(lector, longitud));
+    }
+    return deBytes(bytes);
 }
 
 /// Code pages other than UTF-16 are read as Windows-1252, the page of the western workbooks of that time:
-/// plain letters and digits are the same in all of them.
-std::string CadenasBiff::leerBytes(LectorContinuo& lector, std::size_t longitud) const {
-    std::string bytes;
-    while (bytes.size() < longitud) {
-        bytes.push_back(static_cast<char>(lector.u8()));
-    }
-    if (pagina_ != paginaUtf16) {
+/// plain letters and digits are the same in all of them. Texts of one byte a letter have no null byte, and
+/// those of two have one in each letter of western Europe.
+std::string CadenasBiff::deBytes(const std::string& bytes) const {
+    if (pagina_ != paginaUtf16 || bytes.size() % 2 != 0) {
         return DeWindows1252(bytes);
     }
-    std::u16string unidades;
-    AnadirUnidades(unidades, std::as_bytes(std::span{bytes}), true);
-    return DeUtf16(unidades);
+    if (TieneNulos(bytes)) {
+        return DeBytesUtf16(bytes);
+    }
+    if (std::ranges::any_of(bytes, [](char c) { return static_cast<unsigned char>(c) > 0x7F; })) {
+        throw ErrorMotor{
+            fallo::formatoNoReconocido,
+            "no se sabe en qué letras está el texto «" + DeWindows1252(bytes) +
+                "» de un libro de Excel 5.0/95 que dice usar UTF-16 y no siempre lo usa: guárdelo "
+                "como libro de Excel 97-2003"};
+    }
+    return DeWindows1252(bytes);
 }
 
 } // namespace varo

@@ -21,6 +21,8 @@ public:
     void saltar(std::size_t cuantos);
 
     [[nodiscard]] bool acabado() const;
+    /// Bytes left in all pieces.
+    [[nodiscard]] std::size_t resto() const;
     /// Bytes left in the current piece.
     [[nodiscard]] std::size_t restoDelFragmento() const;
     /// Takes bytes of the current piece, no more than are left in it.
@@ -33,20 +35,25 @@ private:
 };
 
 /// How a workbook writes its texts: BIFF8 in Unicode, BIFF5 in bytes of its code page. All come as UTF-8.
+///
+/// A BIFF5 workbook that gives UTF-16 as its page may hold both: plain letters in one byte each, other texts
+/// in two. Each text tells by its length and its null bytes; one that may be either throws ErrorMotor.
 class CadenasBiff {
 public:
     explicit CadenasBiff(bool unicode) : unicode_{unicode} {}
 
     void ponerPagina(int paginaDeCodigos) { pagina_ = paginaDeCodigos; }
 
-    /// A text of this length, in characters.
+    /// A text of this length, in characters. More of the record may follow it.
     std::string leer(LectorContinuo& lector, std::size_t longitud) const;
-    /// A text behind its 8-bit or 16-bit length.
+    /// A text behind its 8-bit or 16-bit length, the last thing in its record, but for its letter formats.
     std::string leerCorta(LectorContinuo& lector) const;
     std::string leerLarga(LectorContinuo& lector) const;
 
 private:
-    [[nodiscard]] std::string leerBytes(LectorContinuo& lector, std::size_t longitud) const;
+    [[nodiscard]] std::string leerUltima(LectorContinuo& lector, std::size_t longitud) const;
+    [[nodiscard]] static std::string leerUnicode(LectorContinuo& lector, std::size_t longitud);
+    [[nodiscard]] std::string deBytes(const std::string& bytes) const;
 
     bool unicode_;
     int pagina_ = 1252;

@@ -97,6 +97,35 @@ TEST(CadenasBiff, LosBytesSiguenLaPaginaDeCodigos) {
     EXPECT_EQ("ñ", EnPagina(0x8001, "\1\xF1"sv));
 }
 
+TEST(CadenasBiff, EnLaPaginaUtf16CadaTextoDiceSuAnchura) {
+    EXPECT_EQ("Arbol", EnPagina(1200, "\5Arbol"sv));
+    EXPECT_EQ("Rm", EnPagina(1200, "\2Rm"sv));
+    EXPECT_EQ("pi\u00F1", EnPagina(1200, "\3pi\xF1"sv)) << "una longitud impar no es de dos en dos";
+    EXPECT_EQ("Año", EnPagina(1200, "\6A\0\xF1\0o\0"sv)) << "la longitud cuenta bytes";
+    EXPECT_EQ("Año", EnPagina(1200, "\3A\0\xF1\0o\0"sv)) << "la longitud cuenta letras";
+    EXPECT_EQ("Añoj", EnPagina(1200, "\4A\0\xF1\0o\0j\0"sv));
+    EXPECT_EQ("中央", EnPagina(1200, "\2\x2D\x4E\x2E\x59"sv));
+    EXPECT_EQ("", EnPagina(1200, "\0"sv));
+}
+
+TEST(CadenasBiff, EnLaPaginaUtf16UnTextoQuePuedeSerDosCosasSeRechaza) {
+    EXPECT_TRUE(
+        FallaCon(fallo::formatoNoReconocido, "el texto «año1»", [] { EnPagina(1200, "\4a\xF1o1"sv); }));
+}
+
+TEST(CadenasBiff, EnLaPaginaUtf16UnTextoCortadoEstaDanado) {
+    EXPECT_TRUE(
+        FallaCon(fallo::archivoDanado, "un texto está cortado", [] { EnPagina(1200, "\3A\0\xF1"sv); }));
+}
+
+TEST(CadenasBiff, EnLaPaginaUtf16LoQueSigueAUnNombreNoCuenta) {
+    auto lector = Lector({"AreaZona"sv});
+    CadenasBiff cadenas{false};
+    cadenas.ponerPagina(1200);
+    EXPECT_EQ("Area", cadenas.leer(lector, 4));
+    EXPECT_EQ("Zona", cadenas.leer(lector, 4));
+}
+
 TEST(CadenasBiff, UnosBytesQueFaltanEstanDanados) {
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, "un texto está cortado", [] { EnPagina(1252, "\5abc"sv); }));
 }

@@ -47,6 +47,10 @@ TEST(LectorXlsDeProgramas, UnLibroParaExcel97) {
     EXPECT_EQ(DeGnumeric(), LineasDeLibro("gnumeric_97.xls"));
 }
 
+TEST(LectorXlsDeProgramas, UnLibroDeExcel97GuardadoParaExcel95) {
+    EXPECT_EQ(DeGnumeric(), LineasDeLibro("gnumeric_95_de_97.xls"));
+}
+
 TEST(LectorXlsDeProgramas, UnLibroParaLosDos) {
     EXPECT_EQ(DeGnumeric(), LineasDeLibro("gnumeric_95_y_97.xls"));
 }
