@@ -152,14 +152,19 @@ TEST(VaroLote, VariosALaVezDanLosMismosBytesYElMismoOrden) {
 }
 
 TEST(VaroLote, UnAvisoVaALosErroresYNoCambiaElEstado) {
-    const ParcelaDePrueba parcela;
+    auto filas = CuadradoConCentro();
+    for (auto& fila : filas) {
+        fila.insert(fila.end() - 1, Valor{}); // a column without cells before the last one
+    }
+    filas[0][9] = std::string{"Vacía"};
+    const ParcelaDePrueba parcela{filas};
     TextoDeTrabajo texto;
     texto.columnas = "X = 2\nY = 3\nN = 4\nE = 5\nS = 6\nO = 7\nIndice = 1\nCodigo = 8\nDAP = 10\n";
     const auto trabajo = Escribir(parcela, "uno", texto);
     const auto final = VaroLote({trabajo});
     EXPECT_EQ(final.estado, 0);
     EXPECT_EQ(final.errores,
-              trabajo + ": línea 12: columnas.DAP: aviso: la columna 10 («Nota») no tiene datos en la "
+              trabajo + ": línea 12: columnas.DAP: aviso: la columna 10 («Vacía») no tiene datos en la "
                         "rejilla\n");
 }
 

@@ -87,6 +87,15 @@ private:
 
     void pulsar(Boton& boton, const ColumnaPedida& pedida) {
         const int columna = columnaDeLaRejilla(pedida);
+        if (columna == rejilla_.Cols() - 1) {
+            // The grid has no cells of the last field, while the queries read it: half of the indices would
+            // be worked out with nothing.
+            puesto_.rechazar(pedida.lugar(),
+                             "la columna " + std::to_string(columna) + " («" +
+                                 rejilla_.TextMatrix(0, columna) +
+                                 "») es la última de la hoja, y los datos de la última no se leen: "
+                                 "añada otra columna detrás, aunque solo tenga cabecera");
+        }
         if (rejilla_.ColWidth(columna) == 0) {
             puesto_.avisar(pedida.lugar(), "la columna " + std::to_string(columna) + " («" +
                                                rejilla_.TextMatrix(0, columna) +

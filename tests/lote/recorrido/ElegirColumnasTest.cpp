@@ -91,16 +91,51 @@ TEST(ElegirColumnas, LaMismaColumnaDosVecesEsUnMensajeDelPrograma) {
               "línea 12: columnas.DAP: el programa avisa: «Has introducido dos veces la misma columna»");
 }
 
+/// CuadradoConCentro with another column before the last one, of which only the header has a text.
+Filas ConColumnaVacia() {
+    auto filas = CuadradoConCentro();
+    for (auto& fila : filas) {
+        fila.insert(fila.end() - 1, Valor{});
+    }
+    filas[0][9] = std::string{"Vacía"};
+    return filas;
+}
+
 TEST(ElegirColumnas, UnaColumnaSinDatosEnLaRejillaEsUnAviso) {
-    const ParcelaDePrueba parcela;
+    const ParcelaDePrueba parcela{ConColumnaVacia()};
     TextoDeTrabajo texto;
-    texto.columnas = sinArbol + "Indice = 'Arbol'\nDAP = 'Nota'\n"; // the last field
+    texto.columnas = sinArbol + "Indice = 'Arbol'\nDAP = 'Vacía'\n";
     const auto fin = Correr(parcela, texto);
     EXPECT_EQ(fin.error, "");
     EXPECT_EQ(fin.avisos,
               std::vector{parcela.ruta("trabajo.toml").string() +
-                          ": línea 12: columnas.DAP: aviso: la columna 10 («Nota») no tiene datos en "
+                          ": línea 12: columnas.DAP: aviso: la columna 10 («Vacía») no tiene datos en "
                           "la rejilla"});
+}
+
+TEST(ElegirColumnas, LaUltimaColumnaDeLaHojaSeRechazaConElRemedio) {
+    const std::string razon =
+        "la columna 10 («Nota») es la última de la hoja, y los datos de la última no se leen: "
+        "añada otra columna detrás, aunque solo tenga cabecera";
+    EXPECT_EQ(Error(sinArbol + "Indice = 'Arbol'\nDAP = 'Nota'\n"), "línea 12: columnas.DAP: " + razon);
+    EXPECT_EQ(Error(sinArbol + "Indice = 10\n"), "línea 11: columnas.Indice: " + razon);
+}
+
+TEST(ElegirColumnas, UnaCabeceraDetrasHaceLegibleLaUltimaColumna) {
+    auto filas = CuadradoConCentro();
+    for (auto& fila : filas) {
+        fila.pop_back(); // the girths are the last column now
+    }
+    TextoDeTrabajo texto;
+    texto.opciones = "ChDmax = 1\n";
+    EXPECT_EQ(Correr(ParcelaDePrueba{filas}, texto).estado, Estado::Rechazado);
+    filas[0].emplace_back(std::string{"fin"});
+    const ParcelaDePrueba parcela{filas};
+    ASSERT_EQ(Correr(parcela, texto).error, "");
+    // Girths of 100, 80, 60, 40 and 50.
+    EXPECT_EQ(LeerArchivo(parcela.ruta("indices.txt")),
+              "N\xBAOrden\tN\xBA"
+              "Arbol\tdi/dmax\r\n1\t1\t1,00\r2\t2\t0,80\r3\t3\t0,60\r4\t4\t0,40\r5\t5\t0,50\r\r\n");
 }
 
 TEST(ElegirColumnas, SinDAPSeRechazaLoQueLoPide) {
