@@ -261,6 +261,25 @@ TEST(SelColumnas, ElTamanoRepetidoVuelveAHabilitarSuBoton) {
     EXPECT_EQ(eleccion.programa.sesion.ColumnaDAP, 2);
 }
 
+TEST(SelColumnas, ElTamanoRepetidoNoTocaDibujarYSoloLaUltimaLineaLoHabilita) {
+    Eleccion eleccion;
+    eleccion.elegirTodos(); // the last line is the code, on the column 8
+    auto& dialogo = eleccion.cuatroRadios();
+    eleccion.servicios.esperarMensaje(repetida);
+    eleccion.elegirDAP(dialogo, 3);
+    EXPECT_EQ(eleccion.servicios.mensajes().back(),
+              (ServiciosPreparados::Mensaje{repetida, "Columna repetida", 48}));
+    EXPECT_EQ(dialogo.List1.ListCount(), 8);
+    EXPECT_FALSE(dialogo.CmdDAP.Enabled()) << "la línea repetida no era la última";
+    EXPECT_TRUE(dialogo.CmdDibujar.Enabled()) << "sin prueba de que esté completa";
+    EXPECT_EQ(eleccion.programa.sesion.ColumnaDAP, 3) << "el número escrito queda";
+    // The test that follows counts the line that is not there.
+    dialogo.List1.Selected(0, true);
+    eleccion.usuario.clic(dialogo.CmdQuitar);
+    eleccion.elegirPapel(dialogo, 0, 2);
+    EXPECT_FALSE(dialogo.CmdDibujar.Enabled());
+}
+
 TEST(SelColumnas, SinElegirEnLaRejillaSirveLaColumnaCero) {
     Eleccion eleccion;
     auto& dialogo = eleccion.cuatroRadios();
@@ -295,6 +314,25 @@ TEST(SelColumnas, SinCodigoLaLineaDelCodigoDesapareceAlActivarse) {
     EXPECT_EQ(eleccion.programa.sesion.UltimaColumna, 6);
     EXPECT_FALSE(dialogo.botonCodigo().Enabled());
     EXPECT_TRUE(dialogo.CmdDibujar.Enabled()) << "conserva su estado hasta la próxima comprobación";
+}
+
+TEST(SelColumnas, CompletarseAlActivarseSinElCodigoNoHabilitaDibujar) {
+    const auto ninguno = static_cast<Opcion OpcionesPrograma::*>(nullptr);
+    for (const auto tipo : {ninguno, &OpcionesPrograma::Opt2D, &OpcionesPrograma::OptRM}) {
+        Eleccion eleccion{HojaAncha(12), tipo};
+        auto& dialogo = dynamic_cast<SelColumnas&>(*eleccion.programa.activa());
+        const int codigo = PapelCodigo(dialogo.papeles().copa);
+        for (int papel = 0; papel < codigo; ++papel) {
+            eleccion.elegirPapel(dialogo, papel, papel + 1);
+        }
+        EXPECT_FALSE(dialogo.CmdDibujar.Enabled()) << dialogo.nombre();
+        eleccion.cambiarOpciones(
+            [&](OpcionesPrograma& opciones) { eleccion.usuario.clic(opciones.ChCodigo); });
+        eleccion.pedirColumnas();
+        EXPECT_EQ(eleccion.programa.sesion.UltimaColumna, codigo - 1) << dialogo.nombre();
+        EXPECT_EQ(dialogo.List1.ListCount(), codigo) << "todos los papeles que hacen falta";
+        EXPECT_FALSE(dialogo.CmdDibujar.Enabled()) << dialogo.nombre();
+    }
 }
 
 TEST(SelColumnas, UnCampoQueDiceCodigoPasaPorLaLineaDelCodigo) {
