@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <cstdlib>
 #include <functional>
 #include <vector>
 
@@ -33,8 +34,10 @@ public:
     /// The widget of a control, null when it has none.
     [[nodiscard]] QWidget* widgetDe(const Control& control) const { return vistas_.widgetDe(control); }
 
-    /// Told when the program is over. Ends the event loop.
-    std::function<void()> alTerminar = [] { QCoreApplication::exit(); };
+    /// Told when the program is over. Ends the event loop, with status 1 after a fatal fault.
+    std::function<void()> alTerminar = [this] {
+        QCoreApplication::exit(programa_.conFalloFatal() ? EXIT_FAILURE : EXIT_SUCCESS);
+    };
 
     bool eventFilter(QObject* objeto, QEvent* suceso) override;
 

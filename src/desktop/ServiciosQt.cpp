@@ -118,6 +118,14 @@ int ServiciosQt::mensaje(const std::string& texto, const std::string& titulo, in
 }
 
 void ServiciosQt::fallo(const ErrorEjecucion& error) {
+    mostrarFallo(error, QString{});
+}
+
+void ServiciosQt::falloFatal(const ErrorEjecucion& error) {
+    mostrarFallo(error, QStringLiteral("\n\nEl programa se cerrará."));
+}
+
+void ServiciosQt::mostrarFallo(const ErrorEjecucion& error, const QString& cierre) const {
     QMessageBox caja{QMessageBox::Critical, "VARO 1.0", QString{}, QMessageBox::NoButton, padre()};
     caja.setObjectName("CajaDeFallo");
     caja.setTextFormat(Qt::PlainText);
@@ -127,6 +135,7 @@ void ServiciosQt::fallo(const ErrorEjecucion& error) {
     if (!error.lugar().empty()) {
         texto += QString::fromUtf8("\n\nDónde: ") + AQt(error.lugar());
     }
+    texto += cierre;
     caja.setText(texto);
     caja.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto* const aceptar = caja.addButton("Aceptar", QMessageBox::AcceptRole);

@@ -18,6 +18,7 @@ public:
 
     int mensaje(const std::string& texto, const std::string& titulo, int opciones) override;
     void fallo(const ErrorEjecucion& error) override;
+    void falloFatal(const ErrorEjecucion& error) override;
     void elegirArchivo(DialogoAbrir& dialogo) override;
     std::optional<Fuente> elegirFuente(const Fuente& actual) override;
     std::optional<Color> elegirColor(Color actual) override;
@@ -25,6 +26,7 @@ public:
 
 private:
     [[nodiscard]] QWidget* padre() const;
+    void mostrarFallo(const ErrorEjecucion& error, const QString& cierre) const;
 
     QWidget* ventana_ = nullptr;
     QFontMetricsF medidas_;

@@ -63,6 +63,8 @@ public:
     virtual int mensaje(const std::string& texto, const std::string& titulo, int opciones) = 0;
     /// Tells a person of the run-time fault that ended their act.
     virtual void fallo(const ErrorEjecucion& error) = 0;
+    /// Tells of the fault after which the program ends. Where nobody looks on it is told like any other.
+    virtual void falloFatal(const ErrorEjecucion& error) { fallo(error); }
     /// Lets a person choose a file: sets `FileName`, to the empty text when they cancel.
     virtual void elegirArchivo(DialogoAbrir& dialogo) = 0;
     /// Nothing when the person cancels, for both.

@@ -207,7 +207,8 @@ std::exception_ptr Ventanas::correr(const std::function<void()>& acto) {
         acto();
     } catch (const ErrorFatal& error) {
         terminado_ = true;
-        servicios_.fallo(error);
+        conFalloFatal_ = true;
+        servicios_.falloFatal(error);
     } catch (const ErrorEjecucion& error) {
         servicios_.fallo(error);
     } catch (...) {

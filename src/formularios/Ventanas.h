@@ -85,6 +85,8 @@ public:
 
     /// True once the main window is closed, or after a fatal fault.
     [[nodiscard]] bool terminado() const { return terminado_; }
+    /// True after a fatal fault: the process ends with a status that says so.
+    [[nodiscard]] bool conFalloFatal() const { return conFalloFatal_; }
 
     /// Called for each window that is loaded, and for each that is about to go.
     std::function<void(Formulario&)> alCargar;
@@ -120,6 +122,7 @@ private:
     Control* foco_ = nullptr;
     int profundidad_ = 0;
     bool terminado_ = false;
+    bool conFalloFatal_ = false;
 };
 
 } // namespace varo

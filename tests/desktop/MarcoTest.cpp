@@ -155,10 +155,13 @@ TEST_F(ElMarco, UnArchivoQueNoSeEntiendeSeDiceYElProgramaTermina) {
     });
     contestador.preparar([](QWidget& caja) {
         EXPECT_EQ(caja.objectName(), "CajaDeFallo");
+        EXPECT_TRUE(dynamic_cast<QMessageBox&>(caja).text().endsWith(
+            QString::fromUtf8("\n\nEl programa se cerrará.")));
         PulsarBoton(caja, "Aceptar");
     });
     clicMenu("VAROMAIN", "mnuAbrir");
     EXPECT_EQ(terminaciones, 1);
+    EXPECT_TRUE(programa.conFalloFatal());
     EXPECT_TRUE(programa.terminado());
 }
 

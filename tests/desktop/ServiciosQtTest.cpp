@@ -197,6 +197,17 @@ TEST_F(LaPlataforma, UnFalloSeDespachaConEscape) {
     EXPECT_EQ(contestador.cajas().size(), 1U);
 }
 
+TEST_F(LaPlataforma, TrasUnFalloFatalSeDiceQueElProgramaSeCierra) {
+    contestador.pulsar("Aceptar");
+    servicios.falloFatal(ErrorEjecucion{3343, "No es un libro"});
+    contestador.pulsar("Aceptar");
+    servicios.fallo(ErrorEjecucion{3343, "No es un libro"});
+    ASSERT_EQ(contestador.cajas().size(), 2U);
+    const std::string comun = "Error 3343 en tiempo de ejecución:\n\nNo es un libro";
+    EXPECT_EQ(contestador.cajas()[0].texto.toStdString(), comun + "\n\nEl programa se cerrará.");
+    EXPECT_EQ(contestador.cajas()[1].texto.toStdString(), comun);
+}
+
 // --- Files ---
 
 TEST_F(LaPlataforma, ElDialogoDeArchivosLlevaSuTituloYSusDosFiltros) {

@@ -584,6 +584,7 @@ TEST(Ventanas, UnFalloFatalSeCuentaYTerminaElPrograma) {
     banco.programa.atender([] { throw ErrorFatal{ErrorEjecucion{3343}}; });
     EXPECT_TRUE(banco.servicios.todoPedido());
     EXPECT_TRUE(banco.programa.terminado());
+    EXPECT_TRUE(banco.programa.conFalloFatal());
 }
 
 TEST(Ventanas, UnMensajeInesperadoSaleDelActoYLasDescargadasSeVanIgual) {

@@ -51,7 +51,7 @@ TEST(Programa, UnArchivoQueNoSePuedeLeerSeDiceYElProgramaAcabaSinPreguntar) {
     manos.tecla("Return");
     EXPECT_TRUE(varo.waitForFinished(plazo));
     EXPECT_EQ(varo.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(varo.exitCode(), 0);
+    EXPECT_EQ(varo.exitCode(), 1);
 }
 
 } // namespace varo::prueba

@@ -333,6 +333,7 @@ TEST(VAROMAIN, SalirDescargaLasHijasYAcaba) {
     jornada.servicios.esperarMensaje(preguntaDeSalida, mensaje::respondeSi);
     jornada.usuario.cerrar(jornada.marco());
     EXPECT_TRUE(jornada.programa.terminado());
+    EXPECT_FALSE(jornada.programa.conFalloFatal());
     EXPECT_EQ(jornada.programa.cargada<Hojadedatos>(), nullptr);
     EXPECT_EQ(jornada.programa.cargada<FrmMapa>(), nullptr);
     EXPECT_EQ(jornada.programa.cargada<SelCol4R>(), nullptr);
