@@ -12,7 +12,9 @@
 #include <QPushButton>
 #include <QStringList>
 
+#include <algorithm>
 #include <cassert>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -60,6 +62,15 @@ std::vector<BotonDeMensaje> Botones(int opciones) {
     }
 }
 
+using BotonesYRespuestas = std::vector<std::pair<QAbstractButton*, int>>;
+
+/// What Escape and the close box press: No where there is one, as nothing happens then, else the last one.
+BotonesYRespuestas::const_iterator BotonDeSalida(const BotonesYRespuestas& botones) {
+    const auto no = std::find_if(botones.begin(), botones.end(),
+                                 [](const auto& boton) { return boton.second == mensaje::respondeNo; });
+    return no == botones.end() ? std::prev(no) : no;
+}
+
 /// Takes pairs of name and pattern, "Hoja de cálculo (*.xls)|*.xls|...", and leaves the names: Qt reads the
 /// pattern from their brackets.
 QString Filtros(const std::string& filtro) {
@@ -101,20 +112,20 @@ int ServiciosQt::mensaje(const std::string& texto, const std::string& titulo, in
     QMessageBox caja{Icono(opciones), AQt(titulo), AQt(texto), QMessageBox::NoButton, padre()};
     caja.setTextFormat(Qt::PlainText);
     caja.setObjectName("CajaDeMensaje");
-    std::vector<std::pair<QAbstractButton*, int>> botones;
+    BotonesYRespuestas botones;
     for (const auto& boton : Botones(opciones)) {
         botones.emplace_back(caja.addButton(QString::fromUtf8(boton.leyenda), boton.papel), boton.respuesta);
     }
     caja.setDefaultButton(qobject_cast<QPushButton*>(botones.front().first));
-    const bool tieneCancelar = botones.back().second == mensaje::respondeCancelar || botones.size() == 1;
-    caja.setEscapeButton(tieneCancelar ? botones.back().first : nullptr);
+    const auto salida = BotonDeSalida(botones);
+    caja.setEscapeButton(salida->first);
     caja.exec();
     for (const auto& [boton, respuesta] : botones) {
         if (caja.clickedButton() == boton) {
             return respuesta;
         }
     }
-    return botones.back().second;
+    return salida->second;
 }
 
 void ServiciosQt::fallo(const ErrorEjecucion& error) {

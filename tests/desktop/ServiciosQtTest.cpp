@@ -25,7 +25,7 @@ namespace {
 /// What each set of buttons, by its options, answers.
 using Respuestas = std::vector<std::pair<int, int>>;
 
-const Respuestas respuestasAlSalir{{48, 1}, {21, 2}, {36, 7}, {67, 2}};
+const Respuestas respuestasAlSalir{{48, 1}, {21, 2}, {36, 7}, {67, 7}};
 
 class LaPlataforma : public testing::Test {
 protected:
