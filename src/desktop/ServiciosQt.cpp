@@ -1,6 +1,7 @@
 #include "desktop/ServiciosQt.h"
 
 #include "desktop/Texto.h"
+#include "sistema/ArchivoEntero.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -189,6 +190,10 @@ std::optional<Color> ServiciosQt::elegirColor(Color actual) {
 
 float ServiciosQt::anchoTexto(const std::string& texto) {
     return static_cast<float>(medidas_.horizontalAdvance(AQt(texto)) * twipsPorPunto);
+}
+
+std::unique_ptr<ArchivoNuevo> ServiciosQt::crearArchivo(const std::string& ruta) {
+    return std::make_unique<ArchivoEntero>(ruta);
 }
 
 } // namespace varo

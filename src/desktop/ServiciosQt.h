@@ -23,6 +23,7 @@ public:
     std::optional<Fuente> elegirFuente(const Fuente& actual) override;
     std::optional<Color> elegirColor(Color actual) override;
     float anchoTexto(const std::string& texto) override;
+    std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override;
 
 private:
     [[nodiscard]] QWidget* padre() const;

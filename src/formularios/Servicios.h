@@ -4,6 +4,7 @@
 #include "basico/ErrorEjecucion.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -50,6 +51,20 @@ struct Fuente {
 /// A colour in the layout 0x00BBGGRR.
 using Color = std::int32_t;
 
+/// A file that is being written. It takes its place whole with `publicar`; until then what stood there stays
+/// as it is, and without it nothing is left behind.
+class ArchivoNuevo {
+public:
+    ArchivoNuevo() = default;
+    ArchivoNuevo(const ArchivoNuevo&) = delete;
+    ArchivoNuevo& operator=(const ArchivoNuevo&) = delete;
+    virtual ~ArchivoNuevo() = default;
+
+    virtual void escribir(const std::string& bytes) = 0;
+    /// Call once, with all written.
+    virtual void publicar() = 0;
+};
+
 /// The platform of the windows: the desktop implements it with its toolkit, tests and jobs with prepared
 /// answers.
 class Servicios {
@@ -72,6 +87,9 @@ public:
     virtual std::optional<Color> elegirColor(Color actual) = 0;
     /// Width of a text in twips, in the font of the windows.
     virtual float anchoTexto(const std::string& texto) = 0;
+    /// Begins the file that is to stand at `ruta`. This, and each step of the writing, throws the fault
+    /// whose description tells a person what was not written and why.
+    virtual std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) = 0;
 };
 
 } // namespace varo

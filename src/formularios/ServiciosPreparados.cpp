@@ -79,4 +79,8 @@ float ServiciosPreparados::anchoTexto(const std::string& texto) {
     return twipsPorLetra * static_cast<float>(Longitud(texto));
 }
 
+std::unique_ptr<ArchivoNuevo> ServiciosPreparados::crearArchivo(const std::string& ruta) {
+    throw SinRespuestaPreparada{"nadie preparó la escritura de " + ruta};
+}
+
 } // namespace varo

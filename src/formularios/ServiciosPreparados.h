@@ -4,6 +4,7 @@
 #include "formularios/Servicios.h"
 
 #include <deque>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -71,6 +72,8 @@ public:
     std::optional<Fuente> elegirFuente(const Fuente& actual) override;
     std::optional<Color> elegirColor(Color actual) override;
     float anchoTexto(const std::string& texto) override;
+    /// Throws: whoever writes files says how.
+    std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override;
 
 private:
     struct Respuesta {

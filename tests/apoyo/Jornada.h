@@ -10,9 +10,11 @@
 #include "options/OpcionesPrograma.h"
 #include "shell/Programa.h"
 #include "shell/VAROMAIN.h"
+#include "sistema/ArchivoEntero.h"
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -28,11 +30,19 @@ using Filas = std::vector<std::vector<Valor>>;
 /// RE, RS, RO, Cod, CAP, Nota.
 Filas CuadradoConCentro();
 
+/// Prepared answers, and files as the programs write them.
+struct ServiciosDePrueba : ServiciosPreparados {
+    std::function<std::unique_ptr<ArchivoNuevo>(const std::string&)> crear = [](const std::string& ruta) {
+        return std::make_unique<ArchivoEntero>(ruta);
+    };
+    std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override { return crear(ruta); }
+};
+
 struct Jornada {
     Jornada();
 
     CarpetaTemporal carpeta;
-    ServiciosPreparados servicios;
+    ServiciosDePrueba servicios;
     Programa programa{servicios};
     Usuario usuario{programa};
 

@@ -15,7 +15,7 @@ using Salas = std::set<std::string_view>;
 
 const Salas cimientos{"basico", "formularios", "motor", "lienzo"};
 const Salas programa{"shell", "data", "options", "map", "plot", "indices"};
-const Salas conPlataforma{"desktop", "lote"};
+const Salas conPlataforma{"desktop", "lote", "sistema"};
 
 /// What computes: plain values in, plain values out.
 constexpr std::array<std::string_view, 4> calculo{"plot/calculo/", "indices/independientes/",
@@ -30,8 +30,11 @@ bool PuedeConocer(const std::string& quien, const std::string& aQuien) {
     if (quien == aQuien) {
         return true;
     }
+    if (quien == "sistema") {
+        return aQuien == "basico" || aQuien == "formularios";
+    }
     if (conPlataforma.contains(aQuien)) {
-        return false;
+        return aQuien == "sistema" && conPlataforma.contains(quien);
     }
     if (conPlataforma.contains(quien)) {
         return true;

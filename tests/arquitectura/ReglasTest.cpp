@@ -48,21 +48,26 @@ TEST(Reglas, UnIncludeQueNoExisteYUnaCarpetaDesconocidaSeDicen) {
 TEST(Reglas, LasFlechasVanEnUnSoloSentido) {
     EXPECT_EQ(FlechasProhibidas({{"motor/A.h", "#include \"basico/B.h\"\n#include \"motor/C.h\"\n"},
                                  {"data/A.h", "#include \"motor/B.h\"\n#include \"options/C.h\"\n"},
-                                 {"lote/A.h", "#include \"data/B.h\"\n#include \"basico/C.h\"\n"}}),
+                                 {"sistema/A.h", "#include \"formularios/B.h\"\n"},
+                                 {"desktop/A.h", "#include \"sistema/B.h\"\n"},
+                                 {"lote/A.h", "#include \"data/B.h\"\n#include \"sistema/C.h\"\n"}}),
               Lineas{});
     EXPECT_EQ(FlechasProhibidas({{"basico/A.h", "#include \"motor/B.h\"\n"},
                                  {"formularios/A.h", "#include \"motor/B.h\"\n"},
                                  {"lienzo/A.h", "#include \"map/B.h\"\n"},
-                                 {"data/A.h", "#include \"lote/B.h\"\n"},
+                                 {"data/A.h", "#include \"lote/B.h\"\n#include \"sistema/C.h\"\n"},
+                                 {"sistema/A.h", "#include \"lote/B.h\"\n#include \"data/C.h\"\n"},
                                  {"desktop/A.h", "#include \"lote/B.h\"\n"}}),
               (Lineas{"basico/A.h no puede conocer motor/B.h", "formularios/A.h no puede conocer motor/B.h",
                       "lienzo/A.h no puede conocer map/B.h", "data/A.h no puede conocer lote/B.h",
-                      "desktop/A.h no puede conocer lote/B.h"}));
+                      "data/A.h no puede conocer sistema/C.h", "sistema/A.h no puede conocer lote/B.h",
+                      "sistema/A.h no puede conocer data/C.h", "desktop/A.h no puede conocer lote/B.h"}));
 }
 
-TEST(Reglas, FueraDeDesktopYLoteSoloEntranCabecerasDeCpp) {
+TEST(Reglas, FueraDeDesktopLoteYSistemaSoloEntranCabecerasDeCpp) {
     EXPECT_EQ(CabecerasAjenas({{"plot/A.h", "#include <charconv>\n#include <fstream>\n"},
                                {"desktop/A.h", "#include <QWidget>\n"},
+                               {"sistema/A.h", "#include <unistd.h>\n"},
                                {"lote/A.h", "#include <toml++/toml.h>\n#include <CLI/CLI.hpp>\n"}}),
               Lineas{});
     EXPECT_EQ(CabecerasAjenas({{"plot/A.h", "#include <QWidget>\n#include <toml++/toml.h>\n"},

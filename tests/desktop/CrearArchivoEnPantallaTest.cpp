@@ -160,6 +160,36 @@ TEST_F(CrearArchivoEnPantalla, CancelarLaPreguntaEscribeComoSi) {
     EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), indices);
 }
 
+TEST_F(CrearArchivoEnPantalla, EscaparDeLaPreguntaOCerrarlaDejaElArchivoComoEstaba) {
+    clicArchivo("viejo.txt");
+    contestador.tecla(Qt::Key_Escape);
+    clic("FrmCrearArchivo", "CmdAceptar");
+    contestador.preparar([](QWidget& caja) { caja.close(); });
+    clic("FrmCrearArchivo", "CmdAceptar");
+    EXPECT_EQ(contestador.cajas().size(), 2U);
+    EXPECT_TRUE(alaVista("FrmCrearArchivo"));
+    EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), "lo de antes");
+}
+
+TEST_F(CrearArchivoEnPantalla, UnArchivoDeSoloLecturaSeDiceEnLaUltimaCaja) {
+    std::filesystem::permissions(carpeta / "viejo.txt", std::filesystem::perms::owner_read);
+    clicArchivo("viejo.txt");
+    contestador.pulsar(QString::fromUtf8("Sí"));
+    for (int caja = 0; caja < 4; ++caja) {
+        contestador.pulsar("Aceptar");
+    }
+    clic("FrmCrearArchivo", "CmdAceptar");
+    ASSERT_EQ(contestador.cajas().size(), 5U);
+    const CajaVista& ultima = contestador.cajas()[4];
+    const auto ruta = std::filesystem::current_path() / "viejo.txt";
+    EXPECT_EQ(ultima.texto.toStdString(), "No se ha escrito «" + ruta.string() +
+                                              "»: es de solo lectura. El archivo anterior queda como "
+                                              "estaba.");
+    EXPECT_EQ(ultima.titulo, "Archivo no escrito");
+    EXPECT_EQ(ultima.icono, QMessageBox::Critical);
+    EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), "lo de antes");
+}
+
 TEST_F(CrearArchivoEnPantalla, EscaparSeVaSinEscribirNada) {
     Escribir(nombre(), "nuevo.txt");
     QTest::keyClick(&nombre(), Qt::Key_Escape);

@@ -32,6 +32,9 @@ public:
     std::optional<Fuente> elegirFuente(const Fuente& /*actual*/) override { return std::nullopt; }
     std::optional<Color> elegirColor(Color /*actual*/) override { return std::nullopt; }
     float anchoTexto(const std::string& /*texto*/) override { return 0; }
+    std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& /*ruta*/) override {
+        RC_FAIL("nadie escribe un archivo aquí");
+    }
 };
 
 /// One thing that a person tries: which control, and what with it.

@@ -4,42 +4,33 @@
 #include "basico/Texto.h"
 
 #include <filesystem>
-#include <system_error>
 
 namespace varo {
 
 void ArchivoDeTexto::abrir(const std::string& ruta) {
-    const std::filesystem::path camino{ruta};
-    if (camino.filename().string().find_first_of("*?\"<>|") != std::string::npos) {
-        throw ErrorEjecucion{fallo::nombreDeArchivo}.en("archivo «" + ruta + "»");
+    const std::string nombre = std::filesystem::path{ruta}.filename().string();
+    if (nombre.find_first_of("*?\"<>|") != std::string::npos) {
+        throw ErrorEjecucion{fallo::nombreDeArchivo,
+                             "No se ha escrito «" + ruta + "»: su nombre no puede llevar * ? \" < > |"};
     }
-    std::error_code error;
-    if (!std::filesystem::is_directory(camino.parent_path(), error)) {
-        throw ErrorEjecucion{fallo::rutaNoEncontrada}.en("archivo «" + ruta + "»");
-    }
-    archivo_.open(camino, std::ios::binary | std::ios::trunc);
-    if (!archivo_.is_open()) {
-        throw ErrorEjecucion{fallo::accesoAlArchivo}.en("archivo «" + ruta + "»");
-    }
+    archivo_ = servicios_.crearArchivo(ruta);
 }
 
 void ArchivoDeTexto::Print(const std::string& linea) {
-    if (!archivo_.is_open()) {
+    if (!archivo_) {
         throw ErrorEjecucion{fallo::nombreDeArchivo};
     }
-    if (!(archivo_ << AWindows1252(linea) << "\r\n")) {
-        throw ErrorEjecucion{fallo::discoLleno};
-    }
+    const bool antes = entero_;
+    entero_ = false;
+    archivo_->escribir(AWindows1252(linea) + "\r\n");
+    entero_ = antes;
 }
 
 void ArchivoDeTexto::cerrar() {
-    if (!archivo_.is_open()) {
-        return;
+    if (archivo_ && entero_) {
+        archivo_->publicar();
     }
-    archivo_.close();
-    if (archivo_.fail()) {
-        throw ErrorEjecucion{fallo::discoLleno};
-    }
+    archivo_.reset();
 }
 
 } // namespace varo

@@ -1,6 +1,7 @@
 #include "indices/archivo/FrmCrearArchivo.h"
 
 #include "basico/Saltando.h"
+#include "data/Hojadedatos.h"
 #include "indices/archivo/ArchivoDeTexto.h"
 #include "indices/archivo/TextoResultados.h"
 #include "shell/Programa.h"
@@ -12,7 +13,9 @@ namespace varo {
 
 namespace {
 
-constexpr char separador = static_cast<char>(std::filesystem::path::preferred_separator);
+namespace fs = std::filesystem;
+
+constexpr char separador = static_cast<char>(fs::path::preferred_separator);
 constexpr int rutaDeRedNoValida = 64;
 
 } // namespace
@@ -61,23 +64,43 @@ std::string FrmCrearArchivo::rutaElegida() const {
     return ruta + TxtLista.Text();
 }
 
-/// Runs one statement of the writing under its trap: a bad file name is told, any fault is passed over.
-void FrmCrearArchivo::sentencia(const std::function<void()>& acto) {
-    const auto fallado = Saltando(acto);
+/// Runs one statement of the writing under its trap: a bad file name is told, any fault is passed over and
+/// handed back.
+std::optional<ErrorEjecucion> FrmCrearArchivo::sentencia(const std::function<void()>& acto) {
+    auto fallado = Saltando(acto);
     if (!fallado) {
-        return;
+        return fallado;
     }
     programa_.fallosAlGuardar.push_back(*fallado);
     if (fallado->numero() == fallo::nombreDeArchivo || fallado->numero() == rutaDeRedNoValida) {
         programa_.servicios().mensaje(TxtLista.Text() + " no es un nombre correcto", "Archivo incorrecto",
                                       mensaje::critico);
     }
+    return fallado;
+}
+
+void FrmCrearArchivo::abrir(ArchivoDeTexto& archivo, const std::string& ruta) const {
+    const auto* const hoja = programa_.cargada<Hojadedatos>();
+    std::error_code ninguno;
+    if (hoja != nullptr && fs::equivalent(ruta, hoja->Data1.DatabaseName(), ninguno)) {
+        throw ErrorEjecucion{fallo::permisoDenegado,
+                             "No se ha escrito «" + ruta + "»: es la parcela que está abierta"};
+    }
+    archivo.abrir(ruta);
+}
+
+void FrmCrearArchivo::decirNoEscrito(const ErrorEjecucion& causa, const std::string& ruta) const {
+    std::error_code sinAcceso;
+    const bool quedaElAnterior = fs::is_regular_file(ruta, sinAcceso);
+    programa_.servicios().mensaje(causa.descripcion() + "." +
+                                      (quedaElAnterior ? " El archivo anterior queda como estaba." : ""),
+                                  "Archivo no escrito", mensaje::critico);
 }
 
 void FrmCrearArchivo::CmdAceptar_Click() {
     const std::string ruta = rutaElegida();
     std::error_code sinAcceso;
-    if (!TxtLista.Text().empty() && std::filesystem::exists(ruta, sinAcceso)) {
+    if (!TxtLista.Text().empty() && fs::exists(ruta, sinAcceso)) {
         const int respuesta = programa_.servicios().mensaje(
             TxtLista.Text() + " ya existe. ¿Desea escribir sobre él?", "El archivo ya existe",
             mensaje::siNoCancelar + mensaje::informacion);
@@ -88,20 +111,27 @@ void FrmCrearArchivo::CmdAceptar_Click() {
     MousePointer = relojDeArena;
     programa_.fallosAlGuardar.clear();
     const TextoResultados texto{programa_};
-    ArchivoDeTexto archivo;
+    ArchivoDeTexto archivo{programa_.servicios()};
     std::string cabecera;
     std::string filas;
-    sentencia([&] { archivo.abrir(ruta); });
+    std::optional<ErrorEjecucion> noEscrito;
+    const auto delArchivo = [&](const std::function<void()>& acto) {
+        const auto fallado = sentencia(acto);
+        noEscrito = noEscrito ? noEscrito : fallado;
+    };
+    delArchivo([&] { abrir(archivo, ruta); });
     texto.componerCabecera(cabecera, [this](const auto& acto) { sentencia(acto); });
     texto.componerFilas(filas, [this](const auto& acto) { sentencia(acto); });
-    sentencia([&] { archivo.Print(cabecera); });
-    sentencia([&] { archivo.Print(filas); });
+    delArchivo([&] { archivo.Print(cabecera); });
+    delArchivo([&] { archivo.Print(filas); });
+    delArchivo([&] { archivo.cerrar(); });
     sentencia([&] { programa_.descargar(*this); });
     MousePointer = punteroNormal;
-    sentencia([&] {
-        programa_.servicios().mensaje(ruta + " fue creado correctamente", "Creado archivo", mensaje::aceptar);
-    });
-    sentencia([&] { archivo.cerrar(); });
+    // Meant: the farewell comes whatever has failed; who has no file is told so behind it.
+    programa_.servicios().mensaje(ruta + " fue creado correctamente", "Creado archivo", mensaje::aceptar);
+    if (noEscrito) {
+        decirNoEscrito(*noEscrito, ruta);
+    }
 }
 
 } // namespace varo

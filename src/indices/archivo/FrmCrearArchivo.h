@@ -7,10 +7,12 @@
 #include "formularios/ListasDeArchivos.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace varo {
 
+class ArchivoDeTexto;
 class Programa;
 
 class FrmCrearArchivo : public Formulario {
@@ -30,12 +32,14 @@ public:
     void DrvLista_Change();
     void CmdCancelar_Click();
     /// Writes the file. A statement that fails is passed over and the next one runs; the faults stay in
-    /// Programa::fallosAlGuardar.
+    /// Programa::fallosAlGuardar. When no file came of it, the last message says why.
     void CmdAceptar_Click();
 
 private:
     [[nodiscard]] std::string rutaElegida() const;
-    void sentencia(const std::function<void()>& acto);
+    std::optional<ErrorEjecucion> sentencia(const std::function<void()>& acto);
+    void abrir(ArchivoDeTexto& archivo, const std::string& ruta) const;
+    void decirNoEscrito(const ErrorEjecucion& causa, const std::string& ruta) const;
 
     Programa& programa_;
 };

@@ -1,13 +1,14 @@
 #include "lote/recorrido/EscribirResultados.h"
 
 #include "indices/archivo/FrmCrearArchivo.h"
-#include "lote/recorrido/ArchivoEntero.h"
 #include "map/FrmMapa.h"
 
 #include <algorithm>
 #include <cassert>
+#include <filesystem>
 #include <fstream>
 #include <string>
+#include <system_error>
 
 namespace varo {
 
@@ -20,13 +21,34 @@ int ColumnasDe(const std::filesystem::path& resultados) {
     return static_cast<int>(std::count(cabecera.begin(), cabecera.end(), '\t')) + 1;
 }
 
+namespace fs = std::filesystem;
+
+/// Makes the folder of the file when it is missing, and hands it back.
+fs::path CarpetaDe(const fs::path& ruta) {
+    const fs::path carpeta = ruta.has_parent_path() ? ruta.parent_path() : fs::path{"."};
+    std::error_code error;
+    fs::create_directories(carpeta, error);
+    if (!fs::is_directory(carpeta, error)) {
+        throw ErrorEjecucion{fallo::accesoAlArchivo,
+                             "No se puede crear la carpeta «" + carpeta.string() + "»"};
+    }
+    return carpeta;
+}
+
 /// Names the file in the dialog and accepts it. The writing passes over its faults but records them; the
 /// first one is thrown here.
-void Guardar(PuestoDeTrabajo& puesto, const ArchivoEntero& archivo) {
+void Guardar(PuestoDeTrabajo& puesto, const fs::path& ruta) {
     auto& dialogo = puesto.programa.tocar<FrmCrearArchivo>();
-    dialogo.DirLista.Path(archivo.carpeta().string());
-    puesto.usuario.escribir(dialogo.TxtLista, archivo.nombre().string());
-    puesto.servicios.esperarMensaje(archivo.provisional().string() + " fue creado correctamente");
+    const fs::path carpeta = CarpetaDe(ruta);
+    const std::string nombre = ruta.filename().string();
+    dialogo.DirLista.Path(carpeta.string());
+    puesto.usuario.escribir(dialogo.TxtLista, nombre);
+    std::error_code sinAcceso;
+    if (fs::exists(carpeta / nombre, sinAcceso)) {
+        puesto.servicios.esperarMensaje(nombre + " ya existe. ¿Desea escribir sobre él?",
+                                        mensaje::respondeSi);
+    }
+    puesto.servicios.esperarMensaje((carpeta / nombre).string() + " fue creado correctamente");
     try {
         puesto.usuario.clic(dialogo.CmdAceptar);
     } catch (const MensajeInesperado&) {
@@ -37,6 +59,7 @@ void Guardar(PuestoDeTrabajo& puesto, const ArchivoEntero& archivo) {
     if (!puesto.programa.fallosAlGuardar.empty()) {
         throw ErrorEjecucion{puesto.programa.fallosAlGuardar.front()};
     }
+    puesto.servicios.publicarArchivo();
 }
 
 } // namespace
@@ -51,10 +74,8 @@ int EscribirResultados(PuestoDeTrabajo& puesto, const SalidaPedida& salida) {
     puesto.hacer(
         {"salida.resultados", salida.linea},
         [&] {
-            ArchivoEntero archivo{salida.ruta};
-            Guardar(puesto, archivo);
-            columnas = ColumnasDe(archivo.provisional());
-            archivo.publicar();
+            Guardar(puesto, salida.ruta);
+            columnas = ColumnasDe(salida.ruta);
         },
         Estado::ErrorDeArchivo);
     return columnas;

@@ -1,8 +1,9 @@
-// The platform of a job: prepared answers, and the one message box that does not end a job.
+// The platform of a job: prepared answers, the one message box that does not end a job, and its file.
 #pragma once
 
 #include "formularios/ServiciosPreparados.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,13 @@ public:
     /// The warnings since the last call, each text once.
     std::vector<std::string> recogerAvisos();
 
+    /// The file waits for `publicarArchivo`: a fault that the window passes over ends a job.
+    std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override;
+    /// Puts the last file in its place.
+    void publicarArchivo();
+
 private:
+    std::shared_ptr<ArchivoNuevo> archivo_;
     std::vector<std::string> avisos_;
 };
 

@@ -106,10 +106,115 @@ TEST(FrmCrearArchivo, ElComodinEsUnMalNombreYAunAsiSeDespide) {
         guardado.servicios.esperarMensaje(malo);
     }
     guardado.servicios.esperarMensaje(guardado.carpeta.archivo("*.txt") + " fue creado correctamente");
+    guardado.servicios.esperarMensaje("No se ha escrito «" + guardado.carpeta.archivo("*.txt") +
+                                      "»: su nombre no puede llevar * ? \" < > |.");
     guardado.usuario.clic(guardado.dialogo().CmdAceptar);
     EXPECT_TRUE(guardado.servicios.todoPedido());
     EXPECT_EQ(guardado.programa.fallosAlGuardar.size(), 3U);
     EXPECT_FALSE(std::filesystem::exists(guardado.carpeta.archivo("*.txt")));
+}
+
+// --- What was not written ---
+
+/// A name under which no file can be opened: both prints fail for want of one.
+void EsperarSinAbrir(Guardado& guardado, const std::string& nombre, const std::string& porque) {
+    guardado.usuario.escribir(guardado.dialogo().TxtLista, nombre);
+    if (std::filesystem::exists(guardado.carpeta.archivo(nombre)) && !nombre.empty()) {
+        guardado.servicios.esperarMensaje(nombre + " ya existe. ¿Desea escribir sobre él?",
+                                          mensaje::respondeSi);
+    }
+    guardado.servicios.esperarMensaje(nombre + " no es un nombre correcto");
+    guardado.servicios.esperarMensaje(nombre + " no es un nombre correcto");
+    guardado.servicios.esperarMensaje(guardado.carpeta.archivo(nombre) + " fue creado correctamente");
+    guardado.servicios.esperarMensaje("No se ha escrito «" + guardado.carpeta.archivo(nombre) +
+                                      "»: " + porque);
+    guardado.usuario.clic(guardado.dialogo().CmdAceptar);
+    EXPECT_TRUE(guardado.servicios.todoPedido());
+    EXPECT_EQ(guardado.servicios.mensajes().back().titulo, "Archivo no escrito");
+    EXPECT_EQ(guardado.servicios.mensajes().back().opciones, mensaje::critico);
+}
+
+TEST(FrmCrearArchivo, SinNombreLaUltimaCajaDiceQueNoSeHaEscrito) {
+    Guardado guardado;
+    EsperarSinAbrir(guardado, "", "falta el nombre del archivo.");
+}
+
+TEST(FrmCrearArchivo, ConElNombreDeUnaCarpetaLaUltimaCajaLoDice) {
+    Guardado guardado;
+    std::filesystem::create_directory(guardado.carpeta.archivo("sub"));
+    EsperarSinAbrir(guardado, "sub", "es una carpeta.");
+}
+
+TEST(FrmCrearArchivo, EnUnaCarpetaQueYaNoEstaLaUltimaCajaLoDice) {
+    Guardado guardado;
+    EsperarSinAbrir(guardado, "no_esta/indices.txt", "no existe su carpeta.");
+    EXPECT_EQ(guardado.programa.fallosAlGuardar.front().numero(), 76);
+}
+
+TEST(FrmCrearArchivo, UnArchivoDeSoloLecturaQuedaComoEstaba) {
+    Guardado guardado;
+    const std::string fijo = guardado.carpeta.archivo("fijo.txt");
+    std::ofstream{fijo} << "fijo";
+    std::filesystem::permissions(fijo, std::filesystem::perms::owner_read);
+    EsperarSinAbrir(guardado, "fijo.txt", "es de solo lectura. El archivo anterior queda como estaba.");
+    EXPECT_EQ(guardado.programa.fallosAlGuardar.front().numero(), 75);
+    EXPECT_EQ(LeerArchivo(fijo), "fijo");
+}
+
+TEST(FrmCrearArchivo, LaParcelaAbiertaNoPuedeSerElArchivoDeResultados) {
+    Guardado guardado;
+    const std::string antes = LeerArchivo(guardado.carpeta.archivo("parcela.xls"));
+    EsperarSinAbrir(guardado, "parcela.xls",
+                    "es la parcela que está abierta. El archivo anterior queda como estaba.");
+    EXPECT_EQ(guardado.programa.fallosAlGuardar.front().numero(), 70);
+    EXPECT_EQ(LeerArchivo(guardado.carpeta.archivo("parcela.xls")), antes);
+    // By another of its names neither.
+    guardado.pedir();
+    std::filesystem::create_symlink("parcela.xls", guardado.carpeta.archivo("enlace.txt"));
+    EsperarSinAbrir(guardado, "enlace.txt",
+                    "es la parcela que está abierta. El archivo anterior queda como estaba.");
+    EXPECT_EQ(guardado.programa.fallosAlGuardar.front().numero(), 70);
+    EXPECT_EQ(LeerArchivo(guardado.carpeta.archivo("parcela.xls")), antes);
+}
+
+/// A file on a disk that is full from a byte on; one that is full when all is to be put on it, too.
+class ArchivoEnDiscoLleno : public ArchivoNuevo {
+public:
+    ArchivoEnDiscoLleno(std::string ruta, std::size_t caben) : ruta_{std::move(ruta)}, caben_{caben} {}
+    void escribir(const std::string& bytes) override {
+        escritos_ += bytes.size();
+        if (escritos_ > caben_) {
+            lleno();
+        }
+    }
+    void publicar() override { lleno(); }
+
+private:
+    [[noreturn]] void lleno() const {
+        throw ErrorEjecucion{fallo::discoLleno, "No se ha escrito «" + ruta_ + "»: disco lleno"};
+    }
+    std::string ruta_;
+    std::size_t caben_;
+    std::size_t escritos_ = 0;
+};
+
+TEST(FrmCrearArchivo, ConElDiscoLlenoSeDespideYLaUltimaCajaDiceLaVerdad) {
+    const std::vector<std::pair<std::size_t, std::size_t>> casos{{0, 2}, {40, 1}, {1000, 1}};
+    for (const auto& [caben, fallos] : casos) {
+        Guardado guardado;
+        guardado.servicios.crear = [cuantos = caben](const std::string& ruta) {
+            return std::make_unique<ArchivoEnDiscoLleno>(ruta, cuantos);
+        };
+        guardado.servicios.esperarMensaje(guardado.carpeta.archivo("indices.txt") +
+                                          " fue creado correctamente");
+        guardado.servicios.esperarMensaje("No se ha escrito «" + guardado.carpeta.archivo("indices.txt") +
+                                          "»: disco lleno.");
+        guardado.usuario.escribir(guardado.dialogo().TxtLista, "indices.txt");
+        guardado.usuario.clic(guardado.dialogo().CmdAceptar);
+        EXPECT_TRUE(guardado.servicios.todoPedido());
+        EXPECT_EQ(guardado.programa.fallosAlGuardar.size(), fallos) << caben;
+        EXPECT_FALSE(std::filesystem::exists(guardado.carpeta.archivo("indices.txt")));
+    }
 }
 
 TEST(FrmCrearArchivo, UnaCasillaEncendidaTrasLaCorridaNoTieneVectorYSePasaPorAlto) {

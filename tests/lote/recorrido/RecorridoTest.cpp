@@ -244,7 +244,8 @@ TEST(Recorrido, UnaSalidaQueNoSePuedeEscribirEsUnErrorDeArchivoYNoDejaNada) {
     fs::create_directory(parcela.ruta("indices.txt"));
     parcela.escribir("archivo", "");
     const std::vector<std::pair<std::string, std::string>> casos{
-        {"indices.txt", "Error 75: No se puede escribir en «" + parcela.ruta("indices.txt").string() + "»"},
+        {"indices.txt",
+         "Error 75: No se ha escrito «" + parcela.ruta("indices.txt").string() + "»: es una carpeta"},
         {"archivo/indices.txt",
          "Error 75: No se puede crear la carpeta «" + parcela.ruta("archivo").string() + "»"},
     };
