@@ -1,4 +1,5 @@
 #include "lote/Lote.h"
+#include "sistema/Senales.h"
 
 #include <cstdlib>
 #include <exception>
@@ -9,6 +10,7 @@
 
 int main(int cuantos, char** argumentos) {
     try {
+        const varo::VigiaDeSenales vigia;
         const std::vector<std::string> propios{argumentos + 1, argumentos + cuantos};
         const bool enTerminal = isatty(STDERR_FILENO) == 1;
         return static_cast<int>(varo::EjecutarLote(propios, {std::cout, std::cerr, enTerminal}));

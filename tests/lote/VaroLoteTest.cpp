@@ -151,6 +151,57 @@ TEST(VaroLote, VariosALaVezDanLosMismosBytesYElMismoOrden) {
     }
 }
 
+TEST(VaroLote, QuienDejaDeLeerNoAcabaConLosTrabajos) {
+    const ParcelaDePrueba parcela;
+    std::vector<std::string> argumentos{"-c", "{ sleep 0.3; \"$@\"; echo \"acaba con $?\" >&2; } | :", "sh",
+                                        ProgramaLote().string()};
+    for (const char* const nombre : {"uno", "dos", "tres"}) {
+        argumentos.push_back(Escribir(parcela, nombre));
+    }
+    const auto final = Ejecutar("/bin/sh", argumentos);
+    EXPECT_EQ(final.errores, "varo-lote: no se puede escribir en la salida\nacaba con 4\n");
+    for (const char* const nombre : {"uno.txt", "dos.txt", "tres.txt"}) {
+        EXPECT_EQ(LeerArchivo(parcela.ruta(nombre)), resultadosSinIndices);
+    }
+}
+
+/// A job over 2,500 trees whose computation lasts for minutes.
+std::string TrabajoLargo(const ParcelaDePrueba& parcela) {
+    using T = std::string;
+    Hoja hoja;
+    hoja.nombre = "Parcela1";
+    hoja.celdas = {{T{"Arbol"}, T{"X"}, T{"Y"}, T{"Radio"}, T{"DAP"}, T{"Nota"}}};
+    for (int i = 0; i < 2500; ++i) {
+        hoja.celdas.push_back({i + 1.0, i % 50 * 1.0, i / 50 * 1.0, 10.0, 20.0 + i % 7});
+    }
+    EscribirArchivoXls(parcela.ruta("larga.xls"), {hoja});
+    TextoDeTrabajo texto;
+    texto.parcela = "archivo = 'larga.xls'\nhoja = 'Parcela1$'\n";
+    texto.columnas = "X = 'X'\nY = 'Y'\nRadio = 'Radio'\nIndice = 'Arbol'\nDAP = 'DAP'\n";
+    texto.opciones = "OptRM = true\nChCodigo = 0\nChIDPActivar = 1\n\"OptRadioFijo(0)\" = true\n"
+                     "\"TxtBAF1(0)\" = '10'\n\"TxtBAF2(0)\" = '20'\n\"TxtBAF3(0)\" = '0,01'\n";
+    return Escribir(parcela, "largo", texto);
+}
+
+TEST(VaroLote, UnaSenalAcabaConLaCorridaSinDejarNada) {
+    const ParcelaDePrueba parcela;
+    const auto trabajo = TrabajoLargo(parcela);
+    parcela.escribir("largo.txt", "lo de antes");
+    const auto entradas = [&] {
+        return std::distance(fs::directory_iterator{parcela.ruta("")}, fs::directory_iterator{});
+    };
+    const auto antes = entradas();
+    for (const auto& [senal, estado] : {std::pair{"TERM", 128 + 15}, {"HUP", 128 + 1}}) {
+        const auto final =
+            Ejecutar("/bin/sh", {"-c", "\"$1\" \"$2\" & sleep 1; kill -0 $! && kill -$3 $!; wait $!", "sh",
+                                 ProgramaLote().string(), trabajo, senal});
+        EXPECT_EQ(final.estado, estado) << final.errores;
+        EXPECT_EQ(final.salida, "");
+        EXPECT_EQ(entradas(), antes);
+        EXPECT_EQ(LeerArchivo(parcela.ruta("largo.txt")), "lo de antes");
+    }
+}
+
 TEST(VaroLote, UnAvisoVaALosErroresYNoCambiaElEstado) {
     auto filas = CuadradoConCentro();
     for (auto& fila : filas) {
