@@ -32,4 +32,15 @@ decltype(auto) EnLugar(const Lugar& lugar, Acto&& acto) {
     return AlFallar(situar, std::forward<Acto>(acto));
 }
 
+/// The same; a fault with this number gets its cause in words. `causa` is a callable that makes the text.
+template <class Causa, class Acto>
+decltype(auto) Porque(int numero, const Causa& causa, Acto&& acto) {
+    const auto explicar = [&](ErrorEjecucion& error) {
+        if (error.numero() == numero) {
+            error.porque(causa());
+        }
+    };
+    return AlFallar(explicar, std::forward<Acto>(acto));
+}
+
 } // namespace varo

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <utility>
 
 namespace varo {
@@ -57,6 +58,31 @@ ErrorEjecucion::ErrorEjecucion(int numero, std::string descripcion)
 ErrorEjecucion& ErrorEjecucion::en(const std::string& lugar) {
     lugar_ = lugar_.empty() ? lugar : lugar + ", " + lugar_;
     componerMensaje();
+    return *this;
+}
+
+ErrorEjecucion& ErrorEjecucion::enFila(int fila, const std::string& lugar) {
+    detrasDeLaFila_ = lugar_.empty() ? 0 : lugar_.size() + 2; // a comma and a blank
+    fila_ = fila;
+    return en(lugar);
+}
+
+ErrorEjecucion& ErrorEjecucion::precisarFila(const std::string& detalle) {
+    assert(fila_);
+    if (!filaPrecisada_) {
+        lugar_.insert(lugar_.size() - detrasDeLaFila_, ", " + detalle);
+        filaPrecisada_ = true;
+        componerMensaje();
+    }
+    return *this;
+}
+
+ErrorEjecucion& ErrorEjecucion::porque(const std::string& causa) {
+    if (causa_.empty()) {
+        causa_ = causa;
+        descripcion_ += ": " + causa;
+        componerMensaje();
+    }
     return *this;
 }
 

@@ -1,7 +1,9 @@
 // Run-time faults: the number, a Spanish description and the trail of where it happened.
 #pragma once
 
+#include <cstddef>
 #include <exception>
+#include <optional>
 #include <string>
 
 namespace varo {
@@ -19,9 +21,20 @@ public:
     [[nodiscard]] const std::string& descripcion() const noexcept { return descripcion_; }
 
     /// Adds where it happened. Each layer calls it on the way out, the innermost one first; `lugar()` tells
-    /// the outermost place first: "familia di/dmed, fila 12, celda «CAP»".
+    /// the outermost place first: "familia di/dmed, fila 12 de «Parcela1$», árbol 7, columna «CAP»".
     ErrorEjecucion& en(const std::string& lugar);
+    /// The same for a place that is a row of the sheet, which has this number there.
+    ErrorEjecucion& enFila(int fila, const std::string& lugar);
+    /// Tells more of that row, which is known, right behind it. The first one stays.
+    ErrorEjecucion& precisarFila(const std::string& detalle);
+    /// The row of the sheet at fault, once it is known.
+    [[nodiscard]] const std::optional<int>& fila() const noexcept { return fila_; }
     [[nodiscard]] const std::string& lugar() const noexcept { return lugar_; }
+
+    /// Adds the cause in words behind the description. The first one stays: it stood nearest to the fault.
+    ErrorEjecucion& porque(const std::string& causa);
+    /// Empty when nobody has told it.
+    [[nodiscard]] const std::string& causa() const noexcept { return causa_; }
 
     /// "Error 11: División por cero (familia di/dmed, fila 12)".
     [[nodiscard]] const char* what() const noexcept override { return mensaje_.c_str(); }
@@ -31,7 +44,11 @@ private:
 
     int numero_;
     std::string descripcion_;
+    std::string causa_;
     std::string lugar_;
+    std::optional<int> fila_;
+    std::size_t detrasDeLaFila_ = 0; ///< how much of `lugar_` stands behind the row
+    bool filaPrecisada_ = false;
     std::string mensaje_;
 };
 

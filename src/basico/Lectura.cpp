@@ -2,6 +2,7 @@
 #include "basico/Aritmetica.h"
 #include "basico/ErrorEjecucion.h"
 #include "basico/Numeros.h"
+#include "basico/Texto.h"
 
 #include <algorithm>
 #include <charconv>
@@ -140,9 +141,13 @@ std::optional<double> Leer(std::string_view texto) {
 double ANumero(std::string_view texto) {
     const auto numero = Leer(texto);
     if (!numero) {
-        throw ErrorEjecucion{fallo::tiposDistintos};
+        throw ErrorEjecucion{fallo::tiposDistintos}.porque(
+            texto.empty() ? "no hay nada donde se espera un número" : Cita(texto) + " no es un número");
     }
-    return ExigirFinito(*numero);
+    if (!std::isfinite(*numero)) {
+        throw ErrorEjecucion{fallo::desbordamiento}.porque(Cita(texto) + " es un número demasiado grande");
+    }
+    return *numero;
 }
 
 bool EsNumerico(std::string_view texto) {

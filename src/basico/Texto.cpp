@@ -131,4 +131,10 @@ bool MismoNombre(std::string_view a, std::string_view b) {
     return Minusculas(a) == Minusculas(b);
 }
 
+std::string Cita(std::string_view texto) {
+    constexpr std::size_t bastantes = 40;
+    const bool largo = Longitud(texto) > bastantes;
+    return "«" + (largo ? Izquierda(texto, bastantes) + "…" : std::string{texto}) + "»";
+}
+
 } // namespace varo

@@ -33,6 +33,9 @@ std::string Reemplazar(std::string_view texto, std::string_view buscado, std::st
 std::string Minusculas(std::string_view texto);
 bool MismoNombre(std::string_view a, std::string_view b);
 
+/// The text between «», for a message: a long one is cut, and ends in "…".
+std::string Cita(std::string_view texto);
+
 /// Bytes of the 8-bit code page Windows-1252; a character outside it becomes "?".
 std::string AWindows1252(std::string_view texto);
 std::string DeWindows1252(std::string_view bytes);

@@ -133,8 +133,12 @@ void FrmSeleccion::copiarFilas(const std::string& hoja) {
     Entero16 contador = 1;
     for (; !filas.Eof(); filas.MoveNext()) {
         rejilla.Row(rejilla.Row() + 1);
-        EnLugar([&] { return "fila " + ATexto(rejilla.Row()); },
-                [&] { copiarFila(filas, campos, contador); });
+        const auto situar = [&](ErrorEjecucion& error) {
+            error.en("columna «" + rejilla.TextMatrix(0, rejilla.Col()) + "»");
+            const auto registro = static_cast<std::size_t>(rejilla.Row()) - 1;
+            error.enFila(filas.numeroDeFila(), filas.filas().lugarDeFila(registro));
+        };
+        AlFallar(situar, [&] { copiarFila(filas, campos, contador); });
     }
 }
 

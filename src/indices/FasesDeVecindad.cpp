@@ -3,6 +3,7 @@
 #include "basico/EnLugar.h"
 #include "data/FilasDeArboles.h"
 #include "data/Hojadedatos.h"
+#include "data/PadronDeArboles.h"
 #include "data/Papeles.h"
 #include "indices/OpcionesDeVecindad.h"
 #include "indices/apa/APA.h"
@@ -15,26 +16,26 @@
 #include "shell/Programa.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace varo {
 
 namespace {
 
-/// The cells of a column, under the name of its field.
-ColumnaDeCeldas LeerColumna(const Rejilla& rejilla, int columna) {
-    return {rejilla.TextMatrix(0, columna), TextosDeColumna(rejilla, columna)};
-}
-
 Arboles ReunirArboles(Programa& programa) {
     const auto& rejilla = programa.tocar<Hojadedatos>().MSFlexGrid1;
     const auto& opciones = programa.tocar<OpcionesPrograma>();
     const auto& sesion = programa.sesion;
-    const auto papel = [&](int numero) { return LeerColumna(rejilla, sesion.Columnas(numero).valor()); };
+    const auto padron = std::make_shared<const Padron>(PadronDeLaRejilla(programa));
+    const auto celdasDe = [&](int columna) {
+        return ColumnaDeCeldas{rejilla.TextMatrix(0, columna), TextosDeColumna(rejilla, columna), padron};
+    };
+    const auto papel = [&](int numero) { return celdasDe(sesion.Columnas(numero).valor()); };
     CeldasDeArboles celdas;
     celdas.x = papel(papelX);
     celdas.y = papel(papelY);
-    celdas.tamano = LeerColumna(rejilla, sesion.ColumnaDAP.valor());
+    celdas.tamano = celdasDe(sesion.ColumnaDAP.valor());
     if (opciones.ChSupCopa.Value() == 1) {
         for (int medida = 0; medida < MedidasDeCopa(DatosDeLaCopa(opciones)); ++medida) {
             celdas.copa.push_back(papel(PapelDeCopa(medida)));

@@ -4,6 +4,7 @@
 #include "data/FilasDeArboles.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
+#include "data/PadronDeArboles.h"
 #include "formularios/Reloj.h"
 #include "indices/independientes/AreaDeMayores.h"
 #include "indices/independientes/Razones.h"
@@ -12,7 +13,6 @@
 #include "shell/Programa.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 
 namespace varo {
@@ -26,6 +26,7 @@ struct DatosDeCorrida {
     std::string tabla;
     UnidadesTallo unidades;
     std::vector<std::string> celdas; ///< stem size of each tree, as the grid shows it
+    Padron padron;
 };
 
 DatosDeCorrida Reunir(Programa& programa) {
@@ -33,7 +34,7 @@ DatosDeCorrida Reunir(Programa& programa) {
     const int columnaDAP = programa.sesion.ColumnaDAP.valor();
     return {hoja.Data1.Database(), hoja.Data1.Recordset().campos()(columnaDAP - 1).Name,
             programa.tocar<FrmSeleccion>().CboHoja.Text, UnidadesDelTallo(programa.tocar<OpcionesPrograma>()),
-            TextosDeColumna(hoja.MSFlexGrid1, columnaDAP)};
+            TextosDeColumna(hoja.MSFlexGrid1, columnaDAP), PadronDeLaRejilla(programa)};
 }
 
 /// The column of the results file that shows a family.
@@ -68,8 +69,11 @@ private:
     void fase(const RasgosDeFamilia& familia, const ColumnaIndependiente& columna) {
         auto& indice = programa_.resultados.*columna.indice;
         indice.redimensionar(filasGrid_ - 1);
-        EnLugar([&] { return std::string{"familia "} + columna.encabezado; },
-                [&] { guardar(calcular(familia), indice); });
+        const auto situar = [&](ErrorEjecucion& error) {
+            PonerArbol(error, programa_);
+            error.en(std::string{"familia "} + columna.encabezado);
+        };
+        AlFallar(situar, [&] { guardar(calcular(familia), indice); });
     }
 
     std::vector<double> calcular(const RasgosDeFamilia& familia) {
@@ -78,7 +82,7 @@ private:
             return std::vector<double>(static_cast<std::size_t>(filasGrid_ - 1), deParcela(familia.familia));
         case ClaseDeFamilia::AreaDeMayores:
             return CalcularABj(datos().base, datos().campo, datos().tabla, datos().unidades, datos().celdas,
-                               programa_.sesion.SupPoligono);
+                               programa_.sesion.SupPoligono, datos().padron);
         case ClaseDeFamilia::AreaProporcional:
             if (!activa(ColumnaDe(Independiente::N))) {
                 mapa_.Npies_ha();
@@ -88,7 +92,8 @@ private:
             break;
         }
         return CalcularRazones(familia.familia, datos().base, datos().campo, datos().tabla, tamanos(),
-                               programa_.sesion.SupPoligono, programa_.sesion.PiesHaActual);
+                               programa_.sesion.SupPoligono, programa_.sesion.PiesHaActual,
+                               datos().padron);
     }
 
     double deParcela(Independiente familia) {
@@ -114,9 +119,9 @@ private:
     }
 
     std::span<const double> tamanos() {
-        if (tamanos_.empty()) {
-            std::transform(datos().celdas.begin(), datos().celdas.end(), std::back_inserter(tamanos_),
-                           TamanoDeCelda);
+        for (std::size_t i = tamanos_.size(); i < datos().celdas.size(); ++i) {
+            const auto situar = [&](ErrorEjecucion& error) { datos().padron.situar(error, i); };
+            tamanos_.push_back(AlFallar(situar, [&] { return TamanoDeCelda(datos().celdas[i]); }));
         }
         return tamanos_;
     }

@@ -31,6 +31,10 @@ public:
 
     /// Field `posicion`, from 0, of the current row: 3265 when there is no such field, 3021 at the end.
     [[nodiscard]] CampoActual Fields(int posicion) const;
+    /// All the rows and their numbers in the sheet.
+    [[nodiscard]] const Tabla& filas() const { return *filas_; }
+    /// The number of the current row, which is there, in its sheet.
+    [[nodiscard]] int numeroDeFila() const { return filas_->numeroDeFila(actual_); }
     [[nodiscard]] const Coleccion<Campo>& campos() const { return filas_->Fields; }
 
 private:

@@ -5,6 +5,7 @@
 #include "basico/Texto.h"
 #include "basico/Valor.h"
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -54,6 +55,16 @@ struct Tabla {
     std::string Name;
     Coleccion<Campo> Fields;
     std::vector<std::vector<Valor>> filas;
+    std::vector<int> numeros = {}; ///< of the rows in their sheet; empty for a table of no sheet
+
+    /// The number of a row, counted from 0, as the spreadsheet shows it. A row of no sheet counts from 1.
+    [[nodiscard]] int numeroDeFila(std::size_t fila) const {
+        return fila < numeros.size() ? numeros[fila] : static_cast<int>(fila) + 1;
+    }
+    /// "fila 12 de «Parcela1$»"
+    [[nodiscard]] std::string lugarDeFila(std::size_t fila) const {
+        return "fila " + std::to_string(numeroDeFila(fila)) + " de «" + Name + "»";
+    }
 };
 
 } // namespace varo

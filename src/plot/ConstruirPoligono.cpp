@@ -4,6 +4,7 @@
 #include "basico/Numeros.h"
 #include "data/FilasDeArboles.h"
 #include "data/Hojadedatos.h"
+#include "data/PadronDeArboles.h"
 #include "data/Papeles.h"
 #include "options/Unidades.h"
 #include "plot/calculo/AreaBasimetrica.h"
@@ -17,17 +18,17 @@ namespace {
 /// The cells of the grid, with the place in every fault.
 class CeldasSituadas {
 public:
-    explicit CeldasSituadas(const Rejilla& rejilla) : rejilla_{rejilla} {}
+    CeldasSituadas(const Rejilla& rejilla, Padron padron) : rejilla_{rejilla}, padron_{std::move(padron)} {}
 
     [[nodiscard]] const std::string& texto(int fila, int columna) const {
         return rejilla_.TextMatrix(fila, columna);
     }
 
     [[nodiscard]] double numero(int fila, int columna) const {
-        const auto lugar = [&] {
-            return "árbol de la fila " + texto(fila, 0) + ", columna «" + texto(0, columna) + "»";
+        const auto situar = [&](ErrorEjecucion& error) {
+            padron_.situar(error.en("columna «" + texto(0, columna) + "»"), static_cast<std::size_t>(fila) - 1);
         };
-        return EnLugar(lugar, [&] { return ANumero(texto(fila, columna)); });
+        return AlFallar(situar, [&] { return ANumero(texto(fila, columna)); });
     }
 
     [[nodiscard]] std::vector<double> columna(int columna) const {
@@ -36,6 +37,7 @@ public:
 
 private:
     const Rejilla& rejilla_;
+    Padron padron_;
 };
 
 void OrdenarPor(Rejilla& rejilla, int columna) {
@@ -101,7 +103,7 @@ void ConstruirPoligono(Programa& programa) {
 
     const int columnaX = sesion.Columnas(papelX).valor();
     OrdenarPor(rejilla, columnaX);
-    const CeldasSituadas celdas{rejilla};
+    const CeldasSituadas celdas{rejilla, PadronDeLaRejilla(programa)};
     const std::vector<double> x = celdas.columna(columnaX);
     const std::vector<double> y = celdas.columna(sesion.Columnas(papelY).valor());
     const Envolvente envolvente = EnvolverArboles(x, y);

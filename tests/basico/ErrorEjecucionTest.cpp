@@ -90,3 +90,24 @@ TEST(ErrorEjecucion, ElLugarAnadidoAlVueloSeVeMasArriba) {
         EXPECT_STREQ(error.what(), "Error 3049: parcela.xls: el libro está incompleto (tabla «Parcela1$»)");
     }
 }
+
+TEST(ErrorEjecucion, LaFilaDeLaHojaSePrecisaDetrasDeElla) {
+    ErrorEjecucion error{fallo::tiposDistintos};
+    EXPECT_FALSE(error.fila());
+    error.en("columna «CAP»").enFila(12, "fila 12 de «Parcela1$»").en("familia di/dmed");
+    error.precisarFila("árbol 7").precisarFila("árbol 8");
+    EXPECT_EQ(error.fila(), 12);
+    EXPECT_EQ(error.lugar(), "familia di/dmed, fila 12 de «Parcela1$», árbol 7, columna «CAP»");
+    ErrorEjecucion solo{fallo::tiposDistintos};
+    solo.enFila(3, "fila 3").precisarFila("árbol 1");
+    EXPECT_EQ(solo.lugar(), "fila 3, árbol 1");
+    EXPECT_STREQ(solo.what(), "Error 13: No coinciden los tipos (fila 3, árbol 1)");
+}
+
+TEST(ErrorEjecucion, LaCausaVaTrasLaDescripcionYQuedaLaPrimera) {
+    ErrorEjecucion error{fallo::divisionPorCero};
+    EXPECT_EQ(error.causa(), "");
+    error.porque("el BAF es 0").porque("otra cosa").en("familia IDP");
+    EXPECT_EQ(error.causa(), "el BAF es 0");
+    EXPECT_STREQ(error.what(), "Error 11: División por cero: el BAF es 0 (familia IDP)");
+}

@@ -134,6 +134,22 @@ TEST(ANumero, LoQueNoEsNumeroNoCoincideEnTipo) {
     }
 }
 
+TEST(ANumero, ElFalloDiceElTextoYUnoLargoSeCorta) {
+    const auto descripcion = [](const std::string& texto) {
+        try {
+            return ATexto(ANumero(texto));
+        } catch (const ErrorEjecucion& error) {
+            return error.descripcion();
+        }
+    };
+    EXPECT_EQ(descripcion("1,2,3"), "No coinciden los tipos: «1,2,3» no es un número");
+    EXPECT_EQ(descripcion(""), "No coinciden los tipos: no hay nada donde se espera un número");
+    EXPECT_EQ(descripcion(" "), "No coinciden los tipos: « » no es un número");
+    EXPECT_EQ(descripcion("1E400"), "Desbordamiento: «1E400» es un número demasiado grande");
+    EXPECT_EQ(descripcion(std::string(300, '9') + "x"),
+              "No coinciden los tipos: «" + std::string(40, '9') + "…» no es un número");
+}
+
 TEST(ANumero, UnCaracterNuloNoAcabaElTexto) {
     const std::string texto{"1\0", 2};
     EXPECT_EQ(FalloDe([&] { (void)ANumero(texto); }), fallo::tiposDistintos);

@@ -183,3 +183,10 @@ RC_GTEST_PROP(Texto, AguantaBytesCualesquiera, ()) {
     RC_ASSERT(AWindows1252(bytes).size() <= bytes.size());
     RC_ASSERT(Minusculas(Minusculas(bytes)) == Minusculas(bytes));
 }
+
+TEST(Texto, UnaCitaLargaSeCorta) {
+    EXPECT_EQ(Cita(""), "«»");
+    const std::string cuarenta = "ñ" + std::string(39, 'a');
+    EXPECT_EQ(Cita(cuarenta), "«" + cuarenta + "»");
+    EXPECT_EQ(Cita(cuarenta + "b"), "«" + cuarenta + "…»");
+}

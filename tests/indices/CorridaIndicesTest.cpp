@@ -98,7 +98,7 @@ TEST(CorridaIndices, UnFalloDiceLaFamiliaYLaFilaYElProgramaSigue) {
     Corrida corrida{{"ChN", "ChDmax"}, filas};
     corrida.servicios.esperarFallo(11);
     corrida.correr();
-    EXPECT_EQ(corrida.servicios.fallos().back().lugar(), "familia di/dmax, fila 1");
+    EXPECT_EQ(corrida.servicios.fallos().back().lugar(), "familia di/dmax, fila 2 de «Parcela1$», árbol 1");
     EXPECT_EQ(corrida.programa.cargada<FrmCrearArchivo>(), nullptr);
     EXPECT_EQ(corrida.programa.tocar<FrmMapa>().MousePointer(), Formulario::punteroNormal);
     EXPECT_FALSE(corrida.programa.terminado());

@@ -314,8 +314,8 @@ TEST(FasesDeVecindad, UnFalloDiceFamiliaColumnaYArboles) {
     corrida.servicios.esperarFallo(13);
     corrida.correr();
     EXPECT_EQ(corrida.servicios.fallos().back().lugar(),
-              "familia IDP, columna IDP(R:2;Bil.;Sí), fila 1, vecino de la fila 2, árbol de la fila 2, "
-              "columna «CAP»");
+              "familia IDP, columna IDP(R:2;Bil.;Sí), al calcular la fila 2, árbol 1, "
+              "fila 3 de «Parcela1$», árbol 2, columna «CAP»");
 }
 
 } // namespace

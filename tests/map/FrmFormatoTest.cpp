@@ -242,7 +242,7 @@ TEST(FrmFormato, UnaCoordenadaQueNoEsNumeroDiceDondeEsta) {
     formato.servicios.esperarFallo(13);
     formato.usuario.clic(formato.ventana().CmdAceptar);
     const std::string& lugar = formato.servicios.fallos().back().lugar();
-    EXPECT_NE(lugar.find("fila 3"), std::string::npos) << lugar;
+    EXPECT_NE(lugar.find("fila 4 de «"), std::string::npos) << lugar;
     EXPECT_NE(lugar.find('X'), std::string::npos) << lugar;
 }
 

@@ -143,7 +143,7 @@ TEST(ConstruirPoligono, UnRadioVacioEnElBordeEsUnFalloYDentroNo) {
     jornada.servicios.esperarFallo(13);
     jornada.dibujarCuadrado();
     const std::string& lugar = jornada.servicios.fallos().back().lugar();
-    EXPECT_NE(lugar.find("fila 3"), std::string::npos) << lugar;
+    EXPECT_NE(lugar.find("fila 4 de «Parcela1$», árbol 3"), std::string::npos) << lugar;
     EXPECT_NE(lugar.find("RN"), std::string::npos) << lugar;
 }
 

@@ -84,7 +84,7 @@ private:
 std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contorno, double k,
                                 const DibujoAPA& dibujo) {
     ColumnaAPA columna{arboles, contorno, k, dibujo};
-    return ParaCadaArbol(arboles.cuantos(), [&](Pareja& pareja) { return columna.indice(pareja); });
+    return ParaCadaArbol(arboles, [&](Pareja& pareja) { return columna.indice(pareja); });
 }
 
 std::optional<CirculoCircunscrito> UltimoCirculoAPA(const Arboles& arboles, double k) {

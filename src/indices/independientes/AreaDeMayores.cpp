@@ -131,7 +131,7 @@ std::string ConsultaMayores(const std::string& campo, const std::string& tabla, 
 
 std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo, const std::string& tabla,
                                 const UnidadesTallo& unidades, std::span<const std::string> celdas,
-                                double supPoligono) {
+                                double supPoligono, const Padron& padron) {
     const SumaPorTamano sumas = SumasSinConsulta(LeerTallos(base, campo, tabla, unidades), celdas);
     const auto suma = [&](const std::string& texto) -> std::optional<double> {
         const auto calculada = EsLiteral(texto) ? sumas.find(Val(texto)) : sumas.end();
@@ -149,12 +149,16 @@ std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo,
         if (!Cuenta(texto)) {
             continue;
         }
-        EnLugar([i] { return "fila " + std::to_string(i + 1); },
-                [&] {
-                    if (const auto mayores = suma(texto)) {
-                        indices[i] = Dividir(*mayores, supPoligono) * 10000;
-                    }
-                });
+        const auto situar = [&](ErrorEjecucion& error) {
+            if (!error.fila()) {
+                padron.situar(error, i);
+            }
+        };
+        AlFallar(situar, [&] {
+            if (const auto mayores = suma(texto)) {
+                indices[i] = Dividir(*mayores, supPoligono) * 10000;
+            }
+        });
     }
     return indices;
 }

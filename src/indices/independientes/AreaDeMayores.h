@@ -2,6 +2,7 @@
 #pragma once
 
 #include "motor/BaseDatos.h"
+#include "plot/calculo/Padron.h"
 #include "plot/calculo/Unidades.h"
 
 #include <span>
@@ -19,9 +20,10 @@ std::string ConsultaMayores(const std::string& campo, const std::string& tabla, 
 /// 0 for a cell that is empty or no number, for the size 0 and where no tree is larger. `supPoligono` in m2;
 /// an area of 0 throws 11.
 ///
+/// `padron` says where the trees stand in the sheet, for the places of faults.
 /// The sums are added in the order of the table's rows, as the engine adds them, several trees side by side.
 std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo, const std::string& tabla,
                                 const UnidadesTallo& unidades, std::span<const std::string> celdas,
-                                double supPoligono);
+                                double supPoligono, const Padron& padron = {});
 
 } // namespace varo

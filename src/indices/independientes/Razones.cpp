@@ -57,7 +57,12 @@ double TamanoDominante(const BaseDatos& base, const std::string& campo, const st
     mayores.MoveFirst();
     double suma = 0;
     while (!mayores.Eof()) {
-        suma = suma + Potencia(ANumero(mayores.Fields(0).Value), 2);
+        const auto situar = [&](ErrorEjecucion& error) {
+            error.en("columna «" + campo + "»");
+            error.enFila(mayores.numeroDeFila(),
+                         "fila " + std::to_string(mayores.numeroDeFila()) + " de «" + tabla + "»");
+        };
+        suma = suma + AlFallar(situar, [&] { return Potencia(ANumero(mayores.Fields(0).Value), 2); });
         mayores.MoveNext();
     }
     const double media = Dividir(suma, mayores.RecordCount());
@@ -66,7 +71,7 @@ double TamanoDominante(const BaseDatos& base, const std::string& campo, const st
 
 std::vector<double> CalcularRazones(Independiente familia, const BaseDatos& base, const std::string& campo,
                                     const std::string& tabla, std::span<const double> tamanos,
-                                    double supPoligono, double piesHa) {
+                                    double supPoligono, double piesHa, const Padron& padron) {
     const bool dominantes = familia == Independiente::Ddom || familia == Independiente::Bdom;
     const RasgosDeFamilia& rasgos = RasgosDe(familia);
     const Valor estadistico =
@@ -81,8 +86,8 @@ std::vector<double> CalcularRazones(Independiente familia, const BaseDatos& base
             const double tamano = rasgos.dimension == Dimension::Cuadrado ? Potencia(d, 2) : d;
             return reparto * Dividir(tamano, ANumero(estadistico));
         };
-        const auto lugar = [&] { return "fila " + std::to_string(razones.size() + 1); };
-        razones.push_back(EnLugar(lugar, razon));
+        const auto situar = [&](ErrorEjecucion& error) { padron.situar(error, razones.size()); };
+        razones.push_back(AlFallar(situar, razon));
     }
     return razones;
 }

@@ -8,6 +8,7 @@
 
 #include "indices/independientes/Familias.h"
 #include "motor/BaseDatos.h"
+#include "plot/calculo/Padron.h"
 
 #include <span>
 #include <string>
@@ -29,9 +30,9 @@ double TamanoDominante(const BaseDatos& base, const std::string& campo, const st
 
 /// The ratios of one family for every tree, from their sizes. The areas proportional to size use `piesHa`,
 /// the number of stems per hectare. A statistic of 0, or no stems, throws 11; a statistic of nothing
-/// throws 94.
+/// throws 94. `padron` says where the trees stand in the sheet, for the places of faults.
 std::vector<double> CalcularRazones(Independiente familia, const BaseDatos& base, const std::string& campo,
                                     const std::string& tabla, std::span<const double> tamanos,
-                                    double supPoligono, double piesHa);
+                                    double supPoligono, double piesHa, const Padron& padron = {});
 
 } // namespace varo

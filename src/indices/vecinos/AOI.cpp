@@ -113,7 +113,7 @@ RadiosDeInfluencia::RadiosDeInfluencia(const Arboles& arboles, const SumaDePoten
 
 std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k) {
     ColumnaAOI columna{vecindad, radios, lado, k};
-    return ParaCadaArbol(vecindad.arboles.cuantos(), [&](Pareja& pareja) { return columna.indice(pareja); });
+    return ParaCadaArbol(vecindad.arboles, [&](Pareja& pareja) { return columna.indice(pareja); });
 }
 
 } // namespace varo

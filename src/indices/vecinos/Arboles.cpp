@@ -2,6 +2,7 @@
 
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
+#include "basico/Texto.h"
 
 #include <limits>
 #include <unordered_set>
@@ -36,8 +37,9 @@ double ADiametro(double tamano, const FactoresDeTamano& factores) {
 
 } // namespace
 
-ColumnaDeCeldas::ColumnaDeCeldas(std::string nombre, std::vector<std::string> textos)
-    : nombre_{std::move(nombre)}, textos_{std::move(textos)} {
+ColumnaDeCeldas::ColumnaDeCeldas(std::string nombre, std::vector<std::string> textos,
+                                 std::shared_ptr<const Padron> padron)
+    : nombre_{std::move(nombre)}, textos_{std::move(textos)}, padron_{std::move(padron)} {
     numeros_.reserve(textos_.size());
     for (const auto& texto : textos_) {
         double numero = sinNumero;
@@ -47,7 +49,7 @@ ColumnaDeCeldas::ColumnaDeCeldas(std::string nombre, std::vector<std::string> te
 }
 
 void ColumnaDeCeldas::situar(ErrorEjecucion& error, std::size_t i) const {
-    error.en("columna «" + nombre_ + "»").en("árbol de la fila " + std::to_string(i + 1));
+    padron_->situar(error.en("columna «" + nombre_ + "»"), i);
 }
 
 void ColumnaDeCeldas::fallar(std::size_t i) const {
@@ -69,6 +71,7 @@ Arboles::Arboles(CeldasDeArboles celdas, const UnidadesTallo& unidades, const Co
 void Arboles::fallarDiametro(std::size_t i) const {
     static_cast<void>(tamano(i)); // a cell that is no number faults here
     ErrorEjecucion error{fallo::desbordamiento};
+    error.porque("el tamaño " + Cita(celdas_.tamano.texto(i)) + " es demasiado grande");
     celdas_.tamano.situar(error, i);
     throw error;
 }

@@ -4,10 +4,12 @@
 
 #include "basico/ErrorEjecucion.h"
 #include "plot/calculo/Module1.h"
+#include "plot/calculo/Padron.h"
 #include "plot/calculo/Unidades.h"
 
 #include <cmath>
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,7 +20,8 @@ namespace varo {
 class ColumnaDeCeldas {
 public:
     ColumnaDeCeldas() = default;
-    ColumnaDeCeldas(std::string nombre, std::vector<std::string> textos);
+    ColumnaDeCeldas(std::string nombre, std::vector<std::string> textos,
+                    std::shared_ptr<const Padron> padron = std::make_shared<const Padron>());
 
     [[nodiscard]] std::size_t cuantas() const { return textos_.size(); }
     [[nodiscard]] const std::string& texto(std::size_t i) const { return textos_[i]; }
@@ -35,6 +38,7 @@ public:
         return numeros_[i];
     }
 
+    [[nodiscard]] const Padron& padron() const { return *padron_; }
     /// Adds the column and the row of the tree to a fault.
     void situar(ErrorEjecucion& error, std::size_t i) const;
 
@@ -43,6 +47,7 @@ private:
 
     std::string nombre_;
     std::vector<std::string> textos_;
+    std::shared_ptr<const Padron> padron_;
     std::vector<double> numeros_; ///< NaN where the text is no number
 };
 
@@ -53,7 +58,8 @@ struct CeldasDeArboles {
     std::vector<ColumnaDeCeldas> copa; ///< four radii (N, E, S, W), two diameters or the mean radius
 };
 
-/// Trees are numbered from 0; tree i stands in row i + 1 of the grid.
+/// Trees are numbered from 0; tree i stands in row i + 1 of the grid, and in the sheet where
+/// `padron` says.
 class Arboles {
 public:
     /// All columns have the same length. The last row of the boundary repeats the first.
@@ -61,6 +67,8 @@ public:
 
     [[nodiscard]] std::size_t cuantos() const { return celdas_.tamano.cuantas(); }
     [[nodiscard]] const CeldasDeArboles& celdas() const { return celdas_; }
+    /// Where the trees stand in the sheet.
+    [[nodiscard]] const Padron& padron() const { return celdas_.tamano.padron(); }
 
     [[nodiscard]] double x(std::size_t i) const { return celdas_.x.numero(i); }
     [[nodiscard]] double y(std::size_t i) const { return celdas_.y.numero(i); }

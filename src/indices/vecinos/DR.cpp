@@ -77,7 +77,7 @@ bool EntradaDeDistancia::sinFallosEntre(double desde, double hasta) {
 std::vector<double> CalcularDR(const Arboles& arboles, Seleccion& seleccion, Lado lado,
                                EntradaDeDistancia& entrada, double k) {
     const ColumnaDR columna{arboles, seleccion, lado, entrada, k};
-    return ParaCadaArbol(arboles.cuantos(), [&](Pareja& pareja) { return IndiceDe(pareja, columna); });
+    return ParaCadaArbol(arboles, [&](Pareja& pareja) { return IndiceDe(pareja, columna); });
 }
 
 } // namespace varo

@@ -38,7 +38,7 @@ double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, La
 
 std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, Lado lado, FormaIDP forma) {
     const double h = forma == FormaIDP::ConArbolCentral ? 0.5 : -0.5;
-    return ParaCadaArbol(arboles.cuantos(),
+    return ParaCadaArbol(arboles,
                          [&](Pareja& pareja) { return IndiceDe(pareja, arboles, seleccion, lado, h); });
 }
 

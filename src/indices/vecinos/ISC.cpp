@@ -119,7 +119,7 @@ float RadiosDeCopa::calcular(std::size_t i) const {
 
 std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado) {
     VarianteISC variante{vecindad, radios, lado};
-    return ParaCadaArbol(vecindad.arboles.cuantos(), [&](Pareja& pareja) { return variante.indice(pareja); });
+    return ParaCadaArbol(vecindad.arboles, [&](Pareja& pareja) { return variante.indice(pareja); });
 }
 
 } // namespace varo

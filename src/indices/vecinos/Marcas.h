@@ -3,9 +3,9 @@
 #pragma once
 
 #include "basico/EnLugar.h"
+#include "indices/vecinos/Arboles.h"
 
 #include <cstddef>
-#include <string>
 #include <vector>
 
 namespace varo {
@@ -19,21 +19,29 @@ struct Pareja {
     std::size_t sujeto = 0;
     std::size_t vecino = sujeto; ///< the subject itself while no neighbour is at work
 
-    [[nodiscard]] std::string lugar() const {
-        const std::string fila = "fila " + std::to_string(sujeto + 1);
-        return vecino == sujeto ? fila : fila + ", vecino de la fila " + std::to_string(vecino + 1);
+    /// Adds both rows to a fault; to one of a cell, which has its row already, the subject's alone.
+    void situar(ErrorEjecucion& error, const Padron& padron) const {
+        if (!error.fila()) {
+            if (vecino != sujeto) {
+                error.en("con el vecino de la " + padron.breve(vecino));
+            }
+            padron.situar(error, sujeto);
+        } else if (error.fila() != padron.fila(sujeto)) {
+            error.en("al calcular la " + padron.breve(sujeto));
+        }
     }
 };
 
 /// The index or the marker of every tree, in the order of the rows: `indice` takes the pair and
 /// notes in it which neighbour is at work. A fault gets both rows.
 template <class Indice>
-std::vector<double> ParaCadaArbol(std::size_t arboles, Indice&& indice) {
+std::vector<double> ParaCadaArbol(const Arboles& arboles, Indice&& indice) {
     std::vector<double> indices;
-    indices.reserve(arboles);
-    for (std::size_t i = 0; i < arboles; ++i) {
+    indices.reserve(arboles.cuantos());
+    for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
         Pareja pareja{i, i};
-        indices.push_back(EnLugar([&] { return pareja.lugar(); }, [&] { return indice(pareja); }));
+        const auto situar = [&](ErrorEjecucion& error) { pareja.situar(error, arboles.padron()); };
+        indices.push_back(AlFallar(situar, [&] { return indice(pareja); }));
     }
     return indices;
 }

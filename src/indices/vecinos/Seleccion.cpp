@@ -255,8 +255,12 @@ int Seleccion::rangoPasoAPaso(std::size_t j) {
         if (m == *sujeto_ || m == j || arboles_.sinTamano(m)) {
             continue;
         }
-        const auto lugar = [m] { return "frente al de la fila " + std::to_string(m + 1); };
-        suyo += EnLugar(lugar, [&] { return adelanta(m, j); }) ? 1 : 0;
+        const auto situar = [&](ErrorEjecucion& error) {
+            if (!error.fila()) {
+                error.en("frente al árbol de la " + arboles_.padron().breve(m));
+            }
+        };
+        suyo += AlFallar(situar, [&] { return adelanta(m, j); }) ? 1 : 0;
         if (regla_ == ReglaDeSeleccion::NumeroFijo && pasaDelNumero(suyo)) {
             break;
         }

@@ -54,6 +54,7 @@ Tabla TablaDeZona(const HojaBiff& hoja, const ZonaDeHoja& zona, const std::strin
     tabla.filas.reserve(cubierta.ultimaFila - cubierta.primeraFila);
     for (std::size_t fila = cubierta.primeraFila + 1; fila <= cubierta.ultimaFila; ++fila) {
         tabla.filas.push_back(FilaDeZona(hoja, fila, cubierta, limites));
+        tabla.numeros.push_back(static_cast<int>(fila) + 1);
     }
     return tabla;
 }

@@ -9,8 +9,8 @@
 
 namespace varo {
 
-/// The used rectangle of a sheet: its first row names the fields, the others are the rows, blank ones too. A
-/// sheet without content has no fields and no rows.
+/// The used rectangle of a sheet: its first row names the fields, the others are the rows, blank ones too,
+/// under their numbers in the sheet. A sheet without content has no fields and no rows.
 Tabla TablaDeHoja(const HojaBiff& hoja, const std::string& nombre, LimitesDeLectura& limites);
 
 /// A rectangle of a sheet, as far down and to the right as the sheet has content.

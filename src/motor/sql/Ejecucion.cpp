@@ -22,8 +22,9 @@ using Filas = std::vector<std::size_t>;
 template <class Accion>
 void EnCadaFila(const Tabla& tabla, const Filas& filas, Accion accion) {
     for (const auto fila : filas) {
-        EnLugar([&] { return "fila " + std::to_string(fila + 1) + " de «" + tabla.Name + "»"; },
-                [&] { accion(fila); });
+        AlFallar([&](
+                     ErrorEjecucion& error) { error.enFila(tabla.numeroDeFila(fila), tabla.lugarDeFila(fila)); },
+                 [&] { accion(fila); });
     }
 }
 
@@ -81,8 +82,9 @@ std::vector<Campo> Columnas(const Consulta& consulta, const Tabla& tabla) {
     return columnas;
 }
 
-std::vector<std::vector<Valor>> Proyectadas(const Consulta& consulta, const Tabla& tabla,
-                                            std::vector<Evaluador> evaluadores) {
+/// The rows keep their numbers.
+void Proyectar(const Consulta& consulta, const Tabla& tabla, std::vector<Evaluador> evaluadores,
+               Tabla& resultado) {
     const auto cuantas = consulta.primeras.value_or(tabla.filas.size());
     auto filas = QueCumplen(consulta.condicion, tabla);
     if (consulta.orden) {
@@ -90,16 +92,15 @@ std::vector<std::vector<Valor>> Proyectadas(const Consulta& consulta, const Tabl
     } else {
         filas.resize(std::min(cuantas, filas.size()));
     }
-    std::vector<std::vector<Valor>> proyectadas;
-    proyectadas.reserve(filas.size());
+    resultado.filas.reserve(filas.size());
     EnCadaFila(tabla, filas, [&](std::size_t fila) {
-        auto& nueva = proyectadas.emplace_back();
+        resultado.numeros.push_back(tabla.numeroDeFila(fila));
+        auto& nueva = resultado.filas.emplace_back();
         nueva.reserve(evaluadores.size());
         for (auto& evaluador : evaluadores) {
             nueva.push_back(evaluador.entero(tabla.filas[fila]));
         }
     });
-    return proyectadas;
 }
 
 /// One row, or none with TOP 0.
@@ -133,8 +134,11 @@ Tabla Ejecutar(const Consulta& consulta, const Tabla& tabla) {
         evaluadores.emplace_back(elemento.expresion, tabla);
     }
     Tabla resultado{.Name = {}, .Fields = Coleccion<Campo>{Columnas(consulta, tabla)}, .filas = {}};
-    resultado.filas = consulta.esResumen() ? Resumidas(consulta, tabla, std::move(evaluadores))
-                                           : Proyectadas(consulta, tabla, std::move(evaluadores));
+    if (consulta.esResumen()) {
+        resultado.filas = Resumidas(consulta, tabla, std::move(evaluadores));
+    } else {
+        Proyectar(consulta, tabla, std::move(evaluadores), resultado);
+    }
     return resultado;
 }
 

@@ -41,7 +41,7 @@ void Evaluador::situar(ErrorEjecucion& error) const {
     for (const auto& columna : columnas_) {
         nombres += (nombres.empty() ? "«" : ", «") + *columna.nombre + "»";
     }
-    error.en((columnas_.size() == 1 ? "campo " : "campos ") + nombres);
+    error.en((columnas_.size() == 1 ? "columna " : "columnas ") + nombres);
 }
 
 Operando Evaluador::calculado(const std::vector<Valor>& fila) {

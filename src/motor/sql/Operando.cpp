@@ -3,6 +3,7 @@
 #include "basico/Aritmetica.h"
 #include "basico/ErrorEjecucion.h"
 #include "basico/Numeros.h"
+#include "basico/Texto.h"
 
 #include <cassert>
 
@@ -113,10 +114,10 @@ double NumeroExigido(const Operando& operando) {
     const auto numero = ComoNumero(operando);
     if (!numero) {
         ErrorMotor error{fallo::tiposDistintosEnConsulta, DescripcionError(fallo::tiposDistintosEnConsulta) +
-                                                              ": el texto «" + std::string{operando.texto} +
-                                                              "» no es un número"};
+                                                              ": el texto " + Cita(operando.texto) +
+                                                              " no es un número"};
         if (operando.campo != nullptr) {
-            error.en("campo «" + *operando.campo + "»");
+            error.en("columna «" + *operando.campo + "»");
         }
         throw error;
     }

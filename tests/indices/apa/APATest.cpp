@@ -185,7 +185,7 @@ TEST(APA, SinTamanoVaAntesQueElVertice) {
 TEST(APA, DosArbolesConLaMismaXFallanYSeNombran) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.anadir(0, 1);
-    EXPECT_EQ(LugarDelFallo(parcela, fallo::divisionPorCero), "fila 1, vecino de la fila 6");
+    EXPECT_EQ(LugarDelFallo(parcela, fallo::divisionPorCero), "fila 1, con el vecino de la fila 6");
 }
 
 TEST(APA, DosArbolesConLaMismaXEnElContornoNoSeMiranEntreSi) {
@@ -245,14 +245,14 @@ TEST(APA, UnTamanoQueNoEsNumeroFallaAlLeerlo) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.tamano[3] = "grueso";
     EXPECT_EQ(LugarDelFallo(parcela, fallo::tiposDistintos),
-              "fila 1, vecino de la fila 4, árbol de la fila 4, columna «D»");
+              "al calcular la fila 1, fila 4, columna «D»");
 }
 
 TEST(APA, UnTamanoQueNoEsNumeroFallaTambienEnElContorno) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.tamano[0] = "";
     parcela.tamano[3] = "grueso";
-    EXPECT_EQ(LugarDelFallo(parcela, fallo::tiposDistintos), "fila 4, árbol de la fila 4, columna «D»");
+    EXPECT_EQ(LugarDelFallo(parcela, fallo::tiposDistintos), "fila 4, columna «D»");
 }
 
 TEST(APA, UnaCeldaIlegibleQueNadieLeeNoFalla) {

@@ -63,7 +63,7 @@ TEST(AOI, UnRadioQueFallaDiceElArbol) {
         FAIL() << "debía fallar";
     } catch (const ErrorEjecucion& error) {
         EXPECT_EQ(error.numero(), 11);
-        EXPECT_EQ(error.lugar(), "fila 1, vecino de la fila 2");
+        EXPECT_EQ(error.lugar(), "fila 1, con el vecino de la fila 2");
     }
 }
 

@@ -48,7 +48,7 @@ TEST(Arboles, UnaCeldaMalaFallaSoloCuandoSePide) {
         FAIL() << "debía fallar";
     } catch (const ErrorEjecucion& error) {
         EXPECT_EQ(error.numero(), 13);
-        EXPECT_EQ(error.lugar(), "árbol de la fila 2, columna «CAP»");
+        EXPECT_EQ(error.lugar(), "fila 2, columna «CAP»");
     }
 }
 

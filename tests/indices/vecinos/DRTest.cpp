@@ -65,7 +65,7 @@ TEST(DR, UnPesoQueFallaAcabaLaCorridaAunqueElArbolSeRechace) {
         FAIL() << "debía fallar";
     } catch (const ErrorEjecucion& error) {
         EXPECT_EQ(error.numero(), 11);
-        EXPECT_EQ(error.lugar(), "fila 1, vecino de la fila 3");
+        EXPECT_EQ(error.lugar(), "fila 1, con el vecino de la fila 3");
     }
     EXPECT_EQ(FalloDe([&] {
                   PrimerDR(tres, distancia, 3,

@@ -123,7 +123,7 @@ TEST(IDP, UnaCeldaQueNoEsNumeroDiceSuColumnaYSuFila) {
         FAIL() << "debía fallar";
     } catch (const ErrorEjecucion& error) {
         EXPECT_EQ(error.numero(), 13);
-        EXPECT_EQ(error.lugar(), "fila 1, vecino de la fila 2, árbol de la fila 2, columna «CAP»");
+        EXPECT_EQ(error.lugar(), "al calcular la fila 1, fila 2, columna «CAP»");
     }
 }
 

@@ -47,7 +47,7 @@ TEST(ISC, UnaCeldaDeCopaVaciaNoEsUnNumero) {
         FAIL() << "debía fallar";
     } catch (const ErrorEjecucion& error) {
         EXPECT_EQ(error.numero(), 13);
-        EXPECT_EQ(error.lugar(), "fila 1, vecino de la fila 2, árbol de la fila 2, columna «R»");
+        EXPECT_EQ(error.lugar(), "al calcular la fila 1, fila 2, columna «R»");
     }
 }
 
