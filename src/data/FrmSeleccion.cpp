@@ -100,7 +100,9 @@ void FrmSeleccion::RellenarGrid(const std::string& hoja) {
     const Entero16 campos = datos.Database().TableDefs()(hoja).Fields.Count();
     rejilla.Cols(campos.valor() + 1);
     datos.Refresh();
-    datos.Recordset().MoveLast();
+    Porque(
+        fallo::sinRegistroActual, [] { return "la hoja no tiene ninguna fila debajo de la cabecera"; },
+        [&] { datos.Recordset().MoveLast(); });
     rejilla.Rows(datos.Recordset().RecordCount() + 1);
     datos.Recordset().MoveFirst();
     escribirEncabezados(hoja);

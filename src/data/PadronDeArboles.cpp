@@ -51,9 +51,8 @@ Padron PadronDeLaRejilla(Programa& programa) {
         const auto registro = static_cast<std::size_t>(ANumero(rejilla.TextMatrix(fila, 0)));
         return tabla.numeroDeFila(registro - 1);
     });
-    padron.numeros = PorArbol(rejilla, [&](int fila) {
-        return conNumero ? rejilla.TextMatrix(fila, columna) : std::string{};
-    });
+    padron.numeros = PorArbol(
+        rejilla, [&](int fila) { return conNumero ? rejilla.TextMatrix(fila, columna) : std::string{}; });
     return padron;
 }
 

@@ -1,6 +1,7 @@
 #include "indices/FasesDeVecindad.h"
 
 #include "basico/EnLugar.h"
+#include "basico/Numeros.h"
 #include "data/FilasDeArboles.h"
 #include "data/Hojadedatos.h"
 #include "data/PadronDeArboles.h"
@@ -57,6 +58,44 @@ std::vector<Pasada> PasadasDe(const Casilla& casillaUna, Pasada una, const Casil
 
 std::vector<Lado> LadosDe(const Casilla& bilateral, const Casilla& unilateral) {
     return PasadasDe(bilateral, Lado::Bilateral, unilateral, Lado::Unilateral);
+}
+
+/// "TxtBAF1(0)": where the first value of a sweep is typed.
+std::string CampoDeBarrido(int miembro) {
+    return "TxtBAF1(" + std::to_string(miembro) + ")";
+}
+
+/// Why a sweep has no value, or nothing when it has some.
+std::optional<std::string> BarridoSinValores(const Intervalo& barrido, int miembro) {
+    if (CuantosCaben(barrido) >= 1) {
+        return std::nullopt;
+    }
+    return "el barrido que empieza en " + CampoDeBarrido(miembro) + " va de " + ATexto(barrido.Desde) +
+           " a " + ATexto(barrido.Hasta) + " con paso " + ATexto(barrido.Paso) +
+           " y no pasa por ningún valor";
+}
+
+std::string ListaVacia(const Control& lista) {
+    return "la lista " + lista.nombreCompleto() + " está vacía: añádale una función";
+}
+
+/// Makes room for the columns of a family, one at least. `causa` tells why there is none.
+template <class Causa>
+void Dimensionar(ResultadosIndices::IndicePorColumnas& indice, Entero16 columnas, int arboles,
+                 const Causa& causa) {
+    const auto explicar = [&](ErrorEjecucion& error) {
+        if (const std::optional<std::string> motivo = causa()) {
+            error.porque(*motivo);
+        }
+    };
+    AlFallar(explicar, [&] { indice.redimensionar(columnas.valor() - 1, arboles - 1); });
+}
+
+/// The number of the columns of a family, rounded.
+Entero16 CuantasColumnas(double columnas) {
+    return Porque(
+        fallo::desbordamiento, [] { return "los barridos piden más de 32.767 columnas"; },
+        [&] { return Entero16{columnas}; });
 }
 
 /// A column of IDP to compute.
@@ -126,8 +165,9 @@ private:
         r.AOIk = LeerIntervalo(opciones_, exponenteAOI);
         r.NumFuncAOI = opciones_.LstAOI.ListCount();
         r.NumLadosAOI = static_cast<int>(lados.size());
-        r.NumColAOI = Entero16{CuantosCaben(r.AOIk) * r.NumFuncAOI.valor() * r.NumLadosAOI.valor()};
-        r.IndAOI.redimensionar(r.NumColAOI.valor() - 1, cuantosArboles() - 1);
+        r.NumColAOI = CuantasColumnas(CuantosCaben(r.AOIk) * r.NumFuncAOI.valor() * r.NumLadosAOI.valor());
+        Dimensionar(r.IndAOI, r.NumColAOI, cuantosArboles(),
+                    [&] { return BarridoSinValores(r.AOIk, exponenteAOI); });
         int numero = -1;
         for (const Lado lado : lados) {
             for (int entrada = 1; entrada <= r.NumFuncAOI.valor(); ++entrada) {
@@ -155,8 +195,9 @@ private:
         r.NumParamIDP = CuantosParametros(opciones_, seleccionIDP, r.IDP);
         r.NumLadosIDP = static_cast<int>(lados.size());
         r.NumCentralIDP = static_cast<int>(formas.size());
-        r.NumColIDP = Entero16{r.NumLadosIDP.valor() * r.NumParamIDP * r.NumCentralIDP.valor()};
-        r.IndIDP.redimensionar(r.NumColIDP.valor() - 1, cuantosArboles() - 1);
+        r.NumColIDP = CuantasColumnas(r.NumLadosIDP.valor() * r.NumParamIDP * r.NumCentralIDP.valor());
+        Dimensionar(r.IndIDP, r.NumColIDP, cuantosArboles(),
+                    [&] { return sinParametros(seleccionIDP, r.IDP); });
         const ReglaDeSeleccion regla = ReglaElegida(opciones_, seleccionIDP);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorAngulo};
         int numero = -1;
@@ -166,8 +207,11 @@ private:
                 return RotuloIDP(PrefijoDeRegla(regla), enRotulo(regla, pedida.p), pedida.lado,
                                  pedida.forma == FormaIDP::ConArbolCentral);
             };
-            columna(r.IndIDP, ++numero, rotulo,
-                    [&] { return CalcularIDP(arboles(), seleccion, pedida.lado, pedida.forma); });
+            columna(r.IndIDP, ++numero, rotulo, [&] {
+                return explicandoElBAF(regla, seleccionIDP, pedida.p, [&] {
+                    return CalcularIDP(arboles(), seleccion, pedida.lado, pedida.forma);
+                });
+            });
         }
     }
 
@@ -193,8 +237,14 @@ private:
         r.NumLadosDR = static_cast<int>(lados.size());
         r.NumFuncDR = opciones_.LstDist.ListCount();
         r.NumColDR =
-            Entero16{r.NumLadosDR.valor() * r.NumParamDR * r.NumFuncDR.valor() * CuantosCaben(r.DRk)};
-        r.IndDR.redimensionar(r.NumColDR.valor() - 1, cuantosArboles() - 1);
+            CuantasColumnas(r.NumLadosDR.valor() * r.NumParamDR * r.NumFuncDR.valor() * CuantosCaben(r.DRk));
+        Dimensionar(r.IndDR, r.NumColDR, cuantosArboles(), [&]() -> std::optional<std::string> {
+            if (opciones_.LstDist.ListCount() == 0) {
+                return ListaVacia(opciones_.LstDist);
+            }
+            const auto motivo = sinParametros(seleccionDR, r.DR);
+            return motivo ? motivo : BarridoSinValores(r.DRk, exponenteDR);
+        });
         const ReglaDeSeleccion regla = ReglaElegida(opciones_, seleccionDR);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorDistancia};
         std::vector<EntradaDeDistancia> entradas = entradasDeDistancia();
@@ -206,7 +256,9 @@ private:
                                 static_cast<int>(pedida.entrada) + 1, pedida.lado);
             };
             columna(r.IndDR, ++numero, rotulo, [&] {
-                return CalcularDR(arboles(), seleccion, pedida.lado, entradas[pedida.entrada], pedida.k);
+                return explicandoElBAF(regla, seleccionDR, pedida.p, [&] {
+                    return CalcularDR(arboles(), seleccion, pedida.lado, entradas[pedida.entrada], pedida.k);
+                });
             });
         }
     }
@@ -239,8 +291,9 @@ private:
     void faseAPA() {
         auto& r = resultados_;
         r.APAk = LeerIntervalo(opciones_, exponenteAPA);
-        r.NumColAPA = Entero16{CuantosCaben(r.APAk)};
-        r.IndAPA.redimensionar(r.NumColAPA.valor() - 1, cuantosArboles() - 1);
+        r.NumColAPA = CuantasColumnas(CuantosCaben(r.APAk));
+        Dimensionar(r.IndAPA, r.NumColAPA, cuantosArboles(),
+                    [&] { return BarridoSinValores(r.APAk, exponenteAPA); });
         int numero = -1;
         for (const double k : ValoresDe(r.APAk)) {
             columna(
@@ -257,6 +310,28 @@ private:
             programa_.sesion.CentroCircX = circulo->CentroCircX;
             programa_.sesion.CentroCircY = circulo->CentroCircY;
         }
+    }
+
+    /// Why the choice of competitors has no parameter, or nothing when it has some.
+    [[nodiscard]] std::optional<std::string> sinParametros(FamiliaConSeleccion familia,
+                                                           const Intervalo& barrido) const {
+        if (ReglaElegida(opciones_, familia) == ReglaDeSeleccion::Funcion) {
+            const auto& lista = opciones_.LstRich(familia);
+            return lista.ListCount() == 0 ? std::optional{ListaVacia(lista)} : std::nullopt;
+        }
+        return BarridoSinValores(barrido, MiembroDeSeleccion(opciones_, familia));
+    }
+
+    /// A basal area factor of 0 divides: the fault that nobody nearer has explained is its own.
+    template <class Calcular>
+    static std::vector<double> explicandoElBAF(ReglaDeSeleccion regla, FamiliaConSeleccion familia, double p,
+                                               const Calcular& calcular) {
+        const auto explicar = [&](ErrorEjecucion& error) {
+            if (regla == ReglaDeSeleccion::BAF && p == 0 && error.numero() == fallo::divisionPorCero) {
+                error.porque("el BAF es 0: ponga un valor mayor en " + CampoDeBarrido(ParametroDe(familia)));
+            }
+        };
+        return AlFallar(explicar, calcular);
     }
 
     void poner(Seleccion& seleccion, ReglaDeSeleccion regla, FamiliaConSeleccion familia, double p) const {

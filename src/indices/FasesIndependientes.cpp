@@ -32,9 +32,12 @@ struct DatosDeCorrida {
 DatosDeCorrida Reunir(Programa& programa) {
     auto& hoja = programa.tocar<Hojadedatos>();
     const int columnaDAP = programa.sesion.ColumnaDAP.valor();
-    return {hoja.Data1.Database(), hoja.Data1.Recordset().campos()(columnaDAP - 1).Name,
-            programa.tocar<FrmSeleccion>().CboHoja.Text, UnidadesDelTallo(programa.tocar<OpcionesPrograma>()),
-            TextosDeColumna(hoja.MSFlexGrid1, columnaDAP), PadronDeLaRejilla(programa)};
+    return {hoja.Data1.Database(),
+            hoja.Data1.Recordset().campos()(columnaDAP - 1).Name,
+            programa.tocar<FrmSeleccion>().CboHoja.Text,
+            UnidadesDelTallo(programa.tocar<OpcionesPrograma>()),
+            TextosDeColumna(hoja.MSFlexGrid1, columnaDAP),
+            PadronDeLaRejilla(programa)};
 }
 
 /// The column of the results file that shows a family.
@@ -70,10 +73,23 @@ private:
         auto& indice = programa_.resultados.*columna.indice;
         indice.redimensionar(filasGrid_ - 1);
         const auto situar = [&](ErrorEjecucion& error) {
+            explicarSuperficie(error);
             PonerArbol(error, programa_);
             error.en(std::string{"familia "} + columna.encabezado);
         };
         AlFallar(situar, [&] { guardar(calcular(familia), indice); });
+    }
+
+    /// What nobody nearer has explained is divided by the area of the plot.
+    void explicarSuperficie(ErrorEjecucion& error) const {
+        if (error.numero() != fallo::divisionPorCero || programa_.sesion.SupPoligono != 0) {
+            return;
+        }
+        const int arboles = filasGrid_ - 1;
+        error.porque("la superficie de la parcela es 0: " +
+                     std::string{arboles == 1   ? "tiene un solo árbol"
+                                 : arboles == 2 ? "tiene solo dos árboles"
+                                                : "todos los árboles están en una línea"});
     }
 
     std::vector<double> calcular(const RasgosDeFamilia& familia) {
@@ -92,8 +108,7 @@ private:
             break;
         }
         return CalcularRazones(familia.familia, datos().base, datos().campo, datos().tabla, tamanos(),
-                               programa_.sesion.SupPoligono, programa_.sesion.PiesHaActual,
-                               datos().padron);
+                               programa_.sesion.SupPoligono, programa_.sesion.PiesHaActual, datos().padron);
     }
 
     double deParcela(Independiente familia) {

@@ -31,12 +31,16 @@ Intervalo LeerIntervalo(const OpcionesPrograma& opciones, int miembro) {
     return SinDegenerar(intervalo);
 }
 
+int MiembroDeSeleccion(const OpcionesPrograma& opciones, FamiliaConSeleccion familia) {
+    const bool conDecimales = opciones.OptBAF(familia).Value() || opciones.OptRadioFijo(familia).Value();
+    return conDecimales ? ParametroDe(familia) : PiesDe(familia);
+}
+
 Intervalo IntervaloDeSeleccion(const OpcionesPrograma& opciones, FamiliaConSeleccion familia) {
     if (ReglaElegida(opciones, familia) == ReglaDeSeleccion::Funcion) {
         return {0, static_cast<double>(opciones.LstRich(familia).ListCount() - 1), 1};
     }
-    const bool conDecimales = opciones.OptBAF(familia).Value() || opciones.OptRadioFijo(familia).Value();
-    return LeerIntervalo(opciones, conDecimales ? ParametroDe(familia) : PiesDe(familia));
+    return LeerIntervalo(opciones, MiembroDeSeleccion(opciones, familia));
 }
 
 double CuantosParametros(const OpcionesPrograma& opciones, FamiliaConSeleccion familia,

@@ -16,7 +16,9 @@ Intervalo LeerIntervalo(const OpcionesPrograma& opciones, int miembro);
 
 /// The sweep of the selection parameter: with functions, over the lines of their list, from 0.
 Intervalo IntervaloDeSeleccion(const OpcionesPrograma& opciones, FamiliaConSeleccion familia);
-/// How many values it has, not rounded.
+/// The member of TxtBAF1 under which its parameter is typed; not with functions.
+int MiembroDeSeleccion(const OpcionesPrograma& opciones, FamiliaConSeleccion familia);
+/// How many values it has, not rounded. A step of 0 throws 11.
 double CuantosParametros(const OpcionesPrograma& opciones, FamiliaConSeleccion familia,
                          const Intervalo& intervalo);
 

@@ -1,5 +1,6 @@
 #include "map/FrmFormato.h"
 
+#include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
 #include "data/FilasDeArboles.h"
@@ -185,7 +186,10 @@ void FrmFormato::CmdAceptar_Click() {
     prepararSuperficies();
     ConstruirPoligono(programa_);
     auto& sesion = programa_.sesion;
-    sesion.SupPoligono = AreaPoligono(sesion.Poligono.contorno(), sesion.NumPuntosPoligono.valor());
+    sesion.SupPoligono = Porque(
+        fallo::argumentoNoValido,
+        [] { return "no se puede hallar la superficie: los árboles del contorno están casi en una línea"; },
+        [&] { return AreaPoligono(sesion.Poligono.contorno(), sesion.NumPuntosPoligono.valor()); });
     auto& marco = programa_.tocar<VAROMAIN>();
     marco.mnuMapa.Enabled = false;
     marco.mnuOpciones.Enabled = true;

@@ -1,5 +1,6 @@
 #include "map/FrmMapa.h"
 
+#include "basico/EnLugar.h"
 #include "basico/Texto.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
@@ -67,9 +68,17 @@ void FrmMapa::Npies_ha() {
     const int papel = conCodigo ? sesion.UltimaColumna.valor() : PapelDeCopa(0);
     auto& datos = programa_.tocar<Hojadedatos>().Data1;
     const auto& campo = datos.Recordset().campos()(sesion.Columnas(papel).valor() - 1).Name;
-    sesion.PiesHaActual =
-        PiesPorHectarea(datos.Database(), campo, programa_.tocar<FrmSeleccion>().CboHoja.Text,
-                        sesion.NumPuntosPoligono.valor(), sesion.SupPoligono);
+    const auto explicar = [&](ErrorEjecucion& error) {
+        if (error.numero() == fallo::sintaxisDeConsulta || error.numero() == fallo::nombreDesconocido) {
+            error.porque("los pies se cuentan por la columna «" + campo +
+                         "», y su cabecera no es una palabra: cambie la cabecera a una sola palabra, sin "
+                         "blancos ni signos");
+        }
+    };
+    sesion.PiesHaActual = AlFallar(explicar, [&] {
+        return PiesPorHectarea(datos.Database(), campo, programa_.tocar<FrmSeleccion>().CboHoja.Text,
+                               sesion.NumPuntosPoligono.valor(), sesion.SupPoligono);
+    });
 }
 
 void FrmMapa::Ab_ha() {
@@ -82,7 +91,9 @@ void FrmMapa::Ab_ha() {
     const int columnaArea = opciones.ChCodigo.Value() == 1 ? 3 : 2;
     const double quitar = AreaBasimetricaDeBorde(sesion.Poligono, columnaArea,
                                                  sesion.NumPuntosPoligono.valor(), sesion.AnguloInterior);
-    sesion.AbHaActual = AreaBasimetricaPorHectarea(suma, quitar, sesion.SupPoligono);
+    sesion.AbHaActual = Porque(
+        fallo::usoDeNulo, [&] { return "ningún árbol tiene tamaño en la columna «" + campo + "»"; },
+        [&] { return AreaBasimetricaPorHectarea(suma, quitar, sesion.SupPoligono); });
 }
 
 FrmMapa2::FrmMapa2(Programa& programa)

@@ -26,7 +26,8 @@ public:
 
     [[nodiscard]] double numero(int fila, int columna) const {
         const auto situar = [&](ErrorEjecucion& error) {
-            padron_.situar(error.en("columna «" + texto(0, columna) + "»"), static_cast<std::size_t>(fila) - 1);
+            padron_.situar(error.en("columna «" + texto(0, columna) + "»"),
+                           static_cast<std::size_t>(fila) - 1);
         };
         return AlFallar(situar, [&] { return ANumero(texto(fila, columna)); });
     }
@@ -39,6 +40,16 @@ private:
     const Rejilla& rejilla_;
     Padron padron_;
 };
+
+/// The cleaning of the grid leaves one row even where no row has coordinates.
+void ExigirAlgunArbol(const Rejilla& rejilla, int columnaX, int columnaY) {
+    if (rejilla.Rows() == 2 && rejilla.TextMatrix(1, columnaX).empty() &&
+        rejilla.TextMatrix(1, columnaY).empty()) {
+        throw ErrorEjecucion{fallo::tiposDistintos}.porque(
+            "la parcela no tiene ningún árbol: todas las filas tienen vacías las columnas «" +
+            rejilla.TextMatrix(0, columnaX) + "» y «" + rejilla.TextMatrix(0, columnaY) + "»");
+    }
+}
 
 void OrdenarPor(Rejilla& rejilla, int columna) {
     rejilla.Col(columna);
@@ -102,10 +113,12 @@ void ConstruirPoligono(Programa& programa) {
     sesion.FactorRadios = FactorDeRadios(opciones);
 
     const int columnaX = sesion.Columnas(papelX).valor();
+    const int columnaY = sesion.Columnas(papelY).valor();
     OrdenarPor(rejilla, columnaX);
     const CeldasSituadas celdas{rejilla, PadronDeLaRejilla(programa)};
+    ExigirAlgunArbol(rejilla, columnaX, columnaY);
     const std::vector<double> x = celdas.columna(columnaX);
-    const std::vector<double> y = celdas.columna(sesion.Columnas(papelY).valor());
+    const std::vector<double> y = celdas.columna(columnaY);
     const Envolvente envolvente = EnvolverArboles(x, y);
 
     sesion.Poligono.vaciar();

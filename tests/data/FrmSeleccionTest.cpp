@@ -169,7 +169,8 @@ TEST(FrmSeleccion, UnTextoMasAnchoDeLoQueCabeEn16BitsNoPasa) {
     jornada.aceptarHoja("Parcela1$");
     ASSERT_TRUE(jornada.programa.tocar<FrmSeleccion>().ultimoFallo().has_value());
     EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->numero(), 6);
-    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->lugar(), "fila 2 de «Parcela1$», columna «A»");
+    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->lugar(),
+              "fila 2 de «Parcela1$», columna «A»");
 }
 
 TEST(FrmSeleccion, TrasUnaHojaQueNoEstaQuedanElOrigenPuestoYLaRejillaComoEstaba) {

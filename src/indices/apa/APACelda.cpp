@@ -1,5 +1,6 @@
 #include "indices/apa/APACelda.h"
 
+#include "basico/EnLugar.h"
 #include "basico/Saltando.h"
 
 #include <algorithm>
@@ -18,7 +19,9 @@ std::vector<PuntoAPA> Vertices(std::span<const LadoAPA> lados) {
     for (std::size_t v = 0; v < lados.size(); ++v) {
         const LadoAPA& este = lados[v];
         const LadoAPA& otro = lados[v + 1 < lados.size() ? v + 1 : 0];
-        const double x = Dividir(otro.intercepto - este.intercepto, este.pendiente - otro.pendiente);
+        const double x = Porque(
+            fallo::divisionPorCero, [] { return "dos lados seguidos de la celda son paralelos"; },
+            [&] { return Dividir(otro.intercepto - este.intercepto, este.pendiente - otro.pendiente); });
         vertices.push_back({x, este.pendiente * x + este.intercepto});
     }
     vertices.push_back(vertices.front());
@@ -66,9 +69,16 @@ void TrazarHastaElContorno(const ContornoXY& contorno, const PuntoAPA& dentro, c
 std::vector<bool> Dentro(std::span<const PuntoAPA> vertices, const ContornoXY& contorno) {
     std::vector<bool> dentro;
     dentro.reserve(vertices.size());
-    for (const auto& [x, y] : vertices) {
-        dentro.push_back(PuntoEnPoligono(contorno, x, y));
-    }
+    Porque(
+        fallo::divisionPorCero,
+        [] {
+            return "un lado del contorno es vertical: dos árboles seguidos del contorno tienen la misma X";
+        },
+        [&] {
+            for (const auto& [x, y] : vertices) {
+                dentro.push_back(PuntoEnPoligono(contorno, x, y));
+            }
+        });
     return dentro;
 }
 

@@ -36,7 +36,7 @@ GiroAPA::Vecino GiroAPA::masCercano() {
         }
     }
     if (!cercano) {
-        throw ErrorEjecucion{fallo::divisionPorCero};
+        throw ErrorEjecucion{fallo::divisionPorCero}.porque("el árbol no tiene ningún vecino");
     }
     return *cercano;
 }
@@ -57,7 +57,11 @@ void GiroAPA::medirDirecciones(Vecino primero, Pareja& pareja) {
 }
 
 void GiroAPA::probarLosDemas(Vecino primero, Pareja& pareja) {
-    const auto& [xi, yi, filas, x, y] = *vecinos_;
+    const auto& filas = vecinos_->filas;
+    const auto& x = vecinos_->x;
+    const auto& y = vecinos_->y;
+    const double xi = vecinos_->xSujeto;
+    const double yi = vecinos_->ySujeto;
     prueba_.resize(filas.size());
     std::iota(prueba_.begin(), prueba_.end(), Vecino{0});
     rueda_.llenar(angulo_, primero);
@@ -65,7 +69,13 @@ void GiroAPA::probarLosDemas(Vecino primero, Pareja& pareja) {
     while (!rueda_.vacia()) {
         const Vecino q = rueda_.sacar();
         pareja.vecino = filas[q];
-        const auto& circulo = ultimoCirculo_.emplace(RadioCircunscrito(xi, yi, x[p], y[p], x[q], y[q]));
+        const CirculoCircunscrito& circulo = ultimoCirculo_.emplace(Porque(
+            fallo::divisionPorCero,
+            [&] {
+                return y[q] == yi ? "los dos árboles tienen la misma Y"
+                                  : "el árbol y dos de sus vecinos están en una línea";
+            },
+            [&] { return RadioCircunscrito(xi, yi, x[p], y[p], x[q], y[q]); }));
         if (vacio(circulo, p, q)) {
             anadirLado(q);
             mayorRadio_ = std::max(mayorRadio_, circulo.radio);
@@ -80,8 +90,16 @@ void GiroAPA::anadirLado(Vecino vecino) {
     const double y = vecinos_->y[vecino];
     const double mx = (vecinos_->xSujeto + x) / 2.0;
     const double my = (vecinos_->ySujeto + y) / 2.0;
-    const double s = Dividir(y - vecinos_->ySujeto, x - vecinos_->xSujeto);
-    const double pendiente = Dividir(-1.0, s);
+    const double s = Porque(
+        fallo::divisionPorCero,
+        [&] {
+            return y == vecinos_->ySujeto ? "el tamaño del árbol no pesa nada junto al de su vecino"
+                                          : "los dos árboles tienen casi la misma X";
+        },
+        [&] { return Dividir(y - vecinos_->ySujeto, x - vecinos_->xSujeto); });
+    const double pendiente = Porque(
+        fallo::divisionPorCero, [] { return "los dos árboles tienen la misma Y"; },
+        [&] { return Dividir(-1.0, s); });
     lados_.push_back({vecino, pendiente, my - pendiente * mx});
 }
 

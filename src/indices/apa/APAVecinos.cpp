@@ -1,5 +1,6 @@
 #include "indices/apa/APAVecinos.h"
 
+#include "basico/EnLugar.h"
 #include "basico/Saltando.h"
 
 #include <algorithm>
@@ -20,9 +21,13 @@ PuntoAPA ColocarVecino(const PesosAPA& pesos, std::size_t i, std::size_t j) {
     const double yj = arboles.y(j);
     const double L = Distancia(xi, yi, xj, yj);
     const double pesoI = pesos.de(i);
-    const double W = Dividir(pesoI, ExigirFinito(pesoI + pesos.de(j)));
+    const double W = Porque(
+        fallo::divisionPorCero, [] { return "los tamaños de los dos árboles pesan 0"; },
+        [&] { return Dividir(pesoI, ExigirFinito(pesoI + pesos.de(j))); });
     const double Lw = 2.0 * W * L;
-    const double s = Dividir(yj - yi, xj - xi);
+    const double s = Porque(
+        fallo::divisionPorCero, [] { return "los dos árboles tienen la misma X"; },
+        [&] { return Dividir(yj - yi, xj - xi); });
     const double dx = Lw * Raiz(Dividir(1.0, s * s + 1.0));
     const double dy = Lw * Raiz(Dividir(s * s, s * s + 1.0));
     // Meant: a tree straight to the left lands to the right.

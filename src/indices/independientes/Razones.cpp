@@ -17,6 +17,37 @@ double Reparto(const RasgosDeFamilia& familia, double piesHa) {
     return familia.clase == ClaseDeFamilia::AreaProporcional ? Dividir(10000, piesHa) : 1;
 }
 
+const char* EstadisticoDe(Independiente familia) {
+    switch (familia) {
+    case Independiente::Dmax:
+    case Independiente::Bmax:
+    case Independiente::APDmax:
+    case Independiente::APBmax:
+        return "el máximo";
+    case Independiente::APDsum:
+    case Independiente::APBsum:
+        return "la suma";
+    default:
+        return "la media";
+    }
+}
+
+/// Why a size cannot be compared with the statistic of its column.
+std::string SinComparacion(Independiente familia, const std::string& campo, const Valor& estadistico) {
+    return EsNulo(estadistico) ? "ningún árbol tiene un tamaño distinto de 0 en la columna «" + campo + "»"
+                               : std::string{EstadisticoDe(familia)} + " de la columna «" + campo +
+                                     "» es 0: revise los tamaños";
+}
+
+/// How many trees are dominant.
+Entero16 CuantosDominantes(double supPoligono, int arboles) {
+    const auto cuantos = Porque(
+        fallo::desbordamiento,
+        [] { return "la parcela es demasiado grande: sus árboles dominantes, 100 por hectárea, no caben"; },
+        [&] { return Entero16{supPoligono / 100}; });
+    return std::min(cuantos, Entero16{arboles});
+}
+
 } // namespace
 
 double TamanoDeCelda(const std::string& celda) {
@@ -51,10 +82,15 @@ std::string ConsultaEstadistico(Independiente familia, const std::string& campo,
 
 double TamanoDominante(const BaseDatos& base, const std::string& campo, const std::string& tabla,
                        double supPoligono, int arboles, bool conRaiz) {
-    const Entero16 n = std::min(Entero16{supPoligono / 100}, Entero16{arboles});
+    const Entero16 n = CuantosDominantes(supPoligono, arboles);
     auto mayores = base.OpenRecordset("SELECT top " + ATexto(n.valor()) + " [" + campo + "] as Ddom FROM [" +
                                       tabla + "] WHERE [" + campo + "] <> 0 order by [" + campo + "] desc");
-    mayores.MoveFirst();
+    const auto sinDominantes = [&] {
+        return n == 0 ? "en " + Formato(supPoligono, "###0.0") +
+                            " m2 no cabe ningún árbol dominante: son 100 por hectárea"
+                      : "ningún árbol tiene un tamaño distinto de 0 en la columna «" + campo + "»";
+    };
+    Porque(fallo::sinRegistroActual, sinDominantes, [&] { mayores.MoveFirst(); });
     double suma = 0;
     while (!mayores.Eof()) {
         const auto situar = [&](ErrorEjecucion& error) {
@@ -82,11 +118,18 @@ std::vector<double> CalcularRazones(Independiente familia, const BaseDatos& base
     razones.reserve(tamanos.size());
     for (const double d : tamanos) {
         const auto razon = [&] {
-            const double reparto = Reparto(rasgos, piesHa);
+            const double reparto = Porque(
+                fallo::divisionPorCero, [] { return "los pies por hectárea son 0"; },
+                [&] { return Reparto(rasgos, piesHa); });
             const double tamano = rasgos.dimension == Dimension::Cuadrado ? Potencia(d, 2) : d;
             return reparto * Dividir(tamano, ANumero(estadistico));
         };
-        const auto situar = [&](ErrorEjecucion& error) { padron.situar(error, razones.size()); };
+        const auto situar = [&](ErrorEjecucion& error) {
+            if (error.numero() == fallo::divisionPorCero || error.numero() == fallo::usoDeNulo) {
+                error.porque(SinComparacion(familia, campo, estadistico));
+            }
+            padron.situar(error, razones.size());
+        };
         razones.push_back(AlFallar(situar, razon));
     }
     return razones;

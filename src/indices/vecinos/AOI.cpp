@@ -76,14 +76,26 @@ private:
 
     [[nodiscard]] double parte(std::size_t i, std::size_t j, double Ri) const {
         const double tamanoJ = arboles_.tamano(j);
-        const double w = Potencia(Dividir(tamanoJ, arboles_.tamano(i)), k_);
+        const double razon = Porque(
+            fallo::divisionPorCero, [] { return "el tamaño del árbol es 0"; },
+            [&] { return Dividir(tamanoJ, arboles_.tamano(i)); });
+        const double w = Potencia(razon, k_);
         const double Rj = radios_.de(j);
         const double xi = arboles_.x(i);
         const double yi = arboles_.y(i);
         const double xj = arboles_.x(j);
         const double yj = arboles_.y(j);
-        const double area = AreaInterseccionCirculos(xi, yi, xj, yj, Ri, Rj);
-        return Dividir(area, ExigirFinito(numeroPi * (Ri * Ri))) * w;
+        const double area = Porque(
+            fallo::divisionPorCero,
+            [&] {
+                return Ri == 0 || Rj == 0 ? "uno de los dos radios de influencia es 0"
+                                          : "los dos árboles están en el mismo sitio";
+            },
+            [&] { return AreaInterseccionCirculos(xi, yi, xj, yj, Ri, Rj); });
+        const double parte = Porque(
+            fallo::divisionPorCero, [] { return "el radio de influencia del árbol es 0"; },
+            [&] { return Dividir(area, ExigirFinito(numeroPi * (Ri * Ri))); });
+        return parte * w;
     }
 
     const Arboles& arboles_;

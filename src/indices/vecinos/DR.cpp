@@ -42,7 +42,10 @@ double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
         const double f = entrada.funcion().en(seleccion.L(j));
         const Veredicto veredicto = seleccion.juzgar(j);
         if (veredicto.juicio == Veredicto::Juicio::Aceptado) {
-            suma = ExigirFinito(suma + f * Potencia(Dividir(dj, di), columna.k));
+            const double razon = Porque(
+                fallo::divisionPorCero, [] { return "el tamaño del árbol es 0"; },
+                [&] { return Dividir(dj, di); });
+            suma = ExigirFinito(suma + f * Potencia(razon, columna.k));
         }
         return veredicto.juicio != Veredicto::Juicio::Borde;
     };

@@ -1,6 +1,7 @@
 #include "indices/vecinos/FuncionesDeLista.h"
 
 #include "basico/Aritmetica.h"
+#include "basico/EnLugar.h"
 #include "basico/ErrorEjecucion.h"
 #include "basico/Numeros.h"
 #include "basico/Texto.h"
@@ -90,8 +91,12 @@ SumaDePotencias LeerRadioDeInfluencia(const std::string& entrada) {
 }
 
 double FuncionDeDistancia::en(double L) const {
-    const double s = suma.en(L);
-    return exponencial ? ExigirFinito(std::exp(-s)) : Dividir(1, s);
+    return Porque(
+        fallo::divisionPorCero, [] { return "la función de la distancia divide por 0 a la que los separa"; },
+        [&] {
+            const double s = suma.en(L);
+            return exponencial ? ExigirFinito(std::exp(-s)) : Dividir(1, s);
+        });
 }
 
 bool FuncionDeDistancia::sinFallosEntre(double desde, double hasta) const {

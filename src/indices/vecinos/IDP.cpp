@@ -22,7 +22,9 @@ double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, La
     const auto sumar = [&](std::size_t j, double dj) {
         const Veredicto veredicto = seleccion.juzgar(j);
         if (veredicto.juicio == Veredicto::Juicio::Aceptado) {
-            const double razon = Dividir(dj, seleccion.L(j));
+            const double razon = Porque(
+                fallo::divisionPorCero, [] { return "los dos árboles están en el mismo sitio"; },
+                [&] { return Dividir(dj, seleccion.L(j)); });
             suma = ExigirFinito(suma + (veredicto.rango + h) * (razon * razon));
             ++m;
         }

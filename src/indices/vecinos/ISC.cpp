@@ -67,7 +67,13 @@ private:
         const double yi = arboles_.y(i);
         const double xj = arboles_.x(j);
         const double yj = arboles_.y(j);
-        return AreaInterseccionCirculos(xi, yi, xj, yj, ri, rj);
+        return Porque(
+            fallo::divisionPorCero,
+            [&] {
+                return xi == xj && yi == yj ? "las dos copas son iguales y están en el mismo sitio"
+                                            : "una de las dos copas mide 0";
+            },
+            [&] { return AreaInterseccionCirculos(xi, yi, xj, yj, ri, rj); });
     }
 
     const Arboles& arboles_;

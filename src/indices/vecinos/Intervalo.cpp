@@ -1,7 +1,8 @@
 #include "indices/vecinos/Intervalo.h"
 
 #include "basico/Aritmetica.h"
-#include "basico/ErrorEjecucion.h"
+#include "basico/EnLugar.h"
+#include "basico/Numeros.h"
 
 namespace varo {
 
@@ -13,7 +14,13 @@ Intervalo SinDegenerar(Intervalo intervalo) {
 }
 
 double CuantosCaben(const Intervalo& intervalo) {
-    return Dividir(intervalo.Hasta - intervalo.Desde, intervalo.Paso) + 1;
+    const auto pasoNulo = [&] {
+        return "el paso del barrido de " + ATexto(intervalo.Desde) + " a " + ATexto(intervalo.Hasta) +
+               " es 0";
+    };
+    return Porque(fallo::divisionPorCero, pasoNulo,
+                  [&] { return Dividir(intervalo.Hasta - intervalo.Desde, intervalo.Paso); }) +
+           1;
 }
 
 std::vector<double> ValoresDe(const Intervalo& intervalo) {
@@ -25,7 +32,8 @@ std::vector<double> ValoresDe(const Intervalo& intervalo) {
         valores.push_back(valor);
         const double siguiente = valor + intervalo.Paso;
         if (siguiente == valor) {
-            throw ErrorEjecucion{fallo::fueraDeIndice}; // the columns run out before the values do
+            throw ErrorEjecucion{fallo::fueraDeIndice}.porque(
+                "el paso es demasiado pequeño para avanzar"); // the columns run out before the values do
         }
         valor = siguiente;
     }

@@ -162,7 +162,8 @@ Veredicto Seleccion::juzgar(std::size_t j) {
 
 Veredicto Seleccion::juzgarPorAngulo(std::size_t j) {
     const double vista = razon(j);
-    const double raiz = Raiz(p_);
+    const double raiz = Porque(
+        fallo::argumentoNoValido, [] { return "el BAF es negativo"; }, [&] { return Raiz(p_); });
     if (!(vista > raiz / 50)) {
         return rechazado;
     }
@@ -217,7 +218,9 @@ double Seleccion::limite() {
 
 double Seleccion::razon(std::size_t j) const {
     const double d = arboles_.d(j);
-    return Dividir(d, L(j));
+    return Porque(
+        fallo::divisionPorCero, [] { return "los dos árboles están en el mismo sitio"; },
+        [&] { return Dividir(d, L(j)); });
 }
 
 /// What ranks compare: the greater, the better.

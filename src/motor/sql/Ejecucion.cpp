@@ -22,9 +22,9 @@ using Filas = std::vector<std::size_t>;
 template <class Accion>
 void EnCadaFila(const Tabla& tabla, const Filas& filas, Accion accion) {
     for (const auto fila : filas) {
-        AlFallar([&](
-                     ErrorEjecucion& error) { error.enFila(tabla.numeroDeFila(fila), tabla.lugarDeFila(fila)); },
-                 [&] { accion(fila); });
+        AlFallar(
+            [&](ErrorEjecucion& error) { error.enFila(tabla.numeroDeFila(fila), tabla.lugarDeFila(fila)); },
+            [&] { accion(fila); });
     }
 }
 

@@ -1,5 +1,6 @@
 #include "plot/calculo/Envolvente.h"
 
+#include "basico/EnLugar.h"
 #include "basico/Entero16.h"
 #include "basico/ErrorEjecucion.h"
 #include "plot/calculo/Module1.h"
@@ -86,7 +87,7 @@ double DireccionDelLado(double candidato, bool deVuelta) {
 Envolvente EnvolverArboles(std::span<const double> x, std::span<const double> y) {
     assert(x.size() == y.size());
     if (x.empty()) {
-        throw ErrorEjecucion{fallo::fueraDeIndice};
+        throw ErrorEjecucion{fallo::fueraDeIndice}.porque("la parcela no tiene ningún árbol");
     }
     const Posiciones arboles{x, y};
     std::vector<double> AnguloCandidato(x.size(), 0.0);
@@ -100,7 +101,11 @@ Envolvente EnvolverArboles(std::span<const double> x, std::span<const double> y)
         const std::size_t elegido = PrimeroMenor(AnguloCandidato);
         envolvente.AnguloLado.push_back(DireccionDelLado(AnguloCandidato[elegido], deVuelta));
         envolvente.arboles.push_back(static_cast<int>(elegido));
-        ++NumPuntosPoligono; // It overflows, and so ends a walk that trees in one place lead round for ever.
+        // It overflows, and so ends a walk that trees in one place lead round for ever.
+        Porque(
+            fallo::desbordamiento,
+            [] { return "el contorno no se cierra: revise si hay dos árboles en el mismo sitio"; },
+            [&] { ++NumPuntosPoligono; });
         deVuelta = DeVuelta(arboles.dx(actual, elegido), arboles.dy(actual, elegido));
         actual = elegido;
     } while (actual != 0);

@@ -244,8 +244,7 @@ TEST(APA, UnaParcelaSinArbolesNoTieneValores) {
 TEST(APA, UnTamanoQueNoEsNumeroFallaAlLeerlo) {
     ParcelaAPA parcela = CuatroAlrededorDeUno();
     parcela.tamano[3] = "grueso";
-    EXPECT_EQ(LugarDelFallo(parcela, fallo::tiposDistintos),
-              "al calcular la fila 1, fila 4, columna «D»");
+    EXPECT_EQ(LugarDelFallo(parcela, fallo::tiposDistintos), "al calcular la fila 1, fila 4, columna «D»");
 }
 
 TEST(APA, UnTamanoQueNoEsNumeroFallaTambienEnElContorno) {

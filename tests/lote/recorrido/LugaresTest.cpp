@@ -38,8 +38,9 @@ const std::string idp = "ChIDPActivar = 1\n'OptRadioFijo(0)' = true\n'TxtBAF1(0)
 TEST(Lugares, ElContornoDiceLaFilaDeLaHojaElArbolLaColumnaYElTexto) {
     auto filas = CuadradoBarajado();
     filas[8][2] = std::string{"1,2,3"};
-    EXPECT_EQ(ErrorCon(filas, ""), "dibujo del mapa: Error 13: No coinciden los tipos: «1,2,3» no es un número "
-                                   "(fila 9 de «Parcela1$», árbol 4, columna «Y»)");
+    EXPECT_EQ(ErrorCon(filas, ""),
+              "dibujo del mapa: Error 13: No coinciden los tipos: «1,2,3» no es un número "
+              "(fila 9 de «Parcela1$», árbol 4, columna «Y»)");
     filas[8][2] = {};
     EXPECT_EQ(ErrorCon(filas, ""),
               "dibujo del mapa: Error 13: No coinciden los tipos: no hay nada donde se espera un número "
@@ -72,22 +73,25 @@ TEST(Lugares, UnaFilaSinCoordenadasQueNoEstaEnLaRejillaSeDiceTambien) {
     filas[3][1] = {};
     filas[3][2] = {};
     filas[3][columnaCAP] = std::string{"gordo"};
-    EXPECT_NE(ErrorCon(filas, "ChDmed = 1\n").find("(familia di/dmed, fila 4 de «Parcela1$», árbol 5, columna"),
-              std::string::npos);
+    EXPECT_NE(
+        ErrorCon(filas, "ChDmed = 1\n").find("(familia di/dmed, fila 4 de «Parcela1$», árbol 5, columna"),
+        std::string::npos);
 }
 
 TEST(Lugares, LasFamiliasDeVecinosDicenLaFilaDeLaCelda) {
     auto filas = CuadradoBarajado();
     filas[3][columnaRN] = std::string{"ancho"};
-    EXPECT_EQ(ErrorCon(filas, "Optcirc = true\nChSupCopa = 1\nChISCBil = 1\n"),
-              "cálculo de los índices: Error 13: No coinciden los tipos: «ancho» no es un número (familia ISC, "
-              "columna ISC(Bil.), fila 4 de «Parcela1$», árbol 5, columna «RN»)");
+    EXPECT_EQ(
+        ErrorCon(filas, "Optcirc = true\nChSupCopa = 1\nChISCBil = 1\n"),
+        "cálculo de los índices: Error 13: No coinciden los tipos: «ancho» no es un número (familia ISC, "
+        "columna ISC(Bil.), fila 4 de «Parcela1$», árbol 5, columna «RN»)");
     filas = CuadradoBarajado();
     filas[10][columnaCAP] = std::string{"gordo"};
-    EXPECT_EQ(ErrorCon(filas, idp),
-              "cálculo de los índices: Error 13: No coinciden los tipos: «gordo» no es un número (familia IDP, "
-              "columna IDP(R:2;Bil.;Sí), al calcular la fila 4, árbol 5, fila 11 de «Parcela1$», árbol 6, "
-              "columna «CAP»)");
+    EXPECT_EQ(
+        ErrorCon(filas, idp),
+        "cálculo de los índices: Error 13: No coinciden los tipos: «gordo» no es un número (familia IDP, "
+        "columna IDP(R:2;Bil.;Sí), al calcular la fila 4, árbol 5, fila 11 de «Parcela1$», árbol 6, "
+        "columna «CAP»)");
 }
 
 TEST(Lugares, UnFalloEntreDosArbolesNombraALosDos) {

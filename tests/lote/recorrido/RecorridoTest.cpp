@@ -182,7 +182,9 @@ TEST(Recorrido, UnaHojaQueNoEstaSeRechazaConLasQueHay) {
 TEST(Recorrido, UnaHojaSinFilasEsUnFalloDeCalculo) {
     const ParcelaDePrueba parcela{{CuadradoConCentro().front()}};
     const auto fin = Correr(parcela, {});
-    EXPECT_EQ(fin.error, ErrorDeClave(parcela, "hoja: Error 3021: No hay ningún registro activo"));
+    EXPECT_EQ(fin.error,
+              ErrorDeClave(parcela, "hoja: Error 3021: No hay ningún registro activo: la hoja no tiene "
+                                    "ninguna fila debajo de la cabecera"));
     EXPECT_EQ(fin.estado, Estado::FalloDeCalculo);
     EXPECT_EQ(fin.fallo, 3021);
 }
@@ -198,7 +200,9 @@ TEST(Recorrido, UnFalloDelDibujoODelCalculoAcabaConElTrabajoYDejaLaSalidaComoEst
     EXPECT_EQ(fin.estado, Estado::FalloDeCalculo);
     EXPECT_EQ(fin.fallo, 11);
     EXPECT_EQ(fin.error,
-              ErrorDeClave(parcela, "cálculo de los índices: Error 11: División por cero (familia Pies/ha)"));
+              ErrorDeClave(parcela,
+                           "cálculo de los índices: Error 11: División por cero: la superficie de la "
+                           "parcela es 0: tiene solo dos árboles (familia Pies/ha)"));
 
     filas = CuadradoConCentro();
     filas[2][2] = std::string{"mucho"}; // a corner whose Y is no number

@@ -114,7 +114,8 @@ TEST(LectorXls, VeLasHojasComoTablas) {
 
 TEST(LectorXls, LasFilasConservanSuNumeroEnLaHoja) {
     const auto tablas = LeerXls(
-        prueba::EscribirXls({{"Hoja", {{}, {}, {Valor{"A"}, Valor{"B"}}, {1.0, 2.0}, {}, {3.0, 4.0}}}}), "l.xls");
+        prueba::EscribirXls({{"Hoja", {{}, {}, {Valor{"A"}, Valor{"B"}}, {1.0, 2.0}, {}, {3.0, 4.0}}}}),
+        "l.xls");
     EXPECT_EQ(tablas.at(0).numeros, (std::vector<int>{4, 5, 6}));
     EXPECT_EQ(tablas.at(0).lugarDeFila(2), "fila 6 de «Hoja$»");
 }

@@ -1,0 +1,174 @@
+// The faults that plots and options are known to meet, with their causes in words.
+#include "lote/TrabajoDePrueba.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+
+namespace varo::prueba {
+namespace {
+
+constexpr std::size_t columnaX = 1;
+constexpr std::size_t columnaY = 2;
+constexpr std::size_t columnaCAP = 8;
+
+/// The square and a sixth tree in it; no two trees inside share their X or their Y.
+Filas CuadradoConDos() {
+    auto filas = CuadradoConCentro();
+    filas.push_back(filas[5]);
+    filas[6][0] = 6.0;
+    filas[6][columnaX] = 6.0;
+    filas[6][columnaY] = 5.0;
+    return filas;
+}
+
+struct Fin {
+    std::string error;
+    std::optional<int> fallo;
+};
+
+Fin CorrerCon(const Filas& filas, const std::string& opciones, TextoDeTrabajo texto = {}) {
+    const ParcelaDePrueba parcela{filas};
+    texto.opciones = "Optmetro = true\n" + opciones;
+    const auto fin = Correr(parcela, texto);
+    return {fin.error, fin.fallo};
+}
+
+void ExigirCausa(const Fin& fin, int fallo, const std::string& causa) {
+    EXPECT_EQ(fin.fallo, fallo);
+    EXPECT_NE(fin.error.find(": " + causa), std::string::npos) << fin.error;
+}
+
+std::string Barrido(int miembro, const std::string& desde, const std::string& hasta,
+                    const std::string& paso) {
+    const std::string indice = "(" + std::to_string(miembro) + ")' = ";
+    return "'TxtBAF1" + indice + desde + "\n'TxtBAF2" + indice + hasta + "\n'TxtBAF3" + indice + paso + "\n";
+}
+
+TEST(Causas, UnaParcelaSinSuperficieDicePorQue) {
+    auto filas = CuadradoConCentro();
+    filas.resize(2);
+    ExigirCausa(CorrerCon(filas, "ChN = 1\n"), 11,
+                "la superficie de la parcela es 0: tiene un solo árbol (familia Pies/ha)");
+    filas = CuadradoConCentro();
+    filas.resize(3);
+    ExigirCausa(CorrerCon(filas, "ChAB = 1\n"), 11,
+                "la superficie de la parcela es 0: tiene solo dos árboles (familia ABha)");
+    filas = CuadradoConCentro();
+    for (std::size_t i = 1; i <= 5; ++i) {
+        filas[i][columnaX] = static_cast<double>(i);
+        filas[i][columnaY] = 3.0;
+    }
+    ExigirCausa(CorrerCon(filas, "ChN = 1\n"), 11,
+                "la superficie de la parcela es 0: todos los árboles están en una línea (familia Pies/ha)");
+}
+
+TEST(Causas, UnaParcelaSinArboles) {
+    auto filas = CuadradoConCentro();
+    for (std::size_t i = 1; i <= 5; ++i) {
+        filas[i][columnaX] = {};
+        filas[i][columnaY] = {};
+    }
+    ExigirCausa(CorrerCon(filas, ""), 13, "la parcela no tiene ningún árbol: todas las filas tienen vacías");
+    filas.resize(1);
+    ExigirCausa(CorrerCon(filas, ""), 3021, "la hoja no tiene ninguna fila debajo de la cabecera");
+}
+
+TEST(Causas, LosTamanosQueFaltan) {
+    auto filas = CuadradoConCentro();
+    for (std::size_t i = 1; i <= 5; ++i) {
+        filas[i][columnaCAP] = 0.0;
+    }
+    ExigirCausa(CorrerCon(filas, "ChDmax = 1\n"), 11, "el máximo de la columna «CAP» es 0");
+    ExigirCausa(CorrerCon(filas, "ChAPDsum = 1\n"), 11, "la suma de la columna «CAP» es 0");
+    ExigirCausa(CorrerCon(filas, "ChDmed = 1\n"), 94,
+                "ningún árbol tiene un tamaño distinto de 0 en la columna «CAP»");
+    ExigirCausa(CorrerCon(filas, "ChDdom = 1\n"), 3021,
+                "ningún árbol tiene un tamaño distinto de 0 en la columna «CAP»");
+    for (std::size_t i = 1; i <= 5; ++i) {
+        filas[i][columnaCAP] = {};
+    }
+    ExigirCausa(CorrerCon(filas, "ChAB = 1\n"), 94, "ningún árbol tiene tamaño en la columna «CAP»");
+}
+
+TEST(Causas, UnaParcelaDemasiadoPequenaODemasiadoGrandeParaSusDominantes) {
+    auto filas = CuadradoConCentro();
+    for (std::size_t i = 1; i <= 5; ++i) {
+        filas[i][columnaX] = std::get<double>(filas[i][columnaX]) / 2;
+        filas[i][columnaY] = std::get<double>(filas[i][columnaY]) / 2;
+    }
+    ExigirCausa(CorrerCon(filas, "ChDdom = 1\n"), 3021, "en 25,0 m2 no cabe ningún árbol dominante");
+    for (std::size_t i = 1; i <= 5; ++i) {
+        filas[i][columnaX] = std::get<double>(filas[i][columnaX]) * 1000;
+        filas[i][columnaY] = std::get<double>(filas[i][columnaY]) * 1000;
+    }
+    ExigirCausa(CorrerCon(filas, "ChDdom = 1\n"), 6, "la parcela es demasiado grande");
+}
+
+TEST(Causas, UnaListaVaciaOUnBarridoSinValores) {
+    const auto filas = CuadradoConDos();
+    ExigirCausa(CorrerCon(filas, "ChIDPActivar = 1\n'OptFunc(0)' = true\n"), 9,
+                "la lista LstRich(0) está vacía: añádale una función (familia IDP)");
+    ExigirCausa(CorrerCon(filas, "ChDRActivar = 1\n'OptNumFijo(1)' = true\n" + Barrido(3, "1", "1", "1") +
+                                     Barrido(4, "1", "1", "1")),
+                9, "la lista LstDist está vacía: añádale una función (familia DR)");
+}
+
+TEST(Causas, UnBAFDeCero) {
+    ExigirCausa(
+        CorrerCon(CuadradoConDos(), "ChIDPActivar = 1\n'OptBAF(0)' = true\n" + Barrido(0, "0", "4", "4")), 11,
+        "el BAF es 0: ponga un valor mayor en TxtBAF1(0) (familia IDP");
+}
+
+TEST(Causas, DosArbolesEnElMismoSitioNoSeAchacanAlBAF) {
+    auto filas = CuadradoConDos();
+    filas[5][0] = 0.1; // so that they come first
+    filas[6][0] = 0.2;
+    filas[6][columnaX] = 4.0;
+    filas[6][columnaY] = 6.0;
+    ExigirCausa(CorrerCon(filas, "ChIDPActivar = 1\n'OptBAF(0)' = true\n" + Barrido(0, "0", "4", "4")), 11,
+                "los dos árboles están en el mismo sitio (familia IDP");
+}
+
+TEST(Causas, DosArbolesDeLaMismaXOLaMismaYEnAPA) {
+    const std::string apa = "ChAPA = 1\n" + Barrido(8, "1", "1", "1");
+    auto filas = CuadradoConDos();
+    filas[6][columnaX] = 4.0;
+    Fin fin = CorrerCon(filas, apa);
+    ExigirCausa(fin, 11, "los dos árboles tienen la misma X (familia APA");
+    EXPECT_NE(fin.error.find("fila 6 de «Parcela1$», árbol 5, con el vecino de la fila 7, árbol 6"),
+              std::string::npos)
+        << fin.error;
+    filas[6][columnaX] = 4.5; // the nearest, straight to the right
+    filas[6][columnaY] = 6.0;
+    fin = CorrerCon(filas, apa);
+    ExigirCausa(fin, 11, "los dos árboles tienen la misma Y (familia APA");
+    EXPECT_NE(fin.error.find("fila 6 de «Parcela1$», árbol 5, con el vecino de la fila 7, árbol 6"),
+              std::string::npos)
+        << fin.error;
+}
+
+TEST(Causas, UnaCabeceraConBlancosOSignosSeNombraConSuRemedio) {
+    for (const std::string cabecera : {"Cod especie", "Cod-especie", "2cod"}) {
+        auto filas = CuadradoConCentro();
+        filas[0][7] = cabecera;
+        TextoDeTrabajo texto;
+        texto.columnas.replace(texto.columnas.find("\"Cod\""), 5, "\"" + cabecera + "\"");
+        const Fin fin = CorrerCon(filas, "ChN = 1\n", texto);
+        EXPECT_TRUE(fin.fallo == 3075 || fin.fallo == 3061) << fin.error;
+        for (const std::string& parte :
+             {"la columna «" + cabecera + "»", std::string{"cambie la cabecera a una sola palabra"}}) {
+            EXPECT_NE(fin.error.find(parte), std::string::npos) << fin.error;
+        }
+    }
+}
+
+TEST(Causas, UnaCoordenadaInfinita) {
+    auto filas = CuadradoConCentro();
+    filas[3][columnaX] = std::string{"1E+400"};
+    ExigirCausa(CorrerCon(filas, ""), 6,
+                "«1E+400» es un número demasiado grande (fila 4 de «Parcela1$», árbol 3, columna «X»)");
+}
+
+} // namespace
+} // namespace varo::prueba
