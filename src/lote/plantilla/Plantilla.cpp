@@ -70,7 +70,7 @@ const CopaExplicada& Explicada(DatosDeCopa datos) {
 class Redactor {
 public:
     Redactor(const std::filesystem::path& archivo, const Coleccion<Tabla>& tablas)
-        : archivo_{archivo}, tablas_{tablas} {
+        : archivo_{std::filesystem::absolute(archivo).lexically_normal()}, tablas_{tablas} {
         for (const auto& candidata : tablas_) {
             auto propuesta = ProponerPapeles(candidata);
             if (tabla_ == nullptr || propuesta.papeles.size() > propuesta_.papeles.size()) {
@@ -102,7 +102,7 @@ private:
     [[nodiscard]] bool propuesto(const char* papel) const { return propuesta_.papeles.contains(papel); }
 
     void parcela() {
-        linea("archivo = " + EntreComillas(archivo_.string()) + "   # desde la carpeta de este archivo");
+        linea("archivo = " + EntreComillas(archivo_.string()));
         linea("hoja = " + EntreComillas(tabla_->Name));
         for (const auto& otra : tablas_) {
             if (&otra != tabla_) {
@@ -212,7 +212,7 @@ private:
         "# \"TxtBAF2(8)\" = 2.0",
         "# \"TxtBAF3(8)\" = 1.0"};
 
-    const std::filesystem::path& archivo_;
+    std::filesystem::path archivo_; ///< absolute, so that the job works from any folder
     const Coleccion<Tabla>& tablas_;
     const Tabla* tabla_ = nullptr;
     Propuesta propuesta_;

@@ -84,6 +84,7 @@ public:
             return orden(*a.control) < orden(*b.control);
         });
         for (const auto& [pedida, control] : pedidas) {
+            exigirOpcion(*pedida, *control);
             exigirSinEstorbo(*pedida, *control);
             aplicar(*pedida, *control);
         }
@@ -165,6 +166,19 @@ private:
         }
     }
 
+    void exigirOpcion(const OpcionPedida& pedida, const Control& control) const {
+        switch (control.tipo()) {
+        case TipoControl::Casilla:
+        case TipoControl::Opcion:
+        case TipoControl::CajaTexto:
+        case TipoControl::Lista:
+            return;
+        default:
+            puesto_.rechazar(pedida.lugar(), "no es una opción: es un control de otra clase (" +
+                                                 std::string{NombreTipo(control.tipo())} + ")");
+        }
+    }
+
     /// An option that is to be off may be disabled: another one of its group turns it off.
     void exigirSinEstorbo(const OpcionPedida& pedida, const Control& control) const {
         const bool sinTocar = control.tipo() == TipoControl::Opcion && pedida.valor == ValorPedido{false};
@@ -192,8 +206,7 @@ private:
             llenar(pedida, static_cast<Lista&>(control));
             break;
         default:
-            puesto_.rechazar(pedida.lugar(), "no es una opción: es un control de otra clase (" +
-                                                 std::string{NombreTipo(control.tipo())} + ")");
+            break; // refused before
         }
     }
 
@@ -228,7 +241,7 @@ private:
         });
         if (caja.Text() != *texto) {
             puesto_.avisar(pedida.lugar(),
-                           "el programa ha cambiado «" + *texto + "» por «" + caja.Text() + "»");
+                           "el programa ha cambiado " + Cita(*texto) + " por " + Cita(caja.Text()));
         }
     }
 

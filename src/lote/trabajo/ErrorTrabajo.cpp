@@ -1,5 +1,7 @@
 #include "lote/trabajo/ErrorTrabajo.h"
 
+#include "basico/Texto.h"
+
 #include <algorithm>
 
 namespace varo {
@@ -16,7 +18,7 @@ std::string LineaDeAviso(const std::filesystem::path& trabajo, const Lugar& luga
         linea += "línea " + std::to_string(lugar.linea) + ": ";
     }
     if (!lugar.clave.empty()) {
-        linea += lugar.clave + (lugar.valor ? " = «" + *lugar.valor + "»" : "") + ": ";
+        linea += lugar.clave + (lugar.valor ? " = " + Cita(*lugar.valor) : "") + ": ";
     }
     return EnUnaLinea(linea + texto);
 }

@@ -1,6 +1,7 @@
 #include "lote/trabajo/Trabajo.h"
 
 #include "lote/trabajo/ClavesDePapeles.h"
+#include "lote/trabajo/TextoDeToml.h"
 
 #include <toml++/toml.h>
 
@@ -233,6 +234,26 @@ private:
     Trabajo trabajo_;
 };
 
+/// A file that is there, plain, and no larger than any job.
+void ExigirArchivoDeTrabajo(const fs::path& ruta) {
+    constexpr std::uintmax_t tamanoMaximo = std::uintmax_t{16} * 1024 * 1024;
+    std::error_code error;
+    const auto estado = fs::status(ruta, error);
+    if (!fs::exists(estado) || fs::is_directory(estado)) {
+        throw ErrorTrabajo{ruta, {}, "no se puede leer el trabajo", Estado::ErrorDeArchivo};
+    }
+    if (!fs::is_regular_file(estado)) {
+        throw ErrorTrabajo{ruta,
+                           {},
+                           "es un dispositivo o una tubería, y no el archivo de un trabajo",
+                           Estado::ErrorDeArchivo};
+    }
+    if (fs::file_size(ruta, error) > tamanoMaximo) {
+        throw ErrorTrabajo{
+            ruta, {}, "ocupa más de 16 MB: es demasiado grande para un trabajo", Estado::ErrorDeArchivo};
+    }
+}
+
 } // namespace
 
 const ColumnaPedida* Trabajo::columna(std::string_view papel) const {
@@ -243,6 +264,9 @@ const ColumnaPedida* Trabajo::columna(std::string_view papel) const {
 }
 
 Trabajo InterpretarTrabajo(std::string_view texto, const fs::path& ruta, const Cambios& cambios) {
+    if (const auto linea = LineaSinUtf8(texto)) {
+        throw ErrorTrabajo{ruta, {"", *linea}, "el trabajo no está en UTF-8: guárdelo en UTF-8"};
+    }
     try {
         const toml::table raiz = toml::parse(texto);
         return Interprete{raiz, ruta, cambios}.interpretar();
@@ -250,15 +274,15 @@ Trabajo InterpretarTrabajo(std::string_view texto, const fs::path& ruta, const C
         const auto& donde = error.source().begin;
         throw ErrorTrabajo{ruta,
                            {"", static_cast<int>(donde.line)},
-                           "no es TOML correcto, hacia la columna " + std::to_string(donde.column) + " («" +
-                               std::string{error.description()} + "»)"};
+                           "columna " + std::to_string(donde.column) +
+                               ": no es TOML correcto: " + RemedioDeToml(error.description())};
     }
 }
 
 Trabajo LeerTrabajo(const fs::path& ruta, const Cambios& cambios) {
-    std::error_code error;
+    ExigirArchivoDeTrabajo(ruta);
     std::ifstream archivo{ruta, std::ios::binary};
-    if (fs::is_directory(ruta, error) || !archivo) {
+    if (!archivo) {
         throw ErrorTrabajo{ruta, {}, "no se puede leer el trabajo", Estado::ErrorDeArchivo};
     }
     const std::string texto{std::istreambuf_iterator<char>{archivo}, {}};

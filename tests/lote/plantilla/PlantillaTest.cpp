@@ -84,6 +84,14 @@ std::string ConLasFamilias(std::string plantilla) {
     return plantilla.replace(plantilla.find(elipse), elipse.size(), "Optcirc = true");
 }
 
+TEST(Plantilla, DiceLaRutaEnteraDeLaParcela) {
+    const ParcelaDePrueba parcela;
+    const auto relativa = std::filesystem::relative(parcela.ruta("parcela.xls"));
+    ASSERT_TRUE(relativa.is_relative());
+    const Trabajo trabajo = InterpretarTrabajo(PlantillaDeTrabajo(relativa), "/otra/carpeta/trabajo.toml");
+    EXPECT_EQ(trabajo.archivo, parcela.ruta("parcela.xls"));
+}
+
 TEST(Plantilla, SusRenglonesDeFamiliasCorrenSinElComentario) {
     const CarpetaTemporal carpeta;
     const auto ejemplo = Proyecto() / "ejemplos" / "parcela.xls";

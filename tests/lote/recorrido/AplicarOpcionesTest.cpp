@@ -191,6 +191,9 @@ TEST(AplicarOpciones, UnControlQueNoEsUnaOpcionSeRechaza) {
               Error("CmdAceptar", "no es una opción: es un control de otra clase (Boton)"));
     EXPECT_EQ(ErrorAlAplicar("Frame1 = true\n"),
               Error("Frame1", "no es una opción: es un control de otra clase (Marco)"));
+    // Its family is off, which is not what keeps it from being an option.
+    EXPECT_EQ(ErrorAlAplicar("CmdQuitarDist = true\n"),
+              Error("CmdQuitarDist", "no es una opción: es un control de otra clase (Boton)"));
 }
 
 TEST(AplicarOpciones, UnValorDeOtraClaseSeRechaza) {

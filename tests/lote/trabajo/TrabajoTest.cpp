@@ -147,14 +147,40 @@ TEST(Trabajo, UnTextoQueNoEsTomlDiceDonde) {
         InterpretarTrabajo("archivo = 'a'\nTxtBAF1(6) = 1\n", "t.toml");
         FAIL() << "debía rechazarse";
     } catch (const ErrorTrabajo& error) {
-        EXPECT_PRED_FORMAT2(::testing::IsSubstring,
-                            "t.toml: línea 2: no es TOML correcto, hacia la columna 8", error.what());
+        EXPECT_PRED_FORMAT2(
+            ::testing::IsSubstring,
+            "t.toml: línea 2: columna 8: no es TOML correcto: detrás de una clave va el signo =",
+            error.what());
         EXPECT_EQ(error.estado(), Estado::Rechazado);
     }
-    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "t.toml: línea 2: no es TOML correcto",
+    EXPECT_PRED_FORMAT2(::testing::IsSubstring,
+                        "no es TOML correcto: la clave o la tabla está escrita dos veces",
                         ErrorDe([] { InterpretarTrabajo("archivo = 'a'\narchivo = 'b'\n", "t.toml"); }));
-    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "t.toml: línea 1: no es TOML correcto",
-                        ErrorDe([] { InterpretarTrabajo("hoja = 'Parcela\xE1'\n", "t.toml"); }));
+    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "no es TOML correcto: falta cerrar unas comillas",
+                        ErrorDe([] { InterpretarTrabajo("archivo = 'a", "t.toml"); }));
+    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "línea 1: columna 5: no es TOML correcto: falta un valor",
+                        ErrorDe([] { InterpretarTrabajo("x = \n", "t.toml"); }));
+    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "no se entiende el valor; un texto va entre comillas",
+                        ErrorDe([] { InterpretarTrabajo("x = hola\n", "t.toml"); }));
+    EXPECT_PRED_FORMAT2(::testing::IsSubstring, "los decimales van detrás de un punto",
+                        ErrorDe([] { InterpretarTrabajo("T = 1,5\n", "t.toml"); }));
+}
+
+TEST(Trabajo, UnTextoQueNoEsUtf8DiceDondeYComoSeGuarda) {
+    EXPECT_EQ(
+        ErrorDe([] { InterpretarTrabajo("# n\xC3\xBA\xEF\xBF\xBD\nhoja = 'Parcela\xE1'\n", "t.toml"); }),
+        "t.toml: línea 2: el trabajo no está en UTF-8: guárdelo en UTF-8");
+}
+
+TEST(Trabajo, UnDispositivoYUnArchivoInmensoNoSonTrabajos) {
+    const CarpetaTemporal carpeta;
+    const auto inmenso = carpeta.ruta() / "inmenso.toml";
+    carpeta.Escribir("inmenso.toml", "");
+    std::filesystem::resize_file(inmenso, 16U * 1024 * 1024 + 1);
+    EXPECT_EQ(ErrorDe([&] { LeerTrabajo(inmenso); }),
+              inmenso.string() + ": ocupa más de 16 MB: es demasiado grande para un trabajo");
+    EXPECT_EQ(ErrorDe([] { LeerTrabajo("/dev/zero"); }),
+              "/dev/zero: es un dispositivo o una tubería, y no el archivo de un trabajo");
 }
 
 TEST(Trabajo, UnaMarcaDeUtf8AlPrincipioNoEstorba) {

@@ -1,0 +1,78 @@
+#include "lote/trabajo/TextoDeToml.h"
+
+#include "basico/Texto.h"
+
+#include <algorithm>
+#include <array>
+
+namespace varo {
+
+namespace {
+
+/// What stands in a description, and what it means.
+struct Remedio {
+    std::string_view dicho;
+    const char* remedio;
+};
+
+constexpr const char* sinCerrar = "falta cerrar unas comillas, un corchete o una llave";
+constexpr const char* numeroMal = "el número no está bien escrito: los decimales van detrás de un punto, sin "
+                                  "separar los miles";
+
+constexpr const char* sobraAlgo = "detrás del valor sobra algo; los decimales van detrás de un punto";
+constexpr const char* dosVeces = "la clave o la tabla está escrita dos veces";
+constexpr const char* caracterRaro = "hay un carácter que no se puede escribir en un texto";
+
+/// The first one that fits counts.
+constexpr std::array<Remedio, 21> remedios{{
+    {"redefine", dosVeces},
+    {"cannot insert", dosVeces},
+    {"expected '='",
+     "detrás de una clave va el signo =; una clave con paréntesis va entre comillas: \"TxtBAF1(6)\" = 1"},
+    {"escape", "entre comillas dobles la barra \\ es especial: escríbala dos veces o use comillas simples"},
+    {"control character", caracterRaro},
+    {"unicode", caracterRaro},
+    {"multi-line", sinCerrar},
+    {"expected value, saw", "falta un valor; un texto va entre comillas"},
+    {"value type", "no se entiende el valor; un texto va entre comillas"},
+    {"interpret", "no se entiende el valor; un texto va entre comillas"},
+    {"end-of-file", sinCerrar},
+    {"EOF", sinCerrar},
+    {"closing", sinCerrar},
+    {"expected ']'", sinCerrar},
+    {"value-terminator", sobraAlgo},
+    {"comment", sobraAlgo},
+    {"leading zeroes", "un número no puede empezar por un 0 de más"},
+    {"underscores", numeroMal},
+    {"exponent", numeroMal},
+    {"digit", numeroMal},
+    {"key", "falta una clave o no está bien escrita; una con blancos o paréntesis va entre comillas"},
+}};
+
+} // namespace
+
+std::optional<int> LineaSinUtf8(std::string_view texto) {
+    constexpr char32_t sustituto = U'\uFFFD';
+    constexpr std::string_view sustitutoEscrito = "\uFFFD";
+    int linea = 1;
+    while (!texto.empty()) {
+        const std::string_view antes = texto;
+        const char32_t caracter = SacarUtf8(texto);
+        if (caracter == sustituto && !antes.starts_with(sustitutoEscrito)) {
+            return linea;
+        }
+        linea += caracter == U'\n' ? 1 : 0;
+    }
+    return std::nullopt;
+}
+
+std::string RemedioDeToml(std::string_view descripcion) {
+    // In front of the colon stands what was being read, behind it what is wrong.
+    descripcion.remove_prefix(std::min(descripcion.find(": "), descripcion.size()));
+    const auto* const hallado = std::ranges::find_if(remedios, [&](const Remedio& remedio) {
+        return descripcion.find(remedio.dicho) != std::string_view::npos;
+    });
+    return hallado == remedios.end() ? "no se entiende lo que hay escrito aquí" : hallado->remedio;
+}
+
+} // namespace varo
