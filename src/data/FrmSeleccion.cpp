@@ -48,6 +48,14 @@ void OcultarColumnasVacias(Rejilla& rejilla) {
     });
 }
 
+constexpr int filasQueCaben = 32766;
+
+/// "32.767", for a sheet of a thousand rows or more.
+std::string ConMiles(int numero) {
+    std::string texto = ATexto(numero);
+    return texto.insert(texto.size() - 3, 1, '.');
+}
+
 } // namespace
 
 FrmSeleccion::FrmSeleccion(Programa& programa)
@@ -136,6 +144,11 @@ void FrmSeleccion::copiarFilas(const std::string& hoja) {
     for (; !filas.Eof(); filas.MoveNext()) {
         rejilla.Row(rejilla.Row() + 1);
         const auto situar = [&](ErrorEjecucion& error) {
+            if (rejilla.Row() > filasQueCaben) {
+                error.porque("la hoja tiene " + ConMiles(filas.RecordCount()) + " filas; el límite es " +
+                             ConMiles(filasQueCaben));
+                return;
+            }
             error.en("columna «" + rejilla.TextMatrix(0, rejilla.Col()) + "»");
             const auto registro = static_cast<std::size_t>(rejilla.Row()) - 1;
             error.enFila(filas.numeroDeFila(), filas.filas().lugarDeFila(registro));

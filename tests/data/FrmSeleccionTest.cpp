@@ -206,7 +206,8 @@ TEST(FrmSeleccion, Caben32766FilasYNiUnaMas) {
     jornada.aceptarHoja("Larga$");
     ASSERT_TRUE(jornada.programa.tocar<FrmSeleccion>().ultimoFallo().has_value());
     EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->numero(), 6);
-    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->lugar(), "fila 32767");
+    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().ultimoFallo()->causa(),
+              "la hoja tiene 32.767 filas; el límite es 32.766");
     jornada.aceptarHoja("Justa$");
     const auto& rejilla = jornada.programa.tocar<Hojadedatos>().MSFlexGrid1;
     EXPECT_EQ(rejilla.Rows(), 32767);

@@ -311,7 +311,8 @@ TEST(Recorrido, UnaParcelaDe32767ArbolesDesborda) {
     const auto fin = Correr(parcela, TrabajoDeRadioMedio());
     EXPECT_EQ(fin.estado, Estado::FalloDeCalculo);
     EXPECT_EQ(fin.fallo, 6);
-    EXPECT_EQ(fin.error, ErrorDeClave(parcela, "hoja: Error 6: Desbordamiento (fila 32767)"));
+    EXPECT_EQ(fin.error, ErrorDeClave(parcela, "hoja: Error 6: Desbordamiento: la hoja tiene 32.767 filas; "
+                                               "el límite es 32.766"));
     EXPECT_FALSE(fs::exists(parcela.ruta("indices.txt")));
 }
 
