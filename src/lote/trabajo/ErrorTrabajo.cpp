@@ -12,13 +12,23 @@ std::string EnUnaLinea(std::string texto) {
     return texto;
 }
 
+namespace {
+
+/// The value in a place: long enough for a function with its parameters, and no longer.
+std::string ValorCitado(const std::string& valor) {
+    constexpr std::size_t bastantes = 120;
+    return " = «" + (Longitud(valor) > bastantes ? Izquierda(valor, bastantes) + "…" : valor) + "»";
+}
+
+} // namespace
+
 std::string LineaDeAviso(const std::filesystem::path& trabajo, const Lugar& lugar, const std::string& texto) {
     std::string linea = trabajo.string() + ": ";
     if (lugar.linea > 0) {
         linea += "línea " + std::to_string(lugar.linea) + ": ";
     }
     if (!lugar.clave.empty()) {
-        linea += lugar.clave + (lugar.valor ? " = " + Cita(*lugar.valor) : "") + ": ";
+        linea += lugar.clave + (lugar.valor ? ValorCitado(*lugar.valor) : "") + ": ";
     }
     return EnUnaLinea(linea + texto);
 }
