@@ -172,7 +172,8 @@ std::string TrabajoLargo(const ParcelaDePrueba& parcela) {
     hoja.nombre = "Parcela1";
     hoja.celdas = {{T{"Arbol"}, T{"X"}, T{"Y"}, T{"Radio"}, T{"DAP"}, T{"Nota"}}};
     for (int i = 0; i < 2500; ++i) {
-        hoja.celdas.push_back({i + 1.0, i % 50 * 1.0, i / 50 * 1.0, 10.0, 20.0 + i % 7});
+        const int hilera = i / 50;
+        hoja.celdas.push_back({i + 1.0, i % 50 * 1.0, hilera * 1.0, 10.0, 20.0 + i % 7});
     }
     EscribirArchivoXls(parcela.ruta("larga.xls"), {hoja});
     TextoDeTrabajo texto;
