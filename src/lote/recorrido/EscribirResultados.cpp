@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 
 /// Makes the folder of the file when it is missing, and hands it back.
 fs::path CarpetaDe(const fs::path& ruta) {
-    const fs::path carpeta = ruta.has_parent_path() ? ruta.parent_path() : fs::path{"."};
+    fs::path carpeta = ruta.has_parent_path() ? ruta.parent_path() : fs::path{"."};
     std::error_code error;
     fs::create_directories(carpeta, error);
     if (!fs::is_directory(carpeta, error)) {
