@@ -45,6 +45,7 @@ void Vinculos::enlazarBoton(QAbstractButton& widget, Control& control, const std
 
 QPushButton* Vinculos::crearBoton(Boton& control) {
     auto* const widget = new QPushButton;
+    widget->setAutoDefault(false); // Qt hands no ring out: the window does
     enlazarBoton(*widget, control, [widget, &control] { widget->setText(AQt(control.Caption())); });
     return widget;
 }

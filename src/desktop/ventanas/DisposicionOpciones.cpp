@@ -10,6 +10,31 @@
 
 namespace varo {
 
+namespace {
+
+constexpr int parametrosDePotencias = 5;  ///< a to e
+constexpr int parametrosDeRichards = 3;   ///< A, k, m
+constexpr int parametrosHiperbolicos = 7; ///< A, k, a to e
+
+/// Enter in a field of a function adds the function.
+void PonerBotonesDeFunciones(ContenidoDeDialogo& contenido, const OpcionesPrograma& ventana,
+                             const Vinculos& vinculos) {
+    const auto poner = [&](const Matriz<CajaTexto>& campos, int primero, int cuantos, const Boton& boton) {
+        auto* const pulsado = qobject_cast<QPushButton*>(vinculos.widgetDe(boton));
+        for (int campo = primero; campo < primero + cuantos; ++campo) {
+            contenido.ponerBotonDe(*vinculos.widgetDe(campos(campo)), *pulsado);
+        }
+    };
+    poner(ventana.TxtRm, 0, parametrosDePotencias, ventana.CmdAñadir);
+    poner(ventana.TxtEXP, 0, parametrosDePotencias, ventana.CmdAñadirDist);
+    for (const int i : {seleccionIDP, seleccionDR}) {
+        poner(ventana.TxtRich, parametrosDeRichards * i, parametrosDeRichards, ventana.CmdAñadirRich(i));
+        poner(ventana.TxtHIP, parametrosHiperbolicos * i, parametrosHiperbolicos, ventana.CmdAñadirRich(i));
+    }
+}
+
+} // namespace
+
 QWidget* DisponerOpciones(OpcionesPrograma& ventana, Vinculos& vinculos) {
     auto* const contenido = new ContenidoDeDialogo;
     auto* const columna = new QVBoxLayout{contenido};
@@ -25,6 +50,7 @@ QWidget* DisponerOpciones(OpcionesPrograma& ventana, Vinculos& vinculos) {
 
     columna->addLayout(contenido->crearPie(vinculos.crearBoton(ventana.CmdAceptar),
                                            vinculos.crearBoton(ventana.CmdCancelar)));
+    PonerBotonesDeFunciones(*contenido, ventana, vinculos);
     return contenido;
 }
 
