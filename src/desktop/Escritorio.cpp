@@ -247,14 +247,15 @@ void Escritorio::darActivacion() {
 
 void Escritorio::darFoco() {
     Control* const foco = programa_.foco();
-    if (foco == nullptr) {
-        // The act left the focus nowhere: take it from where Qt has put it, once Qt is done.
+    QWidget* const widget = foco == nullptr ? nullptr : widgetDe(*foco);
+    if (widget == nullptr || !widget->isEnabled() || !widget->isVisible()) {
+        // The act left the focus nowhere, or on what can no longer hold it: take it from where Qt has put it,
+        // once Qt is done.
         QMetaObject::invokeMethod(
             this, [this] { alEnfocarse(QApplication::focusWidget()); }, Qt::QueuedConnection);
         return;
     }
-    QWidget* const widget = widgetDe(*foco);
-    if (widget != nullptr && vistas_.controlDe(widget->window()->focusWidget()) != foco) {
+    if (vistas_.controlDe(widget->window()->focusWidget()) != foco) {
         widget->setFocus();
     }
 }

@@ -37,7 +37,9 @@ void Vinculos::enlazarBoton(QAbstractButton& widget, Control& control, const std
     // If leaving a field opens a message box, the box swallows the mouse release; pop the button up again.
     connect(&widget, &QAbstractButton::pressed, this, [this, &widget, &control] {
         const Control* const foco = suelto_ ? nullptr : ventanas_.foco();
-        if (foco != nullptr && foco != &control && &foco->ventana() == &control.ventana()) {
+        const bool loTieneOtro =
+            foco != nullptr && foco != &control && &foco->ventana() == &control.ventana();
+        if (loTieneOtro && !widget.hasFocus()) {
             widget.setDown(false);
         }
     });

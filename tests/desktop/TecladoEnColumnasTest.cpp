@@ -61,4 +61,34 @@ TEST_F(ElDialogoDeColumnas, EscaparEnUnBotonNoLoPulsaNiCierraElDialogo) {
     EXPECT_EQ(dialogo().List1.ListCount(), 0);
 }
 
+// --- A button that got the focus from one that disabled itself ---
+
+TEST_F(ElDialogoDeColumnas, ElBotonQueRecibeElFocoDeUnoInhabilitadoAtiendeAlRaton) {
+    clic("SelCol4R", "Command1(6)");
+    ASSERT_FALSE(de("Command1(6)").isEnabled());
+    clicColumna(3);
+    clic("SelCol4R", "Command1(0)");
+    clicColumna(4);
+    clic("SelCol4R", "Command1(1)");
+    EXPECT_EQ(dialogo().List1.ListCount(), 3);
+}
+
+TEST_F(ElDialogoDeColumnas, ElRatonPulsaElBotonSinPasarPorLaRejilla) {
+    clic("SelCol4R", "Command1(6)");
+    contestador.pulsar("Aceptar"); // the same column again
+    clic("SelCol4R", "Command1(0)");
+    EXPECT_EQ(contestador.cajas().size(), 1U);
+}
+
+TEST_F(ElDialogoDeColumnas, ElBotonQueRecibeElFocoDeUnoInhabilitadoAtiendeALaBarra) {
+    clic("SelCol4R", "Command1(6)");
+    const QWidget* const siguiente = QApplication::focusWidget();
+    ASSERT_NE(siguiente, nullptr);
+    ASSERT_NE(siguiente, &de("Command1(6)"));
+    contestador.pulsar("Aceptar"); // the same column again
+    tecla(Qt::Key_Space);
+    EXPECT_EQ(contestador.cajas().size(), 1U) << siguiente->objectName().toStdString();
+    EXPECT_EQ(programa.foco()->nombreCompleto(), siguiente->objectName().toStdString());
+}
+
 } // namespace varo::prueba
