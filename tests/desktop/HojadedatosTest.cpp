@@ -147,6 +147,41 @@ TEST_F(LaHojaDeDatos, LasFlechasCambianDeColumnaYNoDeEleccionAlBajar) {
     esperarElegida(2);
 }
 
+TEST_F(LaHojaDeDatos, UnClicEnLaParteVaciaNoQuitaLaEleccion) {
+    ventana("Hojadedatos").resize(900, 500);
+    Reposar();
+    clicColumna(3);
+    const QWidget& dentro = *rejilla().viewport();
+    for (const QPoint vacio : {QPoint{10, dentro.height() - 5}, QPoint{dentro.width() - 5, 10}}) {
+        ASSERT_FALSE(rejilla().indexAt(vacio).isValid());
+        Clic(*rejilla().viewport(), vacio);
+        esperarElegida(3);
+    }
+}
+
+TEST_F(LaHojaDeDatos, ConControlNoSeQuitaLaEleccion) {
+    clicColumna(3);
+    const auto conControl = [this](int columna) {
+        QTest::mouseClick(rejilla().viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          rejilla().visualRect(rejilla().model()->index(1, columna)).center());
+        Reposar();
+    };
+    conControl(3);
+    esperarElegida(3);
+    conControl(5);
+    esperarElegida(5);
+    QTest::keyClick(&rejilla(), Qt::Key_Space, Qt::ControlModifier);
+    Reposar();
+    esperarElegida(5);
+    for (const Qt::Key tecla : {Qt::Key_Space, Qt::Key_Left, Qt::Key_A, Qt::Key_Right, Qt::Key_Escape}) {
+        for (const auto con : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier}) {
+            QTest::keyClick(&rejilla(), tecla, con);
+            Reposar();
+            esperarElegida(celdas().ColSel());
+        }
+    }
+}
+
 // --- The window ---
 
 TEST_F(LaHojaDeDatos, AlCambiarDeTamanoLaRejillaLoSigue) {

@@ -81,6 +81,12 @@ void VistaDeRejilla::mostrarSeleccion() {
     }
 }
 
+QItemSelectionModel::SelectionFlags VistaDeRejilla::selectionCommand(const QModelIndex& celda,
+                                                                     const QEvent* /*suceso*/) const {
+    return celda.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Columns
+                           : QItemSelectionModel::NoUpdate;
+}
+
 void VistaDeRejilla::mostrarAnchos() {
     for (int columna = 0; columna < rejilla_.Cols(); ++columna) {
         const int ancho = APuntos(rejilla_.ColWidth(columna));

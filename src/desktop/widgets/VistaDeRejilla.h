@@ -21,6 +21,11 @@ public:
     void mostrar();
 
 private:
+protected:
+    /// Whatever a person presses, one column is selected.
+    [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& celda,
+                                                                       const QEvent* suceso) const override;
+
     void mostrarAnchos();
     void mostrarSeleccion();
 
