@@ -18,6 +18,7 @@ namespace {
 
 constexpr int plazo = 30'000; ///< in milliseconds; a test that goes well never uses it up
 constexpr int pausa = 5;      ///< in milliseconds, between two looks
+constexpr int asiento = 150;  ///< in milliseconds, for the last act to reach the windows before a picture
 
 template <class F>
 auto EnElHiloDeLasVentanas(const F& lectura) {
@@ -46,6 +47,17 @@ void Xdotool(const QStringList& argumentos) {
         throw std::runtime_error{"xdotool " + argumentos.join(' ').toStdString() + ": " +
                                  proceso.readAllStandardError().toStdString()};
     }
+}
+
+/// The screen shows of the active window what the window would paint now.
+bool PintadaComoEsta() {
+    QWidget* const ventana = QApplication::activeWindow();
+    if (ventana == nullptr) {
+        return true;
+    }
+    const QImage pintada = ventana->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QImage vista = ventana->screen()->grabWindow(ventana->winId()).toImage();
+    return vista.convertToFormat(QImage::Format_RGB32) == pintada;
 }
 
 } // namespace
@@ -114,13 +126,16 @@ QString Manos::leer(const QString& ventana, const QString& control,
 
 void Manos::foto(const std::string& nombre) const {
     const char* const carpeta = std::getenv("VARO_FOTOS");
-    if (carpeta == nullptr) {
-        return;
+    if (carpeta != nullptr) {
+        QThread::msleep(asiento);
     }
-    EnElHiloDeLasVentanas([&] {
-        return QApplication::primaryScreen()->grabWindow(0).save(QString{carpeta} + "/" +
-                                                                 QString::fromStdString(nombre) + ".png");
-    });
+    esperar("que se pinte lo de «" + nombre + "»", PintadaComoEsta);
+    if (carpeta != nullptr) {
+        EnElHiloDeLasVentanas([&] {
+            return QApplication::primaryScreen()->grabWindow(0).save(QString{carpeta} + "/" +
+                                                                     QString::fromStdString(nombre) + ".png");
+        });
+    }
 }
 
 void ConLasManos(const std::function<void(const Manos&)>& acto) {

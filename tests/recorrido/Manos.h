@@ -36,6 +36,7 @@ public:
     QString leer(const QString& ventana, const QString& control,
                  const std::function<QString(QWidget&)>& lectura) const;
 
+    /// Waits until the screen shows the active window as it is now: a part that nobody repaints fails here.
     /// Saves a picture of the screen in the folder that VARO_FOTOS names, if it names one.
     void foto(const std::string& nombre) const;
 

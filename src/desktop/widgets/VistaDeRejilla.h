@@ -20,12 +20,12 @@ public:
     /// Brings the cells, the widths and the selected column up to date.
     void mostrar();
 
-private:
 protected:
     /// Whatever a person presses, one column is selected.
     [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& celda,
                                                                        const QEvent* suceso) const override;
 
+private:
     void mostrarAnchos();
     void mostrarSeleccion();
 
