@@ -1,5 +1,5 @@
 // What a large sheet costs at the desktop: the width of each cell as it loads, and each picture of the grid.
-#include "desktop/ServiciosQt.h"
+#include "desktop/widgets/MedidaDeTextos.h"
 #include "desktop/widgets/VistaDeRejilla.h"
 #include "formularios/ServiciosPreparados.h"
 #include "formularios/Ventanas.h"
@@ -7,6 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QFontMetricsF>
 #include <QPixmap>
 #include <QScrollBar>
 
@@ -48,19 +49,16 @@ struct Hoja {
     }
 };
 
-void AnchosDeUnaFila(benchmark::State& estado) {
+/// The widths of all columns, as the sheet comes to view.
+void MedirLaHoja(benchmark::State& estado) {
     ExigirAplicacion();
-    varo::ServiciosQt servicios;
-    int fila = 0;
+    const Hoja hoja;
+    const QFontMetricsF letra{QApplication::font()};
     for (auto _ : estado) {
-        for (int columna = 0; columna < columnas; ++columna) {
-            benchmark::DoNotOptimize(servicios.anchoTexto(Celda(fila, columna)));
-        }
-        ++fila;
+        benchmark::DoNotOptimize(varo::MedirColumnas(hoja.rejilla, letra));
     }
-    estado.SetItemsProcessed(estado.iterations() * columnas);
 }
-BENCHMARK(AnchosDeUnaFila)->Unit(benchmark::kMicrosecond);
+BENCHMARK(MedirLaHoja)->Unit(benchmark::kMillisecond);
 
 /// One turn of the wheel: the grid moves on and is painted.
 void DesplazarYPintar(benchmark::State& estado) {

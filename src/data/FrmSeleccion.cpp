@@ -1,19 +1,29 @@
 #include "data/FrmSeleccion.h"
 
-#include "basico/Aritmetica.h"
 #include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
+#include "basico/Texto.h"
 #include "data/Hojadedatos.h"
 #include "formularios/Reloj.h"
 #include "shell/Programa.h"
 #include "shell/VAROMAIN.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace varo {
 
 namespace {
+
+/// The width of a column that holds the text, in twips: the same on every screen, and within 16 bits.
+int AnchoConMargen(const std::string& texto) {
+    constexpr std::size_t twipsPorLetra = 75;
+    constexpr std::size_t anchoMaximo = 32667;
+    constexpr int margen = 100;
+    const auto letras = static_cast<std::size_t>(Longitud(texto));
+    return static_cast<int>(std::min(letras * twipsPorLetra, anchoMaximo)) + margen;
+}
 
 /// Removes the rows without data. Meant: the bound is taken once, so after a removal the walk runs past the
 /// end of the grid; that fault, like the one of removing the last row, ends the walk.
@@ -75,6 +85,7 @@ void FrmSeleccion::CmdAceptar_Click() {
         MousePointer = punteroNormal;
         programa_.servicios().mensaje("No se ha encontrado la hoja seleccionada. Intente de nuevo",
                                       "Hoja no encontrada", mensaje::exclamacion);
+        CboHoja.SetFocus();
     }
 }
 
@@ -93,11 +104,6 @@ void FrmSeleccion::abrirHoja() {
     marco.mnuAbrir.Enabled = false;
     marco.mnuMapa.Enabled = true;
     marco.mnuOpciones.Enabled = true;
-}
-
-double FrmSeleccion::anchoConMargen(const std::string& texto) const {
-    constexpr double margen = 100;
-    return RedondearPar(static_cast<double>(programa_.servicios().anchoTexto(texto)) + margen);
 }
 
 void FrmSeleccion::RellenarGrid(const std::string& hoja) {
@@ -128,11 +134,11 @@ void FrmSeleccion::escribirEncabezados(const std::string& hoja) {
     for (int columna = rejilla.Cols() - 1; columna >= 1; --columna) {
         rejilla.Col(columna);
         rejilla.Text(campos(columna - 1).Name);
-        rejilla.ColWidth(columna, static_cast<int>(anchoConMargen(rejilla.Text())));
+        rejilla.ColWidth(columna, AnchoConMargen(rejilla.Text()));
     }
     rejilla.TextMatrix(0, 0, "Nº de punto");
     // Meant: column 0 takes its width from the current cell, which is still the first field's header.
-    rejilla.ColWidth(0, static_cast<int>(anchoConMargen(rejilla.Text())));
+    rejilla.ColWidth(0, AnchoConMargen(rejilla.Text()));
 }
 
 void FrmSeleccion::copiarFilas(const std::string& hoja) {
@@ -169,9 +175,9 @@ void FrmSeleccion::copiarFila(const Recordset& filas, int campos, Entero16& cont
         }
         const Valor& valor = filas.Fields(columna - 1).Value;
         rejilla.Text(EsNulo(valor) ? std::string{} : ATexto(valor));
-        const Entero16 ancho{anchoConMargen(rejilla.Text())};
+        const int ancho = AnchoConMargen(rejilla.Text());
         if (ancho > rejilla.ColWidth(columna)) {
-            rejilla.ColWidth(columna, ancho.valor());
+            rejilla.ColWidth(columna, ancho);
         }
     }
 }

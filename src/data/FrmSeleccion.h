@@ -36,7 +36,6 @@ public:
 
 private:
     void abrirHoja();
-    [[nodiscard]] double anchoConMargen(const std::string& texto) const;
     void escribirEncabezados(const std::string& hoja);
     void copiarFilas(const std::string& hoja);
     void copiarFila(const Recordset& filas, int campos, Entero16& contador);

@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QMessageBox>
 
 #include <exception>
@@ -12,7 +13,9 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication{argc, argv} {
     setApplicationName("varo");
     setDesktopFileName("varo");
     setWindowIcon(QIcon{":/iconos/varo.svg"});
-    setQuitOnLastWindowClosed(false); // the model decides when the program is over
+    setQuitOnLastWindowClosed(false);          // the model decides when the program is over
+    setAttribute(Qt::AA_DontUseNativeDialogs); // those of the system speak its language
+    QLocale::setDefault({QLocale::Spanish, QLocale::Spain});
     if (textosDeQt_.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         installTranslator(&textosDeQt_);
     }

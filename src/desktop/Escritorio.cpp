@@ -48,15 +48,30 @@ QRect Medidas(const QWidget& ventana) {
     return {ATwips(puntos.x()), ATwips(puntos.y()), ATwips(puntos.width()), ATwips(puntos.height())};
 }
 
+/// The height of a child whose model asks for none, in pixels: that of its content, or what is left of the
+/// frame below its place.
+int AltoDeHija(const QRect& medidas, const QWidget& hija, QSize sitio) {
+    return std::min(hija.sizeHint().height(), sitio.height() - APuntos(medidas.y()));
+}
+
 /// The geometry of a child, in pixels, whose model asks for `medidas`, in twips: not narrower than its
 /// content, and within the frame if that has room.
 QRect LugarDeHija(const QRect& medidas, const QWidget& hija, QSize sitio) {
     const int ancho = std::max(APuntos(medidas.width()), hija.sizeHint().width());
-    const QSize tamano =
-        QSize{ancho, APuntos(medidas.height())}.boundedTo(sitio).expandedTo(hija.minimumSizeHint());
+    const int alto = medidas.height() > 0 ? APuntos(medidas.height()) : AltoDeHija(medidas, hija, sitio);
+    const QSize tamano = QSize{ancho, alto}.boundedTo(sitio).expandedTo(hija.minimumSizeHint());
     const QPoint lugar{std::clamp(APuntos(medidas.x()), 0, std::max(0, sitio.width() - tamano.width())),
                        std::clamp(APuntos(medidas.y()), 0, std::max(0, sitio.height() - tamano.height()))};
     return {lugar, tamano};
+}
+
+/// A free window comes back where it stood: Qt would place it anew each time, beside its former place.
+void RecordarLugar(const Formulario& modelo, Vista& vista) {
+    if (!modelo.Visible() && vista.ventana->isVisible()) {
+        vista.lugar = vista.ventana->pos();
+    } else if (modelo.Visible() && !vista.ventana->isVisible() && vista.lugar) {
+        vista.ventana->move(*vista.lugar);
+    }
 }
 
 } // namespace
@@ -167,13 +182,16 @@ void Escritorio::mostrar(Formulario& modelo) {
     Vista& vista = vistas_.de(modelo);
     const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
     vista.ventana->setWindowTitle(AQt(modelo.Caption()));
-    if (modelo.MousePointer() == Formulario::relojDeArena) {
-        vista.ventana->setCursor(Qt::WaitCursor);
-    } else {
-        vista.ventana->unsetCursor();
+    if (modelo.MousePointer() != Formulario::relojDeArena) {
+        vista.reloj.reset();
+    } else if (vista.reloj == nullptr) {
+        vista.reloj = std::make_unique<RelojDeArena>(*vista.ventana);
     }
     aplicarEstado(modelo, vista);
     aplicarMedidas(modelo, vista);
+    if (modelo.tipo() == TipoVentana::Libre) {
+        RecordarLugar(modelo, vista);
+    }
     vista.ventana->setVisible(modelo.Visible());
 }
 
@@ -196,6 +214,27 @@ void Escritorio::aplicarMedidas(const Formulario& modelo, Vista& vista) {
     }
     vista.medidas = medidas;
     vista.ventana->setGeometry(LugarDeHija(medidas, *vista.ventana, zona_->viewport()->size()));
+    recolocadas_ = true;
+}
+
+/// On a small screen a child is moved up to be within the frame. The one that the model puts above it gives
+/// way: neither covers the other.
+void Escritorio::separarHijas() {
+    const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
+    for (const auto& [arriba, superior] : vistas_.todas()) {
+        for (const auto& [abajo, inferior] : vistas_.todas()) {
+            const bool sonHijas = arriba->tipo() == TipoVentana::Hija && abajo->tipo() == TipoVentana::Hija &&
+                                  arriba->Visible() && abajo->Visible();
+            const QRect lugar = superior.ventana->geometry();
+            const QRect suyo = inferior.ventana->geometry();
+            if (sonHijas && Medidas(*arriba).bottom() < Medidas(*abajo).top() && lugar.intersects(suyo) &&
+                EstadoDe(*superior.ventana) == estadoNormal && EstadoDe(*inferior.ventana) == estadoNormal) {
+                const int alto =
+                    std::max(suyo.top() - lugar.top(), superior.ventana->minimumSizeHint().height());
+                superior.ventana->resize(lugar.width(), alto);
+            }
+        }
+    }
 }
 
 /// Runs for each window that an act activates, not only for the last one: the order on the screen is theirs.
@@ -216,6 +255,10 @@ void Escritorio::alTerminarActo() {
             alTerminar();
         }
         return;
+    }
+    if (recolocadas_) {
+        recolocadas_ = false;
+        separarHijas();
     }
     if (cambioDeActiva_) {
         cambioDeActiva_ = false;

@@ -57,6 +57,7 @@ private:
     void mostrar(Formulario& modelo);
     void aplicarEstado(Formulario& modelo, Vista& vista);
     void aplicarMedidas(const Formulario& modelo, Vista& vista);
+    void separarHijas();
 
     void alEnfocarse(const QWidget* widget);
     void alActivarse(const QObject* ventana);
@@ -79,6 +80,7 @@ private:
     std::vector<Vista> retiradas_; ///< unloaded by the present act
     bool desdeElModelo_ = false;   ///< what Qt reports now comes from the model
     bool cambioDeActiva_ = false;  ///< the present act has moved the activation
+    bool recolocadas_ = false;     ///< the present act has placed a child
     QWidget* pedida_ = nullptr;    ///< the window that was asked to become active and has not yet
     QTimer esperaDePedida_;
 };

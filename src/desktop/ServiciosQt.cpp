@@ -1,6 +1,8 @@
 #include "desktop/ServiciosQt.h"
 
 #include "desktop/Texto.h"
+#include "desktop/widgets/ArchivosEnEspanol.h"
+#include "desktop/widgets/VentanasReales.h"
 #include "sistema/ArchivoEntero.h"
 
 #include <QApplication>
@@ -14,7 +16,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <cassert>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int mascaraDeBotones = 15;
 constexpr int mascaraDeIcono = 112;
+constexpr QSize medidasAlAbrir{800, 500}; ///< of the file dialog, in pixels
 
 QMessageBox::Icon Icono(int opciones) {
     switch (opciones & mascaraDeIcono) {
@@ -95,14 +97,7 @@ QFont FuenteQt(const Fuente& fuente) {
     return letra;
 }
 
-QFont FuenteDelPrograma() {
-    assert(qApp != nullptr); // Qt has no fonts before its application object
-    return QApplication::font();
-}
-
 } // namespace
-
-ServiciosQt::ServiciosQt() : medidas_{FuenteDelPrograma()} {}
 
 QWidget* ServiciosQt::padre() const {
     QWidget* const activa = QApplication::activeWindow();
@@ -165,6 +160,8 @@ void ServiciosQt::elegirArchivo(DialogoAbrir& dialogo) {
     ventana.setObjectName("DlogoAbrir");
     ventana.setFileMode(QFileDialog::ExistingFile);
     ventana.setDefaultSuffix(AQt(dialogo.DefaultExt));
+    ventana.setProxyModel(new ArchivosEnEspanol{&ventana});
+    ventana.resize(medidasAlAbrir.boundedTo(SitioEnPantalla(ventana)));
     const bool elegido = ventana.exec() == QDialog::Accepted && !ventana.selectedFiles().isEmpty();
     dialogo.FileName = elegido ? DeQt(ventana.selectedFiles().front()) : std::string{};
 }
@@ -186,10 +183,6 @@ std::optional<Color> ServiciosQt::elegirColor(Color actual) {
         return std::nullopt;
     }
     return ColorDe(color);
-}
-
-float ServiciosQt::anchoTexto(const std::string& texto) {
-    return static_cast<float>(medidas_.horizontalAdvance(AQt(texto)) * twipsPorPunto);
 }
 
 std::unique_ptr<ArchivoNuevo> ServiciosQt::crearArchivo(const std::string& ruta) {

@@ -3,16 +3,13 @@
 
 #include "formularios/Servicios.h"
 
-#include <QFontMetricsF>
-
+class QString;
 class QWidget;
 
 namespace varo {
 
 class ServiciosQt : public Servicios {
 public:
-    ServiciosQt();
-
     /// Boxes and dialogs stand over this window when none is active.
     void ponerVentana(QWidget* ventana) { ventana_ = ventana; }
 
@@ -22,7 +19,6 @@ public:
     void elegirArchivo(DialogoAbrir& dialogo) override;
     std::optional<Fuente> elegirFuente(const Fuente& actual) override;
     std::optional<Color> elegirColor(Color actual) override;
-    float anchoTexto(const std::string& texto) override;
     std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override;
 
 private:
@@ -30,7 +26,6 @@ private:
     void mostrarFallo(const ErrorEjecucion& error, const QString& cierre) const;
 
     QWidget* ventana_ = nullptr;
-    QFontMetricsF medidas_;
 };
 
 } // namespace varo

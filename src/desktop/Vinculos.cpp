@@ -2,6 +2,7 @@
 
 #include "desktop/Intentar.h"
 #include "desktop/Texto.h"
+#include "desktop/widgets/Recuadro.h"
 #include "desktop/widgets/VistaDeRejilla.h"
 #include "desktop/widgets/Widgets.h"
 
@@ -102,7 +103,7 @@ QLabel* Vinculos::crearEtiqueta(Etiqueta& control) {
 }
 
 QGroupBox* Vinculos::crearMarco(Marco& control) {
-    auto* const widget = new QGroupBox;
+    auto* const widget = new Recuadro;
     enlazar(*widget, control, [widget, &control] { widget->setTitle(AQt(control.Caption())); });
     return widget;
 }

@@ -12,7 +12,7 @@ namespace varo {
 
 Vista& Vistas::poner(Formulario& modelo, QWidget& ventana, std::unique_ptr<Vinculos> vinculos) {
     assert(!vistas_.contains(&modelo));
-    return vistas_[&modelo] = {&ventana, std::move(vinculos), 0, QRect{}, 0};
+    return vistas_[&modelo] = {&ventana, std::move(vinculos), 0, QRect{}, 0, nullptr, std::nullopt};
 }
 
 Vista Vistas::sacar(Formulario& modelo) {

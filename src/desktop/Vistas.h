@@ -2,12 +2,15 @@
 #pragma once
 
 #include "desktop/Vinculos.h"
+#include "desktop/widgets/RelojDeArena.h"
 
+#include <QPoint>
 #include <QRect>
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace varo {
 
@@ -16,8 +19,10 @@ struct Vista {
     QWidget* ventana; ///< the frame itself, a subwindow of it, or a dialog
     std::unique_ptr<Vinculos> vinculos;
     int observador = 0;
-    QRect medidas;  ///< what the model last asked for, in twips
-    int estado = 0; ///< the window state that the model last asked for
+    QRect medidas;                       ///< what the model last asked for, in twips
+    int estado = 0;                      ///< the window state that the model last asked for
+    std::unique_ptr<RelojDeArena> reloj; ///< while the model has it
+    std::optional<QPoint> lugar;         ///< where a free window stood when it was hidden
 };
 
 class Vistas {

@@ -85,8 +85,6 @@ public:
     /// Nothing when the person cancels, for both.
     virtual std::optional<Fuente> elegirFuente(const Fuente& actual) = 0;
     virtual std::optional<Color> elegirColor(Color actual) = 0;
-    /// Width of a text in twips, in the font of the windows.
-    virtual float anchoTexto(const std::string& texto) = 0;
     /// Begins the file that is to stand at `ruta`. This, and each step of the writing, throws the fault
     /// whose description tells a person what was not written and why.
     virtual std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) = 0;

@@ -1,7 +1,5 @@
 #include "formularios/ServiciosPreparados.h"
 
-#include "basico/Texto.h"
-
 namespace varo {
 
 namespace {
@@ -72,11 +70,6 @@ std::optional<Fuente> ServiciosPreparados::elegirFuente(const Fuente& /*actual*/
 
 std::optional<Color> ServiciosPreparados::elegirColor(Color /*actual*/) {
     return Siguiente(colores_, "nadie preparó la elección de un color");
-}
-
-float ServiciosPreparados::anchoTexto(const std::string& texto) {
-    constexpr float twipsPorLetra = 75;
-    return twipsPorLetra * static_cast<float>(Longitud(texto));
 }
 
 std::unique_ptr<ArchivoNuevo> ServiciosPreparados::crearArchivo(const std::string& ruta) {

@@ -71,7 +71,6 @@ public:
     void elegirArchivo(DialogoAbrir& dialogo) override;
     std::optional<Fuente> elegirFuente(const Fuente& actual) override;
     std::optional<Color> elegirColor(Color actual) override;
-    float anchoTexto(const std::string& texto) override;
     /// Throws: whoever writes files says how.
     std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override;
 

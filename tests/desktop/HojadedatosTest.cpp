@@ -96,14 +96,31 @@ TEST_F(LaHojaDeDatos, CadaColumnaTieneElAnchoDeSuTextoMasLargo) {
     EXPECT_EQ(rejilla().columnWidth(9), AnchoEsperado({"CAP", "100", "80", "60", "40", "50"}));
 }
 
-TEST_F(LaHojaDeDatos, QuinceTwipsSonUnPunto) {
+TEST_F(LaHojaDeDatos, DelAnchoDelModeloSoloCuentaSiEsNulo) {
+    const int antes = rejilla().columnWidth(2);
     celdas().ColWidth(2, 1500);
-    celdas().ColWidth(3, 960);
     celdas().ColWidth(4, 0);
     celdas().ColSel = 1; // the grid tells of a change, and the view reads the widths
-    EXPECT_EQ(rejilla().columnWidth(2), 100);
-    EXPECT_EQ(rejilla().columnWidth(3), 64);
+    EXPECT_EQ(rejilla().columnWidth(2), antes);
     EXPECT_TRUE(rejilla().isColumnHidden(4));
+}
+
+TEST_F(LaHojaDeDatos, ElTextoMasLargoDecideSeaCualSeaSuOrdenYSusLetras) {
+    const QStringList textos{"1111", QString::fromUtf8("ñañ"), "WiW", "iiiiiii",
+                             "WWW",  QString::fromUtf8("áé")};
+    for (const bool alReves : {false, true}) {
+        celdas().Visible = false;
+        celdas().Rows(7);
+        for (int fila = 1; fila <= 6; ++fila) {
+            celdas().TextMatrix(alReves ? 7 - fila : fila, 2, textos[fila - 1].toStdString());
+        }
+        celdas().Visible = true;
+        EXPECT_EQ(rejilla().columnWidth(2), AnchoEsperado(textos));
+    }
+    celdas().Visible = false;
+    celdas().TextMatrix(3, 2, std::string(5000, 'n'));
+    celdas().Visible = true;
+    EXPECT_EQ(rejilla().columnWidth(2), 2184); // 32,767 twips
 }
 
 TEST_F(LaHojaDeDatos, SoloLaUltimaColumnaEstaOculta) {

@@ -143,6 +143,48 @@ TEST_F(ElMarco, UnaHojaQueNoSeEncuentraQuitaElRelojAntesDeDecirlo) {
     EXPECT_FALSE(conReloj("FrmSeleccion"));
 }
 
+TEST_F(ElMarco, TrasUnaHojaQueNoSeEncuentraElFocoEstaEnSuCampo) {
+    llegarA(Etapa::Seleccion);
+    contestador.pulsar("Aceptar");
+    clic("FrmSeleccion", "CmdAceptar");
+    const auto& hojas = widget<QComboBox>("FrmSeleccion", "CboHoja");
+    EXPECT_TRUE(hojas.hasFocus());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), "Parcela1$");
+    EXPECT_EQ(hojas.currentText(), "Parcela1$");
+}
+
+TEST_F(ElMarco, ElRelojDeUnaVentanaSeVeEnTodaElla) {
+    llegarA(Etapa::Seleccion);
+    const QWidget& campo = *widget<QComboBox>("FrmSeleccion", "CboHoja").lineEdit();
+    ASSERT_EQ(campo.cursor().shape(), Qt::IBeamCursor);
+    modelo("FrmSeleccion")->MousePointer = Formulario::relojDeArena;
+    for (const QWidget* const widget : ventana("FrmSeleccion").findChildren<QWidget*>()) {
+        EXPECT_TRUE(widget->window() != &ventana("FrmSeleccion") ||
+                    widget->cursor().shape() == Qt::WaitCursor)
+            << widget->objectName().toStdString();
+    }
+    modelo("FrmSeleccion")->MousePointer = Formulario::punteroNormal;
+    EXPECT_EQ(campo.cursor().shape(), Qt::IBeamCursor);
+    EXPECT_EQ(ventana("FrmSeleccion").cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(ElMarco, ElRelojDeUnaHijaSeVeTambienEnSuTitulo) {
+    llegarA(Etapa::Hoja);
+    QWidget& hoja = ventana("Hojadedatos");
+    modelo("Hojadedatos")->MousePointer = Formulario::relojDeArena;
+    for (const QPoint punto : {QPoint{hoja.width() / 2, 8}, QPoint{1, hoja.height() / 2},
+                               QPoint{hoja.width() / 2, hoja.height() - 1}, QPoint{hoja.width() / 2, 60}}) {
+        QTest::mouseMove(&hoja, punto);
+        Reposar();
+        EXPECT_TRUE(conReloj("Hojadedatos")) << punto.x() << " " << punto.y();
+    }
+    modelo("Hojadedatos")->MousePointer = Formulario::punteroNormal;
+    QTest::mouseMove(&hoja, {hoja.width() / 2, 8});
+    Reposar();
+    EXPECT_FALSE(conReloj("Hojadedatos"));
+}
+
 // --- What cannot go on ---
 
 TEST_F(ElMarco, UnArchivoQueNoSeEntiendeSeDiceYElProgramaTermina) {

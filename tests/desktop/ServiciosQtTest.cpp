@@ -7,14 +7,18 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDateTime>
+#include <QFile>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QLocale>
 #include <QPushButton>
 #include <QTest>
+#include <QTreeView>
 
 #include <optional>
 
@@ -311,16 +315,62 @@ TEST_F(LaPlataforma, LaFuenteElegidaVaYVieneConTodosSusRasgos) {
               (std::optional<Fuente>{Fuente{"DejaVu Serif", 14, false, true, false, true}}));
 }
 
+TEST_F(LaPlataforma, LosDialogosDeQtHablanEspanolSeaCualSeaElIdiomaDelEntorno) {
+    EXPECT_TRUE(QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs));
+    const auto mirar = [this](const char* texto) {
+        contestador.preparar([texto](QWidget& dialogo) {
+            EXPECT_EQ(dialogo.locale().language(), QLocale::Spanish);
+            QStringList textos;
+            for (const QAbstractButton* const boton : dialogo.findChildren<QAbstractButton*>()) {
+                textos << boton->text().remove('&');
+            }
+            EXPECT_TRUE(textos.contains(texto)) << textos.join('|').toStdString();
+            QTest::keyClick(&dialogo, Qt::Key_Escape);
+        });
+    };
+    mirar("Cancelar");
+    DialogoAbrir dialogo;
+    servicios.elegirArchivo(dialogo);
+    mirar("Cancelar");
+    servicios.elegirFuente(Fuente{});
+    mirar("Cancelar");
+    servicios.elegirColor(0);
+}
+
+TEST_F(LaPlataforma, ElDialogoDeArchivosCuentaCadaArchivoEnEspanol) {
+    carpeta.Escribir("parcela.xls", std::string(2048, 'x'));
+    std::filesystem::create_directory(carpeta / "otra");
+    const QDateTime fecha{QDate{2026, 1, 31}, QTime{17, 5}};
+    QFile archivo{QString::fromStdString(carpeta.archivo("parcela.xls"))};
+    ASSERT_TRUE(archivo.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(archivo.setFileTime(fecha, QFileDevice::FileModificationTime));
+    archivo.close();
+    contestador.preparar([this](QWidget& modal) {
+        auto& ventana = dynamic_cast<QFileDialog&>(modal);
+        ventana.setDirectory(QString::fromStdString(carpeta.ruta().string()));
+        const auto& vista = *ventana.findChild<QTreeView*>();
+        const auto filas = [&] { return vista.model()->rowCount(vista.rootIndex()); };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return filas() == 2; }));
+        QStringList textos;
+        for (int fila = 0; fila < filas(); ++fila) {
+            for (int columna = 1; columna < 4; ++columna) {
+                textos << vista.model()->index(fila, columna, vista.rootIndex()).data().toString();
+            }
+        }
+        EXPECT_TRUE(textos.contains("Carpeta"));
+        EXPECT_TRUE(textos.contains("2,00 KiB"));
+        EXPECT_TRUE(textos.contains("Archivo XLS"));
+        EXPECT_TRUE(textos.contains("31/1/26 17:05")) << textos.join('|').toStdString();
+        QTest::keyClick(&modal, Qt::Key_Escape);
+    });
+    DialogoAbrir dialogo;
+    servicios.elegirArchivo(dialogo);
+    EXPECT_EQ(dialogo.FileName, "");
+}
+
 TEST_F(LaPlataforma, CancelarLaFuenteNoDaNinguna) {
     contestador.tecla(Qt::Key_Escape);
     EXPECT_EQ(servicios.elegirFuente(Fuente{}), std::nullopt);
-}
-
-TEST_F(LaPlataforma, ElAnchoDeUnTextoVaEnTwips) {
-    const QFontMetricsF medidas{QApplication::font()};
-    EXPECT_EQ(servicios.anchoTexto("Radio medio"),
-              static_cast<float>(medidas.horizontalAdvance("Radio medio") * 15));
-    EXPECT_EQ(servicios.anchoTexto(""), 0.0F);
 }
 
 } // namespace varo::prueba

@@ -123,12 +123,4 @@ TEST(ServiciosPreparados, NoEstaTodoPedidoMientrasQuedeAlgoDeCualquierTipo) {
     }
 }
 
-TEST(ServiciosPreparados, ElAnchoDeUnTextoCuentaCaracteresYNoBytes) {
-    ServiciosPreparados servicios;
-    EXPECT_EQ(servicios.anchoTexto(""), 0);
-    EXPECT_GT(servicios.anchoTexto("Nº"), 0);
-    EXPECT_EQ(servicios.anchoTexto("Diámetro"), servicios.anchoTexto("Diametro"));
-    EXPECT_EQ(servicios.anchoTexto("ñññ"), 3 * servicios.anchoTexto("n"));
-}
-
 } // namespace varo

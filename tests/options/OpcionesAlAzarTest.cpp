@@ -31,7 +31,6 @@ public:
     void elegirArchivo(DialogoAbrir& /*dialogo*/) override { RC_FAIL("nadie abre un archivo aquí"); }
     std::optional<Fuente> elegirFuente(const Fuente& /*actual*/) override { return std::nullopt; }
     std::optional<Color> elegirColor(Color /*actual*/) override { return std::nullopt; }
-    float anchoTexto(const std::string& /*texto*/) override { return 0; }
     std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& /*ruta*/) override {
         RC_FAIL("nadie escribe un archivo aquí");
     }

@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QProcess>
 #include <QScreen>
+#include <QScrollArea>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -46,6 +47,16 @@ void Xdotool(const QStringList& argumentos) {
     if (!proceso.waitForFinished(plazo) || proceso.exitCode() != 0) {
         throw std::runtime_error{"xdotool " + argumentos.join(' ').toStdString() + ": " +
                                  proceso.readAllStandardError().toStdString()};
+    }
+}
+
+/// Scrolls a page until the widget is in view, as a person does before pressing it.
+void LlevarALaVista(QWidget& widget) {
+    for (QWidget* exterior = widget.parentWidget(); exterior != nullptr;
+         exterior = exterior->parentWidget()) {
+        if (auto* const pagina = qobject_cast<QScrollArea*>(exterior)) {
+            pagina->ensureWidgetVisible(&widget);
+        }
     }
 }
 
@@ -102,6 +113,7 @@ void Manos::clic(const QString& ventana, const QString& control, const Sitio& si
     });
     const QPoint punto = EnElHiloDeLasVentanas([&] {
         QWidget* const widget = ControlDe(ventana, control);
+        LlevarALaVista(*widget);
         return (QPointF{widget->mapToGlobal(sitio(*widget))} * widget->devicePixelRatio()).toPoint();
     });
     Xdotool({"mousemove", QString::number(punto.x()), QString::number(punto.y()), "click", "--repeat",

@@ -158,6 +158,24 @@ void ActivarLasOtras(const Manos& manos) {
     Activar(manos, 6, "ChAPA");
 }
 
+/// Closes the dialog and opens it again: it stands where it stood.
+void Reabrir(const Manos& manos) {
+    const auto lugar = [&] {
+        return manos.leer(opciones, "", [](QWidget& dialogo) {
+            const QRect marco = dialogo.frameGeometry();
+            return QStringLiteral("%1 %2").arg(marco.x()).arg(marco.y());
+        });
+    };
+    const QString antes = lugar();
+    for (int vez = 0; vez < 3; ++vez) {
+        manos.tecla("Escape");
+        manos.esperarQueSeVaya(opciones);
+        manos.tecla("alt+o");
+        manos.esperarVentana(opciones);
+        EXPECT_EQ(lugar(), antes) << vez;
+    }
+}
+
 } // namespace
 
 TEST(OpcionesEnPantalla, QuienEscribeVeLoQueNoVale) {
@@ -167,6 +185,7 @@ TEST(OpcionesEnPantalla, QuienEscribeVeLoQueNoVale) {
         ElegirHoja(manos);
         manos.tecla("alt+o");
         manos.esperarVentana(opciones);
+        Reabrir(manos);
         EscribirEnAOI(manos);
         EscribirEnDP(manos);
         ActivarLasOtras(manos);

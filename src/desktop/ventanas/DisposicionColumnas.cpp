@@ -36,7 +36,7 @@ QLayout* CrearBotonesDeCopa(SelColumnas& ventana, Vinculos& vinculos) {
 } // namespace
 
 QWidget* DisponerColumnas(SelColumnas& ventana, Vinculos& vinculos) {
-    constexpr QSize listaMinima{300, 180};
+    constexpr QSize listaMinima{300, 90};
     auto* const contenido = new ContenidoDeDialogo;
     auto* const rejilla = new QGridLayout{contenido};
     rejilla->addWidget(vinculos.crearEtiqueta(ventana.Label1), 0, 0, 1, 3);

@@ -25,16 +25,18 @@ QGroupBox* CrearFuncionHiperbolica(const PiezasDeOpciones& piezas, int i) {
     auto& v = piezas.ventana();
     const int primero = 7 * i;
     QGroupBox* const grupo = piezas.crearMarco(v.FramHIPER(i));
-    auto* const fila = new QHBoxLayout{grupo};
+    auto* const columna = new QVBoxLayout{grupo};
+    auto* const fila = new QHBoxLayout;
     fila->addWidget(piezas.crearFormula(v.Image6(i), formula::DistanciaHiperbolica()));
     fila->addSpacing(piezas.separacion);
     fila->addLayout(
-        piezas.crearParametros({{{v.Label12(i), v.TxtHIP(primero)}, {v.Label13(i), v.TxtHIP(primero + 1)}},
-                                {{v.Label14(i), v.TxtHIP(primero + 2)},
-                                 {v.Label15(i), v.TxtHIP(primero + 3)},
-                                 {v.Label16(i), v.TxtHIP(primero + 4)},
-                                 {v.Label17(i), v.TxtHIP(primero + 5)},
-                                 {v.Label18(i), v.TxtHIP(primero + 6)}}}));
+        piezas.crearParametros({{{v.Label12(i), v.TxtHIP(primero)}, {v.Label13(i), v.TxtHIP(primero + 1)}}}));
+    columna->addLayout(fila);
+    columna->addLayout(piezas.crearParametros({{{v.Label14(i), v.TxtHIP(primero + 2)},
+                                                {v.Label15(i), v.TxtHIP(primero + 3)},
+                                                {v.Label16(i), v.TxtHIP(primero + 4)},
+                                                {v.Label17(i), v.TxtHIP(primero + 5)},
+                                                {v.Label18(i), v.TxtHIP(primero + 6)}}}));
     return grupo;
 }
 
@@ -108,13 +110,13 @@ QGroupBox* CrearFuncionDeDistancia(const PiezasDeOpciones& piezas) {
     formulas->addWidget(piezas.crearFormula(v.ImgHiper2, formula::PesoHiperbolico()), 0, 0, Qt::AlignLeft);
     formulas->addWidget(piezas.crearFormula(v.ImgExp2, formula::PesoExponencial()), 0, 0, Qt::AlignLeft);
     fila->addLayout(formulas);
-    fila->addSpacing(piezas.separacion);
-    fila->addLayout(piezas.crearParametros({{{v.Label14(2), v.TxtEXP(0)},
-                                             {v.Label15(2), v.TxtEXP(1)},
-                                             {v.Label16(2), v.TxtEXP(2)},
-                                             {v.Label17(2), v.TxtEXP(3)},
-                                             {v.Label18(2), v.TxtEXP(4)}}}));
+    fila->addStretch(1);
     columna->addLayout(fila);
+    columna->addLayout(piezas.crearParametros({{{v.Label14(2), v.TxtEXP(0)},
+                                                {v.Label15(2), v.TxtEXP(1)},
+                                                {v.Label16(2), v.TxtEXP(2)},
+                                                {v.Label17(2), v.TxtEXP(3)},
+                                                {v.Label18(2), v.TxtEXP(4)}}}));
     columna->addLayout(piezas.crearLista(v.LstDist, {&v.CmdAñadirDist, &v.CmdQuitarDist, &v.CmdVaciarDist}),
                        1);
     return grupo;
@@ -125,12 +127,10 @@ QGroupBox* CrearFuncionDeDistancia(const PiezasDeOpciones& piezas) {
 QWidget* CrearPaginaDeDR(const PiezasDeOpciones& piezas) {
     auto& v = piezas.ventana();
     const auto [pagina, dentro] = piezas.crearPagina(v.FramDR, PiezasDeOpciones::Pie::AlFondo);
+    dentro->addLayout(piezas.crearFila(piezas.crear(v.ChDRActivar), 3 * piezas.separacion,
+                                       piezas.crearMarcoEnFila(v.FramDRBilUni, v.ChDRBil, v.ChDRUni)));
     auto* const cabeza = new QHBoxLayout;
-    auto* const indice = new QVBoxLayout;
-    indice->addWidget(piezas.crear(v.ChDRActivar));
-    indice->addWidget(piezas.crearFormula(v.Image7, formula::RazonPonderada()));
-    cabeza->addLayout(indice);
-    cabeza->addLayout(piezas.bajarAlNivel(piezas.crearMarcoEnColumna(v.FramDRBilUni, v.ChDRBil, v.ChDRUni)));
+    cabeza->addWidget(piezas.crearFormula(v.Image7, formula::RazonPonderada()));
     cabeza->addWidget(piezas.crearMarcoEnColumna(v.FramRsij, v.OptDRDjDi, v.OptDRHjHi));
     cabeza->addWidget(
         piezas.crearIntervalo(v.FramDRk, {&v.Label7(2), &v.Label6(2), &v.Label5(2)}, {exponenteDR}), 1);

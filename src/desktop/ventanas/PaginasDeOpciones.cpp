@@ -87,11 +87,12 @@ QGroupBox* CrearRadioDeInfluencia(const PiezasDeOpciones& piezas) {
 QWidget* CrearPaginaDeAOI(const PiezasDeOpciones& piezas) {
     auto& v = piezas.ventana();
     const auto [pagina, dentro] = piezas.crearPagina(v.FrAOI, PiezasDeOpciones::Pie::AlFondo);
-    dentro->addLayout(piezas.crearFila(piezas.crear(v.ChAOIActivar), 3 * piezas.separacion,
-                                       piezas.crearFormula(v.Image1, formula::SuperposicionDeAreas())));
+    auto* const cabeza = new QHBoxLayout;
+    cabeza->addLayout(piezas.crearFila(piezas.crear(v.ChAOIActivar), 3 * piezas.separacion,
+                                       piezas.crearMarcoEnFila(v.FramAOIBilUni, v.ChAOIBil, v.ChAOIUni)));
+    cabeza->addWidget(piezas.crearFormula(v.Image1, formula::SuperposicionDeAreas()));
+    dentro->addLayout(cabeza);
     auto* const detalle = new QHBoxLayout;
-    detalle->addLayout(
-        piezas.bajarAlNivel(piezas.crearMarcoEnColumna(v.FramAOIBilUni, v.ChAOIBil, v.ChAOIUni)));
     detalle->addWidget(piezas.crearMarcoEnColumna(v.FramRazon, v.OptAOIDjDi, v.OptHjHi));
     detalle->addWidget(piezas.crearIntervalo(v.FramAOIk, {&v.Label1, &v.Label2, &v.Label3}, {exponenteAOI}),
                        1);

@@ -6,8 +6,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QStyle>
-#include <QStyleOptionGroupBox>
 
 #include <cassert>
 #include <utility>
@@ -17,18 +15,6 @@ namespace varo {
 namespace {
 
 constexpr int espacio = 6; ///< between the parts of one piece, in pixels
-
-/// From the upper edge of a frame with that title down to what lies in it, in pixels.
-int AltoHastaElContenido(const QGroupBox& grupo, const QString& titulo) {
-    QStyleOptionGroupBox opcion;
-    opcion.initFrom(&grupo);
-    opcion.rect = QRect{0, 0, 100, 100};
-    opcion.text = titulo;
-    opcion.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
-    return grupo.style()
-        ->subControlRect(QStyle::CC_GroupBox, &opcion, QStyle::SC_GroupBoxContents, &grupo)
-        .top();
-}
 
 } // namespace
 
@@ -43,15 +29,6 @@ PiezasDeOpciones::Pagina PiezasDeOpciones::crearPagina(Marco& marco, Pie pie) co
     auto* const contenido = new QVBoxLayout{grupo};
     contenido->setSpacing(separacion);
     return {pagina, contenido};
-}
-
-QLayout* PiezasDeOpciones::bajarAlNivel(QGroupBox* grupo) {
-    auto* const columna = new QVBoxLayout;
-    columna->setSpacing(0);
-    const QString unTitulo = QStringLiteral("k"); // every title has the same height
-    columna->addSpacing(AltoHastaElContenido(*grupo, unTitulo) - AltoHastaElContenido(*grupo, QString{}));
-    columna->addWidget(grupo);
-    return columna;
 }
 
 QLayout* PiezasDeOpciones::crearFila(QWidget* primera, int hueco, QWidget* segunda) {
@@ -73,7 +50,7 @@ QLineEdit* PiezasDeOpciones::crearCampo(CajaTexto& control) const {
     auto* const campo = vinculos_.crearCaja(control);
     campo->setAlignment(Qt::AlignRight);
     campo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("00000,00000")));
+    campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("00000,0000")));
     return campo;
 }
 

@@ -77,9 +77,6 @@ public:
     /// Two parts side by side, `hueco` pixels apart, at the left of the row.
     [[nodiscard]] static QLayout* crearFila(QWidget* primera, int hueco, QWidget* segunda);
 
-    /// Lowers a frame without a title, so that its content is level with that of the titled frames beside it.
-    [[nodiscard]] static QLayout* bajarAlNivel(QGroupBox* grupo);
-
     /// Keeps the place of a part while it is hidden: nothing else moves.
     template <class W>
     static W* conSitioFijo(W* widget) {

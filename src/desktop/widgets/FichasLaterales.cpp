@@ -32,6 +32,12 @@ public:
         const auto* const ficha = qstyleoption_cast<const QStyleOptionTab*>(opcion);
         if (parte != CE_TabBarTabLabel || ficha == nullptr) {
             QProxyStyle::drawControl(parte, opcion, pintor, widget);
+            if (parte == CE_TabBarTabShape && opcion->state.testFlag(State_Selected)) {
+                pintor->fillRect(
+                    opcion->rect.adjusted(0, borde, 0, -borde)
+                        .intersected({opcion->rect.topLeft(), QSize{borde, opcion->rect.height()}}),
+                    opcion->palette.highlight());
+            }
             return;
         }
         const QRect lugar = ficha->rect.adjusted(margenLateral, 0, -margenLateral, 0);

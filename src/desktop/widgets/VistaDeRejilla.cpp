@@ -1,8 +1,10 @@
 #include "desktop/widgets/VistaDeRejilla.h"
 
 #include "desktop/Texto.h"
+#include "desktop/widgets/MedidaDeTextos.h"
 
 #include <QApplication>
+#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QProxyStyle>
 
@@ -63,9 +65,11 @@ VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
 
 void VistaDeRejilla::mostrar() {
     if (!rejilla_.Visible()) {
+        anchos_.clear();
         return; // a grid is hidden while it is filled
     }
     modelo_->ponerAlDia();
+    medirSiHaCambiado();
     mostrarAnchos();
     mostrarSeleccion();
 }
@@ -87,9 +91,19 @@ QItemSelectionModel::SelectionFlags VistaDeRejilla::selectionCommand(const QMode
                            : QItemSelectionModel::NoUpdate;
 }
 
+/// The grid does not tell which cell changes: its texts are measured when it comes to view or to another
+/// shape.
+void VistaDeRejilla::medirSiHaCambiado() {
+    if (static_cast<int>(anchos_.size()) != rejilla_.Cols() || filasMedidas_ != rejilla_.Rows()) {
+        anchos_ = MedirColumnas(rejilla_, QFontMetricsF{font()});
+        filasMedidas_ = rejilla_.Rows();
+    }
+}
+
 void VistaDeRejilla::mostrarAnchos() {
     for (int columna = 0; columna < rejilla_.Cols(); ++columna) {
-        const int ancho = APuntos(rejilla_.ColWidth(columna));
+        const bool oculta = rejilla_.ColWidth(columna) == 0;
+        const int ancho = oculta ? 0 : anchos_[static_cast<std::size_t>(columna)];
         if (isColumnHidden(columna) != (ancho == 0)) {
             setColumnHidden(columna, ancho == 0);
         }

@@ -6,6 +6,7 @@
 #include <QTableView>
 
 #include <functional>
+#include <vector>
 
 namespace varo {
 
@@ -26,11 +27,14 @@ protected:
                                                                        const QEvent* suceso) const override;
 
 private:
+    void medirSiHaCambiado();
     void mostrarAnchos();
     void mostrarSeleccion();
 
     const Rejilla& rejilla_;
     ModeloDeRejilla* modelo_;
+    std::vector<int> anchos_; ///< of the columns with the texts that they hold, in pixels
+    int filasMedidas_ = 0;
 };
 
 } // namespace varo

@@ -1,0 +1,17 @@
+// What the file dialog tells of each file, in Spanish on any system.
+#pragma once
+
+#include <QIdentityProxyModel>
+
+namespace varo {
+
+/// Over the files of a QFileDialog: size, kind and date by the locale of the program, not by that of the
+/// system, which is what Qt takes.
+class ArchivosEnEspanol : public QIdentityProxyModel {
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    [[nodiscard]] QVariant data(const QModelIndex& celda, int papel) const override;
+};
+
+} // namespace varo
