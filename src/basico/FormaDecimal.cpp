@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <string_view>
 
@@ -16,6 +17,8 @@ namespace {
 // and 766 behind it is exact.
 constexpr int decimalesExactos = 766;
 constexpr std::size_t largoExacto = 800;
+
+constexpr int masCifrasJustas = 17; ///< of the shortest decimal that reads back to a 64-bit float
 
 constexpr int cifrasDe64Bits = 15;
 constexpr int cifrasDe32Bits = 7;
@@ -44,11 +47,26 @@ FormaDecimal DeCientifica(std::string_view texto) {
     return forma.cifras.empty() ? FormaDecimal{} : forma;
 }
 
-FormaDecimal ConCifras(double numero, int significativas) {
+FormaDecimal Cientifica(double numero, int decimales) {
     std::array<char, largoExacto> texto{};
-    const auto escrito = std::to_chars(texto.data(), texto.data() + texto.size(), ExigirFinito(numero),
-                                       std::chars_format::scientific, decimalesExactos);
-    FormaDecimal forma = DeCientifica({texto.data(), escrito.ptr});
+    const auto escrito = std::to_chars(texto.data(), texto.data() + texto.size(), numero,
+                                       std::chars_format::scientific, decimales);
+    return DeCientifica({texto.data(), escrito.ptr});
+}
+
+/// The exact digits are many and slow to write, and seldom needed. A normal number that some decimal of up to
+/// 15 digits reads back to rounds to that decimal, since 64 bits tell all of those apart. And a number whose
+/// shortest decimal is as long as they get lies on no half, so any rounding to nearest is the right one.
+FormaDecimal ConCifras(double numero, int significativas) {
+    FormaDecimal justo = EnDecimalJusto(numero);
+    const auto cuantas = static_cast<int>(justo.cifras.size());
+    if (cuantas <= significativas && std::isnormal(numero)) {
+        return justo;
+    }
+    if (cuantas == masCifrasJustas) {
+        return Cientifica(numero, significativas - 1);
+    }
+    FormaDecimal forma = Cientifica(numero, decimalesExactos);
     forma.redondear(significativas);
     return forma;
 }
