@@ -103,9 +103,9 @@ void ConLineas::lineas(const std::vector<std::string>& textos) {
 }
 
 void Lista::Selected(int linea, bool seleccionada) {
-    Linea& elegida = lineas_[comprobada(linea)];
+    Renglon& elegida = lineas_[comprobada(linea)];
     if (seleccionada && !variasALaVez_) {
-        for (Linea& otra : lineas_) {
+        for (Renglon& otra : lineas_) {
             otra.seleccionada = false;
         }
     }

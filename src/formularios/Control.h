@@ -3,6 +3,8 @@
 
 #include "formularios/Observable.h"
 #include "formularios/Servicios.h"
+#include "lienzo/Color.h"
+#include "lienzo/Fuente.h"
 
 #include <functional>
 #include <map>
@@ -203,13 +205,13 @@ public:
     void lineas(const std::vector<std::string>& textos);
 
 protected:
-    struct Linea {
+    struct Renglon {
         std::string texto;
         bool seleccionada = false;
     };
     [[nodiscard]] std::size_t comprobada(int linea) const;
 
-    std::vector<Linea> lineas_;
+    std::vector<Renglon> lineas_;
 };
 
 /// A list in which several lines may be selected at once, or only one.

@@ -2,8 +2,9 @@
 #pragma once
 
 #include "basico/ErrorEjecucion.h"
+#include "lienzo/Color.h"
+#include "lienzo/Fuente.h"
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,20 +37,6 @@ struct DialogoAbrir {
     std::string Filter;
     int Flags = 0;
 };
-
-struct Fuente {
-    std::string nombre = "MS Sans Serif";
-    float tamano = 8;
-    bool negrita = false;
-    bool cursiva = false;
-    bool tachado = false;
-    bool subrayado = false;
-
-    friend bool operator==(const Fuente&, const Fuente&) = default;
-};
-
-/// A colour in the layout 0x00BBGGRR.
-using Color = std::int32_t;
 
 /// A file that is being written. It takes its place whole with `publicar`; until then what stood there stays
 /// as it is, and without it nothing is left behind.

@@ -1,23 +1,11 @@
-// The scale of the map: which rectangle of the plot a surface shows, and the frame inside it.
+// The scale of the map, computed from its trees, and the frame inside it.
 #pragma once
+
+#include "lienzo/Escala.h"
 
 #include <span>
 
 namespace varo {
-
-/// All in plot units (m), y upward.
-struct Escala {
-    double izquierda = 0;
-    double derecha = 0;
-    double abajo = 0;
-    double arriba = 0;
-
-    [[nodiscard]] double ancho() const { return derecha - izquierda; }
-    /// Negative: on a surface y grows downward.
-    [[nodiscard]] double alto() const { return abajo - arriba; }
-
-    friend bool operator==(const Escala&, const Escala&) = default;
-};
 
 /// The largest and the smallest value of a column; no value at all throws 9.
 double MaximoColumna(std::span<const double> valores);

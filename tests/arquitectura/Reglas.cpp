@@ -39,6 +39,9 @@ bool PuedeConocer(const std::string& quien, const std::string& aQuien) {
     if (conPlataforma.contains(quien)) {
         return true;
     }
+    if (quien == "formularios") {
+        return aQuien == "basico" || aQuien == "lienzo";
+    }
     return programa.contains(quien) || aQuien == "basico";
 }
 

@@ -48,20 +48,22 @@ TEST(Reglas, UnIncludeQueNoExisteYUnaCarpetaDesconocidaSeDicen) {
 TEST(Reglas, LasFlechasVanEnUnSoloSentido) {
     EXPECT_EQ(FlechasProhibidas({{"motor/A.h", "#include \"basico/B.h\"\n#include \"motor/C.h\"\n"},
                                  {"data/A.h", "#include \"motor/B.h\"\n#include \"options/C.h\"\n"},
+                                 {"formularios/A.h", "#include \"lienzo/B.h\"\n"},
                                  {"sistema/A.h", "#include \"formularios/B.h\"\n"},
                                  {"desktop/A.h", "#include \"sistema/B.h\"\n"},
                                  {"lote/A.h", "#include \"data/B.h\"\n#include \"sistema/C.h\"\n"}}),
               Lineas{});
     EXPECT_EQ(FlechasProhibidas({{"basico/A.h", "#include \"motor/B.h\"\n"},
                                  {"formularios/A.h", "#include \"motor/B.h\"\n"},
-                                 {"lienzo/A.h", "#include \"map/B.h\"\n"},
+                                 {"lienzo/A.h", "#include \"map/B.h\"\n#include \"formularios/C.h\"\n"},
                                  {"data/A.h", "#include \"lote/B.h\"\n#include \"sistema/C.h\"\n"},
                                  {"sistema/A.h", "#include \"lote/B.h\"\n#include \"data/C.h\"\n"},
                                  {"desktop/A.h", "#include \"lote/B.h\"\n"}}),
               (Lineas{"basico/A.h no puede conocer motor/B.h", "formularios/A.h no puede conocer motor/B.h",
-                      "lienzo/A.h no puede conocer map/B.h", "data/A.h no puede conocer lote/B.h",
-                      "data/A.h no puede conocer sistema/C.h", "sistema/A.h no puede conocer lote/B.h",
-                      "sistema/A.h no puede conocer data/C.h", "desktop/A.h no puede conocer lote/B.h"}));
+                      "lienzo/A.h no puede conocer map/B.h", "lienzo/A.h no puede conocer formularios/C.h",
+                      "data/A.h no puede conocer lote/B.h", "data/A.h no puede conocer sistema/C.h",
+                      "sistema/A.h no puede conocer lote/B.h", "sistema/A.h no puede conocer data/C.h",
+                      "desktop/A.h no puede conocer lote/B.h"}));
 }
 
 TEST(Reglas, FueraDeDesktopLoteYSistemaSoloEntranCabecerasDeCpp) {
