@@ -8,6 +8,7 @@
 #include "data/Hojadedatos.h"
 #include "data/Papeles.h"
 #include "formularios/Reloj.h"
+#include "map/Escala.h"
 #include "map/FrmMapa.h"
 #include "options/OpcionesPrograma.h"
 #include "plot/ConstruirPoligono.h"
@@ -176,8 +177,8 @@ void FrmFormato::prepararSuperficies() {
     const auto& sesion = programa_.sesion;
     const Escala escala = CalcularEscala(LeerColumna(sesion.Columnas(papelX).valor()),
                                          LeerColumna(sesion.Columnas(papelY).valor()));
-    programa_.tocar<FrmMapa>().escala = escala;
-    programa_.tocar<FrmMapa2>().escala = escala;
+    programa_.tocar<FrmMapa>().lienzo.escala(escala);
+    programa_.tocar<FrmMapa2>().lienzo.escala(escala);
 }
 
 void FrmFormato::CmdAceptar_Click() {

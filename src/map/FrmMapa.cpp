@@ -17,6 +17,12 @@ namespace varo {
 
 namespace {
 
+/// The colours of both surfaces as they are designed.
+void PonerColores(Lienzo& lienzo) {
+    lienzo.BackColor = 0x00C0E0FF;
+    lienzo.ForeColor = 0x00400040;
+}
+
 /// Gives a surface the size of the main window.
 void TomarMedidasDelMarco(Formulario& superficie, Programa& programa) {
     const auto& marco = programa.tocar<VAROMAIN>();
@@ -28,6 +34,7 @@ void TomarMedidasDelMarco(Formulario& superficie, Programa& programa) {
 
 FrmMapa::FrmMapa(Programa& programa)
     : Formulario{programa, "FrmMapa", TipoVentana::Hija, ""}, programa_{programa} {
+    PonerColores(lienzo);
     LbTitulo.Visible = false;
     LbLeyenda.crear(0).Visible = false;
     Lbcodigo.crear(0).Visible = false;
@@ -97,7 +104,9 @@ void FrmMapa::Ab_ha() {
 }
 
 FrmMapa2::FrmMapa2(Programa& programa)
-    : Formulario{programa, "FrmMapa2", TipoVentana::Hija, ""}, programa_{programa} {}
+    : Formulario{programa, "FrmMapa2", TipoVentana::Hija, ""}, programa_{programa} {
+    PonerColores(lienzo);
+}
 
 void FrmMapa2::Form_Load() {
     TomarMedidasDelMarco(*this, programa_);

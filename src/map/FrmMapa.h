@@ -3,7 +3,7 @@
 
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
-#include "map/Escala.h"
+#include "lienzo/Lienzo.h"
 
 namespace varo {
 
@@ -19,7 +19,7 @@ public:
     Matriz<Etiqueta> LbLeyenda{*this, "LbLeyenda"};
     Matriz<Etiqueta> Lbcodigo{*this, "Lbcodigo"};
 
-    Escala escala;
+    Lienzo lienzo;
 
     void mnuDatos_Click();
     void mnuIndices_Click();
@@ -42,7 +42,7 @@ class FrmMapa2 : public Formulario {
 public:
     explicit FrmMapa2(Programa& programa);
 
-    Escala escala;
+    Lienzo lienzo;
 
     void Form_Load() override;
 

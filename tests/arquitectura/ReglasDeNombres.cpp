@@ -17,10 +17,11 @@ using Clase = Declaracion::Clase;
 
 const std::set<std::string_view> establecidos{
     // Properties and methods of the platform's windows, controls and data objects.
-    "AddItem", "Clear", "Col", "ColWidth", "Cols", "Count", "Database", "DatabaseName", "Eof", "Fields",
-    "FileName", "Hide", "Index", "List", "ListCount", "MoveFirst", "MoveLast", "MoveNext", "Name",
-    "OpenRecordset", "Path", "Print", "RecordCount", "Recordset", "Refresh", "RemoveItem", "Row", "Rows",
-    "Selected", "SetFocus", "Show", "TabCaption", "TableDefs", "Tabs", "Text", "TextMatrix", "Visible",
+    "AddItem", "Clear", "Cls", "Col", "ColWidth", "Cols", "Count", "Database", "DatabaseName", "Eof",
+    "Fields", "FileName", "Hide", "Index", "List", "ListCount", "MoveFirst", "MoveLast", "MoveNext", "Name",
+    "OpenRecordset", "Path", "Point", "Print", "RecordCount", "Recordset", "Refresh", "RemoveItem", "Row",
+    "Rows", "Selected", "SetFocus", "Show", "TabCaption", "TableDefs", "Tabs", "Text", "TextMatrix",
+    "Visible",
     // Procedures and variables of the windows.
     "Ab_ha", "AbrirArchivoDeDatos", "FilasCodigos", "LeerColumna", "ListaCodigos", "Npies_ha", "RellenarGrid",
     "Tipo2DAlActivar", "Tipo2DAlDesactivar", "Tipo4RAlActivar", "Tipo4RAlDesactivar", "TipoRMAlActivar",

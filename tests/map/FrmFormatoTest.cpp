@@ -229,8 +229,9 @@ TEST(FrmFormato, AceptarDaLaEscalaALasDosSuperficiesYPasaAlMapa) {
     EXPECT_FALSE(formato.ventana().Visible());
     const auto& mapa = formato.programa.tocar<FrmMapa>();
     EXPECT_TRUE(mapa.Visible());
-    EXPECT_NEAR(mapa.escala.abajo, -10.0 * 15 / 70, 1e-12); // metres: last places of quotient and product
-    EXPECT_EQ(formato.programa.tocar<FrmMapa2>().escala, mapa.escala);
+    EXPECT_NEAR(mapa.lienzo.escala().abajo, -10.0 * 15 / 70,
+                1e-12); // metres: last places of quotient and product
+    EXPECT_EQ(formato.programa.tocar<FrmMapa2>().lienzo.escala(), mapa.lienzo.escala());
     EXPECT_FALSE(formato.marco().mnuMapa.Enabled());
     EXPECT_TRUE(formato.marco().mnuOpciones.Enabled());
 }
