@@ -2,7 +2,7 @@
 
 #include "desktop/Intentar.h"
 #include "desktop/Texto.h"
-#include "desktop/widgets/Recuadro.h"
+#include "desktop/widgets/GrupoEnmarcado.h"
 #include "desktop/widgets/VistaDeRejilla.h"
 #include "desktop/widgets/Widgets.h"
 
@@ -103,7 +103,7 @@ QLabel* Vinculos::crearEtiqueta(Etiqueta& control) {
 }
 
 QGroupBox* Vinculos::crearMarco(Marco& control) {
-    auto* const widget = new Recuadro;
+    auto* const widget = new GrupoEnmarcado;
     enlazar(*widget, control, [widget, &control] { widget->setTitle(AQt(control.Caption())); });
     return widget;
 }

@@ -1,4 +1,4 @@
-#include "desktop/widgets/Recuadro.h"
+#include "desktop/widgets/GrupoEnmarcado.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -8,7 +8,7 @@ namespace varo {
 
 /// The style draws its line in a shade of the background, which a dark one swallows; this one is in a shade
 /// of the text, around the content.
-void Recuadro::paintEvent(QPaintEvent* suceso) {
+void GrupoEnmarcado::paintEvent(QPaintEvent* suceso) {
     constexpr int hastaLaLinea = 3;
     constexpr double esquina = 2;
     constexpr float parteDelTexto = 0.4F;

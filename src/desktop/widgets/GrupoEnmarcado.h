@@ -5,7 +5,7 @@
 
 namespace varo {
 
-class Recuadro : public QGroupBox {
+class GrupoEnmarcado : public QGroupBox {
 public:
     using QGroupBox::QGroupBox;
 
