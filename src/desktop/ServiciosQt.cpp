@@ -3,6 +3,7 @@
 #include "desktop/Texto.h"
 #include "desktop/widgets/ArchivosEnEspanol.h"
 #include "desktop/widgets/VentanasReales.h"
+#include "pintura/Colores.h"
 #include "sistema/ArchivoEntero.h"
 
 #include <QApplication>

@@ -1,9 +1,6 @@
-// Texts, measures and colours between the models and Qt.
+// Texts and measures between the models and Qt.
 #pragma once
 
-#include "formularios/Servicios.h"
-
-#include <QColor>
 #include <QString>
 
 #include <string>
@@ -27,15 +24,6 @@ inline int APuntos(int twips) {
 
 inline int ATwips(int puntos) {
     return static_cast<int>(puntos * twipsPorPunto);
-}
-
-/// The low byte of a Color is red, the third one blue.
-inline QColor ColorQt(Color color) {
-    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
-}
-
-inline Color ColorDe(const QColor& color) {
-    return color.red() | (color.green() << 8) | (color.blue() << 16);
 }
 
 } // namespace varo

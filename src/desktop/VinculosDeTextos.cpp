@@ -2,6 +2,7 @@
 #include "desktop/Texto.h"
 #include "desktop/Vinculos.h"
 #include "desktop/widgets/Widgets.h"
+#include "pintura/Colores.h"
 
 #include <QComboBox>
 #include <QLineEdit>

@@ -10,8 +10,6 @@ namespace varo {
 
 namespace {
 
-using LeerAspecto = std::function<AspectoDeEtiqueta(const EtiquetaMostrada&)>;
-
 std::string Hexadecimal(Color color) {
     constexpr std::string_view cifras = "0123456789ABCDEF";
     auto resto = static_cast<std::uint32_t>(color);

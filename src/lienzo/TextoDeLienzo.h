@@ -1,20 +1,12 @@
 // The list of shapes of a canvas as text, for tests and other programs.
 #pragma once
 
+#include "lienzo/AspectoDeEtiqueta.h"
 #include "lienzo/Lienzo.h"
 
-#include <functional>
 #include <string>
 
 namespace varo {
-
-/// What the list does not hold of a label: its place in user units, its letter colour and its text.
-struct AspectoDeEtiqueta {
-    double izquierda = 0;
-    double arriba = 0;
-    Color color = 0;
-    std::string texto;
-};
 
 /// UTF-8, one shape a line in the order of drawing after the line of the scale, fields between tabs:
 ///   escala izquierda arriba ancho alto
@@ -26,7 +18,6 @@ struct AspectoDeEtiqueta {
 ///   etiqueta nombre izquierda arriba color texto
 /// Numbers as in a cell, angles in radians, colours 0x00BBGGRR as eight hexadecimal digits, "-" for no fill;
 /// a tab or line end in a text is a blank.
-std::string TextoDeLienzo(const Lienzo& lienzo,
-                          const std::function<AspectoDeEtiqueta(const EtiquetaMostrada&)>& aspecto);
+std::string TextoDeLienzo(const Lienzo& lienzo, const LeerAspecto& aspecto);
 
 } // namespace varo

@@ -15,7 +15,7 @@ using Salas = std::set<std::string_view>;
 
 const Salas cimientos{"basico", "formularios", "motor", "lienzo"};
 const Salas programa{"shell", "data", "options", "map", "plot", "indices"};
-const Salas conPlataforma{"desktop", "lote", "sistema"};
+const Salas conPlataforma{"desktop", "lote", "sistema", "pintura"};
 
 /// What computes: plain values in, plain values out.
 constexpr std::array<std::string_view, 4> calculo{"plot/calculo/", "indices/independientes/",
@@ -33,8 +33,11 @@ bool PuedeConocer(const std::string& quien, const std::string& aQuien) {
     if (quien == "sistema") {
         return aQuien == "basico" || aQuien == "formularios";
     }
+    if (quien == "pintura") {
+        return aQuien == "basico" || aQuien == "lienzo";
+    }
     if (conPlataforma.contains(aQuien)) {
-        return aQuien == "sistema" && conPlataforma.contains(quien);
+        return (aQuien == "sistema" || aQuien == "pintura") && conPlataforma.contains(quien);
     }
     if (conPlataforma.contains(quien)) {
         return true;

@@ -118,7 +118,8 @@ public:
 
     /// Goes on from the sheet to one of the windows behind it.
     void llegarA(int etapa) {
-        const std::string dialogo = std::array{"SelCol4R", "SelCol2D", "SelColRM"}.at(etapa % 3);
+        const auto tipo = static_cast<std::size_t>(etapa % 3);
+        const std::string dialogo = std::array{"SelCol4R", "SelCol2D", "SelColRM"}.at(tipo);
         if (etapa % 3 != 0) {
             pulsar({"VAROMAIN", "mnuOpciones"}, false);
             pulsar({"OpcionesPrograma", etapa % 3 == 1 ? "Opt2D" : "OptRM"}, false);
@@ -128,7 +129,7 @@ public:
         if (etapa < 3) {
             return;
         }
-        for (int papel = 0; papel <= 8 - std::array{1, 3, 4}.at(etapa % 3); ++papel) {
+        for (int papel = 0; papel <= 8 - std::array{1, 3, 4}.at(tipo); ++papel) {
             pulsar({"Hojadedatos", "MSFlexGrid1", papel + 1}, false);
             pulsar({dialogo, "Command1(" + std::to_string(papel) + ")"}, false);
         }

@@ -2,6 +2,7 @@
 #include "desktop/ServiciosQt.h"
 #include "desktop/Pantalla.h"
 #include "desktop/Texto.h"
+#include "pintura/Colores.h"
 
 #include <QApplication>
 #include <QCheckBox>

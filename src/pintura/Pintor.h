@@ -1,0 +1,42 @@
+// Paints the list of shapes of a canvas.
+#pragma once
+
+#include "lienzo/AspectoDeEtiqueta.h"
+#include "lienzo/Lienzo.h"
+#include "pintura/Encuadre.h"
+
+#include <QFont>
+#include <QRectF>
+
+class QPainter;
+
+namespace varo {
+
+/// What is painted: the shapes, and how their labels look. The canvas lives longer.
+struct Dibujo {
+    const Lienzo& lienzo;
+    LeerAspecto aspecto;
+};
+
+/// How fine the strokes are, in units of the paper.
+struct Pluma {
+    double grosor = 1;     ///< of lines and outlines
+    double porPunto = 1;   ///< a typographic point, as fonts are measured
+    bool conCurvas = true; ///< arcs as curves; without it as lines that no eye tells from them
+    int masEtiquetas = -1; ///< with more labels of an array in sight than this, none of them; -1: all always
+
+    /// By design the whole canvas is 1,000 units of a line wide, and 750 points.
+    static Pluma para(double anchoDelLienzo) { return {anchoDelLienzo / 1000, anchoDelLienzo / 750}; }
+};
+
+/// The font with letters of that size; a font that is not installed is replaced by one without serifs.
+QFont LetraDe(const Fuente& fuente, const Pluma& pluma);
+
+/// Where the text of a label is painted, in units of the paper.
+QRectF LugarDeEtiqueta(const AspectoDeEtiqueta& aspecto, const Encuadre& encuadre, const Pluma& pluma);
+
+/// Paints the background over all of `visible`, and the shapes that touch it, in their order.
+void Pintar(QPainter& pintor, const Dibujo& dibujo, const Encuadre& encuadre, const Pluma& pluma,
+            const QRectF& visible);
+
+} // namespace varo
