@@ -2,6 +2,7 @@
 
 #include "basico/ErrorEjecucion.h"
 #include "formularios/Formulario.h"
+#include "formularios/MedidaDeTexto.h"
 
 #include <array>
 
@@ -26,6 +27,14 @@ void SobraMiembro(const std::string& nombre, int indice) {
     throw ErrorEjecucion{360, "Ya existe el control " + Identidad{nombre, indice}.completa()};
 }
 
+void AnunciarMiembro(Control& miembro) {
+    miembro.ventana().anunciar(miembro);
+}
+
+void RetirarMiembro(Control& miembro) {
+    miembro.ventana().retirar(miembro);
+}
+
 Control::Control(Formulario& ventana, Identidad identidad, TipoControl tipo, std::string leyenda)
     : Caption{*this, std::move(leyenda)}, ventana_{ventana}, identidad_{std::move(identidad)}, tipo_{tipo} {
     ventana_.registrar(*this);
@@ -33,6 +42,19 @@ Control::Control(Formulario& ventana, Identidad identidad, TipoControl tipo, std
 
 void Control::SetFocus() {
     ventana_.darFoco(*this);
+}
+
+void Etiqueta::ajustar() {
+    const MedidaDeTexto medida = MedirTexto(Caption(), Font());
+    Width = ventana().enUnidades(medida.ancho);
+    Height = ventana().enUnidades(medida.alto);
+}
+
+void Etiqueta::alCambiar(const void* propiedad) {
+    if (AutoSize() && (propiedad == &Caption || propiedad == &Font || propiedad == &AutoSize)) {
+        ajustar();
+    }
+    avisar();
 }
 
 void CajaTexto::alCambiar(const void* propiedad) {

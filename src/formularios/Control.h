@@ -9,8 +9,10 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace varo {
@@ -45,6 +47,9 @@ inline void Lanzar(const Suceso& suceso) {
     }
 }
 
+/// What a control that is dragged does over another one. The numbers are the platform's.
+enum class PasoDeArrastre { Entra = 0, Sale = 1 };
+
 /// What a control is called: its name and, for a member of an array of controls, its index.
 struct Identidad {
     static constexpr int sinIndice = -1;
@@ -62,7 +67,13 @@ struct Identidad {
     [[nodiscard]] std::string completa() const;
 };
 
-/// A control of a window. It enters the window's register when it is made. Measures are in twips.
+class Control;
+
+/// Raised at the control over which `origen` is dragged.
+using SucesoDeArrastre = std::function<void(Control& origen, PasoDeArrastre paso)>;
+
+/// A control of a window. It enters the window's register when it is made. Measures are in the units of its
+/// window: twips, unless the window has a scale of its own.
 class Control : public Observable {
 public:
     Control(Formulario& ventana, Identidad identidad, TipoControl tipo, std::string leyenda = {});
@@ -81,15 +92,20 @@ public:
     Propiedad<std::string> Caption;
     Propiedad<bool> Enabled{*this, true};
     Propiedad<bool> Visible{*this, true};
-    Propiedad<float> Left{*this};
-    Propiedad<float> Top{*this};
-    Propiedad<float> Width{*this};
-    Propiedad<float> Height{*this};
+    Propiedad<double> Left{*this};
+    Propiedad<double> Top{*this};
+    Propiedad<double> Width{*this};
+    Propiedad<double> Height{*this};
     std::string Tag;
+    /// A press on the control begins to drag it.
+    bool arrastrable = false;
+    /// The picture of the pointer while the control is dragged: the name of a resource.
+    Propiedad<std::string> DragIcon{*this};
 
     Suceso Click;
     Suceso DblClick;
     Suceso LostFocus;
+    SucesoDeArrastre DragOver;
 
     /// Gives the control the focus; the one that had it loses it.
     void SetFocus();
@@ -107,6 +123,19 @@ class Etiqueta : public Control {
 public:
     Etiqueta(Formulario& ventana, Identidad identidad, std::string leyenda = {})
         : Control{ventana, std::move(identidad), TipoControl::Etiqueta, std::move(leyenda)} {}
+
+    Propiedad<Fuente> Font{*this};
+    Propiedad<Color> ForeColor{*this, 0};
+    /// Nothing: what lies behind shows through.
+    Propiedad<std::optional<Color>> BackColor{*this};
+    /// The label takes the size of its text whenever that, or its font, changes.
+    Propiedad<bool> AutoSize{*this, false};
+
+    /// Takes the size of its text now.
+    void ajustar();
+
+protected:
+    void alCambiar(const void* propiedad) override;
 };
 
 class Boton : public Control {
@@ -280,6 +309,9 @@ private:
 
 [[noreturn]] void FaltaMiembro(const std::string& nombre, int indice);
 [[noreturn]] void SobraMiembro(const std::string& nombre, int indice);
+/// Tell the window of a member that came or is about to go.
+void AnunciarMiembro(Control& miembro);
+void RetirarMiembro(Control& miembro);
 
 /// An array of controls that share a name: TxtBAF1(6). A member that is not there throws 340; making one that
 /// is there already throws 360.
@@ -295,7 +327,24 @@ public:
         }
         auto miembro = std::make_unique<C>(ventana_, Identidad{nombre_, indice},
                                            std::forward<Argumentos>(argumentos)...);
-        return *miembros_.emplace(indice, std::move(miembro)).first->second;
+        C& nuevo = *miembros_.emplace(indice, std::move(miembro)).first->second;
+        AnunciarMiembro(nuevo);
+        return nuevo;
+    }
+
+    /// Takes a member away: it leaves the register of its window and the focus, and views hear of it. Its
+    /// own handlers may not call this.
+    void quitar(int indice) {
+        static_assert(!std::is_base_of_v<Opcion, C>, "an option would stay in its group");
+        RetirarMiembro((*this)(indice));
+        miembros_.erase(indice);
+    }
+
+    /// Takes away the members from `primero` on.
+    void quitarDesde(int primero) {
+        while (!miembros_.empty() && miembros_.rbegin()->first >= primero) {
+            quitar(miembros_.rbegin()->first); // the latest ones first: they stand last in the register
+        }
     }
 
     C& operator()(int indice) const {

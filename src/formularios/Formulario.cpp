@@ -3,6 +3,7 @@
 #include "formularios/Ventanas.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace varo {
 
@@ -23,6 +24,21 @@ void Formulario::pulsarCierre() {
 
 void Formulario::darFoco(Control& control) {
     ventanas_.darFoco(control);
+}
+
+void Formulario::anunciar(Control& control) {
+    if (anunciada_ && ventanas_.alCrearControl) {
+        ventanas_.alCrearControl(control);
+    }
+}
+
+void Formulario::retirar(Control& control) {
+    if (anunciada_ && ventanas_.alQuitarControl) {
+        ventanas_.alQuitarControl(control);
+    }
+    ventanas_.olvidarFoco(control);
+    const auto lugar = std::find(controles_.rbegin(), controles_.rend(), &control);
+    controles_.erase(std::next(lugar).base());
 }
 
 Control* Formulario::buscarControl(const std::string& nombre, int indice) const {

@@ -61,6 +61,11 @@ public:
     virtual void Form_Unload() {}
     /// Does what the close box does: unloads the window, unless the window says otherwise.
     virtual void pulsarCierre();
+    /// A person has dropped a control of the window on its free surface, at a point in its units.
+    virtual void Form_DragDrop(Control& /*Source*/, double /*X*/, double /*Y*/) {}
+
+    /// Twips in the units in which the window measures its controls.
+    [[nodiscard]] virtual double enUnidades(double twips) const { return twips; }
 
 protected:
     [[nodiscard]] Ventanas& ventanas() const { return ventanas_; }
@@ -68,8 +73,12 @@ protected:
 private:
     friend class Control;
     friend class Ventanas;
+    friend void AnunciarMiembro(Control& miembro);
+    friend void RetirarMiembro(Control& miembro);
 
     void registrar(Control& control) { controles_.push_back(&control); }
+    void anunciar(Control& control);
+    void retirar(Control& control);
     void darFoco(Control& control);
 
     Ventanas& ventanas_;
@@ -77,6 +86,7 @@ private:
     TipoVentana tipo_;
     Propiedad<bool> visible_{*this, false};
     std::vector<Control*> controles_;
+    bool anunciada_ = false; ///< views know of the window, and of the controls that it had then
 };
 
 } // namespace varo

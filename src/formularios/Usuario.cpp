@@ -108,6 +108,26 @@ void Usuario::dobleClic(Control& control) {
     usar(control, [&] { Lanzar(control.DblClick); });
 }
 
+Arrastre Usuario::empezarArrastre(Control& control) {
+    if (!control.arrastrable) {
+        throw ActoImposible{control.nombreCompleto() + ": no se puede arrastrar"};
+    }
+    usar(control, [] {});
+    return {ventanas_, control};
+}
+
+void Usuario::arrastrar(Control& control, double x, double y, const std::vector<Control*>& sobre) {
+    Arrastre arrastre = empezarArrastre(control);
+    for (Control* const otro : sobre) {
+        arrastre.sobre(otro);
+    }
+    arrastre.soltar(x, y);
+}
+
+void Usuario::arrastrar(Control& control, Control& destino) {
+    empezarArrastre(control).soltar(destino);
+}
+
 void Usuario::escribir(CajaTexto& caja, const std::string& texto) {
     usar(caja, [&] { caja.Text = texto; });
 }

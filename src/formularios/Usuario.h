@@ -1,6 +1,7 @@
 // Acts of a person, without a screen.
 #pragma once
 
+#include "formularios/Arrastre.h"
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
 #include "formularios/Rejilla.h"
@@ -9,6 +10,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace varo {
 
@@ -43,6 +45,14 @@ public:
     /// Clicks a button, a check, an option, a menu entry or any other control that listens to clicks.
     void clic(Control& control);
     void dobleClic(Control& control);
+
+    /// Drags a control over others, one after the other, and drops it at a point of the free surface of its
+    /// window, in the window's units.
+    void arrastrar(Control& control, double x, double y, const std::vector<Control*>& sobre = {});
+    /// Drops a control on another one, or on itself: it is released where it was pressed.
+    void arrastrar(Control& control, Control& destino);
+    /// The same in its steps, as a mouse does it: this is the press.
+    Arrastre empezarArrastre(Control& control);
 
     /// Replaces the text by another one.
     void escribir(CajaTexto& caja, const std::string& texto);

@@ -27,6 +27,7 @@ Formulario& Ventanas::cargar(std::type_index clase, std::unique_ptr<Formulario> 
         quitar(nueva); // drop the half-loaded window; the next touch starts afresh
         throw;
     }
+    nueva.anunciada_ = true;
     if (alCargar) {
         alCargar(nueva);
     }
@@ -177,6 +178,12 @@ void Ventanas::soltarFoco(const Formulario& ventana) {
         quitarFoco(*foco_);
     }
     olvidarFoco(ventana); // no control takes the focus back to a window that was left
+}
+
+void Ventanas::olvidarFoco(const Control& control) {
+    if (foco_ == &control) {
+        foco_ = nullptr;
+    }
 }
 
 void Ventanas::olvidarFoco(const Formulario& ventana) {

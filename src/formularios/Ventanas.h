@@ -75,6 +75,8 @@ public:
     /// Takes the focus from the control, if it has it.
     void quitarFoco(Control& control);
     [[nodiscard]] Control* foco() const { return foco_; }
+    /// The control is going: no handler runs.
+    void olvidarFoco(const Control& control);
 
     /// Runs an act that a person, or the platform, set off. A run-time fault ends it and is told; windows
     /// unloaded on the way are destroyed when the outermost act is over.
@@ -91,6 +93,10 @@ public:
     /// Called for each window that is loaded, and for each that is about to go.
     std::function<void(Formulario&)> alCargar;
     std::function<void(Formulario&)> alDescargar;
+    /// Called for each control that a window gets after it was loaded, and for each that is about to go while
+    /// its window stays.
+    std::function<void(Control&)> alCrearControl;
+    std::function<void(Control&)> alQuitarControl;
     /// Called when a window has become active, before its handlers run.
     std::function<void(Formulario&)> alActivar;
     /// Called when the outermost act is over.

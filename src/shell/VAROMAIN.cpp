@@ -44,6 +44,8 @@ void OcultarDialogoDeColumnas(Programa& programa) {
 
 VAROMAIN::VAROMAIN(Programa& programa)
     : Formulario{programa, "VAROMAIN", TipoVentana::Marco, "VARO 1.0"}, programa_{programa} {
+    Width = 15000;
+    Height = 10851;
     mnuCerrar.Enabled = false;
     mnuMapa.Enabled = false;
     mnuOpciones.Enabled = false;

@@ -31,8 +31,9 @@ const std::set<std::string_view> establecidos{
     // Of the language.
     "main"};
 
-const std::set<std::string_view> sucesos{"Activate", "Change",    "Click",       "DblClick", "Deactivate",
-                                         "Load",     "LostFocus", "QueryUnload", "Resize",   "Unload"};
+const std::set<std::string_view> sucesos{"Activate",    "Change",   "Click",    "DblClick", "Deactivate",
+                                         "DragDrop",    "DragOver", "DropDown", "Load",     "LostFocus",
+                                         "QueryUnload", "Resize",   "Unload"};
 
 /// `<Control>_<Event>`.
 bool EsManejador(std::string_view nombre) {

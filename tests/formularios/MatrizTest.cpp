@@ -62,6 +62,34 @@ TEST(Matriz, CrearOtraVezUnMiembroFallaYElPrimeroSigue) {
     EXPECT_EQ(banco.ventana.controles(), std::vector<Control*>{&primero});
 }
 
+TEST(Matriz, UnMiembroQueSeQuitaDejaElRegistroDeSuVentana) {
+    Banco banco;
+    Matriz<Etiqueta> matriz{banco.ventana, "Lbcodigo"};
+    Etiqueta& primera = matriz.crear(0);
+    matriz.crear(1);
+    Etiqueta& tercera = matriz.crear(2);
+    matriz.quitar(1);
+    EXPECT_FALSE(matriz.tiene(1));
+    EXPECT_EQ(banco.ventana.controles(), (std::vector<Control*>{&primera, &tercera}));
+    EXPECT_EQ(FalloDe([&] { matriz.quitar(1); }), 340);
+    matriz.crear(1, "otra");
+    EXPECT_EQ(matriz(1).Caption(), "otra");
+}
+
+TEST(Matriz, QuitarDesdeUnIndiceDejaLosAnteriores) {
+    Banco banco;
+    Matriz<Etiqueta> matriz{banco.ventana, "Lbcodigo"};
+    for (const int indice : {0, 1, 2, 5}) {
+        matriz.crear(indice);
+    }
+    matriz.quitarDesde(2);
+    EXPECT_EQ(matriz.miembros().size(), 2U);
+    EXPECT_TRUE(matriz.tiene(1));
+    EXPECT_EQ(banco.ventana.controles().size(), 2U);
+    matriz.quitarDesde(7);
+    EXPECT_EQ(matriz.miembros().size(), 2U);
+}
+
 TEST(Matriz, SusOpcionesPuedenSerDeGruposDistintos) {
     Banco banco;
     GrupoOpciones grupos[2];

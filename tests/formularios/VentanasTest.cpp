@@ -726,4 +726,76 @@ TEST(Ventanas, ElFinDelActoSeDiceTambienTrasUnFallo) {
     EXPECT_EQ(banco.visto(), Diario{"fin"});
 }
 
+namespace {
+
+struct VentanaConMatriz : VentanaAnotada {
+    explicit VentanaConMatriz(ProgramaDePrueba& programa)
+        : VentanaAnotada{programa, "M", TipoVentana::Libre} {
+        TxtCodigo.crear(0);
+    }
+    void Form_Load() override { TxtCodigo.crear(1); }
+
+    Matriz<CajaTexto> TxtCodigo{*this, "TxtCodigo"};
+};
+
+struct ConMatriz {
+    ServiciosPreparados servicios;
+    ProgramaDePrueba programa{servicios};
+    Diario vistas;
+
+    ConMatriz() {
+        programa.alCargar = [this](Formulario& ventana) { vistas.push_back("carga " + ventana.nombre()); };
+        programa.alCrearControl = [this](Control& control) {
+            vistas.push_back("nace " + control.nombreCompleto());
+        };
+        programa.alQuitarControl = [this](Control& control) {
+            vistas.push_back("muere " + control.nombreCompleto());
+        };
+    }
+};
+
+} // namespace
+
+TEST(Ventanas, SeAnuncianLosControlesQueNacenDespuesDeCargarseSuVentana) {
+    ConMatriz p;
+    auto& ventana = p.programa.tocar<VentanaConMatriz>();
+    EXPECT_EQ(p.vistas, Diario{"carga M"}) << "los anteriores van con la ventana";
+    ventana.TxtCodigo.crear(2);
+    ventana.TxtCodigo.quitar(1);
+    EXPECT_EQ(p.vistas, (Diario{"carga M", "nace TxtCodigo(2)", "muere TxtCodigo(1)"}));
+    p.programa.descargar(ventana);
+    EXPECT_EQ(p.vistas.size(), 3U) << "la ventana se los lleva sin decirlo uno a uno";
+}
+
+TEST(Ventanas, UnControlQueSeAnunciaEstaEnteroYElQueSeQuitaTodaviaTambien) {
+    ConMatriz p;
+    auto& ventana = p.programa.tocar<VentanaConMatriz>();
+    p.programa.alCrearControl = [&](Control& control) {
+        EXPECT_NE(dynamic_cast<CajaTexto*>(&control), nullptr);
+        EXPECT_EQ(ventana.buscarControl("TxtCodigo", 2), &control);
+        EXPECT_TRUE(ventana.TxtCodigo.tiene(2));
+    };
+    ventana.TxtCodigo.crear(2, "texto");
+    p.programa.alQuitarControl = [&](Control& control) {
+        EXPECT_EQ(dynamic_cast<CajaTexto&>(control).Text(), "texto");
+        EXPECT_EQ(ventana.buscarControl("TxtCodigo", 2), &control);
+    };
+    ventana.TxtCodigo.quitar(2);
+    EXPECT_EQ(ventana.buscarControl("TxtCodigo", 2), nullptr);
+}
+
+TEST(Ventanas, UnControlQueSeQuitaConElFocoLoDejaSinNadie) {
+    ConMatriz p;
+    auto& ventana = p.programa.tocar<VentanaConMatriz>();
+    ventana.Show();
+    bool perdido = false;
+    ventana.TxtCodigo(1).LostFocus = [&] { perdido = true; };
+    ventana.TxtCodigo(1).SetFocus();
+    ventana.TxtCodigo.quitar(0);
+    EXPECT_EQ(p.programa.foco(), &ventana.TxtCodigo(1));
+    ventana.TxtCodigo.quitar(1);
+    EXPECT_EQ(p.programa.foco(), nullptr);
+    EXPECT_FALSE(perdido) << "ya no hay quien lo pierda";
+}
+
 } // namespace varo
