@@ -24,6 +24,11 @@ namespace {
 const char* const filaDeCodigos = "1"; // tag of the first code row and its labels
 const char* const botones = "2";       // tag of the two buttons
 
+constexpr Color colorDeLetra = 0x00400040;
+/// Of the crowns, by turns: codes are told apart before anyone has chosen a colour.
+constexpr std::array<Color, 8> coloresDeLinea{0x00400040, 0x00B27200, 0x00005ED5, 0x00739E00,
+                                              0x000A518C, 0x009933CC, 0x001A1A1A, 0x00B47545};
+
 } // namespace
 
 FrmFormato::FrmFormato(Programa& programa)
@@ -31,11 +36,13 @@ FrmFormato::FrmFormato(Programa& programa)
     Height = 2700;
     Width = 8000;
     CboTitFont.Font = Fuente{.nombre = "Arial"};
+    CboTitColor.BackColor = colorDeLetra;
     LbCodigo.crear(0);
     TxtCodigo.crear(0);
     CboCodFont.crear(0);
     CboCodColor.crear(0);
     CboCodBackColor.crear(0);
+    prepararFila(0);
     const std::array<Control*, 10> primeraFila{&Label10, &LbCodigo(0),       &Label7, &TxtCodigo(0),
                                                &Label6,  &CboCodFont(0),     &Label5, &CboCodColor(0),
                                                &Label9,  &CboCodBackColor(0)};
@@ -49,8 +56,18 @@ FrmFormato::FrmFormato(Programa& programa)
         boton->Tag = botones;
         boton->Top = 1790;
     }
+    CboTitFont.DropDown = [this] { CboTitFont_DropDown(); };
+    CboTitColor.DropDown = [this] { CboTitColor_DropDown(); };
+    CboTitBackColor.DropDown = [this] { CboTitBackColor_DropDown(); };
     CmdAceptar.Click = [this] { CmdAceptar_Click(); };
     CmdCancelar.Click = [this] { CmdCancelar_Click(); };
+}
+
+void FrmFormato::prepararFila(int codigo) {
+    CboCodColor(codigo).BackColor = coloresDeLinea[static_cast<std::size_t>(codigo) % coloresDeLinea.size()];
+    CboCodFont(codigo).DropDown = [this, codigo] { CboCodFont_DropDown(codigo); };
+    CboCodColor(codigo).DropDown = [this, codigo] { CboCodColor_DropDown(codigo); };
+    CboCodBackColor(codigo).DropDown = [this, codigo] { CboCodBackColor_DropDown(codigo); };
 }
 
 void FrmFormato::mostrarFilas(bool visibles) {
@@ -134,6 +151,7 @@ void FrmFormato::crearFila(int codigo) {
     fuente.Text = fuente.Font().nombre;
     CboCodColor.crear(codigo);
     CboCodBackColor.crear(codigo);
+    prepararFila(codigo);
     const auto debajo = [](Control& nuevo, const Control& anterior) {
         nuevo.Left = anterior.Left();
         nuevo.Top = anterior.Top() + altoDeFila;

@@ -41,6 +41,12 @@ public:
     Boton CmdCancelar{*this, "CmdCancelar", "Cancelar"};
 
     void Form_Load() override;
+    void CboTitFont_DropDown();
+    void CboTitColor_DropDown();
+    void CboTitBackColor_DropDown();
+    void CboCodFont_DropDown(int Index);
+    void CboCodColor_DropDown(int Index);
+    void CboCodBackColor_DropDown(int Index);
     void CmdAceptar_Click();
     void CmdCancelar_Click();
 
@@ -51,6 +57,15 @@ public:
 
 private:
     void crearFila(int codigo);
+    /// What the controls of a code's row answer to, and how they start.
+    void prepararFila(int codigo);
+    /// What a chooser hands back. One that a person cancels gives what the control shows.
+    Fuente preguntarFuente(Desplegable& control);
+    struct ColorElegido {
+        Color color = 0;
+        bool porPersona = false;
+    };
+    ColorElegido preguntarColor(Desplegable& control);
     void limpiarRejilla();
     /// A numeric cell gives its number, any other -1.
     [[nodiscard]] std::vector<double> LeerColumna(int columna) const;
@@ -58,6 +73,10 @@ private:
     void mostrarFilas(bool visibles);
 
     Programa& programa_;
+    // Which choosers of the codes have been opened since the window was loaded.
+    bool fuentesPedidas_ = false;
+    bool coloresPedidos_ = false;
+    bool fondosPedidos_ = false;
 };
 
 } // namespace varo

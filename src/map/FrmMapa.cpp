@@ -13,14 +13,31 @@
 #include "shell/Programa.h"
 #include "shell/VAROMAIN.h"
 
+#include <algorithm>
+
 namespace varo {
 
 namespace {
 
-/// The colours of both surfaces as they are designed.
-void PonerColores(Lienzo& lienzo) {
-    lienzo.BackColor = 0x00C0E0FF;
-    lienzo.ForeColor = 0x00400040;
+// Pictures of the pointer, among the resources of the program.
+constexpr const char* alMover = "dragmove.cur";
+constexpr const char* alNegar = "nodrop01.cur";
+
+/// What the labels of the map share: they lie on the surface and can be dragged, and are hidden at first.
+void PrepararEtiqueta(Etiqueta& etiqueta) {
+    etiqueta.ForeColor = FrmMapa::colorDeTrazo;
+    etiqueta.arrastrable = true;
+    etiqueta.DragIcon = alMover;
+    etiqueta.Visible = false;
+    etiqueta.AutoSize = true;
+}
+
+/// An empty surface in the colours of the design.
+void Disenar(Lienzo& lienzo) {
+    lienzo.Cls();
+    lienzo.BackColor = FrmMapa::colorDeFondo;
+    lienzo.ForeColor = FrmMapa::colorDeTrazo;
+    lienzo.FillColor.reset();
 }
 
 /// Gives a surface the size of the main window.
@@ -34,13 +51,36 @@ void TomarMedidasDelMarco(Formulario& superficie, Programa& programa) {
 
 FrmMapa::FrmMapa(Programa& programa)
     : Formulario{programa, "FrmMapa", TipoVentana::Hija, ""}, programa_{programa} {
-    PonerColores(lienzo);
-    LbTitulo.Visible = false;
-    LbLeyenda.crear(0).Visible = false;
-    Lbcodigo.crear(0).Visible = false;
+    Disenar(lienzo);
+    PrepararEtiqueta(LbTitulo);
+    crearLeyenda(0);
+    crearCodigo(0);
     mnuDatos.Click = [this] { mnuDatos_Click(); };
     mnuIndices.Click = [this] { mnuIndices_Click(); };
-    LbLeyenda(0).DblClick = [this] { LbLeyenda_DblClick(); };
+}
+
+Etiqueta& FrmMapa::crearLeyenda(int codigo) {
+    Etiqueta& etiqueta = LbLeyenda.crear(codigo);
+    PrepararEtiqueta(etiqueta);
+    etiqueta.DblClick = [this] { LbLeyenda_DblClick(); };
+    return etiqueta;
+}
+
+Etiqueta& FrmMapa::crearCodigo(int fila) {
+    Etiqueta& etiqueta = Lbcodigo.crear(fila);
+    PrepararEtiqueta(etiqueta);
+    etiqueta.DragOver = [fila](Control& origen, PasoDeArrastre paso) {
+        Lbcodigo_DragOver(fila, origen, paso);
+    };
+    return etiqueta;
+}
+
+double FrmMapa::enUnidades(double twips) const {
+    if (Width() <= 0 || Height() <= 0) {
+        return 0;
+    }
+    // Meant: in a window of another shape a margin stays beside the canvas.
+    return twips * std::max(lienzo.escala().ancho() / Width(), -lienzo.escala().alto() / Height());
 }
 
 void FrmMapa::Form_Load() {
@@ -67,6 +107,16 @@ void FrmMapa::mnuIndices_Click() {
 void FrmMapa::LbLeyenda_DblClick() {
     programa_.tocar<FrmFormato>().Show();
     programa_.descargar(*this);
+}
+
+void FrmMapa::Form_DragDrop(Control& Source, double X, double Y) {
+    // Meant: added, not taken off; the label lands to the right of the point.
+    Source.Left = X + Source.Width() / 2;
+    Source.Top = Y;
+}
+
+void FrmMapa::Lbcodigo_DragOver(int /*Index*/, Control& Source, PasoDeArrastre State) {
+    Source.DragIcon = State == PasoDeArrastre::Entra ? alNegar : alMover;
 }
 
 void FrmMapa::Npies_ha() {
@@ -105,7 +155,7 @@ void FrmMapa::Ab_ha() {
 
 FrmMapa2::FrmMapa2(Programa& programa)
     : Formulario{programa, "FrmMapa2", TipoVentana::Hija, ""}, programa_{programa} {
-    PonerColores(lienzo);
+    Disenar(lienzo);
 }
 
 void FrmMapa2::Form_Load() {

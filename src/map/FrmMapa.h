@@ -19,11 +19,26 @@ public:
     Matriz<Etiqueta> LbLeyenda{*this, "LbLeyenda"};
     Matriz<Etiqueta> Lbcodigo{*this, "Lbcodigo"};
 
+    /// Of both surfaces, by design; lines and texts share the second one.
+    static constexpr Color colorDeFondo = 0x00C0E0FF;
+    static constexpr Color colorDeTrazo = 0x00400040;
+
     Lienzo lienzo;
+
+    /// Members of the legend and of the labels of the trees, in their design state.
+    Etiqueta& crearLeyenda(int codigo);
+    Etiqueta& crearCodigo(int fila);
+
+    /// Metres, the same in x and in y: the window shows the whole of the canvas.
+    [[nodiscard]] double enUnidades(double twips) const override;
 
     void mnuDatos_Click();
     void mnuIndices_Click();
     void LbLeyenda_DblClick();
+    /// Moves the label to the right of the point, by half its width.
+    void Form_DragDrop(Control& Source, double X, double Y) override;
+    /// Over another tree's label the pointer refuses.
+    static void Lbcodigo_DragOver(int Index, Control& Source, PasoDeArrastre State);
 
     /// Stems per hectare, corrected for the trees on the boundary, into Sesion::PiesHaActual.
     void Npies_ha();

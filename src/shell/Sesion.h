@@ -28,6 +28,26 @@ struct Sesion {
     Entero16 AltoFormato;    ///< design height of the format window, in twips
     std::string NombreArchivoDatos;
 
+    // The format of the map. A value that nobody has chosen yet is empty; the next drawing fills it. The
+    // values outlive the format window and the file.
+    std::string TituloFuente;
+    std::string TituloNegrita; ///< "Verdadero" or "Falso", like the other three traits
+    std::string TituloCursiva;
+    std::string TituloTachado;
+    std::string TituloSubrayado;
+    std::string TituloTamano; ///< in points
+    std::string TituloColor;  ///< a colour is the number 0x00BBGGRR in decimal
+    std::string TituloColorFondo;
+    MatrizDinamica<std::string> CodColor; ///< by code, as all that follow
+    MatrizDinamica<std::string> CodColorFondo;
+    MatrizDinamica<std::string> CodFuente;
+    MatrizDinamica<std::string> CodNegrita;
+    MatrizDinamica<std::string> CodCursiva;
+    MatrizDinamica<std::string> CodTachado;
+    MatrizDinamica<std::string> CodSubrayado;
+    MatrizDinamica<std::string> CodTamano;
+    MatrizDinamica<std::string> CodFondoElegido; ///< "Verdadero" where somebody chose the background
+
     // The plot boundary.
     Entero16 FactorRadios; ///< divisor from the unit of crown radii to metres
     TablaPoligono Poligono;

@@ -1,68 +1,11 @@
-#include "map/FrmFormato.h"
-
-#include "apoyo/Jornada.h"
-#include "data/Hojadedatos.h"
-#include "map/FrmMapa.h"
+#include "map/Formato.h"
 
 #include <gtest/gtest.h>
 
 namespace varo::prueba {
 namespace {
 
-using Textos = std::vector<std::string>;
-
-Valor texto(const std::string& t) {
-    return Valor{t};
-}
-
-/// Trees at the corners of a square and inside it, with these codes in the sheet's order; fields Arbol, X, Y,
-/// R, Cod, Nota.
-Filas ConCodigos(const std::vector<Valor>& codigos) {
-    Filas filas{{texto("Arbol"), texto("X"), texto("Y"), texto("R"), texto("Cod"), texto("Nota")}};
-    const std::vector<std::pair<double, double>> lugares{{0, 0}, {0, 10}, {10, 10}, {10, 0}, {5, 5}, {4, 3}};
-    for (std::size_t i = 0; i < codigos.size(); ++i) {
-        filas.push_back(
-            {static_cast<double>(i + 1), lugares[i].first, lugares[i].second, 10.0, codigos[i], texto("n")});
-    }
-    return filas;
-}
-
-/// The columns of ConCodigos chosen and "Dibujar" pressed.
-struct Formato : Jornada {
-    explicit Formato(const Filas& filas, bool conCodigo = true) {
-        abrirParcela(filas);
-        cambiarOpciones([&](OpcionesPrograma& opciones) {
-            usuario.clic(opciones.OptRM);
-            if (!conCodigo) {
-                usuario.clic(opciones.ChCodigo);
-            }
-        });
-        elegirColumnas(conCodigo);
-    }
-    void elegirColumnas(bool conCodigo) {
-        pedirColumnas();
-        auto& dialogo = programa.tocar<SelColRM>();
-        usuario.clic(dialogo.CmdQuitarTodo);
-        elegirPapel(dialogo, 0, 2);
-        elegirPapel(dialogo, 1, 3);
-        elegirPapel(dialogo, 2, 4);
-        elegirPapel(dialogo, 3, 1);
-        if (conCodigo) {
-            elegirPapel(dialogo, 4, 5);
-        }
-        usuario.clic(dialogo.CmdDibujar);
-    }
-    FrmFormato& ventana() { return programa.tocar<FrmFormato>(); }
-    Textos columna(int numero) {
-        const auto& rejilla = programa.tocar<Hojadedatos>().MSFlexGrid1;
-        Textos textos;
-        textos.reserve(static_cast<std::size_t>(rejilla.Rows()));
-        for (int fila = 1; fila < rejilla.Rows(); ++fila) {
-            textos.push_back(rejilla.TextMatrix(fila, numero));
-        }
-        return textos;
-    }
-};
+constexpr auto texto = TextoDeCelda;
 
 TEST(FrmFormato, LosCodigosDistintosSeListanPorSuOrden) {
     Formato formato{ConCodigos({texto("QP"), texto("PS"), texto("QP"), 7.0, texto("PS"), {}})};
@@ -84,7 +27,7 @@ TEST(FrmFormato, UnSoloCodigoNoCreaControles) {
 }
 
 TEST(FrmFormato, UnaColumnaDeCodigosVaciaDaCeroCodigos) {
-    Formato formato{ConCodigos({{}, {}, {}})};
+    Formato formato{ConCodigos(std::vector<Valor>(3))};
     EXPECT_EQ(formato.programa.sesion.NumCodigos, 0);
     EXPECT_EQ(formato.ventana().LbCodigo(0).Caption(), "");
     EXPECT_FALSE(formato.ventana().LbCod.Visible());
@@ -184,15 +127,8 @@ TEST(FrmFormato, ElDialogoCreceConLosCodigosYVuelveASuAltoEnElArchivoSiguiente) 
     EXPECT_EQ(formato.ventana().CmdAceptar.Top(), formato.ventana().Height() - 910);
     EXPECT_EQ(formato.ventana().TxtCodigo(2).Top(), formato.ventana().TxtCodigo(0).Top() + 2 * 630);
 
-    formato.usuario.clic(formato.marco().mnuCerrar);
+    formato.abrirOtraParcela(ConCodigos({texto("A"), texto("B"), texto("B")}));
     EXPECT_EQ(formato.programa.sesion.CierresConMapa, 1);
-    formato.abrirParcela(ConCodigos({texto("A"), texto("B"), texto("B")}));
-    formato.cambiarOpciones([&](OpcionesPrograma& opciones) {
-        formato.servicios.esperarMensaje(
-            "Cambiaste el tipo de datos de entrada. Debes seleccionar de nuevo las columnas de entrada");
-        formato.usuario.clic(opciones.OptRM);
-    });
-    formato.elegirColumnas(true);
     EXPECT_EQ(formato.ventana().Height(), static_cast<float>(alto + 1290 + 630));
     EXPECT_EQ(formato.programa.sesion.AltoFormato, alto);
 }
@@ -245,54 +181,6 @@ TEST(FrmFormato, UnaCoordenadaQueNoEsNumeroDiceDondeEsta) {
     const std::string& lugar = formato.servicios.fallos().back().lugar();
     EXPECT_NE(lugar.find("fila 4 de «"), std::string::npos) << lugar;
     EXPECT_NE(lugar.find('X'), std::string::npos) << lugar;
-}
-
-TEST(FrmMapa, ElTituloEsElDeLaHojaSinSuUltimaLetra) {
-    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")})};
-    formato.usuario.clic(formato.ventana().CmdAceptar);
-    auto& mapa = formato.programa.tocar<FrmMapa>();
-    EXPECT_EQ(mapa.Caption(), "Mapa de la parcela Parcela1");
-    EXPECT_EQ(mapa.mnuDatos.Caption(), "&Datos de parcela");
-    EXPECT_EQ(mapa.mnuIndices.Caption(), "&Indices de rivanza");
-    EXPECT_TRUE(mapa.mnuIndices.Enabled());
-    EXPECT_FALSE(mapa.LbTitulo.Visible());
-    EXPECT_EQ(mapa.Width(), formato.marco().Width());
-    EXPECT_EQ(mapa.Height(), formato.marco().Height());
-    EXPECT_FALSE(mapa.LbLeyenda(0).Visible());
-    EXPECT_FALSE(mapa.Lbcodigo(0).Visible());
-}
-
-TEST(FrmMapa, LasDosSuperficiesTomanLasMedidasDelMarco) {
-    Jornada jornada;
-    jornada.marco().Width = 12345;
-    jornada.marco().Height = 6789;
-    EXPECT_EQ(jornada.programa.tocar<FrmMapa>().Width(), 12345);
-    EXPECT_EQ(jornada.programa.tocar<FrmMapa2>().Width(), 12345);
-    EXPECT_EQ(jornada.programa.tocar<FrmMapa2>().Height(), 6789);
-}
-
-TEST(FrmMapa, ElDobleClicEnLaLeyendaVuelveAlFormato) {
-    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")})};
-    formato.usuario.clic(formato.ventana().CmdAceptar);
-    auto& mapa = formato.programa.tocar<FrmMapa>();
-    mapa.LbLeyenda(0).Visible = true;
-    formato.usuario.dobleClic(mapa.LbLeyenda(0));
-    EXPECT_EQ(formato.programa.cargada<FrmMapa>(), nullptr);
-    EXPECT_TRUE(formato.ventana().Visible());
-    EXPECT_TRUE(formato.marco().mnuMapa.Enabled());
-}
-
-TEST(FrmMapa, CerrarElMapaDejaElFormatoOculto) {
-    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")})};
-    formato.usuario.clic(formato.ventana().CmdAceptar);
-    formato.usuario.cerrar(formato.programa.tocar<FrmMapa>());
-    EXPECT_FALSE(formato.ventana().Visible());
-    EXPECT_TRUE(formato.marco().mnuMapa.Enabled());
-
-    formato.pedirColumnas();
-    formato.usuario.clic(formato.programa.tocar<SelColRM>().CmdDibujar);
-    formato.usuario.clic(formato.ventana().CmdAceptar);
-    EXPECT_TRUE(formato.programa.tocar<FrmMapa>().Visible());
 }
 
 } // namespace
