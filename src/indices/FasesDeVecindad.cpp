@@ -6,6 +6,7 @@
 #include "data/Hojadedatos.h"
 #include "data/PadronDeArboles.h"
 #include "data/Papeles.h"
+#include "indices/CeldasEnElMapa.h"
 #include "indices/OpcionesDeVecindad.h"
 #include "indices/apa/APA.h"
 #include "indices/vecinos/AOI.h"
@@ -295,10 +296,12 @@ private:
         Dimensionar(r.IndAPA, r.NumColAPA, cuantosArboles(),
                     [&] { return BarridoSinValores(r.APAk, exponenteAPA); });
         int numero = -1;
+        CeldasEnElMapa celdas{programa_};
+        const auto dibujo = [&](std::size_t, std::span<const TrazoAPA> trazos) { celdas.dibujar(trazos); };
         for (const double k : ValoresDe(r.APAk)) {
             columna(
                 r.IndAPA, ++numero, [&] { return RotuloAPA(k); },
-                [&] { return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k); });
+                [&] { return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k, dibujo); });
         }
         if (const auto exponentes = ValoresDe(r.APAk); !exponentes.empty()) {
             guardarCentro(exponentes.back());

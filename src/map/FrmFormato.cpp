@@ -1,5 +1,6 @@
 #include "map/FrmFormato.h"
 
+#include "basico/AlSalir.h"
 #include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
@@ -8,8 +9,10 @@
 #include "data/Hojadedatos.h"
 #include "data/Papeles.h"
 #include "formularios/Reloj.h"
+#include "map/DibujarArboles.h"
 #include "map/Escala.h"
 #include "map/FrmMapa.h"
+#include "map/TituloYLeyenda.h"
 #include "options/OpcionesPrograma.h"
 #include "plot/ConstruirPoligono.h"
 #include "shell/Programa.h"
@@ -25,7 +28,6 @@ const char* const filaDeCodigos = "1"; // tag of the first code row and its labe
 const char* const botones = "2";       // tag of the two buttons
 
 constexpr Color colorDeLetra = 0x00400040;
-/// Of the crowns, by turns: codes are told apart before anyone has chosen a colour.
 constexpr std::array<Color, 8> coloresDeLinea{0x00400040, 0x00B27200, 0x00005ED5, 0x00739E00,
                                               0x000A518C, 0x009933CC, 0x001A1A1A, 0x00B47545};
 
@@ -63,8 +65,12 @@ FrmFormato::FrmFormato(Programa& programa)
     CmdCancelar.Click = [this] { CmdCancelar_Click(); };
 }
 
+Color FrmFormato::colorDeLinea(int codigo) {
+    return coloresDeLinea[static_cast<std::size_t>(codigo) % coloresDeLinea.size()];
+}
+
 void FrmFormato::prepararFila(int codigo) {
-    CboCodColor(codigo).BackColor = coloresDeLinea[static_cast<std::size_t>(codigo) % coloresDeLinea.size()];
+    CboCodColor(codigo).BackColor = colorDeLinea(codigo);
     CboCodFont(codigo).DropDown = [this, codigo] { CboCodFont_DropDown(codigo); };
     CboCodColor(codigo).DropDown = [this, codigo] { CboCodColor_DropDown(codigo); };
     CboCodBackColor(codigo).DropDown = [this, codigo] { CboCodBackColor_DropDown(codigo); };
@@ -191,20 +197,49 @@ std::vector<double> FrmFormato::LeerColumna(int columna) const {
     });
 }
 
-void FrmFormato::prepararSuperficies() {
+Escala FrmFormato::prepararSuperficies() {
     const auto& sesion = programa_.sesion;
     const Escala escala = CalcularEscala(LeerColumna(sesion.Columnas(papelX).valor()),
                                          LeerColumna(sesion.Columnas(papelY).valor()));
-    programa_.tocar<FrmMapa>().lienzo.escala(escala);
-    programa_.tocar<FrmMapa2>().lienzo.escala(escala);
+    programa_.tocar<FrmMapa>().empezar(escala);
+    programa_.tocar<FrmMapa2>().empezar(escala);
+    return escala;
+}
+
+void FrmFormato::dibujarMapa() {
+    DibujarMarco(programa_.tocar<FrmMapa>().lienzo);
+    DibujarMarco(programa_.tocar<FrmMapa2>().lienzo);
+    PonerTitulo(programa_);
+    PonerLeyenda(programa_);
+    DibujarArboles(programa_);
+}
+
+void FrmFormato::avisarDibujo() {
+    if (auto* const mapa = programa_.cargada<FrmMapa>()) {
+        mapa->avisarDibujo();
+    }
+    if (auto* const mapa = programa_.cargada<FrmMapa2>()) {
+        mapa->avisarDibujo();
+    }
 }
 
 void FrmFormato::CmdAceptar_Click() {
     const auto reloj = PonerReloj(*this);
     limpiarRejilla();
-    prepararSuperficies();
+    const AlSalir avisar{[this] { avisarDibujo(); }};
+    const bool hayDibujo = !prepararSuperficies().sinExtension();
+    if (hayDibujo) {
+        dibujarMapa();
+    } else {
+        programa_.tocar<FrmMapa>().decirQueNoHayDibujo();
+    }
+    // Meant: a fault among the trees leaves the boundary before, and the grid in its order.
     ConstruirPoligono(programa_);
     auto& sesion = programa_.sesion;
+    if (hayDibujo && programa_.tocar<OpcionesPrograma>().ChPolExt.Value() == 1) {
+        // Meant: no step sets the colour, so it is that of the last tree.
+        DibujarContorno(programa_.tocar<FrmMapa>().lienzo, sesion.Poligono.contorno());
+    }
     sesion.SupPoligono = Porque(
         fallo::argumentoNoValido,
         [] { return "no se puede hallar la superficie: los árboles del contorno están casi en una línea"; },

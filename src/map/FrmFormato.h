@@ -3,6 +3,7 @@
 
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
+#include "map/Escala.h"
 
 #include <vector>
 
@@ -40,6 +41,9 @@ public:
     Boton CmdAceptar{*this, "CmdAceptar", "Aceptar"};
     Boton CmdCancelar{*this, "CmdCancelar", "Cancelar"};
 
+    /// The design colour of the crowns of a code, by turns: codes are told apart before anyone has chosen.
+    static Color colorDeLinea(int codigo);
+
     void Form_Load() override;
     void CboTitFont_DropDown();
     void CboTitColor_DropDown();
@@ -69,7 +73,11 @@ private:
     void limpiarRejilla();
     /// A numeric cell gives its number, any other -1.
     [[nodiscard]] std::vector<double> LeerColumna(int columna) const;
-    void prepararSuperficies();
+    /// Empties both surfaces and gives them their scale.
+    Escala prepararSuperficies();
+    void dibujarMapa();
+    /// Tells those who look at the surfaces, also of a drawing that a fault has ended.
+    void avisarDibujo();
     void mostrarFilas(bool visibles);
 
     Programa& programa_;

@@ -23,12 +23,16 @@ namespace {
 constexpr const char* alMover = "dragmove.cur";
 constexpr const char* alNegar = "nodrop01.cur";
 
-/// What the labels of the map share: they lie on the surface and can be dragged, and are hidden at first.
-void PrepararEtiqueta(Etiqueta& etiqueta) {
+/// A label of the map by design: hidden and empty, and a person can drag it.
+void Disenar(Etiqueta& etiqueta) {
+    etiqueta.Visible = false;
+    etiqueta.Caption = "";
+    etiqueta.Font = Fuente{};
     etiqueta.ForeColor = FrmMapa::colorDeTrazo;
+    etiqueta.Left = 0;
+    etiqueta.Top = 0;
     etiqueta.arrastrable = true;
     etiqueta.DragIcon = alMover;
-    etiqueta.Visible = false;
     etiqueta.AutoSize = true;
 }
 
@@ -50,9 +54,9 @@ void TomarMedidasDelMarco(Formulario& superficie, Programa& programa) {
 } // namespace
 
 FrmMapa::FrmMapa(Programa& programa)
-    : Formulario{programa, "FrmMapa", TipoVentana::Hija, ""}, programa_{programa} {
+    : Superficie{programa, "FrmMapa", TipoVentana::Hija, ""}, programa_{programa} {
     Disenar(lienzo);
-    PrepararEtiqueta(LbTitulo);
+    Disenar(LbTitulo);
     crearLeyenda(0);
     crearCodigo(0);
     mnuDatos.Click = [this] { mnuDatos_Click(); };
@@ -61,18 +65,51 @@ FrmMapa::FrmMapa(Programa& programa)
 
 Etiqueta& FrmMapa::crearLeyenda(int codigo) {
     Etiqueta& etiqueta = LbLeyenda.crear(codigo);
-    PrepararEtiqueta(etiqueta);
+    Disenar(etiqueta);
     etiqueta.DblClick = [this] { LbLeyenda_DblClick(); };
     return etiqueta;
 }
 
 Etiqueta& FrmMapa::crearCodigo(int fila) {
     Etiqueta& etiqueta = Lbcodigo.crear(fila);
-    PrepararEtiqueta(etiqueta);
+    Disenar(etiqueta);
     etiqueta.DragOver = [fila](Control& origen, PasoDeArrastre paso) {
         Lbcodigo_DragOver(fila, origen, paso);
     };
     return etiqueta;
+}
+
+void FrmMapa::empezar(const Escala& escala) {
+    Disenar(lienzo);
+    lienzo.escala(escala);
+    arboles.clear();
+    aviso.clear();
+    LbLeyenda.quitarDesde(1);
+    Lbcodigo.quitarDesde(1);
+    for (Etiqueta* const etiqueta : {&LbTitulo, &LbLeyenda(0), &Lbcodigo(0)}) {
+        Disenar(*etiqueta);
+        etiqueta->ajustar();
+    }
+}
+
+void FrmMapa::mostrar(Etiqueta& etiqueta) {
+    etiqueta.Visible = true;
+    lienzo.etiqueta(etiqueta.Name(), etiqueta.Index());
+}
+
+const Etiqueta& FrmMapa::etiqueta(const EtiquetaMostrada& mostrada) const {
+    if (mostrada.indice == EtiquetaMostrada::sinIndice) {
+        return LbTitulo;
+    }
+    return mostrada.nombre == LbLeyenda(0).Name() ? LbLeyenda(mostrada.indice) : Lbcodigo(mostrada.indice);
+}
+
+void FrmMapa::decirQueNoHayDibujo() {
+    aviso = "todos los árboles están en el mismo punto: no hay nada que dibujar en el mapa";
+    LbTitulo.Caption = "Todos los árboles están en el mismo punto";
+    LbTitulo.Left = lienzo.escala().izquierda;
+    LbTitulo.Top = lienzo.escala().arriba;
+    mostrar(LbTitulo);
 }
 
 double FrmMapa::enUnidades(double twips) const {
@@ -154,8 +191,17 @@ void FrmMapa::Ab_ha() {
 }
 
 FrmMapa2::FrmMapa2(Programa& programa)
-    : Formulario{programa, "FrmMapa2", TipoVentana::Hija, ""}, programa_{programa} {
+    : Superficie{programa, "FrmMapa2", TipoVentana::Hija, ""}, programa_{programa} {
     Disenar(lienzo);
+}
+
+void FrmMapa2::empezar(const Escala& escala) {
+    Disenar(lienzo);
+    lienzo.escala(escala);
+}
+
+void FrmMapa2::pulsarCierre() {
+    Hide();
 }
 
 void FrmMapa2::Form_Load() {

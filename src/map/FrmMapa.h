@@ -4,12 +4,26 @@
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
 #include "lienzo/Lienzo.h"
+#include "map/ArbolDelMapa.h"
+
+#include <string>
+#include <vector>
 
 namespace varo {
 
 class Programa;
 
-class FrmMapa : public Formulario {
+/// What both surfaces are. Observers of the window hear when something was drawn.
+class Superficie : public Formulario {
+public:
+    using Formulario::Formulario;
+
+    Lienzo lienzo;
+
+    void avisarDibujo() { avisar(); }
+};
+
+class FrmMapa : public Superficie {
 public:
     explicit FrmMapa(Programa& programa);
 
@@ -23,11 +37,23 @@ public:
     static constexpr Color colorDeFondo = 0x00C0E0FF;
     static constexpr Color colorDeTrazo = 0x00400040;
 
-    Lienzo lienzo;
-
     /// Members of the legend and of the labels of the trees, in their design state.
     Etiqueta& crearLeyenda(int codigo);
     Etiqueta& crearCodigo(int fila);
+
+    /// The trees that are drawn, in the order of the grid at that moment.
+    std::vector<ArbolDelMapa> arboles;
+    /// Why there is no drawing; empty when there is one.
+    std::string aviso;
+
+    /// The window as if it were new, with this scale: nothing is drawn, and no label is out of its place.
+    void empezar(const Escala& escala);
+    /// Shows a label, at its place in the order of drawing.
+    void mostrar(Etiqueta& etiqueta);
+    /// The label that an entry of the display list names.
+    [[nodiscard]] const Etiqueta& etiqueta(const EtiquetaMostrada& mostrada) const;
+    /// Trees that are all in one place give a scale without extent: the map says so, and shows nothing else.
+    void decirQueNoHayDibujo();
 
     /// Metres, the same in x and in y: the window shows the whole of the canvas.
     [[nodiscard]] double enUnidades(double twips) const override;
@@ -53,13 +79,16 @@ private:
 };
 
 /// The second surface of the same map, on which areas are sampled.
-class FrmMapa2 : public Formulario {
+class FrmMapa2 : public Superficie {
 public:
     explicit FrmMapa2(Programa& programa);
 
-    Lienzo lienzo;
+    /// An empty surface with this scale.
+    void empezar(const Escala& escala);
 
     void Form_Load() override;
+    /// It hides: its scale and its shapes stay until the next drawing.
+    void pulsarCierre() override;
 
 private:
     Programa& programa_;

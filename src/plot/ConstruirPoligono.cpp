@@ -1,8 +1,6 @@
 #include "plot/ConstruirPoligono.h"
 
-#include "basico/EnLugar.h"
-#include "basico/Numeros.h"
-#include "data/FilasDeArboles.h"
+#include "data/CeldasSituadas.h"
 #include "data/Hojadedatos.h"
 #include "data/PadronDeArboles.h"
 #include "data/Papeles.h"
@@ -14,32 +12,6 @@
 namespace varo {
 
 namespace {
-
-/// The cells of the grid, with the place in every fault.
-class CeldasSituadas {
-public:
-    CeldasSituadas(const Rejilla& rejilla, Padron padron) : rejilla_{rejilla}, padron_{std::move(padron)} {}
-
-    [[nodiscard]] const std::string& texto(int fila, int columna) const {
-        return rejilla_.TextMatrix(fila, columna);
-    }
-
-    [[nodiscard]] double numero(int fila, int columna) const {
-        const auto situar = [&](ErrorEjecucion& error) {
-            padron_.situar(error.en("columna «" + texto(0, columna) + "»"),
-                           static_cast<std::size_t>(fila) - 1);
-        };
-        return AlFallar(situar, [&] { return ANumero(texto(fila, columna)); });
-    }
-
-    [[nodiscard]] std::vector<double> columna(int columna) const {
-        return PorArbol(rejilla_, [&](int fila) { return numero(fila, columna); });
-    }
-
-private:
-    const Rejilla& rejilla_;
-    Padron padron_;
-};
 
 /// The cleaning of the grid leaves one row even where no row has coordinates.
 void ExigirAlgunArbol(const Rejilla& rejilla, int columnaX, int columnaY) {

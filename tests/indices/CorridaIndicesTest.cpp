@@ -124,13 +124,14 @@ TEST(CorridaIndices, SinColumnaDeTamanoElNSirveYElABFalla) {
 }
 
 /// Fields: Arbol, X, Y, RN, RE, RS, RO, Cod, CAP, X2, Y2, Nota. The first pair of coordinates is a triangle
-/// with four trees inside, the second one has all seven on its hull; the crown of the tree 6 is no number.
+/// with four trees inside, the second one has all seven on its hull; the crown of the tree 6 is not
+/// measured.
 Filas TrianguloYHeptagono() {
     using T = std::string;
     Filas filas{{T{"Arbol"}, T{"X"}, T{"Y"}, T{"RN"}, T{"RE"}, T{"RS"}, T{"RO"}, T{"Cod"}, T{"CAP"}, T{"X2"},
                  T{"Y2"}, T{"Nota"}}};
     const auto arbol = [&](double numero, double x, double y, double x2, double y2) {
-        const Valor norte = numero == 6 ? Valor{T{"mala"}} : Valor{10.0};
+        const Valor norte = numero == 6 ? Valor{} : Valor{10.0};
         filas.push_back({numero, x, y, norte, 10.0, 10.0, 10.0, T{"PS"}, 10 * numero, x2, y2, T{"nota"}});
     };
     arbol(1, 0, 0, 0, 0);

@@ -50,6 +50,13 @@ TEST(Lugares, ElContornoDiceLaFilaDeLaHojaElArbolLaColumnaYElTexto) {
                                    "grande (fila 9 de «Parcela1$», árbol 4, columna «Y»)");
 }
 
+TEST(Lugares, ElDibujoDiceLaFilaDelRadioQueNoEsNumero) {
+    auto filas = CuadradoBarajado();
+    filas[3][columnaRN] = std::string{"ancho"};
+    EXPECT_EQ(ErrorCon(filas, ""), "dibujo del mapa: Error 13: No coinciden los tipos: «ancho» no es un "
+                                   "número (fila 4 de «Parcela1$», árbol 5, columna «RN»)");
+}
+
 TEST(Lugares, LasConsultasDicenLaFilaDeLaHojaYElArbol) {
     auto filas = CuadradoBarajado();
     filas[3][columnaCAP] = std::string{"gordo"};
@@ -80,11 +87,10 @@ TEST(Lugares, UnaFilaSinCoordenadasQueNoEstaEnLaRejillaSeDiceTambien) {
 
 TEST(Lugares, LasFamiliasDeVecinosDicenLaFilaDeLaCelda) {
     auto filas = CuadradoBarajado();
-    filas[3][columnaRN] = std::string{"ancho"};
-    EXPECT_EQ(
-        ErrorCon(filas, "Optcirc = true\nChSupCopa = 1\nChISCBil = 1\n"),
-        "cálculo de los índices: Error 13: No coinciden los tipos: «ancho» no es un número (familia ISC, "
-        "columna ISC(Bil.), fila 4 de «Parcela1$», árbol 5, columna «RN»)");
+    filas[3][columnaRN] = {};
+    EXPECT_EQ(ErrorCon(filas, "Optcirc = true\nChSupCopa = 1\nChISCBil = 1\n"),
+              "cálculo de los índices: Error 13: No coinciden los tipos: no hay nada donde se espera un "
+              "número (familia ISC, columna ISC(Bil.), fila 4 de «Parcela1$», árbol 5, columna «RN»)");
     filas = CuadradoBarajado();
     filas[10][columnaCAP] = std::string{"gordo"};
     EXPECT_EQ(
