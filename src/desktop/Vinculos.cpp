@@ -39,10 +39,8 @@ void Vinculos::soltar() {
         observado->dejarDeObservar(numero);
     }
     observados_.clear();
-    for (const auto& [control, vinculo] : vinculos_) {
-        if (auto* const tabla = qobject_cast<QTableView*>(vinculo.widget)) {
-            tabla->setModel(nullptr); // it reads the cells of the grid, which goes with the window
-        }
+    for (const auto& aviso : std::exchange(alSoltar_, {})) {
+        aviso();
     }
     vinculos_.clear();
     controles_.clear();
@@ -111,6 +109,7 @@ QGroupBox* Vinculos::crearMarco(Marco& control) {
 QTableView* Vinculos::crearRejilla(Rejilla& control) {
     auto* const widget = new VistaDeRejilla{control};
     enlazar(*widget, control, [widget] { widget->mostrar(); });
+    alSoltar([widget] { widget->setModel(nullptr); }); // it reads the cells of the grid
     widget->alElegirColumna = [this, &control](int columna) {
         actuar(control, [&](Usuario& usuario) { usuario.seleccionarColumna(control, columna); });
     };

@@ -56,6 +56,9 @@ public:
     /// Shows something of a control now and at every change of it.
     void seguir(Observable& observado, const std::function<void()>& mostrar);
 
+    /// The hands that do what a person does with the widgets.
+    [[nodiscard]] Usuario& usuario() { return usuario_; }
+
     /// The widget of a control, null when it has none.
     [[nodiscard]] QWidget* widgetDe(const Control& control) const;
     /// The control of a widget, null when it has none.
@@ -63,6 +66,8 @@ public:
 
     /// Lets go of all controls: the window is about to go. The widgets stay as they are and do nothing more.
     void soltar();
+    /// Told once, when the controls are let go: for widgets that read the window itself.
+    void alSoltar(std::function<void()> aviso) { alSoltar_.push_back(std::move(aviso)); }
 
 private:
     struct Vinculo {
@@ -83,6 +88,7 @@ private:
     std::vector<std::pair<Observable*, int>> observados_;
     std::map<const Control*, Vinculo> vinculos_;
     std::map<const QWidget*, Control*> controles_;
+    std::vector<std::function<void()>> alSoltar_;
     bool suelto_ = false;
 };
 

@@ -14,6 +14,7 @@
 #include "shell/VAROMAIN.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace varo {
 
@@ -102,6 +103,16 @@ const Etiqueta& FrmMapa::etiqueta(const EtiquetaMostrada& mostrada) const {
         return LbTitulo;
     }
     return mostrada.nombre == LbLeyenda(0).Name() ? LbLeyenda(mostrada.indice) : Lbcodigo(mostrada.indice);
+}
+
+Etiqueta& FrmMapa::etiqueta(const EtiquetaMostrada& mostrada) {
+    return const_cast<Etiqueta&>(std::as_const(*this).etiqueta(mostrada)); // NOLINT(*-const-cast): its own
+}
+
+AspectoDeEtiqueta FrmMapa::aspecto(const EtiquetaMostrada& mostrada) const {
+    const Etiqueta& suya = etiqueta(mostrada);
+    return {suya.Left,  suya.Top,       suya.ForeColor, suya.Caption,
+            suya.Width, suya.BackColor, suya.Font,      &suya == &LbTitulo};
 }
 
 void FrmMapa::decirQueNoHayDibujo() {

@@ -3,6 +3,7 @@
 
 #include "formularios/Control.h"
 #include "formularios/Formulario.h"
+#include "lienzo/AspectoDeEtiqueta.h"
 #include "lienzo/Lienzo.h"
 #include "map/ArbolDelMapa.h"
 
@@ -51,7 +52,9 @@ public:
     /// Shows a label, at its place in the order of drawing.
     void mostrar(Etiqueta& etiqueta);
     /// The label that an entry of the display list names.
+    [[nodiscard]] Etiqueta& etiqueta(const EtiquetaMostrada& mostrada);
     [[nodiscard]] const Etiqueta& etiqueta(const EtiquetaMostrada& mostrada) const;
+    [[nodiscard]] AspectoDeEtiqueta aspecto(const EtiquetaMostrada& mostrada) const;
     /// Trees that are all in one place give a scale without extent: the map says so, and shows nothing else.
     void decirQueNoHayDibujo();
 

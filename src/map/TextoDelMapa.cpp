@@ -6,10 +6,8 @@
 namespace varo {
 
 std::string TextoDelMapa(const FrmMapa& mapa) {
-    return TextoDeLienzo(mapa.lienzo, [&mapa](const EtiquetaMostrada& mostrada) -> AspectoDeEtiqueta {
-        const Etiqueta& etiqueta = mapa.etiqueta(mostrada);
-        return {etiqueta.Left, etiqueta.Top, etiqueta.ForeColor, etiqueta.Caption};
-    });
+    return TextoDeLienzo(mapa.lienzo,
+                         [&mapa](const EtiquetaMostrada& mostrada) { return mapa.aspecto(mostrada); });
 }
 
 } // namespace varo

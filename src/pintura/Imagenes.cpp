@@ -26,12 +26,6 @@ std::string EnTexto(const QByteArray& bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-/// Fills a paper of that size with the whole canvas.
-void PintarEntero(QPainter& pintor, const Dibujo& dibujo, QSizeF papel) {
-    const Encuadre encuadre = Encuadre::entero(dibujo.lienzo.escala(), papel);
-    Pintar(pintor, dibujo, encuadre, Pluma::para(papel.width()), QRectF{{}, papel});
-}
-
 QByteArray EnSvg(const Dibujo& dibujo) {
     QBuffer bytes;
     QSvgGenerator generador;
@@ -85,6 +79,11 @@ QByteArray EnPng(const Dibujo& dibujo) {
 }
 
 } // namespace
+
+void PintarEntero(QPainter& pintor, const Dibujo& dibujo, QSizeF papel) {
+    const Encuadre encuadre = Encuadre::entero(dibujo.lienzo.escala(), papel);
+    Pintar(pintor, dibujo, encuadre, Pluma::para(papel.width()), QRectF{{}, papel});
+}
 
 std::optional<FormatoDeImagen> FormatoDe(std::string_view archivo) {
     constexpr std::array<std::pair<const char*, FormatoDeImagen>, 3> formatos{

@@ -131,7 +131,10 @@ Filas TrianguloYHeptagono() {
     Filas filas{{T{"Arbol"}, T{"X"}, T{"Y"}, T{"RN"}, T{"RE"}, T{"RS"}, T{"RO"}, T{"Cod"}, T{"CAP"}, T{"X2"},
                  T{"Y2"}, T{"Nota"}}};
     const auto arbol = [&](double numero, double x, double y, double x2, double y2) {
-        const Valor norte = numero == 6 ? Valor{} : Valor{10.0};
+        Valor norte;
+        if (numero != 6) {
+            norte = 10.0;
+        }
         filas.push_back({numero, x, y, norte, 10.0, 10.0, 10.0, T{"PS"}, 10 * numero, x2, y2, T{"nota"}});
     };
     arbol(1, 0, 0, 0, 0);
