@@ -39,11 +39,17 @@ void Vinculos::soltar() {
         observado->dejarDeObservar(numero);
     }
     observados_.clear();
-    for (const auto& aviso : std::exchange(alSoltar_, {})) {
-        aviso();
+    for (const auto& [widget, aviso] : std::exchange(alSoltar_, {})) {
+        if (widget != nullptr) {
+            aviso();
+        }
     }
     vinculos_.clear();
     controles_.clear();
+}
+
+void Vinculos::alSoltar(QWidget& widget, std::function<void()> aviso) {
+    alSoltar_.emplace_back(&widget, std::move(aviso));
 }
 
 void Vinculos::seguir(Observable& observado, const std::function<void()>& mostrar) {
@@ -109,7 +115,7 @@ QGroupBox* Vinculos::crearMarco(Marco& control) {
 QTableView* Vinculos::crearRejilla(Rejilla& control) {
     auto* const widget = new VistaDeRejilla{control};
     enlazar(*widget, control, [widget] { widget->mostrar(); });
-    alSoltar([widget] { widget->setModel(nullptr); }); // it reads the cells of the grid
+    alSoltar(*widget, [widget] { widget->setModel(nullptr); }); // it reads the cells of the grid
     widget->alElegirColumna = [this, &control](int columna) {
         actuar(control, [&](Usuario& usuario) { usuario.seleccionarColumna(control, columna); });
     };

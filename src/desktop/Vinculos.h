@@ -6,6 +6,7 @@
 #include "formularios/Usuario.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 #include <map>
@@ -66,8 +67,9 @@ public:
 
     /// Lets go of all controls: the window is about to go. The widgets stay as they are and do nothing more.
     void soltar();
-    /// Told once, when the controls are let go: for widgets that read the window itself.
-    void alSoltar(std::function<void()> aviso) { alSoltar_.push_back(std::move(aviso)); }
+    /// Told once, when the controls are let go: for widgets that read the window itself. A widget that is
+    /// gone by then is told nothing.
+    void alSoltar(QWidget& widget, std::function<void()> aviso);
 
 private:
     struct Vinculo {
@@ -88,7 +90,7 @@ private:
     std::vector<std::pair<Observable*, int>> observados_;
     std::map<const Control*, Vinculo> vinculos_;
     std::map<const QWidget*, Control*> controles_;
-    std::vector<std::function<void()>> alSoltar_;
+    std::vector<std::pair<QPointer<QWidget>, std::function<void()>>> alSoltar_;
     bool suelto_ = false;
 };
 

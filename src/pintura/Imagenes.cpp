@@ -97,7 +97,7 @@ std::optional<FormatoDeImagen> FormatoDe(std::string_view archivo) {
     return std::nullopt;
 }
 
-std::string Imagen(const Dibujo& dibujo, FormatoDeImagen formato) {
+std::string ImagenDe(const Dibujo& dibujo, FormatoDeImagen formato) {
     switch (formato) {
     case FormatoDeImagen::Svg:
         return EnTexto(EnSvg(dibujo));

@@ -19,7 +19,7 @@ void PintarEntero(QPainter& pintor, const Dibujo& dibujo, QSizeF papel);
 
 /// The bytes of the picture of the whole canvas: 29.7 cm wide as .svg and .pdf, 3,508 pixels as .png. Needs
 /// the application object of QtGui.
-std::string Imagen(const Dibujo& dibujo, FormatoDeImagen formato);
+std::string ImagenDe(const Dibujo& dibujo, FormatoDeImagen formato);
 
 /// Whether the system has the font, and does not put another one in its place.
 bool EstaInstalada(const std::string& fuente);

@@ -46,6 +46,7 @@ TEST_F(LasDisposiciones, UnaVentanaDerivadaSeDisponeComoSuBase) {
     const std::unique_ptr<QWidget> contenido{Disponer(derivada, vinculos)};
     EXPECT_NE(contenido, nullptr);
     EXPECT_TRUE(SePuedeAgrandar(derivada));
+    vinculos.soltar();
 }
 
 } // namespace varo::prueba

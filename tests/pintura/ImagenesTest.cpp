@@ -40,7 +40,7 @@ TEST(Imagenes, LaExtensionDiceElFormato) {
 
 TEST(Imagenes, ElPngTiene3508PuntosDeAnchoYLoQueSeDibujo) {
     const Lienzo lienzo = Muestra();
-    const std::string bytes = Imagen({lienzo, Titulo}, FormatoDeImagen::Png);
+    const std::string bytes = ImagenDe({lienzo, Titulo}, FormatoDeImagen::Png);
     const QImage imagen =
         QImage::fromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()));
     EXPECT_EQ(imagen.size(), QSize(3508, 2538));
@@ -53,7 +53,7 @@ TEST(Imagenes, ElPngTiene3508PuntosDeAnchoYLoQueSeDibujo) {
 
 TEST(Imagenes, ElPdfMide297Por215Milimetros) {
     const Lienzo lienzo = Muestra();
-    const std::string bytes = Imagen({lienzo, Titulo}, FormatoDeImagen::Pdf);
+    const std::string bytes = ImagenDe({lienzo, Titulo}, FormatoDeImagen::Pdf);
     EXPECT_TRUE(bytes.starts_with("%PDF-"));
     const auto hoja = bytes.find("/MediaBox [0 0 ");
     ASSERT_NE(hoja, std::string::npos);
@@ -67,7 +67,7 @@ TEST(Imagenes, ElPdfMide297Por215Milimetros) {
 
 TEST(Imagenes, ElSvgLlevaFormasYTextosYNoPuntos) {
     const Lienzo lienzo = Muestra();
-    const std::string bytes = Imagen({lienzo, Titulo}, FormatoDeImagen::Svg);
+    const std::string bytes = ImagenDe({lienzo, Titulo}, FormatoDeImagen::Svg);
     EXPECT_NE(bytes.find("<svg width=\"297"), std::string::npos) << bytes.substr(0, 400);
     EXPECT_NE(bytes.find("Parcela ñ 12"), std::string::npos);
     EXPECT_NE(bytes.find("DejaVu Sans"), std::string::npos);
@@ -80,7 +80,7 @@ TEST(Imagenes, UnLienzoSinExtensionTambienTieneImagen) {
     lienzo.escala({5, 5, 5, 5});
     lienzo.linea(5, 5, 5, 5);
     for (const FormatoDeImagen formato : {FormatoDeImagen::Svg, FormatoDeImagen::Pdf, FormatoDeImagen::Png}) {
-        EXPECT_FALSE(Imagen({lienzo, Titulo}, formato).empty());
+        EXPECT_FALSE(ImagenDe({lienzo, Titulo}, formato).empty());
     }
 }
 

@@ -106,8 +106,12 @@ void Manos::esperarQueSeVaya(const QString& ventana) const {
     });
 }
 
-void Manos::clic(const QString& ventana, const QString& control, const Sitio& sitio, int veces) const {
-    esperar((ventana + "." + control).toStdString() + " listo para el ratón", [&] {
+namespace {
+
+/// The words for xdotool to bring the pointer to a point of a control that is ready for the mouse.
+QStringList Ir(const Manos& manos, const QString& ventana, const QString& control,
+               const Manos::Sitio& sitio) {
+    manos.esperar((ventana + "." + control).toStdString() + " listo para el ratón", [&] {
         QWidget* const widget = ControlDe(ventana, control);
         return widget != nullptr && widget->isVisible() && widget->isEnabled();
     });
@@ -116,8 +120,20 @@ void Manos::clic(const QString& ventana, const QString& control, const Sitio& si
         LlevarALaVista(*widget);
         return (QPointF{widget->mapToGlobal(sitio(*widget))} * widget->devicePixelRatio()).toPoint();
     });
-    Xdotool({"mousemove", QString::number(punto.x()), QString::number(punto.y()), "click", "--repeat",
-             QString::number(veces), "--delay", "20", "1"});
+    return {"mousemove", QString::number(punto.x()), QString::number(punto.y())};
+}
+
+} // namespace
+
+void Manos::clic(const QString& ventana, const QString& control, const Sitio& sitio, int veces) const {
+    Xdotool(Ir(*this, ventana, control, sitio) +
+            QStringList{"click", "--repeat", QString::number(veces), "--delay", "20", "1"});
+}
+
+void Manos::arrastrar(const QString& ventana, const QString& control, const Sitio& desde,
+                      const Sitio& hasta) const {
+    Xdotool(Ir(*this, ventana, control, desde) + QStringList{"mousedown", "1"});
+    Xdotool(Ir(*this, ventana, control, hasta) + QStringList{"mouseup", "1"});
 }
 
 void Manos::tecla(const std::string& nombre) const {

@@ -21,6 +21,9 @@ public:
     /// Presses a control of a window with the mouse, in its middle unless told otherwise.
     void clic(const QString& ventana, const QString& control, const Sitio& sitio = enElCentro,
               int veces = 1) const;
+    /// Presses the left button at one point of a control and releases it at another.
+    void arrastrar(const QString& ventana, const QString& control, const Sitio& desde,
+                   const Sitio& hasta) const;
     /// Presses a key or a chord: "Return", "alt+a".
     void tecla(const std::string& nombre) const;
     /// Types a text with the keyboard.

@@ -3,6 +3,7 @@
 #include "apoyo/Jornada.h"
 #include "apoyo/Lugares.h"
 #include "apoyo/Proceso.h"
+#include "desktop/ventanas/VistaDeMapa.h"
 #include "recorrido/Pasos.h"
 
 #include <QMessageBox>
@@ -53,6 +54,27 @@ void ElegirColumnas(const Manos& manos) {
     manos.clic("SelCol4R", "CmdDibujar");
 }
 
+/// Drags the title into the corner of the map.
+void ArrastrarElTitulo(const Manos& manos) {
+    const auto mapa = [](QWidget& vista) -> FrmMapa& { return dynamic_cast<VistaDeMapa&>(vista).mapa(); };
+    const auto enElTitulo = [&](QWidget& vista) {
+        const auto& lienzo = dynamic_cast<VistaDeMapa&>(vista);
+        return LugarDeEtiqueta(mapa(vista).aspecto({"LbTitulo"}), lienzo.encuadre(), lienzo.pluma())
+            .center()
+            .toPoint();
+    };
+    const auto sitio = [&] {
+        return manos.leer("FrmMapa", "lienzo",
+                          [&](QWidget& vista) { return QString::number(mapa(vista).LbTitulo.Left()); });
+    };
+    const QString antes = sitio();
+    manos.arrastrar("FrmMapa", "lienzo", enElTitulo, [](QWidget& /*vista*/) { return QPoint{12, 12}; });
+    manos.esperar("el título en su nuevo sitio", [&] {
+        return QString::number(mapa(*ControlDe("FrmMapa", "lienzo")).LbTitulo.Left()) != antes;
+    });
+    manos.foto("11-mapa-titulo-arrastrado");
+}
+
 void GuardarIndices(const Manos& manos, const std::filesystem::path& resultados) {
     manos.esperarVentana("FrmFormato");
     manos.foto("10-formato");
@@ -60,6 +82,7 @@ void GuardarIndices(const Manos& manos, const std::filesystem::path& resultados)
     manos.clic("FrmFormato", "CmdAceptar");
     manos.esperarVentana("FrmMapa");
     manos.foto("11-mapa");
+    ArrastrarElTitulo(manos);
     manos.tecla("alt+i");
     manos.esperarVentana("FrmCrearArchivo");
     manos.foto("12-crear-archivo");

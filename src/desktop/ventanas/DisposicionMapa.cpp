@@ -52,7 +52,7 @@ QWidget* DisponerMapa(FrmMapa& ventana, Vinculos& vinculos) {
     PonerAcciones(*vista, ventana);
     columna->addWidget(vista, 1);
     vinculos.seguir(ventana, [vista] { vista->ponerAlDia(); });
-    vinculos.alSoltar([vista] { vista->soltar(); });
+    vinculos.alSoltar(*vista, [vista] { vista->soltar(); });
     contenido->setMinimumSize(minimo);
     return contenido;
 }
@@ -63,7 +63,7 @@ QWidget* DisponerMapa2(FrmMapa2& ventana, Vinculos& vinculos) {
     vista->setObjectName("lienzo");
     vista->setMinimumSize(minimo);
     vinculos.seguir(ventana, [vista] { vista->ponerAlDia(); });
-    vinculos.alSoltar([vista] { vista->soltar(); });
+    vinculos.alSoltar(*vista, [vista] { vista->soltar(); });
     return vista;
 }
 

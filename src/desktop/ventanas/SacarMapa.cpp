@@ -56,7 +56,7 @@ void GuardarMapa(QWidget& padre, const Dibujo& dibujo, const std::string& titulo
     }
     try {
         ArchivoEntero archivo{ruta};
-        archivo.escribir(Imagen(dibujo, *formato));
+        archivo.escribir(ImagenDe(dibujo, *formato));
         archivo.publicar();
     } catch (const ErrorEjecucion& error) {
         Decir(padre, error.descripcion());

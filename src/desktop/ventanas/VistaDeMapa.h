@@ -21,6 +21,8 @@ public:
 
     /// The map is about to go.
     void soltar();
+    /// Only before soltar().
+    [[nodiscard]] FrmMapa& mapa() const { return *mapa_; }
 
     /// The label under a point of the view, the last one drawn where several are; null when there is none.
     [[nodiscard]] Etiqueta* etiquetaEn(QPointF punto) const;
