@@ -10,7 +10,9 @@
 #include "shell/VAROMAIN.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
+#include <string>
 
 namespace varo {
 
@@ -64,6 +66,22 @@ constexpr int filasQueCaben = 32766;
 std::string ConMiles(int numero) {
     std::string texto = ATexto(numero);
     return texto.insert(texto.size() - 3, 1, '.');
+}
+
+/// Why a sheet is too long: its rows, and where the last one stands when most of them are empty.
+std::string PorQueNoCabe(const Tabla& tabla) {
+    const auto cuantas = tabla.filas.size();
+    std::string causa = "la hoja tiene " + ConMiles(static_cast<int>(cuantas)) + " filas; el límite es " +
+                        ConMiles(filasQueCaben);
+    const auto celdas = tabla.filas[cuantas - 1].celdas();
+    if (tabla.filas.conContenido() <= filasQueCaben && !celdas.empty()) {
+        causa += ". Solo " + ATexto(static_cast<int>(tabla.filas.conContenido())) +
+                 " tienen algo: mire si sobra la última, la fila " +
+                 std::to_string(tabla.numeroDeFila(cuantas - 1)) + ", con " +
+                 Cita(ATexto(celdas.back().valor)) + " en la columna «" +
+                 tabla.Fields(celdas.back().columna).Name + "»";
+    }
+    return causa;
 }
 
 } // namespace
@@ -151,8 +169,7 @@ void FrmSeleccion::copiarFilas(const std::string& hoja) {
         rejilla.Row(rejilla.Row() + 1);
         const auto situar = [&](ErrorEjecucion& error) {
             if (rejilla.Row() > filasQueCaben) {
-                error.porque("la hoja tiene " + ConMiles(filas.RecordCount()) + " filas; el límite es " +
-                             ConMiles(filasQueCaben));
+                error.porque(PorQueNoCabe(filas.filas()));
                 return;
             }
             error.en("columna «" + rejilla.TextMatrix(0, rejilla.Col()) + "»");

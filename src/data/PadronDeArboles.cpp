@@ -9,8 +9,8 @@
 #include "options/Unidades.h"
 #include "shell/Programa.h"
 
-#include <algorithm>
-#include <iterator>
+#include <cstddef>
+#include <string>
 
 namespace varo {
 
@@ -61,12 +61,11 @@ void PonerArbol(ErrorEjecucion& error, Programa& programa) {
         return;
     }
     const Tabla& tabla = programa.tocar<Hojadedatos>().Data1.Recordset().filas();
-    const auto hallada = std::ranges::find(tabla.numeros, *error.fila());
-    if (hallada == tabla.numeros.end()) {
+    const auto fila = tabla.filaConNumero(*error.fila());
+    if (!fila) {
         return;
     }
-    const auto fila = static_cast<std::size_t>(std::distance(tabla.numeros.begin(), hallada));
-    const std::string numero = TextoDelNumero(tabla, fila, ColumnaDelNumero(programa));
+    const std::string numero = TextoDelNumero(tabla, *fila, ColumnaDelNumero(programa));
     if (!numero.empty()) {
         error.precisarFila("árbol " + numero);
     }

@@ -14,6 +14,13 @@ namespace {
 
 constexpr int anchoDeDiseno = 960;
 
+using CeldasDeFila = std::vector<std::string>;
+
+const std::string& Celda(const CeldasDeFila& fila, std::size_t columna) {
+    static const std::string vacia;
+    return columna < fila.size() ? fila[columna] : vacia;
+}
+
 /// A cell as the generic sort sees it: empty cells, then numbers, then texts.
 struct ClaveDeCelda {
     enum class Clase { Vacia, Numero, Texto };
@@ -66,7 +73,7 @@ void Rejilla::Rows(int filas) {
     if (filas < filasFijas) {
         throw ErrorEjecucion{fallo::fueraDeIndice};
     }
-    filas_.resize(static_cast<std::size_t>(filas), std::vector<std::string>(anchos_.size()));
+    filas_.resize(static_cast<std::size_t>(filas));
     fila_ = std::min(fila_, filas - 1);
     avisar();
 }
@@ -77,7 +84,7 @@ void Rejilla::Cols(int columnas) {
     }
     anchos_.resize(static_cast<std::size_t>(columnas), anchoDeDiseno);
     for (auto& fila : filas_) {
-        fila.resize(anchos_.size());
+        fila.resize(std::min(fila.size(), anchos_.size()));
     }
     columna_ = std::min(columna_, columnas - 1);
     ColSel = std::min(ColSel(), columnas - 1);
@@ -85,11 +92,19 @@ void Rejilla::Cols(int columnas) {
 }
 
 const std::string& Rejilla::TextMatrix(int fila, int columna) const {
-    return filas_[filaComprobada(fila)][columnaComprobada(columna)];
+    return Celda(filas_[filaComprobada(fila)], columnaComprobada(columna));
 }
 
 void Rejilla::TextMatrix(int fila, int columna, std::string texto) {
-    filas_[filaComprobada(fila)][columnaComprobada(columna)] = std::move(texto);
+    auto& celdas = filas_[filaComprobada(fila)];
+    const auto posicion = columnaComprobada(columna);
+    if (posicion >= celdas.size()) {
+        if (texto.empty()) {
+            return;
+        }
+        celdas.resize(posicion + 1);
+    }
+    celdas[posicion] = std::move(texto);
 }
 
 void Rejilla::Row(int fila) {
@@ -123,14 +138,14 @@ void Rejilla::ordenarAscendente() {
     std::vector<ClaveDeCelda> claves;
     claves.reserve(filas_.size());
     for (const auto& fila : filas_) {
-        claves.emplace_back(fila[static_cast<std::size_t>(columna_)]);
+        claves.emplace_back(Celda(fila, static_cast<std::size_t>(columna_)));
     }
     std::vector<std::size_t> orden(filas_.size());
     std::iota(orden.begin(), orden.end(), std::size_t{0});
     std::stable_sort(orden.begin() + filasFijas, orden.end(),
                      [&claves](std::size_t a, std::size_t b) { return claves[a] < claves[b]; });
 
-    std::vector<std::vector<std::string>> ordenadas;
+    std::vector<CeldasDeFila> ordenadas;
     ordenadas.reserve(filas_.size());
     for (const std::size_t fila : orden) {
         ordenadas.push_back(std::move(filas_[fila]));

@@ -52,7 +52,9 @@ private:
     [[nodiscard]] std::size_t filaComprobada(int fila) const;
     [[nodiscard]] std::size_t columnaComprobada(int columna) const;
 
-    std::vector<std::vector<std::string>> filas_{std::vector<std::string>(2), std::vector<std::string>(2)};
+    /// A row takes the room of its cells up to the last one that was ever written: a sheet may be very long
+    /// and hold next to nothing.
+    std::vector<std::vector<std::string>> filas_ = std::vector<std::vector<std::string>>(2);
     std::vector<int> anchos_ = std::vector<int>(2, 960);
     int fila_ = 1;
     int columna_ = 0;

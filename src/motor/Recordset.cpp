@@ -41,7 +41,6 @@ Recordset::CampoActual Recordset::Fields(int posicion) const {
     if (Eof()) {
         throw ErrorMotor{fallo::sinRegistroActual};
     }
-    assert(filas_->filas[actual_].size() == static_cast<std::size_t>(filas_->Fields.Count()));
     return {campo.Name, filas_->filas[actual_][static_cast<std::size_t>(posicion)]};
 }
 

@@ -3,9 +3,10 @@
 
 #include "basico/ErrorEjecucion.h"
 #include "basico/Texto.h"
-#include "basico/Valor.h"
+#include "motor/FilasDeTabla.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -50,16 +51,24 @@ struct Campo {
     std::string Name;
 };
 
-/// One table: its fields in order and its rows, each with one value per field.
+/// One table: its fields in order and its rows, each with a value for each field.
 struct Tabla {
     std::string Name;
     Coleccion<Campo> Fields;
-    std::vector<std::vector<Valor>> filas;
-    std::vector<int> numeros = {}; ///< of the rows in their sheet; empty for a table of no sheet
+    FilasDeTabla filas;
+    int primerNumero = 1;          ///< of the first row in its sheet; a table of no sheet counts from 1
+    std::vector<int> numeros = {}; ///< of the rows in their sheet where they do not follow each other
 
-    /// The number of a row, counted from 0, as the spreadsheet shows it. A row of no sheet counts from 1.
+    /// The number of a row, counted from 0, as the spreadsheet shows it.
     [[nodiscard]] int numeroDeFila(std::size_t fila) const {
-        return fila < numeros.size() ? numeros[fila] : static_cast<int>(fila) + 1;
+        return fila < numeros.size() ? numeros[fila] : primerNumero + static_cast<int>(fila);
+    }
+    /// The row, counted from 0, with that number, of a table whose rows follow each other.
+    [[nodiscard]] std::optional<std::size_t> filaConNumero(int numero) const {
+        const int fila = numero - primerNumero;
+        return fila >= 0 && static_cast<std::size_t>(fila) < filas.size()
+                   ? std::optional{static_cast<std::size_t>(fila)}
+                   : std::nullopt;
     }
     /// "fila 12 de «Parcela1$»"
     [[nodiscard]] std::string lugarDeFila(std::size_t fila) const {

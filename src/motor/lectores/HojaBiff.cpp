@@ -28,11 +28,26 @@ double NumeroRk(std::uint32_t rk) {
     return (rk & enCentesimas) != 0 ? valor / 100 : valor;
 }
 
-ZonaDeHoja Alrededor(const std::vector<CeldaDeHoja>& celdas) {
-    ZonaDeHoja zona{celdas.front().fila, celdas.back().fila, celdas.front().columna, celdas.front().columna};
+/// Formulas that give an empty text, or an error, are often filled down far below the last tree.
+bool SeVe(const Valor& valor) {
+    const auto* texto = std::get_if<std::string>(&valor);
+    return !EsNulo(valor) && (texto == nullptr || !texto->empty());
+}
+
+std::optional<ZonaDeHoja> ZonaConContenido(const std::vector<CeldaDeHoja>& celdas) {
+    std::optional<ZonaDeHoja> zona;
     for (const auto& celda : celdas) {
-        zona.primeraColumna = std::min<std::size_t>(zona.primeraColumna, celda.columna);
-        zona.ultimaColumna = std::max<std::size_t>(zona.ultimaColumna, celda.columna);
+        if (SeVe(celda.valor)) {
+            zona = zona.value_or(
+                ZonaDeHoja{celdas.front().fila, celda.fila, celdas.front().columna, celda.columna});
+            zona->ultimaFila = celda.fila;
+            zona->ultimaColumna = std::max<std::size_t>(zona->ultimaColumna, celda.columna);
+        }
+    }
+    for (const auto& celda : celdas) {
+        if (zona && celda.fila <= zona->ultimaFila) {
+            zona->primeraColumna = std::min<std::size_t>(zona->primeraColumna, celda.columna);
+        }
     }
     return zona;
 }
@@ -61,9 +76,7 @@ public:
         }
         comprobarTextoPendiente(biff::eof);
         Ordenar(hoja_.celdas);
-        if (!hoja_.celdas.empty()) {
-            hoja_.zonaUsada = Alrededor(hoja_.celdas);
-        }
+        hoja_.zonaUsada = ZonaConContenido(hoja_.celdas);
         hoja_.bytes = registros_.leidos();
         return std::move(hoja_);
     }

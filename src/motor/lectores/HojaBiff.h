@@ -22,7 +22,8 @@ struct HojaBiff {
     /// The cells that hold something, by rows and within a row by columns. A formatted cell without content
     /// is not one of them; one that holds an error is, with a null. Of two in one place the last one counts.
     std::vector<CeldaDeHoja> celdas;
-    /// The smallest rectangle around them.
+    /// From the first of them, by rows and by columns, to the last that a person sees: nulls and empty texts
+    /// make no sheet longer. Nothing where there is none to see.
     std::optional<ZonaDeHoja> zonaUsada;
     /// Length of the sheet in the stream.
     std::size_t bytes = 0;

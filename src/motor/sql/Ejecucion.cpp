@@ -92,14 +92,14 @@ void Proyectar(const Consulta& consulta, const Tabla& tabla, std::vector<Evaluad
     } else {
         filas.resize(std::min(cuantas, filas.size()));
     }
-    resultado.filas.reserve(filas.size());
     EnCadaFila(tabla, filas, [&](std::size_t fila) {
         resultado.numeros.push_back(tabla.numeroDeFila(fila));
-        auto& nueva = resultado.filas.emplace_back();
+        std::vector<Valor> nueva;
         nueva.reserve(evaluadores.size());
         for (auto& evaluador : evaluadores) {
             nueva.push_back(evaluador.entero(tabla.filas[fila]));
         }
+        resultado.filas.anadir(std::move(nueva));
     });
 }
 

@@ -25,11 +25,11 @@ Evaluador::Evaluador(const ExpresionPostfija& expresion, const Tabla& tabla) : e
     pila_.resize(expresion.pasos.size());
 }
 
-Operando Evaluador::operator()(const std::vector<Valor>& fila) {
+Operando Evaluador::operator()(FilaDeTabla fila) {
     return AlFallar([this](ErrorEjecucion& error) { situar(error); }, [&] { return calculado(fila); });
 }
 
-Valor Evaluador::entero(const std::vector<Valor>& fila) {
+Valor Evaluador::entero(FilaDeTabla fila) {
     return expresion_.esCampo() ? fila[columnas_.front().posicion] : AValor((*this)(fila));
 }
 
@@ -44,7 +44,7 @@ void Evaluador::situar(ErrorEjecucion& error) const {
     error.en((columnas_.size() == 1 ? "columna " : "columnas ") + nombres);
 }
 
-Operando Evaluador::calculado(const std::vector<Valor>& fila) {
+Operando Evaluador::calculado(FilaDeTabla fila) {
     std::size_t altura = 0;
     for (const auto& paso : expresion_.pasos) {
         switch (paso.operacion) {

@@ -19,10 +19,10 @@ public:
     Evaluador(const ExpresionPostfija& expresion, const Tabla& tabla);
 
     /// The value on one row of the table. Faults tell the field.
-    Operando operator()(const std::vector<Valor>& fila);
+    Operando operator()(FilaDeTabla fila);
 
     /// The value for a result: a bare field keeps its kind, so a date stays a date.
-    Valor entero(const std::vector<Valor>& fila);
+    Valor entero(FilaDeTabla fila);
 
     /// Adds the fields of the expression to a fault that tells no place yet.
     void situar(ErrorEjecucion& error) const;
@@ -32,7 +32,7 @@ private:
         std::size_t posicion = 0;
         const std::string* nombre = nullptr;
     };
-    Operando calculado(const std::vector<Valor>& fila);
+    Operando calculado(FilaDeTabla fila);
 
     const ExpresionPostfija& expresion_;
     std::vector<Columna> columnas_; // one for each of the expression's names

@@ -11,7 +11,7 @@ namespace varo::sql {
 Resumen::Resumen(Agregado agregado, Evaluador evaluador)
     : agregado_{agregado}, evaluador_{std::move(evaluador)} {}
 
-void Resumen::anadir(const std::vector<Valor>& fila) {
+void Resumen::anadir(FilaDeTabla fila) {
     const auto operando = evaluador_(fila);
     if (operando.esNulo()) {
         return;

@@ -17,7 +17,7 @@ public:
 
     /// All but Count take numbers alone: a text that is none throws ErrorMotor 3464; a sum beyond the range
     /// of a 64-bit float throws 6.
-    void anadir(const std::vector<Valor>& fila);
+    void anadir(FilaDeTabla fila);
 
     /// Null over nothing, but 0 for Count.
     [[nodiscard]] Valor resultado() const;

@@ -1,8 +1,10 @@
 // The faults that plots and options are known to meet, with their causes in words.
+#include "apoyo/EscritorXls.h"
 #include "lote/TrabajoDePrueba.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 
 namespace varo::prueba {
@@ -161,6 +163,35 @@ TEST(Causas, UnaCabeceraConBlancosOSignosSeNombraConSuRemedio) {
             EXPECT_NE(fin.error.find(parte), std::string::npos) << fin.error;
         }
     }
+}
+
+/// The square, and a text in another place of its sheet.
+Filas CuadradoConNota(std::size_t fila, std::size_t columna, const std::string& nota) {
+    auto filas = CuadradoConCentro();
+    filas.resize(std::max(filas.size(), fila + 1));
+    filas[fila].resize(std::max(filas[fila].size(), columna + 1));
+    filas[fila][columna] = nota;
+    return filas;
+}
+
+TEST(Causas, UnaNotaMuyLejosDiceDondeEsta) {
+    ExigirCausa(
+        CorrerCon(CuadradoConNota(59999, 250, "medir otra vez"), ""), 6,
+        "la hoja tiene 59.999 filas; el límite es 32.766. Solo 6 tienen algo: mire si sobra la última, la "
+        "fila 60000, con «medir otra vez» en la columna «F251»");
+}
+
+TEST(Causas, UnaFormulaVaciaMuyLejosNoEstorba) {
+    EXPECT_EQ(CorrerCon(CuadradoConNota(59999, 250, ""), "").error, "");
+}
+
+TEST(Causas, UnaNotaMuyLejosNoEstorbaALasDemasHojas) {
+    const ParcelaDePrueba parcela;
+    EscribirArchivoXls(parcela.ruta("parcela.xls"),
+                       {{"Notas", CuadradoConNota(65535, 255, "nota")}, {"Parcela1", CuadradoConCentro()}});
+    const auto fin = Correr(parcela, {});
+    EXPECT_EQ(fin.error, "");
+    EXPECT_EQ(LeerArchivo(parcela.ruta("indices.txt")), resultadosSinIndices);
 }
 
 TEST(Causas, UnaCoordenadaInfinita) {

@@ -256,6 +256,25 @@ TEST(HojaBiff, LaZonaUsadaRodeaLoQueTieneContenido) {
     EXPECT_FALSE(HojaAMano{}.registro(blank, Comienzo(90, 9)).leer().zonaUsada);
 }
 
+TEST(HojaBiff, LaZonaUsadaNoLlegaALoQueNoSeVe) {
+    const auto division = Contenido{std::byte{7}, std::byte{1}}; // an error
+    auto error = Comienzo(80, 1);
+    error.insert(error.end(), division.begin(), division.end());
+    const auto hoja = HojaAMano{}
+                          .numero(3, 2, 1)
+                          .registro(biff::label, Texto("", Comienzo(3, 90)))
+                          .registro(biff::label, Texto(" ", Comienzo(4, 2)))
+                          .registro(biff::formula, Formula(70, 2, resultadoVacio))
+                          .registro(biff::boolErr, error);
+    const auto zona = hoja.leer().zonaUsada;
+    ASSERT_TRUE(zona);
+    EXPECT_EQ(3U, zona->primeraFila);
+    EXPECT_EQ(4U, zona->ultimaFila);
+    EXPECT_EQ(2U, zona->primeraColumna);
+    EXPECT_EQ(2U, zona->ultimaColumna);
+    EXPECT_FALSE(HojaAMano{}.registro(biff::formula, Formula(70, 2, resultadoVacio)).leer().zonaUsada);
+}
+
 TEST(HojaBiff, UnaColumnaFueraDeLaHojaEstaDanada) {
     EXPECT_EQ("65535,255=1", HojaAMano{}.numero(65535, 255, 1).celdas());
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, "una celda está fuera de la hoja",

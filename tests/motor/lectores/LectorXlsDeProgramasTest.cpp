@@ -17,7 +17,7 @@ Texto LineasDeLibro(const std::string& nombre) {
 }
 
 /// Formulas with results of all kinds, one of them in an array, a row without cells, errors, a hidden sheet
-/// that begins in B3 and a name over a rectangle.
+/// that begins in B3 and a name over a rectangle. The last row holds an error alone, so it is none.
 Texto DeGnumeric() {
     return {
         "[Parcela d'aquí$]",
@@ -26,7 +26,6 @@ Texto DeGnumeric() {
         "'piñón' | -1.25 | #43832.5 | F | -2.5 | 'piñón!' | F | - | '' | 'cinco' | 'k'",
         "- | - | - | - | - | - | - | - | - | - | -",
         "'chopo' | 20.25 | #36526 | V | 40.5 | 'chopo!' | V | -0.5 | '' | F | 'k'",
-        "- | - | - | - | - | - | - | - | - | - | -",
         "[Vacía$]",
         "",
         "[Oculta$]",

@@ -116,8 +116,12 @@ TEST(LectorXls, LasFilasConservanSuNumeroEnLaHoja) {
     const auto tablas = LeerXls(
         prueba::EscribirXls({{"Hoja", {{}, {}, {Valor{"A"}, Valor{"B"}}, {1.0, 2.0}, {}, {3.0, 4.0}}}}),
         "l.xls");
-    EXPECT_EQ(tablas.at(0).numeros, (std::vector<int>{4, 5, 6}));
+    ASSERT_EQ(tablas.at(0).filas.size(), 3U);
+    EXPECT_EQ(tablas.at(0).lugarDeFila(0), "fila 4 de «Hoja$»");
     EXPECT_EQ(tablas.at(0).lugarDeFila(2), "fila 6 de «Hoja$»");
+    EXPECT_EQ(tablas.at(0).filaConNumero(3), std::nullopt);
+    EXPECT_EQ(tablas.at(0).filaConNumero(6), 2U);
+    EXPECT_EQ(tablas.at(0).filaConNumero(7), std::nullopt);
 }
 
 TEST(LectorXls, LosTextosLargosPasanDeUnRegistroAOtro) {
@@ -179,17 +183,41 @@ TEST(LectorXls, LeeSectoresDe4096Bytes) {
               LineasDe(prueba::EscribirCompuesto({{"Workbook", flujo}}, 4096)));
 }
 
-TEST(LectorXls, DosCeldasLejanasNoLlenanLaMemoria) {
+/// A header, a tree and one cell in the last corner of the sheet.
+std::vector<std::vector<Valor>> ConCeldaEnLaEsquina(const Valor& celda) {
     std::vector<std::vector<Valor>> celdas(65536);
-    celdas.front().resize(256);
-    celdas.front()[0] = "X";
+    celdas[0] = {"X", "Y"};
+    celdas[1] = {1.0, 2.0};
     celdas.back().resize(256);
-    celdas.back()[255] = 1.0;
-    EXPECT_TRUE(prueba::FallaCon(
-        fallo::archivoDanado,
-        "«libro.xls»: el archivo está dañado (sus tablas ocupan demasiado para su tamaño)", [&] {
-            LineasDe(prueba::EscribirXls({{"Lejos", celdas}}));
-        }));
+    celdas.back()[255] = celda;
+    return celdas;
+}
+
+TEST(LectorXls, UnaNotaLejanaAlargaSuHojaYNoEstorbaALasDemas) {
+    const auto tablas = LeerXls(
+        prueba::EscribirXls({{"Con nota", ConCeldaEnLaEsquina("nota")}, {"Buena", {{"X"}, {5.0}}}}), "l.xls");
+    ASSERT_EQ(tablas.size(), 2U);
+    const auto& filas = tablas[0].filas;
+    EXPECT_EQ(filas.size(), 65535U);
+    EXPECT_EQ(tablas[0].Fields.Count(), 256);
+    EXPECT_EQ(filas[0][1], Valor{2.0});
+    EXPECT_TRUE(EsNulo(filas[30000][1]));
+    EXPECT_TRUE(EsNulo(filas[65534][254]));
+    EXPECT_EQ(filas[65534][255], Valor{"nota"});
+    EXPECT_EQ(tablas[0].lugarDeFila(65534), "fila 65536 de «Con nota$»");
+    EXPECT_EQ((Texto{"[Buena$]", "X", "5"}), Lineas(tablas[1]));
+}
+
+TEST(LectorXls, UnaCeldaLejanaQueNoSeVeNoAlargaSuHoja) {
+    const Texto corta{"[Hoja$]", "X | Y", "1 | 2"};
+    EXPECT_EQ(corta, LineasDe(prueba::EscribirXls({{"Hoja", ConCeldaEnLaEsquina("")}})));
+    EXPECT_EQ(corta, LineasDe(prueba::EscribirXls({{"Hoja", ConCeldaEnLaEsquina(""), false, true}})));
+}
+
+TEST(LectorXls, MuchasHojasConUnaCeldaLejanaNoLlenanLaMemoria) {
+    // Whole, their rectangles would be 670 MB of cells each.
+    const std::vector<prueba::Hoja> hojas(50, {"H", ConCeldaEnLaEsquina(1.0)});
+    EXPECT_EQ(LeerXls(prueba::EscribirXls(hojas), "l.xls").size(), 50U);
 }
 
 /// The number of the fault and what it says behind the file's name.

@@ -81,13 +81,14 @@ Tabla LeerTabla(std::string_view nombre, const Linea& cabecera, Bloque lineas) {
     }
     Tabla tabla{std::string{nombre}, Coleccion<Campo>{campos}, {}};
     for (const auto& linea : lineas.subspan(1)) {
-        auto& fila = tabla.filas.emplace_back();
+        std::vector<Valor> fila;
         for (const auto celda : Columnas(linea.texto)) {
             fila.push_back(LeerValor(celda, linea));
         }
         if (fila.size() != campos.size()) {
             NoSeEntiende(linea, "no tiene un valor por campo");
         }
+        tabla.filas.anadir(std::move(fila));
     }
     return tabla;
 }

@@ -1,6 +1,7 @@
 // Every query told by a `.test` file of this folder gives the rows or the fault that the file tells.
 #include "apoyo/Lugares.h"
 #include "motor/BaseDatos.h"
+#include "motor/TablasDePrueba.h"
 #include "motor/sql/CasosConsulta.h"
 
 #include <gtest/gtest.h>
@@ -42,10 +43,11 @@ CasosConsulta CasosDe(const std::filesystem::path& archivo) {
 Tabla Volcado(Recordset filas) {
     Tabla tabla{"", filas.campos(), {}};
     for (; !filas.Eof(); filas.MoveNext()) {
-        auto& fila = tabla.filas.emplace_back();
+        std::vector<Valor> fila;
         for (int i = 0; i < filas.campos().Count(); ++i) {
             fila.push_back(filas.Fields(i).Value);
         }
+        tabla.filas.anadir(std::move(fila));
     }
     return tabla;
 }
@@ -64,7 +66,7 @@ void Comprobar(const BaseDatos& base, const CasoConsulta& caso) {
         const auto dado = Volcado(base.OpenRecordset(caso.sql));
         ASSERT_EQ(caso.fallo, 0) << "se esperaba el fallo";
         EXPECT_EQ(Nombres(dado), Nombres(caso.esperado));
-        EXPECT_EQ(dado.filas, caso.esperado.filas);
+        EXPECT_EQ(prueba::FilasEnteras(dado), prueba::FilasEnteras(caso.esperado));
     } catch (const ErrorEjecucion& error) {
         EXPECT_EQ(error.numero(), caso.fallo) << error.what();
         for (const auto& dicho : caso.dice) {
