@@ -23,11 +23,12 @@ public:
     }
 
     [[nodiscard]] double numero(int fila, int columna) const {
-        const auto situar = [&](ErrorEjecucion& error) {
-            padron_.situar(error.en("columna «" + texto(0, columna) + "»"),
-                           static_cast<std::size_t>(fila) - 1);
-        };
-        return AlFallar(situar, [&] { return ANumero(texto(fila, columna)); });
+        return AlFallar([&](ErrorEjecucion& error) { situar(error, fila, columna); },
+                        [&] { return ANumero(texto(fila, columna)); });
+    }
+
+    void situar(ErrorEjecucion& error, int fila, int columna) const {
+        padron_.situar(error.en("columna «" + texto(0, columna) + "»"), static_cast<std::size_t>(fila) - 1);
     }
 
     [[nodiscard]] std::vector<double> columna(int columna) const {

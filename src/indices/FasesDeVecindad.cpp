@@ -95,7 +95,8 @@ void Dimensionar(ResultadosIndices::IndicePorColumnas& indice, Entero16 columnas
 /// The number of the columns of a family, rounded.
 Entero16 CuantasColumnas(double columnas) {
     return Porque(
-        fallo::desbordamiento, [] { return "los barridos piden más de 32.767 columnas"; },
+        fallo::desbordamiento,
+        [] { return "los barridos piden más de 32.767 columnas: ponga pasos mayores"; },
         [&] { return Entero16{columnas}; });
 }
 
@@ -325,13 +326,17 @@ private:
         return BarridoSinValores(barrido, MiembroDeSeleccion(opciones_, familia));
     }
 
-    /// A basal area factor of 0 divides: the fault that nobody nearer has explained is its own.
+    /// A basal area factor of 0 divides, and a negative one has no root: the fault that nobody nearer has
+    /// explained is its own.
     template <class Calcular>
     static std::vector<double> explicandoElBAF(ReglaDeSeleccion regla, FamiliaConSeleccion familia, double p,
                                                const Calcular& calcular) {
         const auto explicar = [&](ErrorEjecucion& error) {
-            if (regla == ReglaDeSeleccion::BAF && p == 0 && error.numero() == fallo::divisionPorCero) {
-                error.porque("el BAF es 0: ponga un valor mayor en " + CampoDeBarrido(ParametroDe(familia)));
+            const bool esCero = p == 0 && error.numero() == fallo::divisionPorCero;
+            const bool esNegativo = p < 0 && error.numero() == fallo::argumentoNoValido;
+            if (regla == ReglaDeSeleccion::BAF && (esCero || esNegativo)) {
+                error.porque(std::string{esCero ? "el BAF es 0" : "el BAF es negativo"} +
+                             ": ponga un valor mayor en " + CampoDeBarrido(ParametroDe(familia)));
             }
         };
         return AlFallar(explicar, calcular);

@@ -4,9 +4,11 @@
 #include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
+#include "basico/Texto.h"
 #include "data/FilasDeArboles.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
+#include "data/PadronDeArboles.h"
 #include "data/Papeles.h"
 #include "formularios/Reloj.h"
 #include "map/DibujarArboles.h"
@@ -19,6 +21,8 @@
 #include "shell/VAROMAIN.h"
 
 #include <array>
+#include <cmath>
+#include <cstddef>
 
 namespace varo {
 
@@ -223,10 +227,33 @@ void FrmFormato::avisarDibujo() {
     }
 }
 
-void FrmFormato::CmdAceptar_Click() {
-    const auto reloj = PonerReloj(*this);
-    limpiarRejilla();
-    const AlSalir avisar{[this] { avisarDibujo(); }};
+/// An overflow that nobody nearer has explained comes of the greatest coordinate.
+void FrmFormato::explicarDesbordamiento(ErrorEjecucion& error) const {
+    if (error.numero() != fallo::desbordamiento || !error.causa().empty() || error.fila()) {
+        return;
+    }
+    const auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
+    int columnaMayor = 0;
+    std::size_t arbol = 0;
+    double mayor = -1;
+    for (const int papel : {papelX, papelY}) {
+        const int columna = programa_.sesion.Columnas(papel).valor();
+        const auto coordenadas = LeerColumna(columna);
+        for (std::size_t i = 0; i < coordenadas.size(); ++i) {
+            if (std::abs(coordenadas[i]) > mayor) {
+                mayor = std::abs(coordenadas[i]);
+                arbol = i;
+                columnaMayor = columna;
+            }
+        }
+    }
+    error.porque("la coordenada " + Cita(rejilla.TextMatrix(static_cast<int>(arbol) + 1, columnaMayor)) +
+                 " es demasiado grande");
+    PadronDeLaRejilla(programa_).situar(error.en("columna «" + rejilla.TextMatrix(0, columnaMayor) + "»"),
+                                        arbol);
+}
+
+void FrmFormato::dibujarYMedir() {
     const bool hayDibujo = !prepararSuperficies().sinExtension();
     if (hayDibujo) {
         dibujarMapa();
@@ -244,6 +271,13 @@ void FrmFormato::CmdAceptar_Click() {
         fallo::argumentoNoValido,
         [] { return "no se puede hallar la superficie: los árboles del contorno están casi en una línea"; },
         [&] { return AreaPoligono(sesion.Poligono.contorno(), sesion.NumPuntosPoligono.valor()); });
+}
+
+void FrmFormato::CmdAceptar_Click() {
+    const auto reloj = PonerReloj(*this);
+    limpiarRejilla();
+    const AlSalir avisar{[this] { avisarDibujo(); }};
+    AlFallar([this](ErrorEjecucion& error) { explicarDesbordamiento(error); }, [this] { dibujarYMedir(); });
     auto& marco = programa_.tocar<VAROMAIN>();
     marco.mnuMapa.Enabled = false;
     marco.mnuOpciones.Enabled = true;

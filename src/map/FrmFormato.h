@@ -78,6 +78,9 @@ private:
     void dibujarMapa();
     /// Tells those who look at the surfaces, also of a drawing that a fault has ended.
     void avisarDibujo();
+    /// Draws the map, builds the boundary and measures its area.
+    void dibujarYMedir();
+    void explicarDesbordamiento(ErrorEjecucion& error) const;
     void mostrarFilas(bool visibles);
 
     Programa& programa_;

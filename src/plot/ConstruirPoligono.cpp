@@ -1,5 +1,7 @@
 #include "plot/ConstruirPoligono.h"
 
+#include "basico/EnLugar.h"
+#include "basico/Texto.h"
 #include "data/CeldasSituadas.h"
 #include "data/Hojadedatos.h"
 #include "data/PadronDeArboles.h"
@@ -53,7 +55,12 @@ std::vector<Valor> DatosDelVertice(const CeldasSituadas& celdas, int fila, const
         datos.emplace_back(celdas.texto(fila, sesion.Columnas(ultima).valor()));
     }
     const double tamano = celdas.texto(fila, columnaDAP).empty() ? 0 : celdas.numero(fila, columnaDAP);
-    datos.emplace_back(AreaBasimetrica(tamano, UnidadesDelTallo(opciones)));
+    const auto explicar = [&](ErrorEjecucion& error) {
+        error.porque("el tamaño " + Cita(celdas.texto(fila, columnaDAP)) + " es demasiado grande");
+        celdas.situar(error, fila, columnaDAP);
+    };
+    datos.emplace_back(
+        AlFallar(explicar, [&] { return AreaBasimetrica(tamano, UnidadesDelTallo(opciones)); }));
     datos.emplace_back(RadioMedio(celdas, fila, sesion, DatosDeLaCopa(opciones)) /
                        sesion.FactorRadios.valor());
     datos.emplace_back(celdas.texto(fila, sesion.Columnas(conCodigo ? ultima - 1 : ultima).valor()));

@@ -42,6 +42,10 @@ constexpr unsigned modoPropio = 0600; ///< nobody reads what replaces a file bef
         NoEscrito(ruta, "no hay permiso para escribir en su carpeta", fallo::accesoAlArchivo);
     case EROFS:
         NoEscrito(ruta, "su disco es de solo lectura", fallo::accesoAlArchivo);
+    case EISDIR:
+        NoEscrito(ruta, "es una carpeta", fallo::accesoAlArchivo);
+    case ELOOP:
+        NoEscrito(ruta, "sus enlaces dan vueltas", fallo::accesoAlArchivo);
     case EFBIG:
         NoEscrito(ruta, "pasa del tamaño que el sistema permite a un archivo", fallo::accesoAlArchivo);
     case ENAMETOOLONG:

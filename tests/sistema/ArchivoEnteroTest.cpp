@@ -95,6 +95,7 @@ TEST(ArchivoEntero, UnDestinoQueNoSePuedeEscribirSeRechazaConSuRazon) {
     const CarpetaTemporal carpeta;
     fs::create_directory(carpeta.ruta() / "ocupado");
     Escribir(carpeta.ruta() / "archivo", "");
+    fs::create_symlink("bucle", carpeta.ruta() / "bucle");
     struct Caso {
         fs::path destino;
         int numero;
@@ -106,12 +107,13 @@ TEST(ArchivoEntero, UnDestinoQueNoSePuedeEscribirSeRechazaConSuRazon) {
         {carpeta.ruta() / "archivo" / "salida.txt", 76, "no existe su carpeta"},
         {carpeta.ruta() / "no_esta" / "salida.txt", 76, "no existe su carpeta"},
         {carpeta.ruta() / std::string(300, 'n'), 75, "su nombre es demasiado largo"},
+        {carpeta.ruta() / "bucle", 75, "sus enlaces dan vueltas"},
         {"/dev/null", 75, "no es un archivo corriente"}};
     for (const auto& [destino, numero, porque] : casos) {
         EXPECT_TRUE(FallaCon<ErrorEjecucion>(numero, NoEscrito(destino, porque),
                                              [&, ruta = destino] { const ArchivoEntero archivo{ruta}; }));
     }
-    EXPECT_EQ(Entradas(carpeta.ruta()), 2);
+    EXPECT_EQ(Entradas(carpeta.ruta()), 3);
 }
 
 TEST(ArchivoEntero, DetrasDeUnEnlaceSeSustituyeElArchivo) {
@@ -245,7 +247,8 @@ TEST(ArchivoEntero, UnDestinoQueSeVuelveCarpetaFallaAlPublicarYNoQuedaNada) {
     {
         ArchivoEntero archivo{destino};
         fs::create_directory(destino);
-        EXPECT_THROW(archivo.publicar(), ErrorEjecucion);
+        EXPECT_TRUE(FallaCon<ErrorEjecucion>(fallo::accesoAlArchivo, NoEscrito(destino, "es una carpeta"),
+                                             [&] { archivo.publicar(); }));
     }
     EXPECT_EQ(Entradas(carpeta.ruta()), 1);
 }

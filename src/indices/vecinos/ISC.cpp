@@ -16,7 +16,9 @@ namespace {
 /// Rounded to a 32-bit float; out of its range throws 6.
 float ASimple(double numero) {
     const auto simple = static_cast<float>(numero);
-    ExigirFinito(static_cast<double>(simple));
+    Porque(
+        fallo::desbordamiento, [] { return "las medidas de la copa son demasiado grandes"; },
+        [&] { ExigirFinito(static_cast<double>(simple)); });
     return simple;
 }
 

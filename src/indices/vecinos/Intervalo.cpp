@@ -33,7 +33,8 @@ std::vector<double> ValoresDe(const Intervalo& intervalo) {
         const double siguiente = valor + intervalo.Paso;
         if (siguiente == valor) {
             throw ErrorEjecucion{fallo::fueraDeIndice}.porque(
-                "el paso es demasiado pequeño para avanzar"); // the columns run out before the values do
+                "el paso " + ATexto(intervalo.Paso) + " es demasiado pequeño para avanzar desde " +
+                ATexto(valor)); // the columns run out before the values do
         }
         valor = siguiente;
     }

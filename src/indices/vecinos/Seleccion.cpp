@@ -162,8 +162,7 @@ Veredicto Seleccion::juzgar(std::size_t j) {
 
 Veredicto Seleccion::juzgarPorAngulo(std::size_t j) {
     const double vista = razon(j);
-    const double raiz = Porque(
-        fallo::argumentoNoValido, [] { return "el BAF es negativo"; }, [&] { return Raiz(p_); });
+    const double raiz = Raiz(p_);
     if (!(vista > raiz / 50)) {
         return rechazado;
     }

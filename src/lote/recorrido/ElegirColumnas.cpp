@@ -16,14 +16,6 @@ namespace varo {
 
 namespace {
 
-std::string Enumerar(const std::vector<std::string>& nombres) {
-    std::string texto;
-    for (const auto& nombre : nombres) {
-        texto += (texto.empty() ? "" : ", ") + nombre;
-    }
-    return texto;
-}
-
 SelColumnas& DialogoALaVista(const Programa& programa) {
     const std::array<SelColumnas*, 3> dialogos{programa.cargada<SelCol4R>(), programa.cargada<SelCol2D>(),
                                                programa.cargada<SelColRM>()};
@@ -131,8 +123,8 @@ private:
                                    [&](const std::string& otra) { return MismoNombre(otra, cabecera); });
         }
         if (hallada == cabeceras.end()) {
-            puesto_.rechazar(pedida.lugar(), "la hoja no tiene ninguna columna «" + cabecera + "»; tiene " +
-                                                 Enumerar(cabeceras));
+            puesto_.rechazar(pedida.lugar(), "la hoja no tiene ninguna columna " + CitaLarga(cabecera) +
+                                                 "; tiene " + Enumerar(cabeceras));
         }
         return static_cast<int>(hallada - cabeceras.begin());
     }

@@ -8,7 +8,7 @@ void PuestoDeTrabajo::hacer(const Lugar& lugar, const std::function<void()>& act
     } catch (const ActoImposible& imposible) {
         throw error(lugar, imposible.what());
     } catch (const MensajeInesperado& mensaje) {
-        throw error(lugar, "el programa avisa: «" + mensaje.texto() + "»");
+        throw error(lugar, "el programa avisa: " + CitaLarga(mensaje.texto()));
     } catch (const FalloInesperado& fallo) {
         throw ErrorTrabajo{trabajo.ruta, lugar, fallo.what(), siFalla, fallo.error().numero()};
     } catch (const ErrorEjecucion& fallo) {

@@ -12,6 +12,9 @@
 #include "options/OpcionesPrograma.h"
 #include "shell/VAROMAIN.h"
 
+#include <string>
+#include <vector>
+
 namespace varo {
 
 namespace {
@@ -25,16 +28,15 @@ void AbrirParcela(PuestoDeTrabajo& puesto) {
 }
 
 void ExigirTabla(const PuestoDeTrabajo& puesto, const FrmSeleccion& seleccion) {
-    std::string tablas;
+    std::vector<std::string> tablas;
     for (int i = 0; i < seleccion.CboHoja.ListCount(); ++i) {
-        const std::string& tabla = seleccion.CboHoja.List(i);
-        if (MismoNombre(tabla, puesto.trabajo.hoja)) {
+        tablas.push_back(seleccion.CboHoja.List(i));
+        if (MismoNombre(tablas.back(), puesto.trabajo.hoja)) {
             return;
         }
-        tablas += (tablas.empty() ? "" : ", ") + tabla;
     }
-    puesto.rechazar({"hoja"},
-                    "el archivo no tiene ninguna hoja «" + puesto.trabajo.hoja + "»; tiene " + tablas);
+    puesto.rechazar({"hoja"}, "el archivo no tiene ninguna hoja " + CitaLarga(puesto.trabajo.hoja) +
+                                  "; tiene " + Enumerar(tablas));
 }
 
 void AceptarHoja(PuestoDeTrabajo& puesto) {

@@ -3,6 +3,7 @@
 #include "basico/Texto.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace varo {
 
@@ -12,15 +13,26 @@ std::string EnUnaLinea(std::string texto) {
     return texto;
 }
 
-namespace {
-
-/// The value in a place: long enough for a function with its parameters, and no longer.
-std::string ValorCitado(const std::string& valor) {
+std::string Acortado(const std::string& texto) {
     constexpr std::size_t bastantes = 120;
-    return " = «" + (Longitud(valor) > bastantes ? Izquierda(valor, bastantes) + "…" : valor) + "»";
+    return Longitud(texto) > bastantes ? Izquierda(texto, bastantes) + "…" : texto;
 }
 
-} // namespace
+std::string CitaLarga(const std::string& texto) {
+    return "«" + Acortado(texto) + "»";
+}
+
+std::string Enumerar(const std::vector<std::string>& nombres) {
+    constexpr std::size_t bastantes = 40;
+    std::string texto;
+    for (std::size_t i = 0; i < std::min(nombres.size(), bastantes); ++i) {
+        texto += (i == 0 ? "" : ", ") + nombres[i];
+    }
+    if (nombres.size() > bastantes) {
+        texto += " y " + std::to_string(nombres.size() - bastantes) + " más";
+    }
+    return texto;
+}
 
 std::string LineaDeAviso(const std::filesystem::path& trabajo, const Lugar& lugar, const std::string& texto) {
     std::string linea = trabajo.string() + ": ";
@@ -28,7 +40,7 @@ std::string LineaDeAviso(const std::filesystem::path& trabajo, const Lugar& luga
         linea += "línea " + std::to_string(lugar.linea) + ": ";
     }
     if (!lugar.clave.empty()) {
-        linea += lugar.clave + (lugar.valor ? ValorCitado(*lugar.valor) : "") + ": ";
+        linea += Acortado(lugar.clave) + (lugar.valor ? " = " + CitaLarga(*lugar.valor) : "") + ": ";
     }
     return EnUnaLinea(linea + texto);
 }

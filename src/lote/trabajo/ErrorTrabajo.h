@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace varo {
 
@@ -32,6 +33,14 @@ struct Lugar {
 
 /// The text with a blank for each line end and other control character.
 std::string EnUnaLinea(std::string texto);
+
+/// The text up to 120 characters: long enough for a function with its parameters, and for every message of
+/// the program.
+std::string Acortado(const std::string& texto);
+/// The same between «».
+std::string CitaLarga(const std::string& texto);
+/// "X, Y, Z"; of a long list the first forty and how many more there are.
+std::string Enumerar(const std::vector<std::string>& nombres);
 
 /// "trabajo.toml: línea 3: opciones.TxtRm(0) = «1.5»: texto", in one line whatever the parts hold.
 std::string LineaDeAviso(const std::filesystem::path& trabajo, const Lugar& lugar, const std::string& texto);

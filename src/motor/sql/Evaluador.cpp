@@ -1,6 +1,7 @@
 #include "motor/sql/Evaluador.h"
 
 #include "basico/EnLugar.h"
+#include "basico/Numeros.h"
 #include "basico/Texto.h"
 
 #include <algorithm>
@@ -26,7 +27,16 @@ Evaluador::Evaluador(const ExpresionPostfija& expresion, const Tabla& tabla) : e
 }
 
 Operando Evaluador::operator()(FilaDeTabla fila) {
-    return AlFallar([this](ErrorEjecucion& error) { situar(error); }, [&] { return calculado(fila); });
+    const auto explicar = [&](ErrorEjecucion& error) {
+        situar(error);
+        if (error.numero() != fallo::desbordamiento || columnas_.size() != 1) {
+            return;
+        }
+        if (const Valor& valor = fila[columnas_.front().posicion]; !EsNulo(valor)) {
+            error.porque(Cita(ATexto(valor)) + " es un número demasiado grande");
+        }
+    };
+    return AlFallar(explicar, [&] { return calculado(fila); });
 }
 
 Valor Evaluador::entero(FilaDeTabla fila) {

@@ -1,5 +1,6 @@
 // The faults that plots and options are known to meet, with their causes in words.
 #include "apoyo/EscritorXls.h"
+#include "basico/Numeros.h"
 #include "lote/TrabajoDePrueba.h"
 
 #include <gtest/gtest.h>
@@ -116,10 +117,54 @@ TEST(Causas, UnaListaVaciaOUnBarridoSinValores) {
                 9, "la lista LstDist está vacía: añádale una función (familia DR)");
 }
 
-TEST(Causas, UnBAFDeCero) {
+TEST(Causas, UnBAFDeCeroONegativo) {
     ExigirCausa(
         CorrerCon(CuadradoConDos(), "ChIDPActivar = 1\n'OptBAF(0)' = true\n" + Barrido(0, "0", "4", "4")), 11,
         "el BAF es 0: ponga un valor mayor en TxtBAF1(0) (familia IDP");
+    ExigirCausa(
+        CorrerCon(CuadradoConDos(), "ChIDPActivar = 1\n'OptBAF(0)' = true\n" + Barrido(0, "-2", "2", "1")), 5,
+        "el BAF es negativo: ponga un valor mayor en TxtBAF1(0) (familia IDP");
+    ExigirCausa(CorrerCon(CuadradoConDos(),
+                          "ChDRActivar = 1\n'OptBAF(1)' = true\n" + Barrido(2, "-2", "2", "1") +
+                              Barrido(4, "1", "1", "1") +
+                              "LstDist = [{ tipo = \"EXP\", a = 0, b = 0, c = 0, d = 0, e = 0 }]\n"),
+                5, "el BAF es negativo: ponga un valor mayor en TxtBAF1(2) (familia DR");
+}
+
+TEST(Causas, UnBarridoDeDemasiadasColumnas) {
+    ExigirCausa(CorrerCon(CuadradoConDos(), "ChAPA = 1\n" + Barrido(8, "0", "32767", "1")), 6,
+                "los barridos piden más de 32.767 columnas: ponga pasos mayores (familia APA)");
+    ExigirCausa(CorrerCon(CuadradoConDos(),
+                          "ChIDPActivar = 1\n'OptBAF(0)' = true\n" + Barrido(0, "2", "4", "0.00001")),
+                6, "los barridos piden más de 32.767 columnas: ponga pasos mayores (familia IDP)");
+}
+
+TEST(Causas, UnPasoQueNoAvanza) {
+    ExigirCausa(CorrerCon(CuadradoConDos(),
+                          "ChIDPActivar = 1\n'OptBAF(0)' = true\n" + Barrido(0, "1E+300", "1E+300", "1")),
+                9, "el paso 1 es demasiado pequeño para avanzar desde 1E+300 (familia IDP)");
+}
+
+/// The dialog turns the ends and the step of a sweep about, and a job says so.
+TEST(Causas, UnBarridoHaciaAtrasOSinPasoSeAvisa) {
+    const ParcelaDePrueba parcela{CuadradoConDos()};
+    TextoDeTrabajo texto;
+    texto.opciones = "Optmetro = true\nChIDPActivar = 1\n'OptBAF(0)' = true\n" + Barrido(0, "4", "2", "-1");
+    auto fin = Correr(parcela, texto);
+    EXPECT_EQ(fin.error, "");
+    ASSERT_EQ(fin.avisos.size(), 2U);
+    EXPECT_NE(fin.avisos[0].find("opciones.TxtBAF2(0): aviso: el programa ha cambiado «2» por «4»"),
+              std::string::npos)
+        << fin.avisos[0];
+    EXPECT_NE(fin.avisos[1].find("opciones.TxtBAF3(0): aviso: el programa ha cambiado «-1» por «1»"),
+              std::string::npos)
+        << fin.avisos[1];
+    texto.opciones = "Optmetro = true\nChIDPActivar = 1\n'OptBAF(0)' = true\n" + Barrido(0, "2", "4", "0");
+    fin = Correr(parcela, texto);
+    ASSERT_EQ(fin.avisos.size(), 1U);
+    EXPECT_NE(fin.avisos[0].find("opciones.TxtBAF3(0): aviso: el programa ha cambiado «0» por «2»"),
+              std::string::npos)
+        << fin.avisos[0];
 }
 
 TEST(Causas, DosArbolesEnElMismoSitioNoSeAchacanAlBAF) {
@@ -199,6 +244,71 @@ TEST(Causas, UnaCoordenadaInfinita) {
     filas[3][columnaX] = std::string{"1E+400"};
     ExigirCausa(CorrerCon(filas, ""), 6,
                 "«1E+400» es un número demasiado grande (fila 4 de «Parcela1$», árbol 3, columna «X»)");
+}
+
+TEST(Causas, UnaCoordenadaInmensaSeNombra) {
+    for (const double inmensa : {1E300, -1E308, 1.7E308}) {
+        auto filas = CuadradoConCentro();
+        filas[3][columnaY] = inmensa;
+        ExigirCausa(CorrerCon(filas, ""), 6,
+                    "la coordenada «" + ATexto(inmensa) +
+                        "» es demasiado grande (fila 4 de «Parcela1$», árbol 3, columna «Y»)");
+    }
+    auto filas = CuadradoConCentro();
+    filas[3][columnaX] = std::string{"1E308"};
+    ExigirCausa(CorrerCon(filas, ""), 6,
+                "la coordenada «1E308» es demasiado grande (fila 4 de «Parcela1$», árbol 3, columna «X»)");
+}
+
+TEST(Causas, UnaMedidaInmensaSeNombra) {
+    auto filas = CuadradoConCentro();
+    filas[3][columnaCAP] = 1E300; // in a corner of the plot
+    ExigirCausa(CorrerCon(filas, ""), 6,
+                "el tamaño «1E+300» es demasiado grande (fila 4 de «Parcela1$», árbol 3, columna «CAP»)");
+    filas = CuadradoConCentro();
+    filas[5][columnaCAP] = 1E300; // inside
+    ExigirCausa(
+        CorrerCon(filas, "ChAB = 1\n"), 6,
+        "«1E+300» es un número demasiado grande (familia ABha, fila 6 de «Parcela1$», árbol 5, columna "
+        "«CAP»)");
+    filas = CuadradoConCentro();
+    filas[5][3] = 1E300;
+    ExigirCausa(CorrerCon(filas, "ChSupCopa = 1\nOptcirc = true\n"), 6,
+                "las medidas de la copa son demasiado grandes (familia ISC, columna ISC(Bil.), fila 6 de "
+                "«Parcela1$», árbol 5)");
+}
+
+TEST(Causas, LoQueAvisaElProgramaSeCorta) {
+    const std::string larga(500, '9');
+    auto fin = CorrerCon(CuadradoConCentro(),
+                         "ChIDPActivar = 1\n'OptBAF(0)' = true\n'TxtBAF1(0)' = \"" + larga + "\"\n");
+    EXPECT_NE(
+        fin.error.find("TxtBAF1(0) = «" + larga.substr(0, 120) + "…»: el programa avisa: «El valor debe ser"),
+        std::string::npos)
+        << fin.error;
+    fin = CorrerCon(CuadradoConCentro(), "'" + larga + "' = 1\n");
+    EXPECT_NE(fin.error.find(": opciones." + larga.substr(0, 111) + "…: clave desconocida"),
+              std::string::npos)
+        << fin.error;
+    TextoDeTrabajo texto;
+    texto.columnas.replace(texto.columnas.find("\"X\""), 3, "\"" + larga + "\"");
+    fin = CorrerCon(CuadradoConCentro(), "", texto);
+    EXPECT_NE(fin.error.find("ninguna columna «" + larga.substr(0, 120) + "…»; tiene Nº de punto, Arbol, X"),
+              std::string::npos)
+        << fin.error;
+    texto = {};
+    texto.parcela = "archivo = \"parcela.xls\"\nhoja = \"" + larga + "\"\n";
+    fin = CorrerCon(CuadradoConCentro(), "", texto);
+    EXPECT_NE(fin.error.find("ninguna hoja «" + larga.substr(0, 120) + "…»; tiene Parcela1$"),
+              std::string::npos)
+        << fin.error;
+}
+
+TEST(Causas, UnaHojaDeMuchasColumnasNoLasEnumeraTodas) {
+    TextoDeTrabajo texto;
+    texto.columnas.replace(texto.columnas.find("\"X\""), 3, "\"Equis\"");
+    const auto fin = CorrerCon(CuadradoConNota(2, 255, "nota"), "", texto);
+    EXPECT_NE(fin.error.find("F39 y 217 más"), std::string::npos) << fin.error;
 }
 
 } // namespace

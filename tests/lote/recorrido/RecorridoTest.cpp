@@ -250,8 +250,15 @@ TEST(Recorrido, UnaSalidaQueNoSePuedeEscribirEsUnErrorDeArchivoYNoDejaNada) {
     const std::vector<std::pair<std::string, std::string>> casos{
         {"indices.txt",
          "Error 75: No se ha escrito «" + parcela.ruta("indices.txt").string() + "»: es una carpeta"},
-        {"archivo/indices.txt",
-         "Error 75: No se puede crear la carpeta «" + parcela.ruta("archivo").string() + "»"},
+        {"archivo/indices.txt", "Error 75: No se puede crear la carpeta «" +
+                                    parcela.ruta("archivo").string() +
+                                    "»: en su sitio, o en el de una carpeta de encima, hay un archivo"},
+        {"archivo/dentro/indices.txt",
+         "Error 75: No se puede crear la carpeta «" + (parcela.ruta("archivo") / "dentro").string() +
+             "»: en su sitio, o en el de una carpeta de encima, hay un archivo"},
+        {std::string(300, 'n') + "/indices.txt", "Error 75: No se puede crear la carpeta «" +
+                                                     parcela.ruta(std::string(300, 'n')).string() +
+                                                     "»: su nombre es demasiado largo"},
     };
     const auto antes = Contenido(parcela.ruta(""));
     for (const auto& [salida, razon] : casos) {
