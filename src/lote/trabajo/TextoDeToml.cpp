@@ -21,15 +21,24 @@ constexpr const char* numeroMal = "el número no está bien escrito: los decimal
 
 constexpr const char* sobraAlgo = "detrás del valor sobra algo; los decimales van detrás de un punto";
 constexpr const char* dosVeces = "la clave o la tabla está escrita dos veces";
+constexpr const char* sinCerrarORaro =
+    "falta cerrar unas comillas, o hay un carácter que no se puede escribir en un texto";
+constexpr const char* barra =
+    "entre comillas dobles la barra \\ es especial: escríbala dos veces o use comillas simples";
+constexpr const char* inmenso = "el número es demasiado grande";
 constexpr const char* caracterRaro = "hay un carácter que no se puede escribir en un texto";
 
 /// The first one that fits counts.
-constexpr std::array<Remedio, 21> remedios{{
+constexpr std::array<Remedio, 25> remedios{{
     {"redefine", dosVeces},
     {"cannot insert", dosVeces},
     {"expected '='",
      "detrás de una clave va el signo =; una clave con paréntesis va entre comillas: \"TxtBAF1(6)\" = 1"},
-    {"escape", "entre comillas dobles la barra \\ es especial: escríbala dos veces o use comillas simples"},
+    {"control characters other", sinCerrarORaro},
+    {"escape", barra},
+    {"hex digit", barra},
+    {"representable", inmenso},
+    {"too long", inmenso},
     {"control character", caracterRaro},
     {"unicode", caracterRaro},
     {"multi-line", sinCerrar},

@@ -240,7 +240,11 @@ void ExigirArchivoDeTrabajo(const fs::path& ruta) {
     std::error_code error;
     const auto estado = fs::status(ruta, error);
     if (!fs::exists(estado) || fs::is_directory(estado)) {
-        throw ErrorTrabajo{ruta, {}, "no se puede leer el trabajo", Estado::ErrorDeArchivo};
+        const char* const porque = fs::is_directory(estado)                    ? "es una carpeta"
+                                   : estado.type() == fs::file_type::not_found ? "el archivo no existe"
+                                                                               : "no se puede llegar a él";
+        throw ErrorTrabajo{
+            ruta, {}, std::string{"no se puede leer el trabajo: "} + porque, Estado::ErrorDeArchivo};
     }
     if (!fs::is_regular_file(estado)) {
         throw ErrorTrabajo{ruta,
@@ -283,7 +287,8 @@ Trabajo LeerTrabajo(const fs::path& ruta, const Cambios& cambios) {
     ExigirArchivoDeTrabajo(ruta);
     std::ifstream archivo{ruta, std::ios::binary};
     if (!archivo) {
-        throw ErrorTrabajo{ruta, {}, "no se puede leer el trabajo", Estado::ErrorDeArchivo};
+        throw ErrorTrabajo{
+            ruta, {}, "no se puede leer el trabajo: no hay permiso para leerlo", Estado::ErrorDeArchivo};
     }
     const std::string texto{std::istreambuf_iterator<char>{archivo}, {}};
     if (archivo.bad()) {

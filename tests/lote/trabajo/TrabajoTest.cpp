@@ -166,6 +166,22 @@ TEST(Trabajo, UnTextoQueNoEsTomlDiceDonde) {
                         ErrorDe([] { InterpretarTrabajo("T = 1,5\n", "t.toml"); }));
 }
 
+TEST(Trabajo, UnaComillaSinCerrarUnaBarraYUnNumeroInmensoDicenLoSuyo) {
+    const std::string noEsToml = "no es TOML correcto: ";
+    const std::vector<std::pair<std::string, std::string>> casos{
+        {"archivo = \"p.xls\nhoja = \"x\"\n", "falta cerrar unas comillas, o hay un carácter"},
+        {"archivo = 'p.xls\nhoja = 'x'\n", "falta cerrar unas comillas, o hay un carácter"},
+        {R"(archivo = "C:\users\p.xls")", "entre comillas dobles la barra \\ es especial"},
+        {R"(archivo = "C:\Users\p.xls")", "entre comillas dobles la barra \\ es especial"},
+        {R"(archivo = "C:\datos\p.xls")", "entre comillas dobles la barra \\ es especial"},
+        {"x = " + std::string(30, '9'), "el número es demasiado grande"},
+        {"x = " + std::string(300, '9'), "el número es demasiado grande"}};
+    for (const auto& [texto, dice] : casos) {
+        const auto error = ErrorDe([&, &texto = texto] { InterpretarTrabajo(texto, "t.toml"); });
+        EXPECT_NE(error.find(noEsToml + dice), std::string::npos) << error;
+    }
+}
+
 TEST(Trabajo, UnTextoQueNoEsUtf8DiceDondeYComoSeGuarda) {
     EXPECT_EQ(
         ErrorDe([] { InterpretarTrabajo("# n\xC3\xBA\xEF\xBF\xBD\nhoja = 'Parcela\xE1'\n", "t.toml"); }),
@@ -195,13 +211,14 @@ TEST(Trabajo, UnErrorCabeEnUnaLineaAunqueLaClaveTengaVarias) {
 
 TEST(Trabajo, UnTrabajoQueNoSePuedeLeerEsUnErrorDeArchivo) {
     const CarpetaTemporal carpeta;
-    for (const auto& ruta : {carpeta.ruta() / "no_esta.toml", carpeta.ruta()}) {
+    for (const auto& [ruta, porque] : {std::pair{carpeta.ruta() / "no_esta.toml", "el archivo no existe"},
+                                       {carpeta.ruta(), "es una carpeta"}}) {
         try {
             LeerTrabajo(ruta);
             ADD_FAILURE() << "debía fallar con " << ruta;
         } catch (const ErrorTrabajo& error) {
             EXPECT_EQ(error.estado(), Estado::ErrorDeArchivo);
-            EXPECT_EQ(std::string{error.what()}, ruta.string() + ": no se puede leer el trabajo");
+            EXPECT_EQ(std::string{error.what()}, ruta.string() + ": no se puede leer el trabajo: " + porque);
         }
     }
 }
