@@ -178,7 +178,7 @@ double MinimoYPoligono(const ContornoXY& contorno) {
     return Extremo(contorno.y, std::less<>{});
 }
 
-float CalcularFcc(const ContornoXY& contorno, const std::function<long(float, float)>& color) {
+float CalcularFcc(const ContornoXY& contorno, const std::function<Color(double, double)>& color) {
     const double XMaxPoligono = MaximoXPoligono(contorno);
     const double YMaxPoligono = MaximoYPoligono(contorno);
     const double YMinPoligono = MinimoYPoligono(contorno);
@@ -190,7 +190,7 @@ float CalcularFcc(const ContornoXY& contorno, const std::function<long(float, fl
                 return;
             }
             dentro += 1;
-            if (color(static_cast<float>(x), static_cast<float>(y)) == 0) {
+            if (color(x, y) == 0) {
                 cubierto += 1;
             }
         });

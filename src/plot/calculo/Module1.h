@@ -3,6 +3,7 @@
 #pragma once
 
 #include "basico/Aritmetica.h"
+#include "lienzo/Color.h"
 
 #include <functional>
 #include <span>
@@ -64,6 +65,6 @@ double MinimoYPoligono(const ContornoXY& contorno);
 /// Canopy cover: the fraction of the sample points inside the polygon whose colour is 0 (black). The points
 /// stand 1 apart, from the x of row 0 and from the lowest y on; `color` answers the colour at a point. No
 /// point inside throws 11.
-float CalcularFcc(const ContornoXY& contorno, const std::function<long(float, float)>& color);
+float CalcularFcc(const ContornoXY& contorno, const std::function<Color(double, double)>& color);
 
 } // namespace varo

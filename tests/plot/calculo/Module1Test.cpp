@@ -281,53 +281,66 @@ TEST(ExtremosDelPoligono, SinFilasFaltan) {
 
 // --- Canopy cover -------------------------------------------------------------------------------------
 
-constexpr long negro = 0;
-constexpr long blanco = 0xFFFFFF;
+constexpr Color negro = 0;
+constexpr Color blanco = 0xFFFFFF;
 
 TEST(CalcularFcc, EsLaFraccionNegraDeLosPuntosDeDentro) {
     // Inside are 1 + 3 + 5 + 7 + 9 + 7 + 5 + 3 + 1 = 41 points; the black ones left of x = 5 are 16.
-    const float fcc = CalcularFcc(Contorno(rombo), [](float x, float) { return x < 5 ? negro : blanco; });
+    const float fcc = CalcularFcc(Contorno(rombo), [](double x, double) { return x < 5 ? negro : blanco; });
     EXPECT_EQ(fcc, 16.0F / 41.0F);
-    EXPECT_EQ(CalcularFcc(Contorno(rombo), [](float, float) { return negro; }), 1.0F);
-    EXPECT_EQ(CalcularFcc(Contorno(rombo), [](float, float) { return blanco; }), 0.0F);
+    EXPECT_EQ(CalcularFcc(Contorno(rombo), [](double, double) { return negro; }), 1.0F);
+    EXPECT_EQ(CalcularFcc(Contorno(rombo), [](double, double) { return blanco; }), 0.0F);
 }
 
 TEST(CalcularFcc, UnPuntoFueraDeLaSuperficieDibujadaNoEstaCubierto) {
-    EXPECT_EQ(CalcularFcc(Contorno(rombo), [](float, float) { return -1L; }), 0.0F);
+    EXPECT_EQ(CalcularFcc(Contorno(rombo), [](double, double) { return Color{-1}; }), 0.0F);
 }
 
 TEST(CalcularFcc, PreguntaDeUnoEnUnoDesdeElPrimerVerticeYLaMenorAltura) {
     // Columns x = 0,5, 1,5, 2,5 and rows y = 0,25, 1,25, 2,25. At x = 0,5 there is only the vertex; at 1,5
     // the sides pass through 2,333 and 0,7; at 2,5 through 1,625 and 0,4.
     const Coordenadas triangulo{{0.5, 2, 3, 0.5}, {1, 3, 0.25, 1}};
-    std::vector<std::pair<float, float>> preguntas;
-    CalcularFcc(Contorno(triangulo), [&preguntas](float x, float y) {
+    std::vector<std::pair<double, double>> preguntas;
+    CalcularFcc(Contorno(triangulo), [&preguntas](double x, double y) {
         preguntas.emplace_back(x, y);
         return negro;
     });
-    EXPECT_EQ(preguntas, (std::vector<std::pair<float, float>>{{1.5F, 1.25F}, {1.5F, 2.25F}, {2.5F, 1.25F}}));
+    EXPECT_EQ(preguntas, (std::vector<std::pair<double, double>>{{1.5, 1.25}, {1.5, 2.25}, {2.5, 1.25}}));
 }
 
 TEST(CalcularFcc, LlegaHastaElUltimoVerticeInclusive) {
     // On paper the vertex (3,9; 1,8) is outside. In 64-bit arithmetic the edge from (2,9; 2,4) passes just
     // above it and the edge to (3,1; 0,8) just below, so it is the one sample inside.
     const Coordenadas triangulo{{2.9, 3.9, 3.1, 2.9}, {2.4, 1.8, 0.8, 2.4}};
-    std::vector<std::pair<float, float>> preguntas;
-    CalcularFcc(Contorno(triangulo), [&preguntas](float x, float y) {
+    std::vector<std::pair<double, double>> preguntas;
+    CalcularFcc(Contorno(triangulo), [&preguntas](double x, double y) {
         preguntas.emplace_back(x, y);
         return negro;
     });
-    EXPECT_EQ(preguntas, (std::vector<std::pair<float, float>>{{3.9F, 1.8F}}));
+    EXPECT_EQ(preguntas, (std::vector<std::pair<double, double>>{{3.9, 1.8}}));
+}
+
+TEST(CalcularFcc, EnCoordenadasUtmPreguntaSinRedondearA32Bits) {
+    // The triangle of above, moved by whole metres; with 32 bits y would be a multiple of half a metre.
+    const Coordenadas triangulo{{450000.5, 450002, 450003, 450000.5},
+                                {4600001, 4600003, 4600000.25, 4600001}};
+    std::vector<std::pair<double, double>> preguntas;
+    CalcularFcc(Contorno(triangulo), [&preguntas](double x, double y) {
+        preguntas.emplace_back(x, y);
+        return negro;
+    });
+    EXPECT_EQ(preguntas, (std::vector<std::pair<double, double>>{
+                             {450001.5, 4600001.25}, {450001.5, 4600002.25}, {450002.5, 4600001.25}}));
 }
 
 TEST(CalcularFcc, SinPuntosDentroFalta) {
     const Coordenadas diminuto{{0.1, 0.3, 0.5, 0.1}, {0.2, 0.4, 0.1, 0.2}};
-    EXPECT_EQ(NumeroDeFallo([&] { CalcularFcc(Contorno(diminuto), [](float, float) { return negro; }); }),
+    EXPECT_EQ(NumeroDeFallo([&] { CalcularFcc(Contorno(diminuto), [](double, double) { return negro; }); }),
               fallo::divisionPorCero);
 }
 
 TEST(CalcularFcc, UnLadoVerticalFalta) {
-    EXPECT_EQ(NumeroDeFallo([] { CalcularFcc(Contorno(cuadrado), [](float, float) { return negro; }); }),
+    EXPECT_EQ(NumeroDeFallo([] { CalcularFcc(Contorno(cuadrado), [](double, double) { return negro; }); }),
               fallo::divisionPorCero);
 }
 
