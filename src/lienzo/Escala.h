@@ -15,10 +15,12 @@ struct Escala {
     [[nodiscard]] double alto() const { return abajo - arriba; }
     /// A scale without extent bounds nothing.
     [[nodiscard]] bool sinExtension() const { return ancho() == 0 || alto() == 0; }
-    /// Whether the point lies on the surface, its border included.
-    [[nodiscard]] bool contiene(double x, double y) const {
-        return sinExtension() || (x >= izquierda && x <= derecha && y >= abajo && y <= arriba);
+    /// Whether a coordinate, or a point, lies on the surface, its border included.
+    [[nodiscard]] bool contieneX(double x) const {
+        return sinExtension() || (x >= izquierda && x <= derecha);
     }
+    [[nodiscard]] bool contieneY(double y) const { return sinExtension() || (y >= abajo && y <= arriba); }
+    [[nodiscard]] bool contiene(double x, double y) const { return contieneX(x) && contieneY(y); }
 
     friend bool operator==(const Escala&, const Escala&) = default;
 };
