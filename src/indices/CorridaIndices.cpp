@@ -3,13 +3,11 @@
 #include "indices/FasesDeVecindad.h"
 #include "indices/FasesIndependientes.h"
 #include "indices/archivo/FrmCrearArchivo.h"
-#include "options/OpcionesPrograma.h"
 #include "shell/Programa.h"
 
 namespace varo {
 
 void CorrerIndices(Programa& programa) {
-    RechazarVecindadPendiente(programa.tocar<OpcionesPrograma>());
     CorrerFasesIndependientes(programa);
     CorrerFasesDeVecindad(programa);
     programa.tocar<FrmCrearArchivo>().Show();

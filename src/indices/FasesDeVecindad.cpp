@@ -1,5 +1,6 @@
 #include "indices/FasesDeVecindad.h"
 
+#include "basico/AlSalir.h"
 #include "basico/EnLugar.h"
 #include "basico/Numeros.h"
 #include "data/FilasDeArboles.h"
@@ -13,6 +14,7 @@
 #include "indices/vecinos/DR.h"
 #include "indices/vecinos/IDP.h"
 #include "indices/vecinos/ISC.h"
+#include "indices/vecinos/ISCDeElipses.h"
 #include "map/FrmMapa.h"
 #include "options/Unidades.h"
 #include "shell/Programa.h"
@@ -152,14 +154,31 @@ private:
         const auto lados = LadosDe(opciones_.ChISCBil, opciones_.ChISCUni);
         r.NumISC = static_cast<double>(lados.size());
         r.IndISC.redimensionar(static_cast<int>(lados.size()) - 1, cuantosArboles());
-        const RadiosDeCopa radios{arboles(), DatosDeLaCopa(opciones_), programa_.sesion.FactorRadios.valor()};
+        const auto calcular = opciones_.Optcirc.Value() ? iscDeCirculos() : iscDeElipses();
         int numero = -1;
         for (const Lado lado : lados) {
             columna(
-                r.IndISC, ++numero, [&] { return RotuloISC(lado); },
-                [&] { return CalcularISC(vecindad(), radios, lado); });
+                r.IndISC, ++numero, [&] { return RotuloISC(lado); }, [&] { return calcular(lado); });
         }
     }
+
+    using CalculoISC = std::function<std::vector<double>(Lado)>;
+
+    CalculoISC iscDeCirculos() {
+        return [this, radios = RadiosDeCopa{arboles(), DatosDeLaCopa(opciones_), factorDeRadios()}](
+                   Lado lado) { return CalcularISC(vecindad(), radios, lado); };
+    }
+
+    CalculoISC iscDeElipses() {
+        return
+            [this, copas = CopasDeArboles{arboles(), DatosDeLaCopa(opciones_), factorDeRadios()}](Lado lado) {
+                auto& superficie = programa_.tocar<FrmMapa2>();
+                const AlSalir avisar{[&superficie] { superficie.avisarDibujo(); }};
+                return CalcularISCDeElipses(vecindad(), copas, lado, superficie.lienzo);
+            };
+    }
+
+    [[nodiscard]] int factorDeRadios() const { return programa_.sesion.FactorRadios.valor(); }
 
     void faseAOI() {
         auto& r = resultados_;
@@ -394,14 +413,6 @@ private:
 
 void CorrerFasesDeVecindad(Programa& programa) {
     FasesDeVecindad{programa}.correr();
-}
-
-void RechazarVecindadPendiente(const OpcionesPrograma& opciones) {
-    if (opciones.ChSupCopa.Value() == 1 && !opciones.Optcirc.Value()) {
-        throw ErrorEjecucion{fallo::accionNoAdmitida,
-                             "La superposición de copas elípticas (ChSupCopa con OptElipse) todavía no se "
-                             "calcula en esta versión"};
-    }
 }
 
 } // namespace varo

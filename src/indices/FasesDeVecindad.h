@@ -5,13 +5,9 @@
 namespace varo {
 
 class Programa;
-class OpcionesPrograma;
 
 /// Computes, in that order, the families whose switches are on. A fault gets the family and the column in its
 /// place, and takes away the hourglass of the map. Meant: the hourglass stays when a family ends well.
 void CorrerFasesDeVecindad(Programa& programa);
-
-/// What cannot be computed yet is refused with a fault that names it.
-void RechazarVecindadPendiente(const OpcionesPrograma& opciones);
 
 } // namespace varo

@@ -87,7 +87,12 @@ def central(si, no):
 
 
 def isc(bil=1, uni=0):
-    return {"Optcirc": True, "ChSupCopa": 1, **lados("ISC", bil, uni)}
+    return {"Optcirc": True, **elipses(bil, uni)}
+
+
+def elipses(bil=1, uni=0):
+    """ISC with the crowns as they are when nobody asks for circles."""
+    return {"ChSupCopa": 1, **lados("ISC", bil, uni)}
 
 
 def aoi(lista, bil=1, uni=0, k=("1", "1")):
@@ -159,6 +164,47 @@ def de_isc():
         caso("isc_copa_vacia", cambiar(claro("isc_vacia", 5, 4), "S", {8: None}), isc()),
         caso("isc_un_arbol", [arbol(1, 3, 4, 50)], isc()),
         caso("isc_dos_arboles", [arbol(1, 3, 4, 50), arbol(2, 4, 6, 40)], isc(1, 1)),
+    ]
+
+
+def de_isc_de_elipses():
+    def con_copas(nombre, lugares, copas, tamanos=None, opciones=None, **otros):
+        """Radii N, E, S, W of the inner trees in metres; those of the ring are small."""
+        arboles = en_anillo(lugares, tamanos or [30 + i for i in range(len(lugares))])
+        for a, radios in zip(arboles, [(1, 1, 1, 1)] * 6 + copas):
+            a.update(zip("NESO", radios))
+        return caso(nombre, arboles, opciones or elipses(), copa_en="m", **otros)
+
+    redonda = (2, 2, 2, 2)
+    cuadro = [{**a, **dict(zip("NESO", radios))} for a, radios in
+              zip(cuadrado([(20, 20), (22, 21)], [30, 40]), [(1, 1, 1, 1)] * 4 + [(3, 2, 1, 2), redonda])]
+    pegado = [{**a, "X": 1.5} if i == 5 else a for i, a in enumerate(cuadro)]
+    return [
+        caso("isc_elipses_ambas", claro("isc_elipses", 10, 4), elipses(1, 1), copa_en="dm"),
+        caso("isc_elipses_2d_uni", claro("isc_elipses_2d", 10, 3), elipses(0, 1), tipo="2D", codigo=False),
+        caso("isc_elipses_sin_casillas", claro("isc_elipses_sin", 8, 4), elipses(0, 0)),
+        con_copas("isc_elipses_radios_cero", [SUJETO, (21, 21), (19, 20.5), (20.5, 18), (20, 20.25)],
+                  [(0, 2, 1, 1.5), (0, 0, 0, 0), (3, 0, 0, 3), (0, 0, 0, 1.75), redonda], opciones=elipses(1, 1)),
+        caso("isc_elipses_2d_cero", [{**a, "NS": 0} if i == 7 else {**a, "NS": 0, "EO": 0} if i == 8 else a
+                                     for i, a in enumerate(claro("isc_elipses_2d_cero", 6, 2))], elipses(1, 1),
+             tipo="2D"),
+        con_copas("isc_elipses_en_el_borde",
+                  [(4, 20), (5.5, 24), (24, 36), (33, 20), (36.5, 21), (20, 5.5), (20, 20), (12, 6)],
+                  [(1, 1, 1, 3), (2.5, 1, 1, 2.5), (2.25, 3, 1, 1), (1, 3.25, 1, 1), (1, 2, 1, 1), (1, 1, 3, 1),
+                   (9, 8, 9.5, 7), (0.5, 6, 0.25, 0.25)], opciones=elipses(1, 1)),
+        con_copas("isc_elipses_dentro_de_otra", [SUJETO, (21, 20.5), (20, 24), (24.5, 20)],
+                  [(0.5, 0.75, 1, 0.25), (5, 6, 5, 4), (1, 1, 1, 1), (1, 1, 1, 1)], [30, 90, 30, 45], elipses(1, 1)),
+        con_copas("isc_elipses_iguales_en_un_lugar", [SUJETO, SUJETO, (20, 23), (23, 20)],
+                  [(1.5, 2, 1.25, 1)] * 4, [30, 30, 20, 40], elipses(1, 1)),
+        con_copas("isc_elipses_tamanos_vacios", [SUJETO, (21, 21), (19, 20.5), (20.5, 18)],
+                  [(2, 1, 1.5, 2), redonda, (1, 2, 1, 2), redonda], [30, None, 0, 30], elipses(1, 1)),
+        caso("isc_elipses_utm", mover(claro("isc_elipses_utm", 9, 3), 452133.21, 4481207.05), elipses(1, 1)),
+        con_copas("isc_elipses_diminuta", [SUJETO, (21, 21)], [(0.03, 0.03, 0.03, 0.03), redonda]),
+        caso("isc_elipses_copa_vacia", cambiar(claro("isc_elipses_vacia", 5, 4), "S", {8: None}), elipses()),
+        caso("isc_elipses_lado_vertical", pegado, elipses(), copa_en="m"),
+        caso("isc_elipses_lado_vertical_lejos", cuadro, elipses(1, 1), copa_en="m"),
+        caso("isc_elipses_un_arbol", [arbol(1, 3, 4, 50)], elipses()),
+        caso("isc_elipses_dos_arboles", [arbol(1, 3, 4, 50), arbol(2, 4, 6, 40)], elipses(1, 1)),
     ]
 
 
@@ -320,9 +366,11 @@ def de_mezclas():
         caso("todas_rm_al_azar", bosque("todas_rm", 25, 45, 45), isc(1, 1) | aoi([AREA], 1, 1)
              | idp("BAF", "2", "6", "2", uni=1, no=1) | dr([HIP], "NumFijo", "1", "3", "1", uni=1) | apa("1", "1"),
              tipo="RM"),
+        caso("todas_4r_elipses", octavos, {control: valor for control, valor in todas.items() if control != "Optcirc"},
+             indices=["N"]),
         caso("todas_un_fallo", cambiar(octavos, "DAP", {9: "seco"}), todas),
     ]
 
 
 def casos_de_familias():
-    return [*de_isc(), *de_aoi(), *de_idp(), *de_dr(), *de_apa(), *de_mezclas()]
+    return [*de_isc(), *de_isc_de_elipses(), *de_aoi(), *de_idp(), *de_dr(), *de_apa(), *de_mezclas()]

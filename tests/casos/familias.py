@@ -1,4 +1,4 @@
-"""The five families of indices with parameters, for literal.py: ISC of circles, AOI, IDP, DR and APA.
+"""The five families of indices with parameters, for literal.py: ISC of circles and of ellipses, AOI, IDP, DR and APA.
 
 Each tree is taken against each other tree and each side of the plot, once more for every column; nothing that
 was worked out for one column is kept for the next.
@@ -8,6 +8,7 @@ from geometria import (altura_triangulo, angulo_direccion, area_interseccion_cir
 from numeros import PI, Fallo, a_numero, a_texto, dividir, entero16, exponencial, potencia, raiz, simple
 from parametros import (leer_aoi, leer_dist, limite_de_funcion, lista_aoi, lista_dist, lista_rich, sucesion,
                         valores)
+from superficie import AZUL, NEGRO, Superficie, muestras
 
 SIN_ARBOL, EN_VERTICE, DE_BORDE = -3.0, -1.0, -2.0
 
@@ -65,6 +66,14 @@ class Corrida:
             media = radios[0]
         return simple(media)
 
+    def cuatro_radios(self, i):
+        """North, east, south and west; of two diameters the halves."""
+        fila = self.p.rejilla[i]
+        if self.p.opciones["Opt4R"]:
+            return [a_numero(fila[c]) / self.factor_radios for c in self.p.copa]
+        norte_sur, este_oeste = (a_numero(fila[c]) / (2 * self.factor_radios) for c in self.p.copa)
+        return [norte_sur, este_oeste, norte_sur, este_oeste]
+
 
 def pasadas(p, familia):
     """Of each side pass, whether it leaves the smaller trees out."""
@@ -100,11 +109,12 @@ class Tabla:
 
 
 def isc(p):
-    if p.opciones["OptElipse"]:
-        raise SystemExit("la superposición de copas de elipse no se espera en un caso")
-    corrida, columnas = Corrida(p), []
+    corrida, columnas, superficie = Corrida(p), [], Superficie(p)
     for unilateral in pasadas(p, "ISC"):
-        columnas.append([isc_de(corrida, i, unilateral) for i in range(corrida.n)])
+        if p.opciones["OptElipse"]:
+            columnas.append([isc_de_elipse(corrida, superficie, i, unilateral) for i in range(corrida.n)])
+        else:
+            columnas.append([isc_de(corrida, i, unilateral) for i in range(corrida.n)])
     return columnas
 
 
@@ -126,6 +136,51 @@ def isc_de(corrida, i, unilateral):
         otro = corrida.radio_de_copa(j)
         suma = simple(suma + area_interseccion_circulos(*corrida.xy(i), *corrida.xy(j), r, otro))
     return dividir(suma, PI * r ** 2)
+
+
+def isc_de_elipse(corrida, superficie, i, unilateral):
+    superficie.cls()
+    if corrida.celda(i) == "":
+        return SIN_ARBOL
+    tamano = corrida.en_cm(i)
+    if corrida.es_vertice(i):
+        return EN_VERTICE
+    radios, (x, y) = corrida.cuatro_radios(i), corrida.xy(i)
+    for altura in corrida.alturas(i):
+        if altura < max(radios):
+            superficie.pintar(x, y, radios, NEGRO)
+            for px, py in muestras(x, y, radios, 0.5):
+                if not punto_en_poligono(corrida.p.poligono, px, py):
+                    return DE_BORDE
+    superficie.pintar(x, y, radios, NEGRO)
+    a = cuenta_de_negros(superficie, x, y, radios)
+    suma = 0
+    for j in corrida.vecinos(i):
+        if unilateral and corrida.en_cm(j) < tamano:
+            continue
+        otros, (xj, yj) = corrida.cuatro_radios(j), corrida.xy(j)
+        if cajas_cruzadas(x, y, radios, xj, yj, otros):
+            superficie.pintar(x, y, radios, NEGRO)
+            superficie.pintar(xj, yj, otros, AZUL)
+            suma = suma + (a - cuenta_de_negros(superficie, x, y, radios))
+    return dividir(suma, a)
+
+
+def cuenta_de_negros(superficie, x, y, radios):
+    return sum(superficie.point(px, py) == NEGRO for px, py in muestras(x, y, radios, 0.1))
+
+
+def cajas_cruzadas(xi, yi, radios_i, xj, yj, radios_j):
+    """The facing sides alone, by where j lies; on one x or one y it counts as to the left and above."""
+    n, e, s, w = radios_i
+    nj, ej, sj, wj = radios_j
+    if xi < xj and yi > yj:
+        return xi + e > xj - wj and yi - s < yj + nj
+    if xi < xj and yi < yj:
+        return xi + e > xj - wj and yi + n > yj - sj
+    if xi > xj and yi > yj:
+        return xi - w < xj + ej and yi - s < yj + nj
+    return xi - w < xj + ej and yi + n > yj - sj
 
 
 def cabeceras_isc(p):

@@ -8,7 +8,7 @@ with the number of the run-time fault that ends the run and what it is. It share
 every step is written out in the plainest way, however slow, so that a difference is worth a look.
 
 numeros.py holds the numbers and texts, geometria.py, parametros.py and familias.py the families of indices with
-parameters. Crowns of ellipse in ISC are left out. Needs python 3.11 and xlrd.
+parameters, superficie.py the surface on which crowns of ellipse are sampled. Needs python 3.11 and xlrd.
 """
 import math
 import re

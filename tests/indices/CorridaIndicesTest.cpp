@@ -188,13 +188,6 @@ TEST(CorridaIndices, CambiarElCodigoTrasDibujarLeeLaColumnaVecinaDelContorno) {
     EXPECT_NE(corrida.servicios.fallos().back().lugar().find("ABha"), std::string::npos);
 }
 
-TEST(CorridaIndices, LasCopasElipticasSeRechazanConPalabras) {
-    Corrida corrida{{"ChSupCopa"}};
-    corrida.servicios.esperarFallo(445);
-    corrida.correr();
-    EXPECT_NE(corrida.servicios.fallos().back().descripcion().find("ChSupCopa"), std::string::npos);
-}
-
 TEST(ColumnasIndependientes, ElArchivoPoneLosDominantesAntesQueElMayor) {
     std::vector<std::string> encabezados;
     encabezados.reserve(columnasIndependientes.size());

@@ -277,6 +277,38 @@ TEST(FasesDeVecindad, ElISCLlevaCuatroDecimales) {
     EXPECT_NE(corrida.guardar().find("\r5\t5\t0,0000\r"), std::string::npos);
 }
 
+TEST(FasesDeVecindad, LasCopasDeElipseSePintanEnLaSegundaSuperficie) {
+    Corrida corrida;
+    auto& rejilla = corrida.programa.tocar<Hojadedatos>().MSFlexGrid1;
+    rejilla.TextMatrix(1, 4, "200"); // dm to the north
+    rejilla.TextMatrix(1, 5, "200"); // and to the east: the crown of the corner covers that of the middle
+    corrida.opciones().ChSupCopa.Value = 1;
+    corrida.opciones().ChISCUni.Value = 1;
+    int avisos = 0;
+    corrida.programa.tocar<FrmMapa2>().observar([&avisos] { ++avisos; });
+    corrida.correr();
+    EXPECT_EQ(avisos, 2) << "uno por columna";
+    EXPECT_EQ(corrida.resultados().IndISC(0, 4), 1);
+    EXPECT_EQ(corrida.resultados().IndISC(1, 4), 1);
+    EXPECT_EQ(corrida.resultados().IndISC(0, 0), -1);
+    auto& superficie = corrida.programa.tocar<FrmMapa2>().lienzo;
+    const Copa laDelMedio{4, 6, 1, 1, 1, 1};
+    const Copa laDeLaEsquina{0, 0, 20, 20, 1, 1};
+    EXPECT_EQ(superficie.figuras(), (std::vector<Figura>{CopaLlena{laDelMedio, 0}, CopaLlena{laDelMedio, 0},
+                                                         CopaLlena{laDeLaEsquina, 0x00FF0000}}));
+    EXPECT_EQ(superficie.Point(4, 6), 0x00FF0000);
+}
+
+TEST(FasesDeVecindad, LasMuestrasFueraDelMapaNoCuentan) {
+    Corrida corrida;
+    corrida.programa.tocar<FrmMapa2>().lienzo.escala({100, 110, 100, 110});
+    corrida.opciones().ChSupCopa.Value = 1;
+    corrida.servicios.esperarFallo(11);
+    corrida.correr();
+    EXPECT_EQ(corrida.servicios.fallos().back().lugar(),
+              "familia ISC, columna ISC(Bil.), fila 6 de «Parcela1$», árbol 5");
+}
+
 TEST(FasesDeVecindad, TrasElAPAQuedaElCentroDelUltimoCirculo) {
     auto filas = CuadradoConCentro();
     const std::vector<std::pair<double, double>> sitios{{0, 0}, {2, 1}, {-1, 2}, {-2, -1}, {1, -2}};

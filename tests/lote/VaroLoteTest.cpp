@@ -57,7 +57,6 @@ TEST(VaroLote, CadaFinTieneSuEstadoYUnaSolaLinea) {
         {{"--trabajos", "0", Escribir(parcela, "a")}, 2},
         {{parcela.escribir("roto.toml", "archivo = ").string()}, 2},
         {{Escribir(parcela, "clave", ConOpciones("ChX = 1\n"))}, 2},
-        {{Escribir(parcela, "familia", ConOpciones("ChSupCopa = 1\n"))}, 2},
         {{Escribir(lineal, "fallo", ConOpciones("ChN = 1\n"))}, 3},
         {{parcela.ruta("no_esta.toml").string()}, 4},
         {{Escribir(parcela, "sin_parcela", sinParcela)}, 4},

@@ -2,6 +2,7 @@
 
 #include "basico/EnLugar.h"
 #include "basico/Saltando.h"
+#include "indices/vecinos/LadoVertical.h"
 
 #include <algorithm>
 #include <cassert>
@@ -69,16 +70,11 @@ void TrazarHastaElContorno(const ContornoXY& contorno, const PuntoAPA& dentro, c
 std::vector<bool> Dentro(std::span<const PuntoAPA> vertices, const ContornoXY& contorno) {
     std::vector<bool> dentro;
     dentro.reserve(vertices.size());
-    Porque(
-        fallo::divisionPorCero,
-        [] {
-            return "un lado del contorno es vertical: dos árboles seguidos del contorno tienen la misma X";
-        },
-        [&] {
-            for (const auto& [x, y] : vertices) {
-                dentro.push_back(PuntoEnPoligono(contorno, x, y));
-            }
-        });
+    ExplicandoElLadoVertical([&] {
+        for (const auto& [x, y] : vertices) {
+            dentro.push_back(PuntoEnPoligono(contorno, x, y));
+        }
+    });
     return dentro;
 }
 

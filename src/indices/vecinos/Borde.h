@@ -21,6 +21,10 @@ public:
     [[nodiscard]] bool algunaAlturaMenor(std::size_t i, double limite);
     /// The same with equality.
     [[nodiscard]] bool algunaAlturaMenorOIgual(std::size_t i, double limite);
+    /// Throws where the height of tree i over some side cannot be computed.
+    void exigirAlturas(std::size_t i) { exigirSinFallo(i, alturas(i)); }
+
+    [[nodiscard]] const ContornoXY& contorno() const { return contorno_; }
 
 private:
     static constexpr std::size_t ninguno = std::numeric_limits<std::size_t>::max();

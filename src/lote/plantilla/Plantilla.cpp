@@ -184,7 +184,7 @@ private:
         "# Índices de competencia entre vecinos: un renglón sin su # entra en el trabajo. Cada tres TxtBAF "
         "son",
         "# el primer valor, el último y el paso de un barrido; con un solo valor, el paso es 1.",
-        "# ChSupCopa = 1           # ISC, superposición de copas; con Optcirc en vez de OptElipse",
+        "# ChSupCopa = 1           # ISC, superposición de copas",
         "# ChAOIActivar = 1        # AOI, superposición de áreas de influencia",
         "# \"TxtBAF1(6)\" = 1.0      # exponente k",
         "# \"TxtBAF2(6)\" = 1.0",

@@ -78,7 +78,7 @@ public:
         return columna([&](std::size_t i) { return dr(i, regla, lado, entrada, k); });
     }
 
-private:
+protected:
     enum class Juicio { Rechazado, Borde, Aceptado };
 
     Columna columna(const std::function<double(std::size_t)>& indice) {

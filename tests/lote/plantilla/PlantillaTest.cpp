@@ -80,8 +80,7 @@ std::string ConLasFamilias(std::string plantilla) {
             plantilla.erase(lugar + 1, 2);
         }
     }
-    const std::string elipse = "OptElipse = true";
-    return plantilla.replace(plantilla.find(elipse), elipse.size(), "Optcirc = true");
+    return plantilla;
 }
 
 TEST(Plantilla, DiceLaRutaEnteraDeLaParcela) {

@@ -100,6 +100,30 @@ TEST(Lugares, LasFamiliasDeVecinosDicenLaFilaDeLaCelda) {
         "columna «CAP»)");
 }
 
+TEST(Lugares, ElISCDeElipsesDiceElArbolYLaCausa) {
+    const std::string elipses = "ChSupCopa = 1\nChISCBil = 1\n";
+    const std::string principio = "cálculo de los índices: Error 11: División por cero: ";
+    const std::string lugar = " (familia ISC, columna ISC(Bil.), fila 4 de «Parcela1$», árbol 5)";
+    // The crown of 10 m reaches the square, whose sides are upright.
+    EXPECT_EQ(ErrorCon(CuadradoBarajado(), elipses),
+              principio +
+                  "un lado del contorno es vertical: dos árboles seguidos del contorno tienen la misma X" +
+                  lugar);
+    auto filas = CuadradoBarajado();
+    for (std::size_t radio = columnaRN; radio < columnaRN + 4; ++radio) {
+        filas[3][radio] = 0.03;
+        filas[10][radio] = 1.0;
+    }
+    EXPECT_EQ(ErrorCon(filas, elipses), principio +
+                                            "ninguna de las muestras, una cada 0,1 m, cae en la copa: revise "
+                                            "sus radios y la unidad en que están" +
+                                            lugar);
+    filas[3][columnaRN] = {}; // 0 on the map
+    EXPECT_EQ(ErrorCon(filas, elipses), "cálculo de los índices: Error 13: No coinciden los tipos: no hay "
+                                        "nada donde se espera un número (familia ISC, "
+                                        "columna ISC(Bil.), fila 4 de «Parcela1$», árbol 5, columna «RN»)");
+}
+
 TEST(Lugares, UnFalloEntreDosArbolesNombraALosDos) {
     auto filas = CuadradoBarajado();
     filas[10][1] = 4.0; // both in one place

@@ -103,24 +103,17 @@ TEST(Recorrido, CadaEtapaSeAnuncia) {
 
 TEST(Recorrido, LoQueTodaviaNoSeHaceSeRechazaAntesDeAbrirNada) {
     const ParcelaDePrueba parcela;
-    const auto rechazo = [&](const std::string& opciones, const std::string& salida) {
+    const auto rechazo = [&](const std::string& salida) {
         TextoDeTrabajo texto;
         texto.parcela = "archivo = 'no_esta.xls'\nhoja = 'H'\n";
-        texto.opciones = opciones;
         texto.salida = salida;
         const auto fin = Correr(parcela, texto);
         EXPECT_EQ(fin.estado, Estado::Rechazado);
         return fin.error;
     };
-    for (const std::string encendida : {"1", "true"}) {
-        EXPECT_EQ(rechazo("ChSupCopa = " + encendida + "\n", ""),
-                  ErrorDeClave(parcela,
-                               "línea 14: opciones.ChSupCopa: todavía no se calcula la superposición "
-                               "de copas elípticas"));
-    }
-    EXPECT_EQ(rechazo("", "datos = 'd.txt'\n"),
+    EXPECT_EQ(rechazo("datos = 'd.txt'\n"),
               ErrorDeClave(parcela, "línea 15: salida.datos: todavía no se puede pedir"));
-    EXPECT_EQ(rechazo("", "mapa = 'm.svg'\n"),
+    EXPECT_EQ(rechazo("mapa = 'm.svg'\n"),
               ErrorDeClave(parcela, "línea 15: salida.mapa: todavía no se puede pedir"));
 }
 
