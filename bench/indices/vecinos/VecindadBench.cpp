@@ -4,9 +4,10 @@
 #include "indices/vecinos/DR.h"
 #include "indices/vecinos/IDP.h"
 #include "indices/vecinos/ISC.h"
+#include "indices/vecinos/ISCDeElipses.h"
 
 #include "basico/Numeros.h"
-#include "indices/vecinos/VecindadLiteral.h"
+#include "indices/vecinos/ElipsesLiteral.h"
 #include "plot/calculo/Envolvente.h"
 
 #include <benchmark/benchmark.h>
@@ -47,6 +48,21 @@ struct Parcela {
         arboles.emplace(ArbolesDe(celdas));
     }
     [[nodiscard]] ContornoXY contorno() const { return celdas.contorno(); }
+    /// The same trees, their crowns of four radii about this one (m).
+    [[nodiscard]] Parcela conElipses(double radio) const {
+        Parcela elipses = *this;
+        std::mt19937 azar{2};
+        std::uniform_real_distribution<double> radios{radio * 0.9, radio * 1.1};
+        elipses.celdas.datosDeCopa = DatosDeCopa::CuatroRadios;
+        elipses.celdas.copa.assign(4, {});
+        for (auto& medida : elipses.celdas.copa) {
+            for (std::size_t i = 0; i < celdas.x.size(); ++i) {
+                medida.push_back(Formato(radios(azar), "##0.00"));
+            }
+        }
+        elipses.arboles.emplace(ArbolesDe(elipses.celdas));
+        return elipses;
+    }
 
     prueba::ParcelaLiteral celdas;
     std::optional<Arboles> arboles;
@@ -68,6 +84,16 @@ void ISC(benchmark::State& estado) {
         Vecindad vecindad{*parcela.arboles, parcela.contorno()};
         const RadiosDeCopa radios{*parcela.arboles, DatosDeCopa::RadioMedio, 1};
         benchmark::DoNotOptimize(CalcularISC(vecindad, radios, Lado::Bilateral));
+    }
+}
+
+void ISCDeElipses(benchmark::State& estado, double radio) {
+    const Parcela parcela = Parcela{estado.range(0)}.conElipses(radio);
+    for (auto _ : estado) {
+        Vecindad vecindad{*parcela.arboles, parcela.contorno()};
+        const CopasDeArboles copas{*parcela.arboles, DatosDeCopa::CuatroRadios, 1};
+        Lienzo superficie;
+        benchmark::DoNotOptimize(CalcularISCDeElipses(vecindad, copas, Lado::Bilateral, superficie));
     }
 }
 
@@ -109,6 +135,13 @@ void ISCLiteral(benchmark::State& estado) {
     }
 }
 
+void ISCDeElipsesLiteral(benchmark::State& estado, double radio) {
+    const Parcela parcela = Parcela{estado.range(0)}.conElipses(radio);
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(prueba::ElipsesLiteral{parcela.celdas, {}}.ISC(Lado::Bilateral));
+    }
+}
+
 void AOILiteral(benchmark::State& estado) {
     const Parcela parcela{estado.range(0)};
     for (auto _ : estado) {
@@ -144,6 +177,7 @@ void TamanosLiterales(benchmark::internal::Benchmark* medida) {
 
 BENCHMARK(Reconocer)->Apply(Tamanos);
 BENCHMARK(ISC)->Apply(Tamanos);
+BENCHMARK_CAPTURE(ISCDeElipses, cuatro_metros, 4)->Apply(Tamanos);
 BENCHMARK(AOI)->Apply(Tamanos);
 BENCHMARK_CAPTURE(IDP, diez_metros, ReglaDeSeleccion::Distancia, 10)->Apply(Tamanos);
 BENCHMARK_CAPTURE(IDP, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(Tamanos);
@@ -153,6 +187,7 @@ BENCHMARK_CAPTURE(DR, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(Tamanos);
 BENCHMARK_CAPTURE(DR, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(Tamanos);
 
 BENCHMARK(ISCLiteral)->Apply(TamanosLiterales);
+BENCHMARK_CAPTURE(ISCDeElipsesLiteral, cuatro_metros, 4)->Arg(200)->Unit(benchmark::kMillisecond);
 BENCHMARK(AOILiteral)->Apply(TamanosLiterales);
 BENCHMARK_CAPTURE(IDPLiteral, diez_metros, ReglaDeSeleccion::Distancia, 10)->Apply(TamanosLiterales);
 BENCHMARK_CAPTURE(IDPLiteral, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(TamanosLiterales);
