@@ -44,7 +44,8 @@ void Terminar(Final& final, const std::filesystem::path& trabajo, Acto&& acto) {
 
 class Lote {
 public:
-    Lote(const Ordenes& ordenes, const Consola& consola) : ordenes_{ordenes}, consola_{consola} {}
+    Lote(const Ordenes& ordenes, const Consola& consola, PintorDeMapas* pintor)
+        : ordenes_{ordenes}, consola_{consola}, pintor_{pintor} {}
 
     Estado correr() {
         leer();
@@ -101,7 +102,7 @@ private:
             seguimiento.etapa = [this](const std::string& etapa) { decir(etapa); };
         }
         Terminar(final, trabajo.ruta, [&] {
-            const Informe informe = CorrerTrabajo(trabajo, seguimiento);
+            const Informe informe = CorrerTrabajo(trabajo, seguimiento, pintor_);
             final.resumen = LineaDeAviso(trabajo.ruta, {}, informe.texto(trabajo));
         });
         return final;
@@ -131,11 +132,12 @@ private:
 
     const Ordenes& ordenes_;
     const Consola& consola_;
+    PintorDeMapas* pintor_;
     std::mutex consolaLibre_;
     std::vector<TrabajoLeido> leidos_;
 };
 
-Estado Ejecutar(const Ordenes& ordenes, const Consola& consola) {
+Estado Ejecutar(const Ordenes& ordenes, const Consola& consola, PintorDeMapas* pintor) {
     if (ordenes.texto) {
         consola.salida << *ordenes.texto;
     } else if (ordenes.tablas) {
@@ -143,16 +145,17 @@ Estado Ejecutar(const Ordenes& ordenes, const Consola& consola) {
     } else if (ordenes.plantilla) {
         consola.salida << PlantillaDeTrabajo(*ordenes.plantilla);
     } else {
-        return Lote{ordenes, consola}.correr();
+        return Lote{ordenes, consola, pintor}.correr();
     }
     return Estado::Hecho;
 }
 
 } // namespace
 
-Estado EjecutarLote(const std::vector<std::string>& argumentos, const Consola& consola) {
+Estado EjecutarLote(const std::vector<std::string>& argumentos, const Consola& consola,
+                    PintorDeMapas* pintor) {
     try {
-        const Estado estado = Ejecutar(LeerOrdenes(argumentos), consola);
+        const Estado estado = Ejecutar(LeerOrdenes(argumentos), consola, pintor);
         if (!consola.salida.flush()) {
             consola.errores << "varo-lote: no se puede escribir en la salida\n";
             return estado == Estado::Hecho ? Estado::ErrorDeArchivo : estado;

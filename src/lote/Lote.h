@@ -1,6 +1,7 @@
 // The command varo-lote: jobs in the order of the command line, several at once when asked.
 #pragma once
 
+#include "lote/recorrido/PintorDeMapas.h"
 #include "lote/trabajo/ErrorTrabajo.h"
 
 #include <iosfwd>
@@ -16,7 +17,9 @@ struct Consola {
     bool conAvance = false; ///< tells on `errores` how far the jobs are
 };
 
-/// Runs the command with these arguments, without the program's name.
-Estado EjecutarLote(const std::vector<std::string>& argumentos, const Consola& consola);
+/// Runs the command with these arguments, without the program's name. Pictures of maps are made by `pintor`;
+/// without one the jobs that ask for them are refused.
+Estado EjecutarLote(const std::vector<std::string>& argumentos, const Consola& consola,
+                    PintorDeMapas* pintor = nullptr);
 
 } // namespace varo

@@ -85,8 +85,8 @@ void FrmMapa::empezar(const Escala& escala) {
     lienzo.escala(escala);
     arboles.clear();
     aviso.clear();
-    LbLeyenda.quitarDesde(1);
     Lbcodigo.quitarDesde(1);
+    LbLeyenda.quitarDesde(1);
     for (Etiqueta* const etiqueta : {&LbTitulo, &LbLeyenda(0), &Lbcodigo(0)}) {
         Disenar(*etiqueta);
         etiqueta->ajustar();

@@ -15,10 +15,11 @@ namespace fs = std::filesystem;
 constexpr const char* archivoDeIndices = "esperado-indices.txt";
 constexpr const char* archivoDeFallo = "esperado-fallo.txt";
 constexpr const char* archivoDeDatos = "esperado-datos.txt";
+constexpr const char* archivoDeMapa = "esperado-mapa.txt";
 
 std::set<std::string> ArchivosDe(const fs::path& carpeta) {
-    static const std::set<std::string> conocidos{"parcela.xls", "trabajo.toml", archivoDeIndices,
-                                                 archivoDeFallo, archivoDeDatos};
+    static const std::set<std::string> conocidos{"parcela.xls",  "trabajo.toml", archivoDeIndices,
+                                                 archivoDeFallo, archivoDeDatos, archivoDeMapa};
     std::set<std::string> archivos;
     for (const auto& entrada : fs::directory_iterator{carpeta}) {
         const auto nombre = entrada.path().filename().string();
@@ -74,6 +75,9 @@ Caso LeerCaso(const fs::path& carpeta) {
         caso.fallo = NumeroDelFallo(LeerArchivo(carpeta / archivoDeFallo));
     } else {
         caso.indices = LeerArchivo(carpeta / archivoDeIndices);
+    }
+    if (archivos.contains(archivoDeMapa)) {
+        caso.mapa = LeerArchivo(carpeta / archivoDeMapa);
     }
     return caso;
 }

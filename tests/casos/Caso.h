@@ -10,9 +10,10 @@ namespace varo::prueba {
 
 struct Caso {
     std::filesystem::path carpeta;
-    std::string indices;      ///< the bytes of the results file, empty when a fault ends the run
-    std::optional<int> fallo; ///< the fault that leaves no results file
-    bool conDatos = false;    ///< it expects the plot data too
+    std::string indices;               ///< the bytes of the results file, empty when a fault ends the run
+    std::optional<int> fallo;          ///< the fault that leaves no results file
+    bool conDatos = false;             ///< it expects the plot data too
+    std::optional<std::string> mapa{}; ///< the text of the map, where it is expected
 
     [[nodiscard]] std::filesystem::path trabajo() const { return carpeta / "trabajo.toml"; }
 };

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -68,12 +69,27 @@ void CompararBytes(const fs::path& resultados, const std::string& esperado) {
     }
 }
 
+/// The maps shape by shape, and then byte by byte.
+void CompararLineas(const std::string& obtenido, const std::string& esperado) {
+    const auto lineas = [](const std::string& texto) {
+        std::vector<std::string> partes;
+        std::istringstream entrada{texto};
+        for (std::string linea; std::getline(entrada, linea);) {
+            partes.push_back(linea);
+        }
+        return partes;
+    };
+    EXPECT_EQ(lineas(obtenido), lineas(esperado));
+    EXPECT_EQ(obtenido, esperado);
+}
+
 /// Runs the job, with its results in a folder of the test.
 void CorrerCaso(const Caso& caso) {
     const CarpetaTemporal carpeta;
     Trabajo trabajo = LeerTrabajo(caso.trabajo(), {.archivo = {}, .hoja = {}, .salida = carpeta.ruta()});
     ASSERT_TRUE(trabajo.resultados) << "el trabajo no pide el archivo de resultados";
     ASSERT_EQ(trabajo.datos.has_value(), caso.conDatos) << "el trabajo pide los datos o el caso los espera";
+    ASSERT_NE(trabajo.mapas.empty(), caso.mapa.has_value()) << "el trabajo pide el mapa o el caso lo espera";
     trabajo.datos.reset(); // still to come
     try {
         CorrerTrabajo(trabajo);
@@ -88,6 +104,9 @@ void CorrerCaso(const Caso& caso) {
         return;
     }
     CompararBytes(trabajo.resultados->ruta, caso.indices);
+    if (caso.mapa) {
+        CompararLineas(LeerArchivo(carpeta / "mapa.txt"), *caso.mapa);
+    }
 }
 
 fs::path CasosPropios() {
@@ -95,7 +114,7 @@ fs::path CasosPropios() {
 }
 
 /// Raise it with each new plot: a folder for which ctest has no test yet shows here.
-constexpr std::size_t cuantosCasos = 211;
+constexpr std::size_t cuantosCasos = 216;
 
 TEST(ListaDeCasos, EstanTodos) {
     EXPECT_EQ(NombresDeCasos(CasosPropios()).size(), cuantosCasos);

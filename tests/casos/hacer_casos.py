@@ -15,6 +15,7 @@ import xlwt
 
 sys.dont_write_bytecode = True
 import literal
+import mapa
 from casos_de_familias import casos_de_familias
 from parcelas import (COPA, COPA_EN, NOMBRES, SIN_DOMINANTES, UNIDADES, Caso, arbol, bosque, cambiar, en_lugares,
                       en_marco, en_orden)
@@ -165,6 +166,32 @@ def de_casillas():
     ]
 
 
+def de_mapas():
+    rubios = {"texto": "Pinus sylvestris", "linea": "#1B7837", "fondo": "#D9F0D3",
+              "fuente": {"nombre": "Arial", "tamano": 10, "cursiva": True}}
+    con_ceros = cambiar(bosque("mapa_elipses", 9, 40, 25), "S", {2: 0, 5: 0})
+    con_ceros = cambiar(con_ceros, "N", {2: 3, 5: 0, 7: None})
+    con_ceros = cambiar(cambiar(con_ceros, "E", {2: 2, 5: 0}), "O", {2: 1, 5: 0})
+    barajados = en_orden(cambiar(bosque("mapa_codigos", 10, 18, 30), "Codigo",
+                                 {0: "Especie", 3: None, 6: 12, 8: "12,5"}), [7, 2, 9, 0, 5, 1, 8, 3, 6, 4])
+    sueltas = [arbol(None, None, None, None, None, Nota="sin medir"), arbol(30, None, None, 44)]
+    return [
+        Caso("mapa_4r_elipses", en_marco([50, 60, 70, 80], 40, 25) + con_ceros[4:] + con_ceros[:3], [],
+             formato={"titulo": " Parcela nº 12,\tladera norte ", "color": "#0A141E",
+                      "fuente": {"nombre": "Arial", "tamano": 14, "negrita": True},
+                      "codigos": {"PS": rubios, "QI": {"texto": "Quercus ilex"}, "FS": {"linea": "#A6761D"}}}),
+        Caso("mapa_2d_sin_contorno", bosque("mapa_2d", 8, 20, 20), [], tipo="2D", copa_en="cm",
+             opciones={"ChPolExt": 0},
+             formato={"codigos": {"FS": {"fondo": "#FFFFFF", "texto": "haya"}}}),
+        Caso("mapa_rm_circulos", bosque("mapa_rm", 9, 35, 20), [], tipo="RM", copa_en="m", formato={}),
+        Caso("mapa_4r_circulos_utm", bosque("mapa_utm", 9, 25, 45, origen=(450123.45, 4600678.9)), [],
+             codigo=False, opciones={"Optcirc": True}, formato={"titulo": ""}),
+        Caso("mapa_codigo_ajeno", barajados[:3] + [{}, {}] + barajados[3:6] + sueltas + barajados[6:] + [{}], [],
+             opciones={"Optcirc": True},
+             formato={"codigos": {"PS": {"fondo": "#F0E442", "texto": "pino"}, "12": {"linea": "#CC79A7"}}}),
+    ]
+
+
 # ------------------------------------------------------------------------------------------------------ files
 
 def columnas_de(caso):
@@ -210,11 +237,21 @@ def toml(valor):
         return "[ " + ", ".join(map(toml, valor)) + " ]"
     if isinstance(valor, dict):
         return "{ " + ", ".join(f"{nombre} = {toml(v)}" for nombre, v in valor.items()) + " }"
-    return f'"{valor}"' if isinstance(valor, str) else str(valor).lower()
+    return '"' + valor.replace("\t", "\\t") + '"' if isinstance(valor, str) else str(valor).lower()
 
 
 def clave(nombre):
     return f'"{nombre}"' if "(" in nombre else nombre
+
+
+def formato_de(caso):
+    if not caso.formato:
+        return []
+    codigos = caso.formato.get("codigos", {})
+    lineas = ["", "[formato]", *(f"{k} = {toml(v)}" for k, v in caso.formato.items() if k != "codigos")]
+    for codigo, valores in codigos.items():
+        lineas += [f"[formato.codigos.{codigo}]", *(f"{k} = {toml(v)}" for k, v in valores.items())]
+    return lineas
 
 
 def trabajo_de(caso):
@@ -231,7 +268,8 @@ def trabajo_de(caso):
     if caso.sin_dap == "cero":
         lineas.append("DAP = 0")
     lineas += ["", "[opciones]", *(f"{clave(nombre)} = {toml(valor)}" for nombre, valor in opciones.items())]
-    return "\n".join([*lineas, "", "[salida]", 'resultados = "indices.txt"', ""])
+    lineas += [*formato_de(caso), "", "[salida]", 'resultados = "indices.txt"']
+    return "\n".join([*lineas, *['mapa = "mapa.txt"'] * (caso.formato is not None), ""])
 
 
 def hacer(caso, carpeta):
@@ -243,12 +281,15 @@ def hacer(caso, carpeta):
     (carpeta / "trabajo.toml").write_text(trabajo, "utf-8")
     nombre, contenido = literal.responder(str(carpeta / "parcela.xls"), tomllib.loads(trabajo))
     (carpeta / nombre).write_bytes(contenido)
+    if caso.formato is not None:
+        mapa_esperado = mapa.responder(str(carpeta / "parcela.xls"), tomllib.loads(trabajo))
+        (carpeta / "esperado-mapa.txt").write_bytes(mapa_esperado)
 
 
 def main():
     raiz = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).parent)
     familias = (de_tipos_y_unidades, de_codigos_e_indices, de_tamanos, de_filas, de_cabeceras, de_contorno,
-                de_casillas, casos_de_familias)
+                de_casillas, de_mapas, casos_de_familias)
     for caso in (caso for familia in familias for caso in familia()):
         hacer(caso, raiz / caso.nombre)
 

@@ -8,6 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <variant>
+#include <vector>
+
 namespace varo::prueba {
 namespace {
 
@@ -325,6 +331,67 @@ TEST(FasesDeVecindad, TrasElAPAQuedaElCentroDelUltimoCirculo) {
     constexpr double redondeo = 1E-14; // m
     EXPECT_NEAR(corrida.programa.sesion.CentroCircX, -0.5, redondeo);
     EXPECT_NEAR(corrida.programa.sesion.CentroCircY, -1.5, redondeo);
+}
+
+/// The lines on the second surface behind its frame.
+std::vector<Linea> LineasDeCeldas(const FrmMapa2& superficie) {
+    std::vector<Linea> lineas;
+    for (const Figura& figura : superficie.lienzo.figuras()) {
+        lineas.push_back(std::get<Linea>(figura));
+    }
+    constexpr std::ptrdiff_t delMarco = 4;
+    lineas.erase(lineas.begin(), lineas.begin() + delMarco);
+    return lineas;
+}
+
+TEST(FasesDeVecindad, ElAPADibujaSusCeldasEnLaSegundaSuperficieYLaEnsena) {
+    auto filas = CuadradoConCentro();
+    filas[2][1] = 1.0; // (1, 10), (11, 11) and (10, 1): no side is upright
+    filas[3][1] = 11.0;
+    filas[3][2] = 11.0;
+    filas[4][2] = 1.0;
+    Corrida corrida{filas};
+    corrida.pedirIDP();
+    corrida.correr();
+    auto& superficie = corrida.programa.tocar<FrmMapa2>();
+    EXPECT_FALSE(superficie.Visible());
+    EXPECT_TRUE(LineasDeCeldas(superficie).empty());
+
+    corrida.opciones().ChAPA.Value = 1;
+    corrida.barrer(8, "0", "0", "0");
+    corrida.correr();
+    EXPECT_TRUE(superficie.Visible());
+    // The corners of the cell of the tree at (4, 6) are the centres of the circles through it and two
+    // vertices: C (9,192, 6,131) and D (4,946, 1,036) inside, A (-1,265, 5,176) and B (5,988, 10,616)
+    // outside. So CD is drawn whole, DA to the left side, where x = y / 10, CB to the upper one, and AB not
+    // at all.
+    const auto lineas = LineasDeCeldas(superficie);
+    ASSERT_EQ(lineas.size(), 3U + 4U) << "tres trazos de la celda y cuatro lados de la parcela";
+    const auto hay = [&](double x1, double y1, double x2, double y2) {
+        constexpr double redondeo = 1E-9; // m
+        const auto cerca = [&](double a, double b, double c, double d) {
+            return std::abs(a - x1) + std::abs(b - y1) + std::abs(c - x2) + std::abs(d - y2) < redondeo;
+        };
+        return std::any_of(lineas.begin(), lineas.end(), [&](const Linea& l) {
+            return cerca(l.x1, l.y1, l.x2, l.y2) || cerca(l.x2, l.y2, l.x1, l.y1);
+        });
+    };
+    constexpr double cx = 239.0 / 26;
+    constexpr double cy = 797.0 / 130;
+    constexpr double dx = 277.0 / 56;
+    constexpr double dy = 29.0 / 28;
+    EXPECT_TRUE(hay(cx, cy, dx, dy));
+    EXPECT_TRUE(hay(dx, dy, 0.40625, 4.0625));
+    EXPECT_TRUE(hay(cx, cy, 9.1 / 1.5, 19 - 1.4 * 9.1 / 1.5));
+    EXPECT_TRUE(hay(0, 0, 1, 10));
+    for (const Linea& linea : lineas) {
+        EXPECT_EQ(linea.color, 0);
+    }
+
+    corrida.usuario.cerrar(superficie);
+    corrida.correr();
+    EXPECT_TRUE(superficie.Visible()) << "otra corrida la vuelve a enseñar";
+    EXPECT_EQ(LineasDeCeldas(superficie).size(), 14U) << "lo dibujado queda hasta el dibujo siguiente";
 }
 
 TEST(FasesDeVecindad, UnaRejillaConSoloCabeceraDaLaCabeceraYNingunaFila) {

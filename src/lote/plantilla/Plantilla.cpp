@@ -1,7 +1,9 @@
 #include "lote/plantilla/Plantilla.h"
 
 #include "indices/ResultadosIndices.h"
+#include "lote/plantilla/CodigosDeTabla.h"
 #include "lote/plantilla/Propuesta.h"
+#include "map/FrmFormato.h"
 #include "motor/BaseDatos.h"
 
 #include <algorithm>
@@ -30,6 +32,31 @@ std::string EntreComillas(std::string_view texto) {
         }
     }
     return escrito + "\"";
+}
+
+/// A key of TOML: bare where it may be.
+std::string Clave(const std::string& texto) {
+    const bool suelta = !texto.empty() && std::ranges::all_of(texto, [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
+               c == '-';
+    });
+    return suelta ? texto : EntreComillas(texto);
+}
+
+/// "#RRGGBB"
+std::string ColorEscrito(Color color) {
+    static constexpr std::string_view cifras = "0123456789ABCDEF";
+    auto resto = static_cast<unsigned>(color);
+    std::string escrito = "#";
+    for (int byte = 0; byte < 3; ++byte, resto >>= 8U) {
+        escrito += cifras[(resto >> 4U) & 0xFU];
+        escrito += cifras[resto & 0xFU];
+    }
+    return escrito;
+}
+
+std::string SinDolar(const std::string& tabla) {
+    return tabla.ends_with('$') ? tabla.substr(0, tabla.size() - 1) : tabla;
 }
 
 struct PapelExplicado {
@@ -91,8 +118,11 @@ public:
         descripcion();
         indices();
         familias();
+        formato();
         linea("[salida]");
         linea("resultados = \"indices.txt\"   # junto a este archivo, o en la carpeta de --salida");
+        linea("# mapa = \"mapa.txt\"          # las figuras del mapa, una por renglón; o varios: [ \"...\", "
+              "\"...\" ]");
         return std::move(texto_);
     }
 
@@ -178,6 +208,29 @@ private:
             linea(renglon);
         }
         linea("");
+    }
+
+    /// Each code of the sheet with its own text, in the colour that it has by design.
+    void formato() {
+        linea("[formato]");
+        linea("titulo = " + EntreComillas("Parcela " + SinDolar(tabla_->Name)));
+        linea("# fuente = { nombre = \"Arial\", tamano = 14, negrita = true }   # y cursiva, tachado, "
+              "subrayado");
+        linea("# color = \"#400040\"");
+        int turno = 0;
+        for (const auto& codigo : codigos()) {
+            linea("[formato.codigos." + Clave(codigo) + "]");
+            linea("texto = " + EntreComillas(codigo) + "   # en la leyenda; con ella puede ir una fuente");
+            linea("linea = " + EntreComillas(ColorEscrito(FrmFormato::colorDeLinea(turno++))));
+            linea("# fondo = \"#D9F0D3\"   # rellena las copas de cuatro radios");
+        }
+        linea("");
+    }
+
+    [[nodiscard]] std::vector<std::string> codigos() const {
+        const auto papel = propuesta_.papeles.find("Codigo");
+        return papel == propuesta_.papeles.end() ? std::vector<std::string>{}
+                                                 : CodigosDeTabla(*tabla_, papel->second);
     }
 
     static constexpr std::array renglonesDeFamilias{

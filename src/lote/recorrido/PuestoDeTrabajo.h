@@ -41,6 +41,8 @@ public:
         throw error(lugar, motivo);
     }
     void avisar(const Lugar& lugar, const std::string& texto) const;
+    /// A line as it stands.
+    void decir(const std::string& linea) const { seguimiento_.aviso(linea); }
     void empezar(const std::string& etapa) const;
 
 private:

@@ -4,14 +4,18 @@
 #include "basico/Texto.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
+#include "lote/recorrido/AplicarFormato.h"
 #include "lote/recorrido/AplicarOpciones.h"
 #include "lote/recorrido/ElegirColumnas.h"
+#include "lote/recorrido/EscribirMapa.h"
 #include "lote/recorrido/EscribirResultados.h"
 #include "lote/trabajo/Pendiente.h"
 #include "map/FrmFormato.h"
+#include "map/FrmMapa.h"
 #include "options/OpcionesPrograma.h"
 #include "shell/VAROMAIN.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -66,36 +70,77 @@ void CambiarOpciones(PuestoDeTrabajo& puesto) {
 
 void DibujarMapa(PuestoDeTrabajo& puesto) {
     puesto.empezar("dibujando el mapa");
-    puesto.hacer({"dibujo del mapa"},
-                 [&] { puesto.usuario.clic(puesto.programa.tocar<FrmFormato>().CmdAceptar); });
+    const Lugar lugar{"dibujo del mapa"};
+    puesto.hacer(lugar, [&] { puesto.usuario.clic(puesto.programa.tocar<FrmFormato>().CmdAceptar); });
+    if (const std::string& aviso = puesto.programa.tocar<FrmMapa>().aviso; !aviso.empty()) {
+        puesto.avisar(lugar, aviso);
+    }
 }
+
+/// Writes the outputs one after the other; one that fails leaves the others, and the first fault ends the
+/// job once all were tried.
+class Salidas {
+public:
+    explicit Salidas(PuestoDeTrabajo& puesto) : puesto_{puesto} {}
+
+    template <class Escribir>
+    void intentar(const Escribir& escribir) {
+        try {
+            escribir();
+        } catch (const ErrorTrabajo& error) {
+            if (primera_) {
+                puesto_.decir(error.what());
+            } else {
+                primera_ = error;
+            }
+        }
+    }
+    void terminar() const {
+        if (primera_) {
+            throw ErrorTrabajo{*primera_};
+        }
+    }
+
+private:
+    PuestoDeTrabajo& puesto_;
+    std::optional<ErrorTrabajo> primera_;
+};
 
 } // namespace
 
 std::string Informe::texto(const Trabajo& trabajo) const {
     std::string texto = ATexto(arboles) + (arboles == 1 ? " árbol" : " árboles") +
                         ", superficie de la parcela: " + Formato(superficie, "###0.0") + " m2";
+    for (const auto& mapa : trabajo.mapas) {
+        texto += ", mapa -> " + mapa.ruta.string();
+    }
     if (trabajo.resultados) {
         texto += ", " + ATexto(columnas) + " columnas -> " + trabajo.resultados->ruta.string();
     }
     return texto;
 }
 
-Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento) {
-    RechazarLoPendiente(trabajo);
+Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento, PintorDeMapas* pintor) {
+    RechazarLoPendiente(trabajo, pintor != nullptr);
     PuestoDeTrabajo puesto{trabajo, seguimiento};
     puesto.empezar("abriendo " + trabajo.archivo.string());
     AbrirParcela(puesto);
     AceptarHoja(puesto);
     CambiarOpciones(puesto);
     ElegirColumnas(puesto);
+    AplicarFormato(puesto);
     DibujarMapa(puesto);
     Informe informe;
     informe.arboles = puesto.programa.tocar<Hojadedatos>().MSFlexGrid1.Rows() - 1;
     informe.superficie = puesto.programa.sesion.SupPoligono;
-    if (trabajo.resultados) {
-        informe.columnas = EscribirResultados(puesto, *trabajo.resultados);
+    Salidas salidas{puesto};
+    for (const auto& mapa : trabajo.mapas) {
+        salidas.intentar([&] { EscribirMapa(puesto, mapa, pintor); });
     }
+    if (trabajo.resultados) {
+        salidas.intentar([&] { informe.columnas = EscribirResultados(puesto, *trabajo.resultados); });
+    }
+    salidas.terminar();
     return informe;
 }
 

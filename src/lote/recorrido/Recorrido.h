@@ -1,6 +1,7 @@
 // The walk of a job through the windows of the program, from the plot file to its outputs.
 #pragma once
 
+#include "lote/recorrido/PintorDeMapas.h"
 #include "lote/recorrido/PuestoDeTrabajo.h"
 #include "lote/trabajo/Trabajo.h"
 
@@ -18,7 +19,9 @@ struct Informe {
     [[nodiscard]] std::string texto(const Trabajo& trabajo) const;
 };
 
-/// Does a job as a person would, through the same windows. What ends it early is an ErrorTrabajo.
-Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento = {});
+/// Does a job as a person would, through the same windows. What ends it early is an ErrorTrabajo; an output
+/// that fails leaves the others written. Without a painter a job that asks for a picture is refused.
+Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento = {},
+                      PintorDeMapas* pintor = nullptr);
 
 } // namespace varo

@@ -5,7 +5,7 @@
 
 namespace varo {
 
-/// Refuses with ErrorTrabajo what is still to come.
-void RechazarLoPendiente(const Trabajo& trabajo);
+/// Refuses with ErrorTrabajo what is still to come, and pictures where there is nobody to paint them.
+void RechazarLoPendiente(const Trabajo& trabajo, bool conPintor);
 
 } // namespace varo

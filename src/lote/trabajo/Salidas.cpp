@@ -23,7 +23,9 @@ std::vector<Salida> SalidasDe(const Trabajo& trabajo) {
     };
     anadir("salida.resultados", trabajo.resultados);
     anadir("salida.datos", trabajo.datos);
-    anadir("salida.mapa", trabajo.mapa);
+    for (const auto& mapa : trabajo.mapas) {
+        anadir("salida.mapa", mapa);
+    }
     return salidas;
 }
 

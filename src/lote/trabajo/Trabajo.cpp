@@ -1,6 +1,8 @@
 #include "lote/trabajo/Trabajo.h"
 
+#include "basico/Texto.h"
 #include "lote/trabajo/ClavesDePapeles.h"
+#include "lote/trabajo/LeerFormato.h"
 #include "lote/trabajo/TextoDeToml.h"
 
 #include <toml++/toml.h>
@@ -10,7 +12,6 @@
 #include <charconv>
 #include <cmath>
 #include <fstream>
-#include <initializer_list>
 #include <iterator>
 
 namespace varo {
@@ -18,29 +19,6 @@ namespace varo {
 namespace {
 
 namespace fs = std::filesystem;
-
-int Linea(const toml::node& nodo) {
-    return static_cast<int>(nodo.source().begin.line);
-}
-
-std::string NombreDeTipo(const toml::node& nodo) {
-    switch (nodo.type()) {
-    case toml::node_type::table:
-        return "una tabla";
-    case toml::node_type::array:
-        return "una lista";
-    case toml::node_type::string:
-        return "un texto";
-    case toml::node_type::integer:
-        return "un número entero";
-    case toml::node_type::floating_point:
-        return "un número con decimales";
-    case toml::node_type::boolean:
-        return "un valor lógico";
-    default:
-        return "una fecha o una hora";
-    }
-}
 
 /// The shortest digits of a number, as a person writes them: 0,00005.
 std::string SinExponente(double numero) {
@@ -53,55 +31,24 @@ std::string SinExponente(double numero) {
 }
 
 /// Walks the tree of a TOML text and takes from it what a job may hold.
-class Interprete {
+class Interprete : private LectorDeToml {
 public:
     Interprete(const toml::table& raiz, const fs::path& ruta, const Cambios& cambios)
-        : raiz_{raiz}, cambios_{cambios} {
+        : LectorDeToml{ruta}, raiz_{raiz}, cambios_{cambios} {
         trabajo_.ruta = ruta;
     }
 
     Trabajo interpretar() {
-        rechazarAjenas(raiz_, "", {"archivo", "hoja", "columnas", "opciones", "salida"});
+        rechazarAjenas(raiz_, "", {"archivo", "hoja", "columnas", "opciones", "formato", "salida"});
         leerParcela();
         leerColumnas();
         leerOpciones();
+        leerFormato();
         leerSalida();
         return std::move(trabajo_);
     }
 
 private:
-    [[noreturn]] void rechazar(const Lugar& lugar, const std::string& motivo) const {
-        throw ErrorTrabajo{trabajo_.ruta, lugar, motivo};
-    }
-
-    [[noreturn]] void rechazarTipo(const toml::node& nodo, const std::string& clave,
-                                   const std::string& esperado) const {
-        rechazar({clave, Linea(nodo)}, "se espera " + esperado + " y hay " + NombreDeTipo(nodo));
-    }
-
-    void rechazarAjenas(const toml::table& tabla, const std::string& prefijo,
-                        std::initializer_list<std::string_view> conocidas) const {
-        for (const auto& [clave, nodo] : tabla) {
-            if (std::find(conocidas.begin(), conocidas.end(), clave.str()) == conocidas.end()) {
-                rechazar({prefijo + std::string{clave.str()}, Linea(nodo)}, "clave desconocida");
-            }
-        }
-    }
-
-    [[nodiscard]] std::string texto(const toml::node& nodo, const std::string& clave) const {
-        const auto* const valor = nodo.as_string();
-        if (valor == nullptr) {
-            rechazarTipo(nodo, clave, "un texto");
-        }
-        if (valor->get().empty()) {
-            rechazar({clave, Linea(nodo)}, "está vacío");
-        }
-        if (valor->get().find('\0') != std::string::npos) {
-            rechazar({clave, Linea(nodo)}, "contiene un carácter nulo");
-        }
-        return valor->get();
-    }
-
     /// The text of a key that every job has, unless the command line gives it.
     [[nodiscard]] std::string textoObligado(const char* clave) const {
         const auto* const nodo = raiz_.get(clave);
@@ -109,14 +56,6 @@ private:
             rechazar({clave}, "falta en el trabajo");
         }
         return texto(*nodo, clave);
-    }
-
-    [[nodiscard]] const toml::table& tabla(const toml::node& nodo, const std::string& clave) const {
-        const auto* const valor = nodo.as_table();
-        if (valor == nullptr) {
-            rechazarTipo(nodo, clave, "una tabla");
-        }
-        return *valor;
     }
 
     void leerParcela() {
@@ -136,7 +75,7 @@ private:
     }
 
     [[nodiscard]] ColumnaPedida columna(const std::string& papel, const toml::node& nodo) const {
-        ColumnaPedida columna{papel, {}, Linea(nodo)};
+        ColumnaPedida columna{papel, {}, lineaDe(nodo)};
         if (!EsClaveDePapel(papel)) {
             rechazar(columna.lugar(), "papel desconocido; los hay: X, Y, N, E, S, O, NS, EO, Radio, Indice, "
                                       "Codigo y DAP");
@@ -157,7 +96,7 @@ private:
             return;
         }
         for (const auto& [clave, valor] : tabla(*nodo, "opciones")) {
-            OpcionPedida opcion{std::string{clave.str()}, {}, Linea(valor)};
+            OpcionPedida opcion{std::string{clave.str()}, {}, lineaDe(valor)};
             opcion.valor = valorDe(valor, opcion.lugar().clave);
             trabajo_.opciones.push_back(std::move(opcion));
         }
@@ -172,7 +111,7 @@ private:
         }
         if (const auto* const decimal = nodo.as_floating_point()) {
             if (!std::isfinite(decimal->get())) {
-                rechazar({clave, Linea(nodo)}, "no es un número finito");
+                rechazar({clave, lineaDe(nodo)}, "no es un número finito");
             }
             return decimal->get();
         }
@@ -203,6 +142,12 @@ private:
         return pedidas;
     }
 
+    void leerFormato() {
+        if (const auto* const nodo = raiz_.get("formato")) {
+            trabajo_.formato = LeerFormato(*nodo, *this);
+        }
+    }
+
     void leerSalida() {
         const auto* const nodo = raiz_.get("salida");
         if (nodo == nullptr) {
@@ -212,21 +157,49 @@ private:
         rechazarAjenas(salidas, "salida.", {"resultados", "datos", "mapa"});
         trabajo_.resultados = salida(salidas, "resultados");
         trabajo_.datos = salida(salidas, "datos");
-        trabajo_.mapa = salida(salidas, "mapa");
+        leerMapas(salidas);
+    }
+
+    /// One name, or a list of them.
+    void leerMapas(const toml::table& salidas) {
+        const std::string clave = "salida.mapa";
+        const auto* const nodo = salidas.get("mapa");
+        if (nodo == nullptr) {
+            return;
+        }
+        if (const auto* const lista = nodo->as_array()) {
+            for (const auto& nombre : *lista) {
+                trabajo_.mapas.push_back(mapa(nombre, clave));
+            }
+        } else if (nodo->is_string()) {
+            trabajo_.mapas.push_back(mapa(*nodo, clave));
+        } else {
+            rechazarTipo(*nodo, clave, "un texto o una lista de textos");
+        }
+    }
+
+    [[nodiscard]] SalidaPedida mapa(const toml::node& nodo, const std::string& clave) const {
+        SalidaPedida pedida = salida(nodo, clave);
+        const std::string extension = ExtensionDe(pedida.ruta);
+        if (extension != ".txt" && !EsDeDibujo(extension)) {
+            rechazar({clave, lineaDe(nodo)}, "«" + pedida.ruta.filename().string() +
+                                                 "»: un mapa se escribe como .svg, .pdf, .png o .txt");
+        }
+        return pedida;
     }
 
     [[nodiscard]] std::optional<SalidaPedida> salida(const toml::table& salidas, const char* nombre) const {
         const auto* const nodo = salidas.get(nombre);
-        if (nodo == nullptr) {
-            return std::nullopt;
-        }
-        const std::string clave = std::string{"salida."} + nombre;
-        const fs::path ruta = texto(*nodo, clave);
+        return nodo == nullptr ? std::nullopt : std::optional{salida(*nodo, std::string{"salida."} + nombre)};
+    }
+
+    [[nodiscard]] SalidaPedida salida(const toml::node& nodo, const std::string& clave) const {
+        const fs::path ruta = texto(nodo, clave);
         if (!ruta.has_filename() || ruta.filename() == "." || ruta.filename() == "..") {
-            rechazar({clave, Linea(*nodo)}, "«" + ruta.string() + "» no es el nombre de un archivo");
+            rechazar({clave, lineaDe(nodo)}, "«" + ruta.string() + "» no es el nombre de un archivo");
         }
         const fs::path carpeta = cambios_.salida ? *cambios_.salida : trabajo_.ruta.parent_path();
-        return SalidaPedida{carpeta / ruta, Linea(*nodo)};
+        return SalidaPedida{carpeta / ruta, lineaDe(nodo)};
     }
 
     const toml::table& raiz_;
@@ -259,6 +232,14 @@ void ExigirArchivoDeTrabajo(const fs::path& ruta) {
 }
 
 } // namespace
+
+std::string ExtensionDe(const fs::path& ruta) {
+    return Minusculas(ruta.extension().string());
+}
+
+bool EsDeDibujo(const std::string& extension) {
+    return extension == ".svg" || extension == ".pdf" || extension == ".png";
+}
 
 const ColumnaPedida* Trabajo::columna(std::string_view papel) const {
     const auto pedida = std::find_if(columnas.begin(), columnas.end(), [papel](const ColumnaPedida& columna) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lote/trabajo/ErrorTrabajo.h"
+#include "lote/trabajo/FormatoPedido.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -48,11 +49,17 @@ struct Trabajo {
     std::vector<OpcionPedida> opciones;
     std::optional<SalidaPedida> resultados;
     std::optional<SalidaPedida> datos;
-    std::optional<SalidaPedida> mapa;
+    std::vector<SalidaPedida> mapas;
+    std::optional<FormatoPedido> formato;
 
     /// Null when the job does not give the role.
     [[nodiscard]] const ColumnaPedida* columna(std::string_view papel) const;
 };
+
+/// ".svg", in small letters.
+std::string ExtensionDe(const std::filesystem::path& ruta);
+/// Whether a map with this extension is a picture.
+bool EsDeDibujo(const std::string& extension);
 
 /// What the command line puts in place of what the jobs say.
 struct Cambios {

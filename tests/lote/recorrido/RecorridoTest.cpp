@@ -89,6 +89,9 @@ TEST(Recorrido, ElInformeDiceArbolesSuperficieYArchivo) {
     informe = {.arboles = 1, .superficie = 0, .columnas = 2};
     EXPECT_EQ(informe.texto(trabajo),
               "1 árbol, superficie de la parcela: 0,0 m2, 2 columnas -> d/indices.txt");
+    trabajo.mapas = {{"d/m.txt", 0}, {"m.svg", 0}};
+    EXPECT_EQ(informe.texto(trabajo), "1 árbol, superficie de la parcela: 0,0 m2, mapa -> d/m.txt, "
+                                      "mapa -> m.svg, 2 columnas -> d/indices.txt");
 }
 
 TEST(Recorrido, CadaEtapaSeAnuncia) {
@@ -114,7 +117,8 @@ TEST(Recorrido, LoQueTodaviaNoSeHaceSeRechazaAntesDeAbrirNada) {
     EXPECT_EQ(rechazo("datos = 'd.txt'\n"),
               ErrorDeClave(parcela, "línea 15: salida.datos: todavía no se puede pedir"));
     EXPECT_EQ(rechazo("mapa = 'm.svg'\n"),
-              ErrorDeClave(parcela, "línea 15: salida.mapa: todavía no se puede pedir"));
+              ErrorDeClave(parcela, "línea 15: salida.mapa: aquí no se escriben mapas .svg, .pdf ni .png: "
+                                    "pida un .txt"));
 }
 
 TEST(Recorrido, UnaFamiliaApagadaPorEscritoNoEstorba) {

@@ -55,8 +55,45 @@ TEST(Trabajo, UnTrabajoSeLeeEnteroConSusLineas) {
     EXPECT_EQ(Pedida(trabajo, "LstDist").valor, ValorPedido{std::vector<FuncionPedida>{hiperbola}});
     EXPECT_EQ(trabajo.resultados->ruta, "trabajos/salidas/indices.txt");
     EXPECT_EQ(trabajo.resultados->linea, 16);
-    EXPECT_EQ(trabajo.mapa->ruta, "trabajos/mapa.svg");
+    ASSERT_EQ(trabajo.mapas.size(), 1U);
+    EXPECT_EQ(trabajo.mapas.front().ruta, "trabajos/mapa.svg");
+    EXPECT_FALSE(trabajo.formato);
     EXPECT_FALSE(trabajo.datos);
+}
+
+TEST(Trabajo, ElFormatoDelMapaSeLeeEnteroConSusLineas) {
+    const auto trabajo = InterpretarTrabajo("archivo = 'a.xls'\nhoja = 'H'\ncolumnas = {}\n"
+                                            "[formato]\n"
+                                            "titulo = ''\n"
+                                            "fuente = { nombre = 'Arial', tamano = 14, negrita = true }\n"
+                                            "color = '#1B7837'\n"
+                                            "[formato.codigos.Ps]\n"
+                                            "texto = 'Pinus sylvestris'\n"
+                                            "linea = '#0a0B0c'\n"
+                                            "fondo = '#D9F0D3'\n"
+                                            "fuente = { cursiva = true, tachado = false }\n"
+                                            "[formato.codigos.7]\n"
+                                            "[salida]\nmapa = ['a.txt', 'b/c.PNG']\n",
+                                            "t/t.toml");
+    ASSERT_TRUE(trabajo.formato);
+    const auto& formato = *trabajo.formato;
+    EXPECT_EQ(formato.titulo->valor, "") << "también un texto vacío es algo que se puede escribir";
+    EXPECT_EQ(formato.titulo->lugar.linea, 5);
+    EXPECT_EQ(formato.fuente->valor.sobre(Fuente{.nombre = "B", .tamano = 8, .cursiva = true}),
+              (Fuente{.nombre = "Arial", .tamano = 14, .negrita = true, .cursiva = true}));
+    EXPECT_EQ(formato.color->valor, 0x37781B);
+    EXPECT_EQ(formato.color->lugar.clave, "formato.color");
+    ASSERT_EQ(formato.codigos.size(), 2U);
+    EXPECT_EQ(formato.codigos[0].codigo, "7");
+    EXPECT_FALSE(formato.codigos[0].texto);
+    EXPECT_EQ(formato.codigos[1].codigo, "Ps");
+    EXPECT_EQ(formato.codigos[1].texto->valor, "Pinus sylvestris");
+    EXPECT_EQ(formato.codigos[1].linea->valor, 0x0C0B0A);
+    EXPECT_EQ(formato.codigos[1].fondo->valor, 0xD3F0D9);
+    EXPECT_EQ(formato.codigos[1].fuente->lugar.clave, "formato.codigos.Ps.fuente");
+    EXPECT_EQ(formato.codigos[1].fuente->lugar.linea, 12);
+    ASSERT_EQ(trabajo.mapas.size(), 2U);
+    EXPECT_EQ(trabajo.mapas[1].ruta, "t/b/c.PNG");
 }
 
 TEST(Trabajo, LasOpcionesYLasSalidasPuedenFaltar) {
@@ -132,6 +169,41 @@ TEST(Trabajo, CadaErrorNombraElTrabajoLaClaveYLaRazon) {
          "t.toml: línea 5: salida.resultados: «carpeta/» no es el nombre de un archivo"},
         {base + "[salida]\nmapa = '..'\n",
          "t.toml: línea 5: salida.mapa: «..» no es el nombre de un archivo"},
+        {base + "[salida]\nmapa = ['a.txt', 'b.jpg']\n",
+         "t.toml: línea 5: salida.mapa: «b.jpg»: un mapa se escribe como .svg, .pdf, .png o .txt"},
+        {base + "[salida]\nmapa = ['a.txt', 3]\n",
+         "t.toml: línea 5: salida.mapa: se espera un texto y hay un número entero"},
+        {base + "[salida]\nmapa = true\n",
+         "t.toml: línea 5: salida.mapa: se espera un texto o una lista de textos y hay un valor lógico"},
+        {base + "[formato]\nancho = 1\n", "t.toml: línea 5: formato.ancho: clave desconocida"},
+        {base + "[formato]\ntitulo = 1\n",
+         "t.toml: línea 5: formato.titulo: se espera un texto y hay un número entero"},
+        {base + "[formato]\ncolor = 'rojo'\n",
+         "t.toml: línea 5: formato.color = «rojo»: un color se escribe \"#RRGGBB\", como \"#1B7837\""},
+        {base + "[formato]\ncolor = '#12345G'\n",
+         "t.toml: línea 5: formato.color = «#12345G»: un color se escribe \"#RRGGBB\", como \"#1B7837\""},
+        {base + "[formato]\ncolor = '#1B783'\n",
+         "t.toml: línea 5: formato.color = «#1B783»: un color se escribe \"#RRGGBB\", como \"#1B7837\""},
+        {base + "[formato]\nfuente = { nombre = '' }\n",
+         "t.toml: línea 5: formato.fuente.nombre: está vacío"},
+        {base + "[formato]\nfuente = { tamano = 0 }\n",
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0"},
+        {base + "[formato]\nfuente = { tamano = -1.5 }\n",
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0"},
+        {base + "[formato]\nfuente = { tamano = nan }\n",
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0"},
+        {base + "[formato]\nfuente = { tamano = true }\n",
+         "t.toml: línea 5: formato.fuente.tamano: se espera un número de puntos y hay un valor lógico"},
+        {base + "[formato]\nfuente = { negrita = 1 }\n",
+         "t.toml: línea 5: formato.fuente.negrita: se espera true o false y hay un número entero"},
+        {base + "[formato]\nfuente = { letra = 'A' }\n",
+         "t.toml: línea 5: formato.fuente.letra: clave desconocida"},
+        {base + "[formato.codigos]\nPs = 'pino'\n",
+         "t.toml: línea 5: formato.codigos.Ps: se espera una tabla y hay un texto"},
+        {base + "[formato.codigos.Ps]\ncolor = '#000000'\n",
+         "t.toml: línea 5: formato.codigos.Ps.color: clave desconocida"},
+        {base + "[formato.codigos.Ps]\nfondo = 5\n",
+         "t.toml: línea 5: formato.codigos.Ps.fondo: se espera un texto y hay un número entero"},
         {base + "salida = 3\n",
          "t.toml: línea 4: columnas.salida: papel desconocido; los hay: X, Y, N, E, S, O, NS, "
          "EO, Radio, Indice, Codigo y DAP"},

@@ -1,0 +1,13 @@
+// The section of a job with the format of the map.
+#pragma once
+
+#include "lote/trabajo/FormatoPedido.h"
+#include "lote/trabajo/LectorDeToml.h"
+
+namespace varo {
+
+/// An unknown key, a value of the wrong type, a colour that is no "#RRGGBB", an empty font name and a size
+/// not above 0 throw ErrorTrabajo.
+FormatoPedido LeerFormato(const toml::node& nodo, const LectorDeToml& lector);
+
+} // namespace varo
