@@ -1,4 +1,5 @@
 #include "lote/Lote.h"
+#include "lote/PintorAparte.h"
 #include "sistema/Senales.h"
 
 #include <cstdlib>
@@ -13,7 +14,8 @@ int main(int cuantos, char** argumentos) {
         const varo::VigiaDeSenales vigia;
         const std::vector<std::string> propios{argumentos + 1, argumentos + cuantos};
         const bool enTerminal = isatty(STDERR_FILENO) == 1;
-        return static_cast<int>(varo::EjecutarLote(propios, {std::cout, std::cerr, enTerminal}));
+        varo::PintorAparte pintor;
+        return static_cast<int>(varo::EjecutarLote(propios, {std::cout, std::cerr, enTerminal}, &pintor));
     } catch (const std::exception& error) {
         std::cerr << "error interno: " << error.what() << '\n';
         return static_cast<int>(varo::Estado::ErrorInterno);

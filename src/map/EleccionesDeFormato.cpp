@@ -20,7 +20,7 @@ bool PrimeraVez(bool& pedidas) {
 Fuente FrmFormato::preguntarFuente(Desplegable& control) {
     const auto reloj = PonerReloj(*this);
     const Fuente actual = control.Font;
-    const Fuente elegida = programa_.servicios().elegirFuente(actual).value_or(actual);
+    Fuente elegida = programa_.servicios().elegirFuente(actual).value_or(actual);
     control.Font = elegida;
     control.Text = elegida.nombre;
     return elegida;

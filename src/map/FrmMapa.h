@@ -54,6 +54,7 @@ public:
     /// The label that an entry of the display list names.
     [[nodiscard]] Etiqueta& etiqueta(const EtiquetaMostrada& mostrada);
     [[nodiscard]] const Etiqueta& etiqueta(const EtiquetaMostrada& mostrada) const;
+    /// What it looks like now, for whoever paints or writes the list.
     [[nodiscard]] AspectoDeEtiqueta aspecto(const EtiquetaMostrada& mostrada) const;
     /// Trees that are all in one place give a scale without extent: the map says so, and shows nothing else.
     void decirQueNoHayDibujo();

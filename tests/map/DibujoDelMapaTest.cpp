@@ -352,6 +352,23 @@ TEST(DibujoDelMapa, LosNumerosDeLosArbolesLlevanSusEtiquetasDosMetrosAlNorte) {
     EXPECT_EQ(&p.mapa().etiqueta({"LbTitulo"}), &p.mapa().LbTitulo);
 }
 
+TEST(DibujoDelMapa, QuienPintaTieneTodoLoDeCadaEtiqueta) {
+    FormatoDeCuadrado p;
+    auto& titulo = p.mapa().LbTitulo;
+    const AspectoDeEtiqueta aspecto = p.mapa().aspecto({"LbTitulo"});
+    EXPECT_EQ(aspecto.texto, "Parcela Parcela1$");
+    EXPECT_EQ(aspecto.izquierda, titulo.Left());
+    EXPECT_EQ(aspecto.arriba, titulo.Top());
+    EXPECT_EQ(aspecto.ancho, titulo.Width());
+    EXPECT_EQ(aspecto.color, morado);
+    EXPECT_EQ(aspecto.fuente.nombre, "Arial");
+    EXPECT_EQ(aspecto.fondo, std::nullopt);
+    EXPECT_TRUE(aspecto.centrada);
+    EXPECT_FALSE(p.mapa().aspecto({"Lbcodigo", 2}).centrada);
+    EXPECT_EQ(p.mapa().aspecto({"Lbcodigo", 2}).texto, "2");
+    EXPECT_EQ(p.mapa().aspecto({"LbLeyenda", 1}).color, azul);
+}
+
 TEST(DibujoDelMapa, EnCoordenadasUtmSePintaComoEnElOrigen) {
     auto filas = CuadradoConCentro();
     for (std::size_t i = 1; i < filas.size(); ++i) {

@@ -34,6 +34,18 @@ TEST(Salidas, DosTrabajosNoEscribenElMismoArchivo) {
               "a.toml: línea 15: salida.resultados: «i.txt» es también una salida de a.toml");
 }
 
+TEST(Salidas, CadaMapaDeUnaListaEsUnaSalida) {
+    Trabajo trabajo = Con("d/a.toml", "i.txt");
+    trabajo.mapas = {{"d/m.txt", 20}, {"d/m.svg", 20}};
+    EXPECT_EQ(Error({trabajo}), "(sin error)");
+    trabajo.mapas.push_back({"d/./m.txt", 20});
+    EXPECT_EQ(Error({trabajo}),
+              "d/a.toml: línea 20: salida.mapa: «d/./m.txt» es también una salida de d/a.toml");
+    trabajo.mapas = {{"d/i.txt", 20}};
+    EXPECT_EQ(Error({trabajo}),
+              "d/a.toml: línea 20: salida.mapa: «d/i.txt» es también una salida de d/a.toml");
+}
+
 TEST(Salidas, UnEnlaceNoEscondeElMismoArchivo) {
     const CarpetaTemporal carpeta;
     fs::create_directory(carpeta.ruta() / "real");
