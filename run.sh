@@ -28,6 +28,6 @@ tr '\r' '\n' <"$resultados" | LC_ALL=C awk -F '\t' -v superficie="$superficie" '
         print "  columnas escritas:    " columnas ", " columnas - 2 " de ellas índices"
     }'
 printf '  resultados:           %s\n  mapa:                 %s\n  trabajo:              %s\n' \
-    "$PWD/$resultados" "$PWD/$salida/mapa.txt" "$PWD/ejemplos/trabajo.toml"
+    "$PWD/$resultados" "$PWD/$salida/mapa.svg" "$PWD/ejemplos/trabajo.toml"
 printf '\nLa aplicación de escritorio se abre con:  %s\n' "$PWD/build/release/src/varo"
 echo '  (menú Archivo, Abrir: ejemplos/parcela.xls es la parcela de ejemplo)'

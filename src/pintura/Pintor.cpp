@@ -85,7 +85,8 @@ public:
         }
     }
     void operator()(const CopaLlena& llena);
-    void operator()(const EtiquetaMostrada& etiqueta);
+    /// Labels come through `rotular`.
+    void operator()(const EtiquetaMostrada& /*etiqueta*/) {}
     /// Arcs come through `arcos`.
     void operator()(const Arco& arco) { arcos({&arco}); }
 
@@ -105,6 +106,7 @@ private:
     /// another.
     void arcos(const std::vector<const Arco*>& juntos);
     void rellenar(const Arco& arco, Color color);
+    void rotular(const EtiquetaMostrada& etiqueta);
     [[nodiscard]] bool sonDemasiadas() const;
 
     QPainter& pintor_;
@@ -112,12 +114,11 @@ private:
     const Encuadre& encuadre_;
     const Pluma& pluma_;
     const QRectF visible_;
-    bool callarEtiquetas_ = false;
     std::optional<Letra> letra_; ///< of the last label
 };
 
+/// Labels lie over the drawing, whenever they were shown: no filled crown hides one.
 void Pintor::pintar() {
-    callarEtiquetas_ = pluma_.masEtiquetas >= 0 && sonDemasiadas();
     const auto& figuras = dibujo_.lienzo.figuras();
     std::vector<const Arco*> juntos;
     for (const Figura& figura : figuras) {
@@ -137,6 +138,13 @@ void Pintor::pintar() {
     }
     if (!juntos.empty()) {
         arcos(juntos);
+    }
+    const bool soloTitulo = pluma_.masEtiquetas >= 0 && sonDemasiadas();
+    for (const Figura& figura : figuras) {
+        const auto* const etiqueta = std::get_if<EtiquetaMostrada>(&figura);
+        if (etiqueta != nullptr && !(soloTitulo && etiqueta->indice != EtiquetaMostrada::sinIndice)) {
+            rotular(*etiqueta);
+        }
     }
 }
 
@@ -225,10 +233,7 @@ void Pintor::operator()(const CopaLlena& llena) {
     cuartoDe(E, S, 3);
 }
 
-void Pintor::operator()(const EtiquetaMostrada& etiqueta) {
-    if (callarEtiquetas_ && etiqueta.indice != EtiquetaMostrada::sinIndice) {
-        return;
-    }
+void Pintor::rotular(const EtiquetaMostrada& etiqueta) {
     const AspectoDeEtiqueta aspecto = dibujo_.aspecto(etiqueta);
     if (aspecto.texto.empty()) {
         return;

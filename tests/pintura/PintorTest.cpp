@@ -212,6 +212,21 @@ TEST(Pintor, UnaEtiquetaEmpiezaEnSuSitio) {
     EXPECT_NEAR(lugar.right(), ultima, 3);
 }
 
+TEST(Pintor, NingunaCopaTapaUnaEtiqueta) {
+    Etiquetado cuadro;
+    const auto [primera, ultima] = cuadro.columnas();
+    cuadro.lienzo.FillColor = verde;
+    cuadro.lienzo.circulo(5, 5, 20); // after the label, over all of it
+    const QImage imagen = cuadro.imagen();
+    int deLetra = 0;
+    for (int x = primera; x <= ultima; ++x) {
+        for (int y = 40; y < 60; ++y) {
+            deLetra += ColorDe(imagen.pixelColor(x, y)) == verde ? 0 : 1;
+        }
+    }
+    EXPECT_GT(deLetra, 20);
+}
+
 TEST(Pintor, UnaEtiquetaCentradaTieneElTextoEnSuMitad) {
     Etiquetado cuadro;
     cuadro.una.centrada = true;
