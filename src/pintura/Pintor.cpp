@@ -10,8 +10,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <numbers>
 #include <optional>
+#include <set>
+#include <string>
 #include <vector>
 
 namespace varo {
@@ -107,7 +110,8 @@ private:
     void arcos(const std::vector<const Arco*>& juntos);
     void rellenar(const Arco& arco, Color color);
     void rotular(const EtiquetaMostrada& etiqueta);
-    [[nodiscard]] bool sonDemasiadas() const;
+    /// The arrays of labels with more members in sight than are painted.
+    [[nodiscard]] std::set<std::string> arraysConDemasiadas() const;
 
     QPainter& pintor_;
     const Dibujo& dibujo_;
@@ -139,10 +143,10 @@ void Pintor::pintar() {
     if (!juntos.empty()) {
         arcos(juntos);
     }
-    const bool soloTitulo = pluma_.masEtiquetas >= 0 && sonDemasiadas();
+    const std::set<std::string> demasiadas = arraysConDemasiadas();
     for (const Figura& figura : figuras) {
         const auto* const etiqueta = std::get_if<EtiquetaMostrada>(&figura);
-        if (etiqueta != nullptr && !(soloTitulo && etiqueta->indice != EtiquetaMostrada::sinIndice)) {
+        if (etiqueta != nullptr && !demasiadas.contains(etiqueta->nombre)) {
             rotular(*etiqueta);
         }
     }
@@ -254,20 +258,28 @@ void Pintor::rotular(const EtiquetaMostrada& etiqueta) {
     pintor_.drawText(lugar.topLeft() + QPointF{0, letra_->medidas.ascent()}, EnQt(aspecto.texto));
 }
 
-bool Pintor::sonDemasiadas() const {
-    int cuantas = 0;
+std::set<std::string> Pintor::arraysConDemasiadas() const {
+    if (pluma_.masEtiquetas < 0) {
+        return {};
+    }
+    std::map<std::string, int> cuantas;
     for (const Figura& figura : dibujo_.lienzo.figuras()) {
         const auto* const etiqueta = std::get_if<EtiquetaMostrada>(&figura);
-        if (etiqueta == nullptr || etiqueta->indice == EtiquetaMostrada::sinIndice) {
+        if (etiqueta == nullptr) {
             continue;
         }
         const AspectoDeEtiqueta aspecto = dibujo_.aspecto(*etiqueta);
-        if (visible_.contains(encuadre_.enPapel(aspecto.izquierda, aspecto.arriba)) &&
-            ++cuantas > pluma_.masEtiquetas) {
-            return true;
+        if (visible_.contains(encuadre_.enPapel(aspecto.izquierda, aspecto.arriba))) {
+            ++cuantas[etiqueta->nombre];
         }
     }
-    return false;
+    std::set<std::string> demasiadas;
+    for (const auto& [nombre, numero] : cuantas) {
+        if (numero > pluma_.masEtiquetas) {
+            demasiadas.insert(nombre);
+        }
+    }
+    return demasiadas;
 }
 
 } // namespace

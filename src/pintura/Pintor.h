@@ -23,7 +23,7 @@ struct Pluma {
     double grosor = 1;     ///< of lines and outlines
     double porPunto = 1;   ///< a typographic point, as fonts are measured
     bool conCurvas = true; ///< arcs as curves; without it as lines that no eye tells from them
-    int masEtiquetas = -1; ///< with more labels of an array in sight than this, none of them; -1: all always
+    int masEtiquetas = -1; ///< with more labels of one name in sight than this, none of those; -1: all always
 
     /// By design the whole canvas is 1,000 units of a line wide, and 750 points.
     static Pluma para(double anchoDelLienzo) { return {anchoDelLienzo / 1000, anchoDelLienzo / 750}; }

@@ -245,32 +245,34 @@ TEST(Pintor, ElFondoDeUnaEtiquetaCubreSuTextoEntero) {
     EXPECT_EQ(ColorDe(imagen.pixelColor(lugar.bottomRight().toPoint() + QPoint{2, -2})), fondo);
 }
 
-TEST(Pintor, SiHayDemasiadasEtiquetasALaVistaSoloQuedaElTitulo) {
-    Etiquetado cuadro;
+TEST(Pintor, DeUnNombreConDemasiadasEtiquetasALaVistaNoSePintaNinguna) {
+    Etiquetado cuadro; // the title at the left; the legend in the middle, the trees at the right
+    cuadro.lienzo.etiqueta("LbLeyenda", 0);
     for (int i = 0; i < 3; ++i) {
         cuadro.lienzo.etiqueta("Lbcodigo", i);
     }
-    int mostradas = 0;
-    cuadro.aspecto = [&](const EtiquetaMostrada&) { return cuadro.una; };
-    const auto contar = [&] {
-        mostradas = 0;
-        const QImage imagen = cuadro.imagen();
-        for (int x = 0; x < imagen.width(); ++x) {
-            mostradas += ColorDe(imagen.pixelColor(x, 50)) == fondo ? 0 : 1;
-        }
-        return mostradas;
-    };
     cuadro.aspecto = [&](const EtiquetaMostrada& etiqueta) {
         AspectoDeEtiqueta suyo = cuadro.una;
-        suyo.izquierda = etiqueta.indice == EtiquetaMostrada::sinIndice ? 0 : 6;
+        suyo.izquierda = etiqueta.nombre == "LbTitulo" ? 0 : etiqueta.nombre == "LbLeyenda" ? 4 : 7.5;
         return suyo;
     };
-    cuadro.pluma.masEtiquetas = 3;
-    const int todas = contar();
-    cuadro.pluma.masEtiquetas = 2;
-    const int unas = contar();
-    EXPECT_GT(unas, 0);
-    EXPECT_GT(todas, unas);
+    const auto hayTexto = [](const QImage& imagen, int desde, int hasta) {
+        for (int x = desde; x < hasta; ++x) {
+            for (int y = 40; y < 60; ++y) {
+                if (ColorDe(imagen.pixelColor(x, y)) != fondo) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    };
+    for (const int caben : {3, 2}) {
+        cuadro.pluma.masEtiquetas = caben;
+        const QImage imagen = cuadro.imagen();
+        EXPECT_TRUE(hayTexto(imagen, 0, 20)) << caben;
+        EXPECT_TRUE(hayTexto(imagen, 80, 100)) << caben;
+        EXPECT_EQ(hayTexto(imagen, 150, 170), caben == 3);
+    }
 }
 
 TEST(Pintor, FueraDeLoVisibleNoSePintaNada) {
