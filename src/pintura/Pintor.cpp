@@ -224,17 +224,17 @@ void Pintor::rellenar(const Arco& arco, Color color) {
 }
 
 void Pintor::operator()(const CopaLlena& llena) {
-    const auto& [x, y, N, E, S, W] = llena.copa;
-    const double cuarto = giro / 4;
+    const Copa& copa = llena.copa;
+    constexpr double cuarto = giro / 4;
     const auto cuartoDe = [&](double horizontal, double vertical, int numero) {
-        rellenar({x, y, std::max(horizontal, vertical), numero * cuarto, (numero + 1) * cuarto,
+        rellenar({copa.x, copa.y, std::max(horizontal, vertical), numero * cuarto, (numero + 1) * cuarto,
                   vertical / horizontal, llena.color},
                  llena.color);
     };
-    cuartoDe(E, N, 0);
-    cuartoDe(W, N, 1);
-    cuartoDe(W, S, 2);
-    cuartoDe(E, S, 3);
+    cuartoDe(copa.E, copa.N, 0);
+    cuartoDe(copa.W, copa.N, 1);
+    cuartoDe(copa.W, copa.S, 2);
+    cuartoDe(copa.E, copa.S, 3);
 }
 
 void Pintor::rotular(const EtiquetaMostrada& etiqueta) {
