@@ -187,6 +187,31 @@ TEST_F(ElMapa, UnaImagenQueNoSePuedeEscribirSeDice) {
     EXPECT_FALSE(std::filesystem::exists(carpeta / "no"));
 }
 
+TEST_F(ElMapa, LaSegundaSuperficieEnsenaLoQueSeDibujaEnEllaYSuCierreLaOculta) {
+    auto& segunda = programa.tocar<FrmMapa2>();
+    EXPECT_FALSE(segunda.Visible());
+    programa.atender([&] { segunda.Show(); });
+    Reposar();
+    auto& lienzo = widget<VistaDeLienzo>("FrmMapa2", "lienzo");
+    const auto pintados = [&] {
+        const QImage imagen = lienzo.grab().toImage();
+        int cuantos = 0;
+        for (int x = 0; x < imagen.width(); ++x) {
+            for (int y = 0; y < imagen.height(); ++y) {
+                cuantos += ColorDe(imagen.pixelColor(x, y)) == FrmMapa::colorDeFondo ? 0 : 1;
+            }
+        }
+        return cuantos;
+    };
+    const int antes = pintados();
+    segunda.lienzo.linea(0, 0, 10, 10);
+    segunda.avisarDibujo();
+    EXPECT_GT(pintados(), antes + 50);
+    cerrar("FrmMapa2");
+    EXPECT_FALSE(segunda.Visible());
+    EXPECT_EQ(modelo("FrmMapa2"), &segunda);
+}
+
 TEST_F(ElMapa, CerrarLaVentanaAMitadDeUnArrastreNoDejaNada) {
     pulsar(sobre(mapa().LbTitulo));
     llevar(punto(3, 5));

@@ -1,5 +1,7 @@
 #include "desktop/widgets/VistaDeLienzo.h"
 
+#include "pintura/Colores.h"
+
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QPainter>
@@ -104,7 +106,7 @@ void VistaDeLienzo::paintEvent(QPaintEvent* /*suceso*/) {
     const Encuadre ahora = encuadre();
     const QPointF lugar = ahora.enPapel(encuadreDeImagen_->xDe(esquina), encuadreDeImagen_->yDe(esquina));
     const double aumento = ahora.porMetro / encuadreDeImagen_->porMetro;
-    pintor.fillRect(rect(), imagen_.toImage().pixelColor(0, 0));
+    pintor.fillRect(rect(), ColorQt(dibujo_->lienzo.BackColor));
     pintor.drawPixmap(QRectF{lugar, imagen_.deviceIndependentSize() * aumento}, imagen_,
                       QRectF{imagen_.rect()});
     reposo_.start();
