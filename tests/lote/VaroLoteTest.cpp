@@ -40,6 +40,18 @@ TEST(VaroLote, UnTrabajoHechoAcabaConCeroYUnaLineaDeResumen) {
     EXPECT_EQ(LeerArchivo(parcela.ruta("uno.txt")), resultadosSinIndices);
 }
 
+TEST(VaroLote, LosMapasSePintanSinPantalla) {
+    const ParcelaDePrueba parcela;
+    TextoDeTrabajo texto;
+    texto.salida = "mapa = ['m.svg', 'm.pdf', 'm.png', 'm.txt']\n";
+    const auto final = VaroLote({parcela.escribir("mapa.toml", texto.texto()).string()});
+    EXPECT_EQ(final.estado, 0) << final.errores;
+    EXPECT_NE(LeerArchivo(parcela.ruta("m.svg")).find("<svg"), std::string::npos);
+    EXPECT_TRUE(LeerArchivo(parcela.ruta("m.pdf")).starts_with("%PDF-"));
+    EXPECT_TRUE(LeerArchivo(parcela.ruta("m.png")).starts_with("\x89PNG"));
+    EXPECT_TRUE(LeerArchivo(parcela.ruta("m.txt")).starts_with("escala\t"));
+}
+
 TEST(VaroLote, CadaFinTieneSuEstadoYUnaSolaLinea) {
     const ParcelaDePrueba parcela;
     auto sinArea = CuadradoConCentro();

@@ -121,8 +121,8 @@ public:
         formato();
         linea("[salida]");
         linea("resultados = \"indices.txt\"   # junto a este archivo, o en la carpeta de --salida");
-        linea("# mapa = \"mapa.txt\"          # las figuras del mapa, una por renglón; o varios: [ \"...\", "
-              "\"...\" ]");
+        linea("# mapa = \"mapa.svg\"          # o .pdf, .png, .txt (sus figuras, una por renglón); o varios: "
+              "[ \"a.svg\", \"a.txt\" ]");
         return std::move(texto_);
     }
 
