@@ -162,6 +162,7 @@ public:
         servicios_.respuestas.clear();
         mostrarSuFicha(pulsacion);
         Control& sinPantalla = control(pulsacion.ventana, pulsacion.control);
+        const bool esMenu = sinPantalla.tipo() == TipoControl::Menu; // the press may end its window
         if (pulsacion.columna >= 0) {
             usuario_.seleccionarColumna(static_cast<Rejilla&>(sinPantalla), pulsacion.columna);
         } else {
@@ -172,7 +173,7 @@ public:
         }
         if (pulsacion.columna >= 0) {
             real_.clicColumna(pulsacion.columna);
-        } else if (sinPantalla.tipo() == TipoControl::Menu) {
+        } else if (esMenu) {
             real_.clicMenu(pulsacion.ventana, pulsacion.control);
         } else if (conEspacio) {
             pulsarConEspacio(pulsacion);
