@@ -41,7 +41,8 @@ struct Letra {
 };
 
 QRectF LugarDe(const AspectoDeEtiqueta& aspecto, const Encuadre& encuadre, const QFontMetricsF& medidas) {
-    const double ancho = medidas.horizontalAdvance(EnQt(aspecto.texto));
+    const double ancho = aspecto.texto.empty() ? aspecto.ancho * encuadre.porMetro
+                                               : medidas.horizontalAdvance(EnQt(aspecto.texto));
     QPointF lugar = encuadre.enPapel(aspecto.izquierda, aspecto.arriba);
     if (aspecto.centrada) {
         lugar.rx() += (aspecto.ancho * encuadre.porMetro - ancho) / 2;
@@ -58,7 +59,8 @@ public:
                                                                                     -margen(), -margen(),
                                                                                     margen(), margen())} {}
 
-    void pintar();
+    /// Labels of the names that are kept quiet are left out.
+    void pintar(const std::set<std::string>& callados);
 
     void operator()(const Linea& linea) {
         const QPointF desde = encuadre_.enPapel(linea.x1, linea.y1);
@@ -110,8 +112,6 @@ private:
     void arcos(const std::vector<const Arco*>& juntos);
     void rellenar(const Arco& arco, Color color);
     void rotular(const EtiquetaMostrada& etiqueta);
-    /// The arrays of labels with more members in sight than are painted.
-    [[nodiscard]] std::set<std::string> arraysConDemasiadas() const;
 
     QPainter& pintor_;
     const Dibujo& dibujo_;
@@ -122,7 +122,7 @@ private:
 };
 
 /// Labels lie over the drawing, whenever they were shown: no filled crown hides one.
-void Pintor::pintar() {
+void Pintor::pintar(const std::set<std::string>& callados) {
     const auto& figuras = dibujo_.lienzo.figuras();
     std::vector<const Arco*> juntos;
     for (const Figura& figura : figuras) {
@@ -143,10 +143,9 @@ void Pintor::pintar() {
     if (!juntos.empty()) {
         arcos(juntos);
     }
-    const std::set<std::string> demasiadas = arraysConDemasiadas();
     for (const Figura& figura : figuras) {
         const auto* const etiqueta = std::get_if<EtiquetaMostrada>(&figura);
-        if (etiqueta != nullptr && !demasiadas.contains(etiqueta->nombre)) {
+        if (etiqueta != nullptr && !callados.contains(etiqueta->nombre)) {
             rotular(*etiqueta);
         }
     }
@@ -258,37 +257,14 @@ void Pintor::rotular(const EtiquetaMostrada& etiqueta) {
     pintor_.drawText(lugar.topLeft() + QPointF{0, letra_->medidas.ascent()}, EnQt(aspecto.texto));
 }
 
-std::set<std::string> Pintor::arraysConDemasiadas() const {
-    if (pluma_.masEtiquetas < 0) {
-        return {};
-    }
-    std::map<std::string, int> cuantas;
-    for (const Figura& figura : dibujo_.lienzo.figuras()) {
-        const auto* const etiqueta = std::get_if<EtiquetaMostrada>(&figura);
-        if (etiqueta == nullptr) {
-            continue;
-        }
-        const AspectoDeEtiqueta aspecto = dibujo_.aspecto(*etiqueta);
-        if (visible_.contains(encuadre_.enPapel(aspecto.izquierda, aspecto.arriba))) {
-            ++cuantas[etiqueta->nombre];
-        }
-    }
-    std::set<std::string> demasiadas;
-    for (const auto& [nombre, numero] : cuantas) {
-        if (numero > pluma_.masEtiquetas) {
-            demasiadas.insert(nombre);
-        }
-    }
-    return demasiadas;
-}
-
 } // namespace
 
 QFont LetraDe(const Fuente& fuente, const Pluma& pluma) {
     QFont letra{EnQt(fuente.nombre)};
     letra.setStyleHint(QFont::SansSerif);
-    letra.setPixelSize(
-        std::max(1, static_cast<int>(std::lround(static_cast<double>(fuente.tamano) * pluma.porPunto))));
+    constexpr double letraMayor = 20'000; // larger than any paper
+    const double tamano = static_cast<double>(fuente.tamano) * pluma.porPunto;
+    letra.setPixelSize(static_cast<int>(std::lround(std::clamp(tamano, 1.0, letraMayor))));
     letra.setBold(fuente.negrita);
     letra.setItalic(fuente.cursiva);
     letra.setStrikeOut(fuente.tachado);
@@ -300,13 +276,39 @@ QRectF LugarDeEtiqueta(const AspectoDeEtiqueta& aspecto, const Encuadre& encuadr
     return LugarDe(aspecto, encuadre, QFontMetricsF{LetraDe(aspecto.fuente, pluma)});
 }
 
+std::set<std::string> NombresCallados(const Dibujo& dibujo, const Encuadre& encuadre, const Pluma& pluma,
+                                      const QRectF& visible) {
+    if (pluma.masEtiquetas < 0) {
+        return {};
+    }
+    std::map<std::string, int> cuantas;
+    for (const Figura& figura : dibujo.lienzo.figuras()) {
+        const auto* const etiqueta = std::get_if<EtiquetaMostrada>(&figura);
+        if (etiqueta == nullptr) {
+            continue;
+        }
+        const AspectoDeEtiqueta aspecto = dibujo.aspecto(*etiqueta);
+        if (visible.contains(encuadre.enPapel(aspecto.izquierda, aspecto.arriba))) {
+            ++cuantas[etiqueta->nombre];
+        }
+    }
+    std::set<std::string> callados;
+    for (const auto& [nombre, numero] : cuantas) {
+        if (numero > pluma.masEtiquetas) {
+            callados.insert(nombre);
+        }
+    }
+    return callados;
+}
+
 void Pintar(QPainter& pintor, const Dibujo& dibujo, const Encuadre& encuadre, const Pluma& pluma,
             const QRectF& visible) {
     pintor.save();
     pintor.setRenderHint(QPainter::Antialiasing);
     pintor.setRenderHint(QPainter::TextAntialiasing);
     pintor.fillRect(visible, ColorQt(dibujo.lienzo.BackColor));
-    Pintor{pintor, dibujo, encuadre, pluma, visible}.pintar();
+    Pintor{pintor, dibujo, encuadre, pluma, visible}.pintar(
+        NombresCallados(dibujo, encuadre, pluma, visible));
     pintor.restore();
 }
 

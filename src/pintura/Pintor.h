@@ -8,6 +8,9 @@
 #include <QFont>
 #include <QRectF>
 
+#include <set>
+#include <string>
+
 class QPainter;
 
 namespace varo {
@@ -32,8 +35,12 @@ struct Pluma {
 /// The font with letters of that size; a font that is not installed is replaced by one without serifs.
 QFont LetraDe(const Fuente& fuente, const Pluma& pluma);
 
-/// Where the text of a label is painted, in units of the paper.
+/// Where the text of a label is painted, in units of the paper; one without text is as wide as it is itself.
 QRectF LugarDeEtiqueta(const AspectoDeEtiqueta& aspecto, const Encuadre& encuadre, const Pluma& pluma);
+
+/// Of which labels more are in sight than the pen paints, by their name: none of those is painted.
+std::set<std::string> NombresCallados(const Dibujo& dibujo, const Encuadre& encuadre, const Pluma& pluma,
+                                      const QRectF& visible);
 
 /// Paints the background over all of `visible`, and the shapes that touch it, in their order.
 void Pintar(QPainter& pintor, const Dibujo& dibujo, const Encuadre& encuadre, const Pluma& pluma,

@@ -115,6 +115,64 @@ TEST_F(ElMapa, ElDobleClicEnLaLeyendaVuelveAlFormato) {
     EXPECT_TRUE(alaVista("FrmFormato"));
 }
 
+TEST_F(ElMapa, UnaLeyendaSinTextoTambienRespondeAlDobleClic) {
+    const Etiqueta& leyenda = mapa().LbLeyenda(0);
+    ASSERT_EQ(leyenda.Caption(), "");
+    const QPoint donde = punto(leyenda.Left() + leyenda.Width() / 2, leyenda.Top() - leyenda.Height() / 2);
+    EXPECT_EQ(vista().etiquetaEn(donde), &leyenda);
+    QTest::mouseDClick(&vista(), Qt::LeftButton, {}, donde);
+    Reposar();
+    EXPECT_EQ(modelo("FrmMapa"), nullptr);
+    EXPECT_TRUE(alaVista("FrmFormato"));
+}
+
+TEST_F(ElMapa, UnaEtiquetaQueNoSePintaPorHaberDemasiadasNoSeArrastra) {
+    const Etiqueta& etiqueta = mapa().Lbcodigo(5);
+    const double antes = etiqueta.Left;
+    EXPECT_EQ(vista().etiquetaEn(sobre(etiqueta)), &etiqueta);
+    for (int i = 0; i < 3000; ++i) {
+        mapa().lienzo.etiqueta(etiqueta.Name(), etiqueta.Index());
+    }
+    vista().ponerAlDia();
+    pulsar(sobre(etiqueta));
+    llevar(punto(3, 5));
+    soltar(punto(3, 5));
+    EXPECT_EQ(etiqueta.Left(), antes);
+    EXPECT_EQ(vista().etiquetaEn(sobre(mapa().LbTitulo)), &mapa().LbTitulo);
+}
+
+TEST(VistaDeLienzo, EnUnaPantallaMasFinaSePintaDeNuevo) {
+    class EnOtraPantalla : public VistaDeLienzo {
+    public:
+        using VistaDeLienzo::VistaDeLienzo;
+        int densidad = 1;
+
+    protected:
+        int metric(PaintDeviceMetric cual) const override {
+            if (cual == PdmDevicePixelRatio) {
+                return densidad;
+            }
+            return cual == PdmDevicePixelRatioScaled ? densidad * static_cast<int>(devicePixelRatioFScale())
+                                                     : VistaDeLienzo::metric(cual);
+        }
+    };
+    Lienzo lienzo;
+    lienzo.escala({0, 10, 0, 10});
+    lienzo.circulo(5, 5, 4);
+    const Dibujo dibujo{lienzo, [](const EtiquetaMostrada&) { return AspectoDeEtiqueta{}; }};
+    const auto vistaDe = [&](EnOtraPantalla& vista) {
+        vista.resize(200, 200);
+        return vista.grab().toImage();
+    };
+    EnOtraPantalla llevada{dibujo};
+    ASSERT_EQ(vistaDe(llevada).width(), 200);
+    llevada.densidad = 2;
+    EnOtraPantalla nueva{dibujo};
+    nueva.densidad = 2;
+    ASSERT_EQ(vistaDe(nueva).width(), 400);
+    EXPECT_EQ(vistaDe(llevada), vistaDe(nueva));
+}
+
 TEST_F(ElMapa, ConLaRuedaElPuntoBajoElPunteroSeQuedaEnSuSitio) {
     const QPoint donde{vista().width() / 3, vista().height() / 4};
     const Encuadre antes = vista().encuadre();

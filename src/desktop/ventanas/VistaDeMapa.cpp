@@ -12,6 +12,8 @@
 
 #include <cmath>
 #include <limits>
+#include <set>
+#include <string>
 #include <utility>
 
 namespace varo {
@@ -69,6 +71,13 @@ Etiqueta* VistaDeMapa::etiquetaEn(QPointF punto) const {
     const Encuadre encuadre = this->encuadre();
     const Pluma pluma = this->pluma();
     const auto& figuras = mapa_->lienzo.figuras();
+    std::optional<std::set<std::string>> callados; // counting them takes long too
+    const auto sePinta = [&](const EtiquetaMostrada& mostrada) {
+        if (!callados) {
+            callados = NombresCallados(*dibujo(), encuadre, pluma, QRectF{rect()});
+        }
+        return !callados->contains(mostrada.nombre);
+    };
     for (auto figura = figuras.rbegin(); figura != figuras.rend(); ++figura) {
         const auto* const mostrada = std::get_if<EtiquetaMostrada>(&*figura);
         if (mostrada == nullptr) {
@@ -80,7 +89,8 @@ Etiqueta* VistaDeMapa::etiquetaEn(QPointF punto) const {
         if (punto.y() < arriba || punto.y() > arriba + masAlto) {
             continue; // measuring texts takes long
         }
-        if (LugarDeEtiqueta(mapa_->aspecto(*mostrada), encuadre, pluma).contains(punto)) {
+        if (LugarDeEtiqueta(mapa_->aspecto(*mostrada), encuadre, pluma).contains(punto) &&
+            sePinta(*mostrada)) {
             return &etiqueta;
         }
     }

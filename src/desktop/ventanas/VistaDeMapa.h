@@ -25,6 +25,7 @@ public:
     [[nodiscard]] FrmMapa& mapa() const { return *mapa_; }
 
     /// The label under a point of the view, the last one drawn where several are; null when there is none.
+    /// One that is not painted because too many are in sight is not there.
     [[nodiscard]] Etiqueta* etiquetaEn(QPointF punto) const;
     /// The tree under a point: of those whose crown covers it, or whose place it is, the nearest one.
     [[nodiscard]] const ArbolDelMapa* arbolEn(QPointF punto) const;

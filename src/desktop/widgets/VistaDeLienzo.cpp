@@ -93,8 +93,10 @@ void VistaDeLienzo::paintEvent(QPaintEvent* /*suceso*/) {
         pintor.fillRect(rect(), palette().window());
         return;
     }
-    const bool alDia = encuadreDeImagen_ == encuadre() && imagen_.deviceIndependentSize().toSize() == size();
-    if (alDia || !encuadreDeImagen_ || tardanza_ < tardanzaQueSeNota) {
+    const bool otraPantalla = imagen_.devicePixelRatio() != devicePixelRatioF();
+    const bool alDia = !otraPantalla && encuadreDeImagen_ == encuadre() &&
+                       imagen_.deviceIndependentSize().toSize() == size();
+    if (alDia || otraPantalla || !encuadreDeImagen_ || tardanza_ < tardanzaQueSeNota) {
         if (!alDia) {
             pintarImagen();
         }
