@@ -2,10 +2,29 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 #include <numeric>
+#include <string>
 #include <utility>
 
 namespace varo {
+
+namespace {
+
+/// Why no direction can be told from the subject to a neighbour that lies (dx, dy) from it: rounding is large
+/// beside what parts it from the axis, or beside the distance itself.
+std::string CausaSinDireccion(double dx, double dy) {
+    constexpr double casiNada = 1E-3; // of the way along the axis
+    if (std::abs(dx) < casiNada * std::abs(dy)) {
+        return "los dos árboles tienen casi la misma X";
+    }
+    if (std::abs(dy) < casiNada * std::abs(dx)) {
+        return dy == 0 ? "los dos árboles tienen la misma Y" : "los dos árboles tienen casi la misma Y";
+    }
+    return "la distancia entre los dos árboles, según su tamaño, es demasiado pequeña o demasiado grande";
+}
+
+} // namespace
 
 void GiroAPA::dar(const VecinosAPA& vecinos, Pareja& pareja) {
     assert(vecinos.x.size() == vecinos.cuantos() && vecinos.y.size() == vecinos.cuantos());
@@ -46,7 +65,13 @@ void GiroAPA::medirDirecciones(Vecino primero, Pareja& pareja) {
     angulo_.resize(vecinos_->cuantos());
     const auto medir = [&](Vecino c) {
         pareja.vecino = vecinos_->filas[c];
-        angulo_[c] = AnguloDireccion(vecinos_->xSujeto, vecinos_->ySujeto, vecinos_->x[c], vecinos_->y[c]);
+        const double x = vecinos_->x[c];
+        const double y = vecinos_->y[c];
+        const auto causa = [&] { return CausaSinDireccion(x - vecinos_->xSujeto, y - vecinos_->ySujeto); };
+        angulo_[c] = Porque(fallo::funcionDeHoja, causa, [&] {
+            return Porque(fallo::argumentoNoValido, causa,
+                          [&] { return AnguloDireccion(vecinos_->xSujeto, vecinos_->ySujeto, x, y); });
+        });
     };
     medir(primero);
     for (Vecino c = 0; c < vecinos_->cuantos(); ++c) {

@@ -195,6 +195,18 @@ TEST(Causas, DosArbolesDeLaMismaXOLaMismaYEnAPA) {
         << fin.error;
 }
 
+/// Rounding takes their direction beyond the axis.
+TEST(Causas, DosArbolesCasiDeLaMismaXEnAPA) {
+    auto filas = CuadradoConDos();
+    filas[6][columnaX] = 4.0000001;
+    filas[6][columnaY] = 3.1;
+    const Fin fin = CorrerCon(filas, "ChAPA = 1\n" + Barrido(8, "1", "1", "1"));
+    ExigirCausa(fin, 1004, "los dos árboles tienen casi la misma X (familia APA");
+    EXPECT_NE(fin.error.find("fila 6 de «Parcela1$», árbol 5, con el vecino de la fila 7, árbol 6"),
+              std::string::npos)
+        << fin.error;
+}
+
 TEST(Causas, UnaCabeceraConBlancosOSignosSeNombraConSuRemedio) {
     for (const std::string cabecera : {"Cod especie", "Cod-especie", "2cod"}) {
         auto filas = CuadradoConCentro();
