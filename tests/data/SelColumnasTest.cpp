@@ -316,6 +316,20 @@ TEST(SelColumnas, SinCodigoLaLineaDelCodigoDesapareceAlActivarse) {
     EXPECT_TRUE(dialogo.CmdDibujar.Enabled()) << "conserva su estado hasta la próxima comprobación";
 }
 
+TEST(SelColumnas, AlDesaparecerLaLineaDelCodigoNoSeComprueba) {
+    Eleccion eleccion;
+    eleccion.elegirTodos();
+    auto& dialogo = eleccion.cuatroRadios();
+    // A repeated stem size leaves its button disabled without its line: a test would find a line missing.
+    eleccion.servicios.esperarMensaje(repetida);
+    eleccion.elegirDAP(dialogo, 3);
+    EXPECT_FALSE(dialogo.CmdDAP.Enabled());
+    eleccion.cambiarOpciones([&](OpcionesPrograma& opciones) { eleccion.usuario.clic(opciones.ChCodigo); });
+    eleccion.pedirColumnas();
+    EXPECT_EQ(dialogo.List1.ListCount(), 7);
+    EXPECT_TRUE(dialogo.CmdDibujar.Enabled());
+}
+
 TEST(SelColumnas, CompletarseAlActivarseSinElCodigoNoHabilitaDibujar) {
     const auto ninguno = static_cast<Opcion OpcionesPrograma::*>(nullptr);
     for (const auto tipo : {ninguno, &OpcionesPrograma::Opt2D, &OpcionesPrograma::OptRM}) {

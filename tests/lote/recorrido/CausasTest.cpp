@@ -115,6 +115,12 @@ TEST(Causas, UnaListaVaciaOUnBarridoSinValores) {
     ExigirCausa(CorrerCon(filas, "ChDRActivar = 1\n'OptNumFijo(1)' = true\n" + Barrido(3, "1", "1", "1") +
                                      Barrido(4, "1", "1", "1")),
                 9, "la lista LstDist está vacía: añádale una función (familia DR)");
+    const std::string funcion = "LstDist = [{ tipo = \"EXP\", a = 0, b = 0, c = 0, d = 0, e = 0 }]\n";
+    ExigirCausa(CorrerCon(filas, "ChDRActivar = 1\n'OptNumFijo(1)' = true\n" + Barrido(3, "1", "1", "1") +
+                                     Barrido(4, "1", "2", "-1") + funcion),
+                9,
+                "el barrido que empieza en TxtBAF1(4) va de 1 a 2 con paso -1 y no pasa por ningún valor "
+                "(familia DR)");
 }
 
 TEST(Causas, UnBAFDeCeroONegativo) {
@@ -195,16 +201,36 @@ TEST(Causas, DosArbolesDeLaMismaXOLaMismaYEnAPA) {
         << fin.error;
 }
 
-/// Rounding takes their direction beyond the axis.
-TEST(Causas, DosArbolesCasiDeLaMismaXEnAPA) {
+TEST(Causas, DosArbolesDeLaMismaYQueNoSonLosMasCercanosEnAPA) {
     auto filas = CuadradoConDos();
-    filas[6][columnaX] = 4.0000001;
-    filas[6][columnaY] = 3.1;
+    filas[6][columnaX] = 9.5; // tree 2 is seen nearer
+    filas[6][columnaY] = 6.0;
     const Fin fin = CorrerCon(filas, "ChAPA = 1\n" + Barrido(8, "1", "1", "1"));
-    ExigirCausa(fin, 1004, "los dos árboles tienen casi la misma X (familia APA");
+    ExigirCausa(fin, 11, "los dos árboles tienen la misma Y (familia APA");
     EXPECT_NE(fin.error.find("fila 6 de «Parcela1$», árbol 5, con el vecino de la fila 7, árbol 6"),
               std::string::npos)
         << fin.error;
+}
+
+/// Rounding takes their direction beyond the axis.
+TEST(Causas, DosArbolesCasiDeLaMismaXODeLaMismaYEnAPA) {
+    struct Vecino {
+        double x;
+        double y;
+        int fallo;
+        const char* causa;
+    };
+    for (const Vecino& vecino : {Vecino{4.0000001, 3.1, 1004, "los dos árboles tienen casi la misma X"},
+                                 Vecino{1.38, 6.0000001, 5, "los dos árboles tienen casi la misma Y"}}) {
+        auto filas = CuadradoConDos();
+        filas[6][columnaX] = vecino.x;
+        filas[6][columnaY] = vecino.y;
+        const Fin fin = CorrerCon(filas, "ChAPA = 1\n" + Barrido(8, "1", "1", "1"));
+        ExigirCausa(fin, vecino.fallo, std::string{vecino.causa} + " (familia APA");
+        EXPECT_NE(fin.error.find("fila 6 de «Parcela1$», árbol 5, con el vecino de la fila 7, árbol 6"),
+                  std::string::npos)
+            << fin.error;
+    }
 }
 
 TEST(Causas, UnaCabeceraConBlancosOSignosSeNombraConSuRemedio) {

@@ -85,6 +85,20 @@ TEST(Lugares, UnaFilaSinCoordenadasQueNoEstaEnLaRejillaSeDiceTambien) {
         std::string::npos);
 }
 
+TEST(Lugares, SinColumnaDeNumerosElArbolSeLlamaComoSuPunto) {
+    auto filas = CuadradoBarajado();
+    filas[10][columnaCAP] = std::string{"gordo"};
+    const ParcelaDePrueba parcela{filas};
+    TextoDeTrabajo texto;
+    texto.columnas.replace(texto.columnas.find("\"Arbol\""), 7, "0");
+    texto.opciones = "Optmetro = true\nChDmed = 1\n";
+    const std::string error = Correr(parcela, texto).error;
+    // The eighth row behind the header; the empty ones count.
+    EXPECT_NE(error.find("(familia di/dmed, fila 11 de «Parcela1$», árbol 8, columna «CAP»)"),
+              std::string::npos)
+        << error;
+}
+
 TEST(Lugares, LasFamiliasDeVecinosDicenLaFilaDeLaCelda) {
     auto filas = CuadradoBarajado();
     filas[3][columnaRN] = {};
