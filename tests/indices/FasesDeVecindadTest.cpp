@@ -315,22 +315,38 @@ TEST(FasesDeVecindad, LasMuestrasFueraDelMapaNoCuentan) {
               "familia ISC, columna ISC(Bil.), fila 6 de «Parcela1$», árbol 5");
 }
 
-TEST(FasesDeVecindad, TrasElAPAQuedaElCentroDelUltimoCirculo) {
+/// A tree inside a square that lies askew; the sizes of all five differ.
+Filas CuadradoSesgado() {
     auto filas = CuadradoConCentro();
     const std::vector<std::pair<double, double>> sitios{{0, 0}, {2, 1}, {-1, 2}, {-2, -1}, {1, -2}};
     for (std::size_t i = 0; i < sitios.size(); ++i) {
         filas[i + 1][1] = sitios[i].first;
         filas[i + 1][2] = sitios[i].second;
     }
-    Corrida corrida{filas};
+    return filas;
+}
+
+/// Where the last circle of APA is centred after a run over these exponents.
+std::pair<double, double> CentroTrasElAPA(const char* primero, const char* ultimo, const char* paso) {
+    Corrida corrida{CuadradoSesgado()};
     corrida.opciones().ChAPA.Value = 1;
-    corrida.barrer(8, "0", "0", "0");
+    corrida.barrer(8, primero, ultimo, paso);
     corrida.correr();
+    return {corrida.programa.sesion.CentroCircX, corrida.programa.sesion.CentroCircY};
+}
+
+TEST(FasesDeVecindad, TrasElAPAQuedaElCentroDelUltimoCirculo) {
     // The first tree, the only one inside, turns about the others in the order of the rows. The last circle
     // goes through it, (-2, -1) and (1, -2): its centre lies where -2x - y = 2.5 and x - 2y = 2.5.
     constexpr double redondeo = 1E-14; // m
-    EXPECT_NEAR(corrida.programa.sesion.CentroCircX, -0.5, redondeo);
-    EXPECT_NEAR(corrida.programa.sesion.CentroCircY, -1.5, redondeo);
+    const auto [x, y] = CentroTrasElAPA("0", "0", "0");
+    EXPECT_NEAR(x, -0.5, redondeo);
+    EXPECT_NEAR(y, -1.5, redondeo);
+}
+
+TEST(FasesDeVecindad, TrasUnBarridoDelAPAElCentroEsElDelUltimoExponente) {
+    EXPECT_EQ(CentroTrasElAPA("0", "1", "1"), CentroTrasElAPA("1", "1", "1"));
+    EXPECT_NE(CentroTrasElAPA("0", "1", "1"), CentroTrasElAPA("0", "0", "0"));
 }
 
 /// The lines on the second surface behind its frame.
