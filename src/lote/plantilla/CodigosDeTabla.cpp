@@ -26,6 +26,7 @@ std::vector<std::string> CodigosDeTabla(const Tabla& tabla, const std::string& c
         }
     }
     std::vector<std::string> textos;
+    textos.reserve(codigos.size());
     for (const auto& codigo : codigos) {
         textos.push_back(std::get<std::string>(codigo));
     }
