@@ -79,10 +79,6 @@ TEST(PintorAparte, VariosTrabajosALaVezRecibenCadaUnoLaSuya) {
     EXPECT_NE(solas[0], solas[1]);
 }
 
-TEST(PintorAparte, UnPintorSinEncargosNoEmpiezaNada) {
-    const PintorAparte pintor;
-}
-
 } // namespace
 
 } // namespace varo::prueba
