@@ -1,4 +1,4 @@
-// Runs one statement and hands back the run-time fault that it meets.
+// Runs one statement, or one test, and passes over the run-time fault that it meets.
 #pragma once
 
 #include "basico/ErrorEjecucion.h"
@@ -17,6 +17,15 @@ std::optional<ErrorEjecucion> Saltando(Sentencia&& sentencia) {
         return error;
     }
     return std::nullopt;
+}
+
+/// Whether the block behind a test runs. Meant: a test that faults lets it run, as the run goes on with the
+/// next statement, which is the first one of the block.
+template <class Prueba>
+bool PruebaSaltando(Prueba&& prueba) {
+    bool pasa = true;
+    Saltando([&] { pasa = std::forward<Prueba>(prueba)(); });
+    return pasa;
 }
 
 } // namespace varo

@@ -33,3 +33,9 @@ TEST(Saltando, TambienSaltaLosFallosDelMotor) {
 TEST(Saltando, LoQueNoEsFalloDelProgramaSigueSuCamino) {
     EXPECT_THROW(Saltando([] { throw std::logic_error{"defecto"}; }), std::logic_error);
 }
+
+TEST(Saltando, UnaPruebaQueFallaDejaPasarAlBloque) {
+    EXPECT_TRUE(PruebaSaltando([] { return Dividir(1, 0) < 1; }));
+    EXPECT_TRUE(PruebaSaltando([] { return Dividir(1, 2) < 1; }));
+    EXPECT_FALSE(PruebaSaltando([] { return Dividir(1, 2) > 1; }));
+}
