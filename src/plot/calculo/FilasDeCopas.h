@@ -48,12 +48,4 @@ struct FilasDeCopas {
     std::vector<FilaDeCopa> filas;
 };
 
-/// Two crowns that overlap: their rows of the grid, and the area that they share in m2.
-struct ParDeCopas {
-    double primera = 0, segunda = 0;
-    double area = 0;
-
-    friend bool operator==(const ParDeCopas&, const ParDeCopas&) = default;
-};
-
 } // namespace varo
