@@ -58,10 +58,22 @@ struct Sesion {
         AnguloInterior;     ///< at each vertex, degrees; that of the last walk that came to an end
     double CentroCircX = 0; ///< of the last circle of APA, as the coordinates
     double CentroCircY = 0;
+    double XMaxPoligono = 0; ///< the extent of the boundary, of the last plot data
+    double YMaxPoligono = 0;
+    double YMinPoligono = 0;
 
     // Results of the last computation.
-    double AbHaActual = 0;   ///< basal area, m2/ha
-    double PiesHaActual = 0; ///< stems/ha
+    double AreaTotalCopas = 0; ///< sum of the crown areas, in m2
+    float Fcc = 0;             ///< canopy cover, a fraction of the plot
+    double AbHaActual = 0;     ///< basal area, m2/ha
+    double PiesHaActual = 0;   ///< stems/ha
+
+    // Field names for the queries over a copy of the sheet.
+    std::string CampoRadio;
+    std::string CampoDiamNS, CampoDiamEO;
+    std::string CampoRadioN, CampoRadioE, CampoRadioS, CampoRadioO;
+    std::string CampoSupCopa; ///< the computed crown area
+    std::string TablaCopia;   ///< Meant: nothing ever sets it.
 
     /// Resets what belongs to the open file. The column choice, the boundary and the results stay.
     void reiniciarAlCerrar() {

@@ -76,5 +76,116 @@ TEST(PorHectarea, ElAreaPorHectareaQuitaElBorde) {
     EXPECT_DOUBLE_EQ(AreaBasimetricaPorHectarea(Valor{1.5}, 0.5, 100), 100);
 }
 
+/// A square of 10 m: two of its corners have code A, and none has code B.
+TablaPoligono CuadradoDeCodigos() {
+    TablaPoligono poligono;
+    const auto vertice = [&](double x, double y, const char* codigo) {
+        poligono.anadir(x, y, {Valor{std::string{codigo}}, Valor{0.4}});
+    };
+    vertice(0, 0, "A");
+    vertice(0, 10, "A");
+    vertice(10, 10, "C");
+    vertice(10, 0, "C");
+    vertice(0, 0, "A");
+    return poligono;
+}
+
+MatrizDinamica<double> AngulosRectos() {
+    MatrizDinamica<double> angulos;
+    angulos.redimensionar(3);
+    for (int i = 0; i <= 3; ++i) {
+        angulos(i) = 90;
+    }
+    return angulos;
+}
+
+Valor Letra(const char* codigo) {
+    return std::string{codigo};
+}
+
+TEST(PorHectarea, LaCorreccionDeLosPiesSigueDeCodigoEnCodigo) {
+    const auto base = Hoja({{Letra("A"), 1.0, 1.0},
+                            {Letra("A"), 1.0, 1.0},
+                            {Letra("A"), 1.0, 1.0},
+                            {Letra("B"), 1.0, 1.0},
+                            {Letra("C"), 1.0, 1.0},
+                            {Letra("C"), 1.0, 1.0}});
+    const std::vector<std::string> codigos{"A", "B", "C"};
+    CifrasPorCodigo pies;
+    PiesDeCodigos({base, "Cod", "Hoja1$", codigos}, CuadradoDeCodigos(), 5, 100, pies);
+    // A: 3 - 2/2. B has no vertex, and carries those of A: 1 - 2/2. C: 2 - 4/2.
+    EXPECT_EQ(pies.porHectarea, (std::vector<double>{200, 0, 0}));
+    EXPECT_EQ(pies.total, 200);
+
+    const std::vector<std::string> alReves{"B", "A"};
+    PiesDeCodigos({base, "Cod", "Hoja1$", alReves}, CuadradoDeCodigos(), 5, 100, pies);
+    EXPECT_EQ(pies.porHectarea, (std::vector<double>{100, 200})) << "antes de A no hay vértices";
+}
+
+TEST(PorHectarea, UnCodigoConMasVerticesQuePiesDaMenosDeCero) {
+    const auto base = Hoja({{Letra("A"), 1.0, 1.0}, {Letra("C"), 1.0, 1.0}});
+    const std::vector<std::string> codigos{"C", "A"};
+    CifrasPorCodigo pies;
+    PiesDeCodigos({base, "Cod", "Hoja1$", codigos}, CuadradoDeCodigos(), 5, 100, pies);
+    EXPECT_EQ(pies.porHectarea, (std::vector<double>{0, -100}));
+}
+
+TEST(PorHectarea, LaCorreccionDelAreaSigueDeCodigoEnCodigo) {
+    const auto base = Hoja({{Letra("A"), 200.0, 1.0}, {Letra("B"), 100.0, 1.0}, {Letra("B"), nada, 1.0}});
+    const std::vector<std::string> codigos{"A", "B"};
+    CifrasPorCodigo area;
+    const UnidadesTallo metros{false, UnidadLongitud::Metros};
+    AreaBasimetricaDeCodigos({base, "Cod", "Hoja1$", codigos}, "CAP", metros, CuadradoDeCodigos(), 5,
+                             AngulosRectos(), 100, area);
+    const double quitar = 0.4 * 0.75 + 0.4 * 0.75;
+    const double deA = (200.0 * 200.0 * 3.1415927 / 4 - quitar) / 100 * 10000;
+    const double deB = (100.0 * 100.0 * 3.1415927 / 4 - quitar) / 100 * 10000;
+    EXPECT_EQ(area.porHectarea, (std::vector<double>{deA, deB}));
+    EXPECT_EQ(area.total, deA + deB);
+}
+
+TEST(PorHectarea, UnCodigoDeNumerosVaSinComillas) {
+    EXPECT_EQ(CondicionDeCodigo("Cod", "12"), "Cod = 12");
+    EXPECT_EQ(CondicionDeCodigo("Cod", "Ps"), "Cod = 'Ps'");
+    EXPECT_EQ(CondicionDeCodigo("Cod", "1A"), "Cod = '1A'");
+    const auto base = Hoja({{12.0, 1.0, 1.0}, {Letra("12"), 1.0, 1.0}, {13.0, 1.0, 1.0}});
+    const std::vector<std::string> codigos{"12"};
+    CifrasPorCodigo pies;
+    PiesDeCodigos({base, "Cod", "Hoja1$", codigos}, CuadradoDeCodigos(), 1, 10000, pies);
+    EXPECT_EQ(pies.porHectarea, (std::vector<double>{2}));
+}
+
+TEST(PorHectarea, UnaComillaEnUnCodigoRompeLaConsultaYDejaLosDeAntes) {
+    const auto base = Hoja({{Letra("A"), 1.0, 1.0}, {Letra("L'Aliga"), 1.0, 1.0}});
+    const std::vector<std::string> codigos{"A", "L'Aliga"};
+    CifrasPorCodigo pies;
+    EXPECT_TRUE(prueba::FallaCon(3075, "el código «L'Aliga» lleva una comilla", [&] {
+        PiesDeCodigos({base, "Cod", "Hoja1$", codigos}, CuadradoDeCodigos(), 1, 10000, pies);
+    }));
+    EXPECT_EQ(pies.total, 1);
+}
+
+TEST(PorHectarea, UnCodigoSinTamanosNoTieneArea) {
+    const auto base = Hoja({{Letra("A"), nada, 1.0}});
+    const std::vector<std::string> codigos{"A"};
+    CifrasPorCodigo area;
+    EXPECT_TRUE(prueba::FallaCon<ErrorEjecucion>(94, "ninguno de sus árboles tiene tamaño", [&] {
+        AreaBasimetricaDeCodigos({base, "Cod", "Hoja1$", codigos}, "CAP", {}, CuadradoDeCodigos(), 5,
+                                 AngulosRectos(), 100, area);
+    }));
+}
+
+TEST(PorHectarea, UnaPalabraEnElTamanoDeOtroCodigoNoEstorba) {
+    const auto base = Hoja({{Letra("A"), 1.0, 1.0}, {Letra("B"), Letra("gordo"), 1.0}});
+    const std::vector<std::string> codigos{"A"};
+    CifrasPorCodigo area;
+    EXPECT_EQ(FalloDe([&] {
+                  AreaBasimetricaDeCodigos({base, "Cod", "Hoja1$", codigos}, "CAP", {}, CuadradoDeCodigos(),
+                                           1, AngulosRectos(), 100, area);
+              }),
+              0);
+    EXPECT_EQ(area.porHectarea.size(), 1U);
+}
+
 } // namespace
 } // namespace varo
