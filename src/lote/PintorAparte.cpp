@@ -46,9 +46,7 @@ std::string Pintada(const FrmMapa& mapa, const std::string& extension,
     }
     const auto formato = FormatoDe(extension);
     assert(formato && "the job was checked");
-    return ImagenDe(
-        {mapa.lienzo, [&mapa](const EtiquetaMostrada& mostrada) { return mapa.aspecto(mostrada); }},
-        *formato);
+    return ImagenDe({mapa.lienzo, mapa.lectorDeAspectos()}, *formato);
 }
 
 } // namespace

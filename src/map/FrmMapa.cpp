@@ -115,6 +115,10 @@ AspectoDeEtiqueta FrmMapa::aspecto(const EtiquetaMostrada& mostrada) const {
             suya.Width, suya.BackColor, suya.Font,      &suya == &LbTitulo};
 }
 
+LeerAspecto FrmMapa::lectorDeAspectos() const {
+    return [this](const EtiquetaMostrada& mostrada) { return aspecto(mostrada); };
+}
+
 void FrmMapa::decirQueNoHayDibujo() {
     aviso = "todos los árboles están en el mismo punto: no hay nada que dibujar en el mapa";
     LbTitulo.Caption = "Todos los árboles están en el mismo punto";

@@ -56,6 +56,8 @@ public:
     [[nodiscard]] const Etiqueta& etiqueta(const EtiquetaMostrada& mostrada) const;
     /// What it looks like now, for whoever paints or writes the list.
     [[nodiscard]] AspectoDeEtiqueta aspecto(const EtiquetaMostrada& mostrada) const;
+    /// Asks `aspecto`, for as long as the window lives.
+    [[nodiscard]] LeerAspecto lectorDeAspectos() const;
     /// Trees that are all in one place give a scale without extent: the map says so, and shows nothing else.
     void decirQueNoHayDibujo();
 

@@ -6,8 +6,7 @@
 namespace varo {
 
 std::string TextoDelMapa(const FrmMapa& mapa) {
-    return TextoDeLienzo(mapa.lienzo,
-                         [&mapa](const EtiquetaMostrada& mostrada) { return mapa.aspecto(mostrada); });
+    return TextoDeLienzo(mapa.lienzo, mapa.lectorDeAspectos());
 }
 
 } // namespace varo

@@ -29,10 +29,6 @@ QCursor Puntero(const std::string& nombre) {
     return QCursor{QIcon{":/punteros/" + sinExtension + ".svg"}.pixmap(lado)};
 }
 
-Dibujo DibujoDe(const FrmMapa& mapa) {
-    return {mapa.lienzo, [&mapa](const EtiquetaMostrada& mostrada) { return mapa.aspecto(mostrada); }};
-}
-
 } // namespace
 
 QString DescripcionDe(const ArbolDelMapa& arbol) {
@@ -55,7 +51,7 @@ QString DescripcionDe(const ArbolDelMapa& arbol) {
 }
 
 VistaDeMapa::VistaDeMapa(FrmMapa& mapa, Usuario& usuario)
-    : VistaDeLienzo{DibujoDe(mapa)}, mapa_{&mapa}, usuario_{usuario} {}
+    : VistaDeLienzo{{mapa.lienzo, mapa.lectorDeAspectos()}}, mapa_{&mapa}, usuario_{usuario} {}
 
 void VistaDeMapa::soltar() {
     arrastre_.reset();
