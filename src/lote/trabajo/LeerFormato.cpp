@@ -1,7 +1,6 @@
 #include "lote/trabajo/LeerFormato.h"
 
 #include <charconv>
-#include <cmath>
 
 namespace varo {
 
@@ -94,7 +93,7 @@ private:
                                {"nombre", "tamano", "negrita", "cursiva", "tachado", "subrayado"});
         FuentePedida fuente;
         if (const auto* const nombre = tabla.get("nombre")) {
-            fuente.nombre = lector_.texto(*nombre, clave + ".nombre");
+            fuente.nombre = nombreDeFuente(*nombre, clave + ".nombre");
         }
         fuente.tamano = tamano(tabla, clave + ".tamano");
         fuente.negrita = logico(tabla, clave, "negrita");
@@ -104,7 +103,16 @@ private:
         return Pedido<FuentePedida>{fuente, {clave, LectorDeToml::lineaDe(*nodo)}};
     }
 
+    std::string nombreDeFuente(const toml::node& nodo, const std::string& clave) {
+        std::string nombre = lector_.texto(nodo, clave);
+        if (nombre.find_first_not_of(" \t\r\n") == std::string::npos) {
+            lector_.rechazar({clave, LectorDeToml::lineaDe(nodo)}, "está vacío");
+        }
+        return nombre;
+    }
+
     std::optional<float> tamano(const toml::table& tabla, const std::string& clave) {
+        constexpr double maximo = 512; // what the font dialog of the desktop takes
         const auto* const nodo = tabla.get("tamano");
         if (nodo == nullptr) {
             return std::nullopt;
@@ -113,10 +121,10 @@ private:
         if (!nodo->is_number() || !numero) {
             lector_.rechazarTipo(*nodo, clave, "un número de puntos");
         }
-        const auto puntos = static_cast<float>(*numero);
-        if (!(puntos > 0) || !std::isfinite(puntos)) {
+        const auto puntos = *numero <= maximo ? static_cast<float>(*numero) : 0.0F;
+        if (!(puntos > 0)) {
             lector_.rechazar({clave, LectorDeToml::lineaDe(*nodo)},
-                             "el tamaño de una letra, en puntos, es mayor que 0");
+                             "el tamaño de una letra, en puntos, es mayor que 0 y no pasa de 512");
         }
         return puntos;
     }

@@ -6,8 +6,8 @@
 
 namespace varo {
 
-/// An unknown key, a value of the wrong type, a colour that is no "#RRGGBB", an empty font name and a size
-/// not above 0 throw ErrorTrabajo.
+/// An unknown key, a value of the wrong type, a colour that is no "#RRGGBB", a font name without letters
+/// and a size that is not above 0, or above 512 points, throw ErrorTrabajo.
 FormatoPedido LeerFormato(const toml::node& nodo, const LectorDeToml& lector);
 
 } // namespace varo

@@ -168,6 +168,10 @@ private:
             return;
         }
         if (const auto* const lista = nodo->as_array()) {
+            if (lista->empty()) {
+                rechazar({clave, lineaDe(*nodo)},
+                         "la lista está vacía: ponga en ella algún archivo, o quite la clave");
+            }
             for (const auto& nombre : *lista) {
                 trabajo_.mapas.push_back(mapa(nombre, clave));
             }

@@ -96,6 +96,12 @@ TEST(Trabajo, ElFormatoDelMapaSeLeeEnteroConSusLineas) {
     EXPECT_EQ(trabajo.mapas[1].ruta, "t/b/c.PNG");
 }
 
+TEST(Trabajo, UnaLetraTieneHasta512Puntos) {
+    const std::string antes = "archivo = 'a.xls'\nhoja = 'H'\ncolumnas = {}\n[formato]\nfuente = { tamano = ";
+    EXPECT_EQ(InterpretarTrabajo(antes + "512 }", "t.toml").formato->fuente->valor.tamano, 512.0F);
+    EXPECT_EQ(InterpretarTrabajo(antes + "0.5 }", "t.toml").formato->fuente->valor.tamano, 0.5F);
+}
+
 TEST(Trabajo, LasOpcionesYLasSalidasPuedenFaltar) {
     const auto trabajo = InterpretarTrabajo("archivo = 'a.xls'\nhoja = 'H'\n[columnas]\n", "t.toml");
     EXPECT_TRUE(trabajo.columnas.empty());
@@ -171,6 +177,8 @@ TEST(Trabajo, CadaErrorNombraElTrabajoLaClaveYLaRazon) {
          "t.toml: línea 5: salida.mapa: «..» no es el nombre de un archivo"},
         {base + "[salida]\nmapa = ['a.txt', 'b.jpg']\n",
          "t.toml: línea 5: salida.mapa: «b.jpg»: un mapa se escribe como .svg, .pdf, .png o .txt"},
+        {base + "[salida]\nmapa = []\n",
+         "t.toml: línea 5: salida.mapa: la lista está vacía: ponga en ella algún archivo, o quite la clave"},
         {base + "[salida]\nmapa = ['a.txt', 3]\n",
          "t.toml: línea 5: salida.mapa: se espera un texto y hay un número entero"},
         {base + "[salida]\nmapa = true\n",
@@ -186,12 +194,34 @@ TEST(Trabajo, CadaErrorNombraElTrabajoLaClaveYLaRazon) {
          "t.toml: línea 5: formato.color = «#1B783»: un color se escribe \"#RRGGBB\", como \"#1B7837\""},
         {base + "[formato]\nfuente = { nombre = '' }\n",
          "t.toml: línea 5: formato.fuente.nombre: está vacío"},
+        {base + "[formato]\nfuente = { nombre = '  ' }\n",
+         "t.toml: línea 5: formato.fuente.nombre: está vacío"},
+        {base + "[formato.codigos.Ps]\nfuente = { nombre = \"\\t \" }\n",
+         "t.toml: línea 5: formato.codigos.Ps.fuente.nombre: está vacío"},
         {base + "[formato]\nfuente = { tamano = 0 }\n",
-         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0"},
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0 y no "
+         "pasa de 512"},
         {base + "[formato]\nfuente = { tamano = -1.5 }\n",
-         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0"},
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0 y no "
+         "pasa de 512"},
         {base + "[formato]\nfuente = { tamano = nan }\n",
-         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0"},
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0 y no "
+         "pasa de 512"},
+        {base + "[formato]\nfuente = { tamano = -inf }\n",
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0 y no "
+         "pasa de 512"},
+        {base + "[formato]\nfuente = { tamano = 512.5 }\n",
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0 y no "
+         "pasa de 512"},
+        {base + "[formato]\nfuente = { tamano = 1e39 }\n",
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0 y no "
+         "pasa de 512"},
+        {base + "[formato]\nfuente = { tamano = 1e-50 }\n",
+         "t.toml: línea 5: formato.fuente.tamano: el tamaño de una letra, en puntos, es mayor que 0 y no "
+         "pasa de 512"},
+        {base + "[formato.codigos.Ps]\nfuente = { tamano = 1e30 }\n",
+         "t.toml: línea 5: formato.codigos.Ps.fuente.tamano: el tamaño de una letra, en puntos, es mayor que "
+         "0 y no pasa de 512"},
         {base + "[formato]\nfuente = { tamano = true }\n",
          "t.toml: línea 5: formato.fuente.tamano: se espera un número de puntos y hay un valor lógico"},
         {base + "[formato]\nfuente = { negrita = 1 }\n",
