@@ -8,45 +8,17 @@
 #include <array>
 #include <cassert>
 #include <iostream>
-#include <set>
 #include <utility>
-#include <variant>
 
 namespace varo {
 
 namespace {
-
-/// The fonts of the labels in sight that the system does not have. Those of the design are missing on most
-/// systems, and nobody asked for them.
-std::set<std::string> FuentesQueFaltan(const FrmMapa& mapa) {
-    const std::set<std::string> deDiseno{Fuente{}.nombre, "Arial"};
-    std::set<std::string> pedidas;
-    for (const Figura& figura : mapa.lienzo.figuras()) {
-        if (const auto* const mostrada = std::get_if<EtiquetaMostrada>(&figura)) {
-            pedidas.insert(mapa.etiqueta(*mostrada).Font().nombre);
-        }
-    }
-    std::erase_if(pedidas, [&](const std::string& fuente) {
-        return deDiseno.contains(fuente) || EstaInstalada(fuente);
-    });
-    return pedidas;
-}
 
 /// The toolkit grumbles about desktops and folders that a batch does not need.
 void DecirLoGrave(QtMsgType tipo, const QMessageLogContext& /*lugar*/, const QString& texto) {
     if (tipo == QtCriticalMsg || tipo == QtFatalMsg) {
         std::cerr << "varo-lote: " << texto.toStdString() << '\n';
     }
-}
-
-std::string Pintada(const FrmMapa& mapa, const std::string& extension,
-                    const std::function<void(const std::string&)>& avisar) {
-    for (const std::string& fuente : FuentesQueFaltan(mapa)) {
-        avisar("la fuente «" + fuente + "» no está instalada: se pinta con otra");
-    }
-    const auto formato = FormatoDe(extension);
-    assert(formato && "the job was checked");
-    return ImagenDe({mapa.lienzo, mapa.lectorDeAspectos()}, *formato);
 }
 
 } // namespace
@@ -62,10 +34,9 @@ PintorAparte::~PintorAparte() {
     }
 }
 
-std::string PintorAparte::pintar(const FrmMapa& mapa, const std::string& extension,
-                                 const std::function<void(const std::string&)>& avisar) {
-    Encargo encargo{[&] { return Pintada(mapa, extension, avisar); }};
-    std::future<std::string> imagen = encargo.get_future();
+void PintorAparte::encargar(const std::function<void()>& acto) {
+    Encargo encargo{acto};
+    std::future<void> hecho = encargo.get_future();
     {
         const std::lock_guard cerrojo{libre_};
         encargos_.push_back(std::move(encargo));
@@ -74,7 +45,20 @@ std::string PintorAparte::pintar(const FrmMapa& mapa, const std::string& extensi
         }
     }
     hayEncargo_.notify_one();
-    return imagen.get(); // the job waits: nothing of it moves meanwhile
+    hecho.get(); // the job waits: nothing of it moves meanwhile
+}
+
+std::string PintorAparte::pintar(const FrmMapa& mapa, const std::string& extension) {
+    const auto formato = FormatoDe(extension);
+    assert(formato && "the job was checked");
+    std::string imagen;
+    encargar([&] { imagen = ImagenDe({mapa.lienzo, mapa.lectorDeAspectos()}, *formato); });
+    return imagen;
+}
+
+std::set<std::string> PintorAparte::fuentesQueFaltan(std::set<std::string> fuentes) {
+    encargar([&] { std::erase_if(fuentes, EstaInstalada); });
+    return fuentes;
 }
 
 void PintorAparte::atender() {

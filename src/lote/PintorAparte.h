@@ -5,6 +5,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <functional>
 #include <future>
 #include <mutex>
 #include <thread>
@@ -18,12 +19,14 @@ public:
     PintorAparte() = default;
     ~PintorAparte() override;
 
-    std::string pintar(const FrmMapa& mapa, const std::string& extension,
-                       const std::function<void(const std::string&)>& avisar) override;
+    std::string pintar(const FrmMapa& mapa, const std::string& extension) override;
+    std::set<std::string> fuentesQueFaltan(std::set<std::string> fuentes) override;
 
 private:
-    using Encargo = std::packaged_task<std::string()>;
+    using Encargo = std::packaged_task<void()>;
 
+    /// Has it done on the thread of the toolkit, and waits for it.
+    void encargar(const std::function<void()>& acto);
     void atender();
 
     std::mutex libre_;

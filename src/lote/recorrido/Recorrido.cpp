@@ -133,6 +133,7 @@ Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento, Pi
     Informe informe;
     informe.arboles = puesto.programa.tocar<Hojadedatos>().MSFlexGrid1.Rows() - 1;
     informe.superficie = puesto.programa.sesion.SupPoligono;
+    AvisarDeLasFuentes(puesto, pintor);
     Salidas salidas{puesto};
     for (const auto& mapa : trabajo.mapas) {
         salidas.intentar([&] { EscribirMapa(puesto, mapa, pintor); });

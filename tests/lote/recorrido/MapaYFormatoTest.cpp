@@ -48,15 +48,17 @@ struct TrabajoConMapa {
     }
 };
 
-/// A painter that draws a line of text, or fails.
+/// A painter that draws a line of text, or fails, where there is no font but Letra.
 struct PintorDePrueba : PintorDeMapas {
-    std::string pintar(const FrmMapa& mapa, const std::string& extension,
-                       const std::function<void(const std::string&)>& avisar) override {
+    std::string pintar(const FrmMapa& mapa, const std::string& extension) override {
         if (extension == ".pdf") {
             throw ErrorEjecucion{5, "No se puede pintar"};
         }
-        avisar("no está instalada la fuente «Rara»");
         return extension + " de " + mapa.LbTitulo.Caption();
+    }
+    std::set<std::string> fuentesQueFaltan(std::set<std::string> fuentes) override {
+        fuentes.erase("Letra");
+        return fuentes;
     }
 };
 
@@ -161,8 +163,52 @@ TEST(MapaDeTrabajo, LosDibujosLosHaceElPintorQueSeLeDa) {
     const auto fin = CorrerConPintor(p.parcela, p.texto);
     ASSERT_EQ(fin.error, "");
     EXPECT_EQ(LeerArchivo(p.parcela.ruta("mapa.svg")), ".svg de Ladera");
-    ASSERT_EQ(fin.avisos.size(), 1U);
-    EXPECT_TRUE(fin.avisos[0].ends_with("salida.mapa: aviso: no está instalada la fuente «Rara»"));
+    EXPECT_EQ(fin.avisos, std::vector<std::string>{}) << "las fuentes de diseño no las pidió nadie";
+}
+
+/// What a job with this format, title and all, is told of its fonts; its maps are these.
+std::vector<std::string> AvisosDeFuentes(const std::string& formato,
+                                         const std::string& mapas = "['mapa.svg', 'mapa.png', 'mapa.txt']") {
+    TrabajoConMapa p{formato};
+    p.texto.salida = "mapa = " + mapas + "\n";
+    auto fin = CorrerConPintor(p.parcela, p.texto);
+    EXPECT_EQ(fin.error, "");
+    const std::string ruta = p.parcela.ruta("trabajo.toml").string() + ": ";
+    for (std::string& aviso : fin.avisos) {
+        aviso.erase(0, ruta.size());
+    }
+    return fin.avisos;
+}
+
+TEST(MapaDeTrabajo, UnaFuenteQueFaltaSeDiceUnaVezPorTrabajo) {
+    EXPECT_EQ(
+        AvisosDeFuentes("fuente = { nombre = 'Rara' }\n"),
+        std::vector<std::string>{"formato: aviso: no está instalada la fuente «Rara»: el mapa se pinta con "
+                                 "otra"});
+    EXPECT_EQ(
+        AvisosDeFuentes("fuente = { nombre = 'Rara' }\n"
+                        "[formato.codigos.PS]\ntexto = 'a'\nfuente = { nombre = 'Otra' }\n"
+                        "[formato.codigos.QP]\ntexto = 'b'\nfuente = { nombre = 'Rara' }\n"),
+        std::vector<std::string>{"formato: aviso: no están instaladas las fuentes «Otra», «Rara»: el mapa se "
+                                 "pinta con otras"});
+    EXPECT_TRUE(AvisosDeFuentes("fuente = { nombre = 'Letra' }\n").empty());
+}
+
+TEST(MapaDeTrabajo, UnaFuenteDeDisenoQueElTrabajoNombraTambienSeDice) {
+    for (const std::string fuente : {"Arial", "MS Sans Serif"}) {
+        EXPECT_EQ(AvisosDeFuentes("fuente = { nombre = '" + fuente + "' }\n"),
+                  std::vector<std::string>{"formato: aviso: no está instalada la fuente «" + fuente +
+                                           "»: el mapa se pinta con otra"});
+    }
+    EXPECT_TRUE(AvisosDeFuentes("fuente = { tamano = 14 }\n").empty()) << "sin nombre queda la de diseño";
+}
+
+TEST(MapaDeTrabajo, LaFuenteDeUnTextoQueNoSeVeNoSeMira) {
+    EXPECT_TRUE(AvisosDeFuentes("[formato.codigos.PS]\nfuente = { nombre = 'Rara' }\n").empty())
+        << "una leyenda empieza sin texto";
+    EXPECT_TRUE(AvisosDeFuentes("titulo = '  '\nfuente = { nombre = 'Rara' }\n").empty());
+    EXPECT_TRUE(AvisosDeFuentes("fuente = { nombre = 'Rara' }\n", "'mapa.txt'").empty())
+        << "lo que no se pinta no tiene letras";
 }
 
 TEST(MapaDeTrabajo, UnDibujoQueFallaDejaLosOtrosYLoDice) {
