@@ -3,10 +3,9 @@
 #include "basico/Aritmetica.h"
 #include "indices/vecinos/Competidores.h"
 #include "indices/vecinos/LadoVertical.h"
-#include "indices/vecinos/MallaDeCopa.h"
+#include "plot/calculo/MuestrasDeCopa.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace varo {
 
@@ -26,60 +25,6 @@ bool CajaEnPoligono(const ContornoXY& contorno, const Copa& copa) {
         });
     });
 }
-
-/// Whether the boxes of two crowns overlap on the sides that face each other. Meant: with one x or one y
-/// crowns count as if B lay to the left and above, however far it is.
-bool CajasCruzadas(const Copa& a, const Copa& b) {
-    if (a.x < b.x && a.y > b.y) {
-        return a.x + a.E > b.x - b.W && a.y - a.S < b.y + b.N;
-    }
-    if (a.x < b.x && a.y < b.y) {
-        return a.x + a.E > b.x - b.W && a.y + a.N > b.y - b.S;
-    }
-    if (a.x > b.x && a.y > b.y) {
-        return a.x - a.W < b.x + b.E && a.y - a.S < b.y + b.N;
-    }
-    return a.x - a.W < b.x + b.E && a.y + a.N > b.y - b.S;
-}
-
-/// The samples of one crown that other crowns cover.
-class MuestrasDeCopa {
-public:
-    MuestrasDeCopa(const Copa& copa, const Escala& superficie)
-        : malla_{SobreLaSuperficie(MallaDe(copa, paso), superficie)}, cobertura_{malla_} {
-        cobertura_.poner(Pintada(copa));
-        suyas_.reserve(malla_.x.size());
-        for (std::size_t columna = 0; columna < malla_.x.size(); ++columna) {
-            suyas_.push_back(cobertura_.en(columna));
-            cuantas_ += suyas_.back().cuantas();
-        }
-    }
-    MuestrasDeCopa(const MuestrasDeCopa&) = delete;
-    MuestrasDeCopa& operator=(const MuestrasDeCopa&) = delete;
-
-    [[nodiscard]] double cuantas() const { return static_cast<double>(cuantas_); }
-
-    /// How many of them turn another colour when this crown is painted over.
-    double tapadasPor(const Copa& otra) {
-        cobertura_.poner(Pintada(otra));
-        std::size_t tapadas = 0;
-        for (std::size_t columna = 0; columna < suyas_.size(); ++columna) {
-            const FilasTapadas deLaOtra = cobertura_.en(columna);
-            tapadas += FilasTapadas{std::max(suyas_[columna].desde, deLaOtra.desde),
-                                    std::min(suyas_[columna].hasta, deLaOtra.hasta)}
-                           .cuantas();
-        }
-        return static_cast<double>(tapadas);
-    }
-
-private:
-    static constexpr double paso = 0.1; // m
-
-    MallaDeCopa malla_;
-    Cobertura cobertura_;
-    std::vector<FilasTapadas> suyas_; ///< by column
-    std::size_t cuantas_ = 0;
-};
 
 class VarianteDeElipses {
 public:

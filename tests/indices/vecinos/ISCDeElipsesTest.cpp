@@ -2,7 +2,6 @@
 
 #include "apoyo/Fallos.h"
 #include "indices/vecinos/ElipsesLiteral.h"
-#include "indices/vecinos/MallaDeCopa.h"
 #include "indices/vecinos/ParcelaAlAzar.h"
 
 #include <gtest/gtest.h>
@@ -219,13 +218,6 @@ TEST(ISCDeElipses, LaSuperficieQuedaConLoDelUltimoArbol) {
     const Copa tercera{11, 11, 1, 1, 1, 1};
     EXPECT_EQ(copas.superficie.figuras(), (std::vector<Figura>{CopaLlena{tercera, 0}, CopaLlena{tercera, 0},
                                                                CopaLlena{segunda, 0xFF0000}}));
-}
-
-TEST(MallaDeCopa, LosPasosSeSumanYElUltimoPuedePerderse) {
-    // 0,1 added three times is a little more than 0,3.
-    EXPECT_EQ(MallaDe({0, 0, 0.3, 0.3, 0, 0}, 0.1).x, (std::vector<double>{0, 0.1, 0.2}));
-    EXPECT_EQ(MallaDe({0, 0, 0.4, 1, 0.2, 0}, 0.5).x, (std::vector<double>{0, 0.5, 1}));
-    EXPECT_TRUE(MallaDe({0, 0, 1, -1, 1, 0.5}, 0.1).x.empty());
 }
 
 /// Trees near each other in a plot of some ten metres: in one place, in line, on vertices, near the border.

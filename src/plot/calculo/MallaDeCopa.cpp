@@ -1,4 +1,4 @@
-#include "indices/vecinos/MallaDeCopa.h"
+#include "plot/calculo/MallaDeCopa.h"
 
 #include "basico/ErrorEjecucion.h"
 
