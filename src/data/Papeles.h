@@ -8,19 +8,6 @@ namespace varo {
 inline constexpr int papelX = 0;
 inline constexpr int papelY = 1;
 
-/// How many columns hold the measures of a crown.
-constexpr int MedidasDeCopa(DatosDeCopa datos) {
-    switch (datos) {
-    case DatosDeCopa::CuatroRadios:
-        return 4;
-    case DatosDeCopa::DosDiametros:
-        return 2;
-    case DatosDeCopa::RadioMedio:
-        break;
-    }
-    return 1;
-}
-
 /// Measures count from 0: radii to the north, east, south and west; diameters north-south and east-west.
 constexpr int PapelDeCopa(int medida) {
     return papelY + 1 + medida;

@@ -14,4 +14,17 @@ struct UnidadesTallo {
 /// What the sheet holds of each crown.
 enum class DatosDeCopa { CuatroRadios, DosDiametros, RadioMedio };
 
+/// How many columns hold the measures of a crown.
+constexpr int MedidasDeCopa(DatosDeCopa datos) {
+    switch (datos) {
+    case DatosDeCopa::CuatroRadios:
+        return 4;
+    case DatosDeCopa::DosDiametros:
+        return 2;
+    case DatosDeCopa::RadioMedio:
+        break;
+    }
+    return 1;
+}
+
 } // namespace varo
