@@ -38,6 +38,10 @@ MallaDeCopa SobreLaSuperficie(MallaDeCopa malla, const Escala& escala) {
     return malla;
 }
 
+FilasTapadas FilasComunes(const FilasTapadas& unas, const FilasTapadas& otras) {
+    return {std::max(unas.desde, otras.desde), std::min(unas.hasta, otras.hasta)};
+}
+
 void Cobertura::poner(const Copa& copa) {
     copa_ = copa;
     cuadrados_.clear();

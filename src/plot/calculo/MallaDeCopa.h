@@ -21,12 +21,16 @@ MallaDeCopa MallaDe(const Copa& copa, double paso);
 /// The net without what lies outside of the surface.
 MallaDeCopa SobreLaSuperficie(MallaDeCopa malla, const Escala& escala);
 
-/// The rows of a column that a crown covers: from one up to the one before another.
+/// The rows of a column that a crown covers, or that lie in a boundary: from one up to the one before
+/// another.
 struct FilasTapadas {
     std::size_t desde = 0, hasta = 0;
 
     [[nodiscard]] std::size_t cuantas() const { return hasta > desde ? hasta - desde : 0; }
 };
+
+/// The rows that two runs share.
+FilasTapadas FilasComunes(const FilasTapadas& unas, const FilasTapadas& otras);
 
 /// Which samples of a net a crown covers, column by column: they are those that `Copa::cubre` gives. In a
 /// column they make one run, because the sum of the two squares never falls away from the tree.

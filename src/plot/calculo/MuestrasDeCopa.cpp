@@ -31,12 +31,17 @@ double MuestrasDeCopa::tapadasPor(const Copa& otra) {
     cobertura_.poner(Pintada(otra));
     std::size_t tapadas = 0;
     for (std::size_t columna = 0; columna < suyas_.size(); ++columna) {
-        const FilasTapadas deLaOtra = cobertura_.en(columna);
-        tapadas += FilasTapadas{std::max(suyas_[columna].desde, deLaOtra.desde),
-                                std::min(suyas_[columna].hasta, deLaOtra.hasta)}
-                       .cuantas();
+        tapadas += FilasComunes(suyas_[columna], cobertura_.en(columna)).cuantas();
     }
     return static_cast<double>(tapadas);
+}
+
+void MuestrasDeCopa::limitar(const std::vector<FilasTapadas>& filas) {
+    cuantas_ = 0;
+    for (std::size_t columna = 0; columna < suyas_.size(); ++columna) {
+        suyas_[columna] = FilasComunes(suyas_[columna], filas[columna]);
+        cuantas_ += suyas_[columna].cuantas();
+    }
 }
 
 } // namespace varo

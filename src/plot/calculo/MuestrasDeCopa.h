@@ -27,6 +27,10 @@ public:
     /// How many of them turn another colour when this crown is painted over.
     double tapadasPor(const Copa& otra);
 
+    [[nodiscard]] const MallaDeCopa& malla() const { return malla_; }
+    /// Forgets those outside of the given rows of each column.
+    void limitar(const std::vector<FilasTapadas>& filas);
+
 private:
     static constexpr double paso = 0.1; // m
 
