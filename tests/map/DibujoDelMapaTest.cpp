@@ -311,12 +311,71 @@ TEST(DibujoDelMapa, UnaCoordenadaMalaDejaElContornoYElOrdenDeAntesYLoDibujadoHas
     EXPECT_TRUE(p.mapa().Visible()) << "la de antes, con lo que se dibujó";
 }
 
-TEST(DibujoDelMapa, TodosLosArbolesEnUnPuntoLoDiceElMapa) {
+TEST(DibujoDelMapa, LoQueNoEsNumeroCuentaComoMenosUnoEnLosExtremos) {
+    for (const Valor& celda : {TextoDeCelda("diez"), Valor{}}) {
+        auto filas = ConCodigos(Textos{"A", "B", "A", "B"});
+        filas[3][1] = celda;
+        Formato formato{filas};
+        formato.servicios.esperarFallo(13);
+        formato.aceptar();
+        const Escala& escala = formato.mapa().lienzo.escala(); // x from -1 to 10, y from 0 to 10
+        EXPECT_DOUBLE_EQ(escala.izquierda, -1 - 11 * 15.0 / 70);
+        EXPECT_DOUBLE_EQ(escala.derecha, 10 + 11 * 15.0 / 70);
+        EXPECT_EQ(Formas<Punto>(formato.mapa().lienzo).size(), 2U) << "los árboles de antes";
+    }
+}
+
+TEST(DibujoDelMapa, ElMarcoTieneSuColorEnTodosLosDibujos) {
+    FormatoDeCuadrado p;
+    p.servicios.prepararColor(azul);
+    p.usuario.desplegar(p.volver().CboCodColor(0)); // the code of the last tree
+    for (int vez = 1; vez <= 2; ++vez) {
+        p.aceptar();
+        const auto lineas = Formas<Linea>(p.mapa().lienzo);
+        ASSERT_EQ(lineas.size(), 8U);
+        EXPECT_EQ(lineas.front().color, morado) << vez;
+        EXPECT_EQ(lineas.back().color, azul) << vez;
+        EXPECT_EQ(Formas<Linea>(p.gemela().lienzo).front().color, morado) << vez;
+        p.volver();
+    }
+}
+
+TEST(DibujoDelMapa, UnTituloVacioEsUnaEtiquetaVacia) {
+    Formato formato{ConCodigos(Textos{"A", "B", "A"})};
+    formato.usuario.escribir(formato.ventana().TxtTitName, "   ");
+    formato.aceptar();
+    const auto& titulo = formato.mapa().LbTitulo;
+    EXPECT_EQ(titulo.Caption(), "");
+    EXPECT_TRUE(titulo.Visible());
+    EXPECT_NEAR(titulo.Width(), 300.0 * formato.mapa().lienzo.escala().ancho() / 15000, 1e-12);
+}
+
+TEST(DibujoDelMapa, ElFondoElegidoRellenaTambienLosCirculosDeCuatroRadios) {
+    FormatoDeCuadrado p{CuadradoConCentro(),
+                        [](OpcionesPrograma& opciones) { opciones.Optcirc.Value = true; }};
+    p.servicios.prepararColor(0x123456);
+    p.usuario.desplegar(p.volver().CboCodBackColor(1));
+    p.aceptar();
+    EXPECT_TRUE(Formas<Arco>(p.mapa().lienzo).empty());
+    EXPECT_EQ(p.mapa().lienzo.Point(0, 10), 0x123456) << "árbol 2, QP";
+    EXPECT_EQ(p.mapa().lienzo.Point(0, 0), 0xC0E0FF);
+}
+
+TEST(DibujoDelMapa, CincoArbolesEnUnPuntoTampocoTienenDibujo) {
     auto filas = CuadradoConCentro();
     for (std::size_t i = 1; i < filas.size(); ++i) {
         filas[i][1] = 3.0;
         filas[i][2] = 4.0;
     }
+    FormatoDeCuadrado p{filas};
+    EXPECT_NE(p.mapa().aviso, "");
+    EXPECT_EQ(p.mapa().lienzo.figuras().size(), 1U);
+    EXPECT_TRUE(p.mapa().Visible());
+    EXPECT_FALSE(p.formato().Visible());
+}
+
+TEST(DibujoDelMapa, UnSoloArbolLoDiceElMapa) {
+    auto filas = CuadradoConCentro();
     filas.resize(2);
     FormatoDeCuadrado p{filas};
     EXPECT_NE(p.mapa().aviso, "");

@@ -133,6 +133,25 @@ TEST(FrmFormato, ElDialogoCreceConLosCodigosYVuelveASuAltoEnElArchivoSiguiente) 
     EXPECT_EQ(formato.programa.sesion.AltoFormato, alto);
 }
 
+TEST(FrmFormato, SinCodigosEnElPrimerArchivoElSegundoCreceDesdeCero) {
+    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A")}), false};
+    formato.abrirOtraParcela(ConCodigos({texto("A"), texto("B"), texto("C")}));
+    EXPECT_EQ(formato.programa.sesion.CierresConMapa, 1);
+    EXPECT_EQ(formato.programa.sesion.AltoFormato, 0) << "nadie lo tomó";
+    EXPECT_EQ(formato.ventana().Height(), 1290 + 2 * 630);
+    EXPECT_EQ(formato.ventana().CmdAceptar.Top(), 1290 + 2 * 630 - 910);
+}
+
+TEST(FrmFormato, ElPunteroEsUnRelojMientrasSeDibuja) {
+    Formato formato{ConCodigos({texto("A"), texto("B"), texto("A")})};
+    std::vector<int> punteros;
+    formato.ventana().observar([&] { punteros.push_back(formato.ventana().MousePointer()); });
+    formato.aceptar();
+    ASSERT_FALSE(punteros.empty());
+    EXPECT_EQ(punteros.front(), 11);
+    EXPECT_EQ(formato.ventana().MousePointer(), 0);
+}
+
 TEST(FrmFormato, AceptarQuitaLasFilasSinCoordenadas) {
     auto filas = ConCodigos({texto("A"), texto("B"), texto("A"), texto("B"), texto("A")});
     filas[5][1] = {};

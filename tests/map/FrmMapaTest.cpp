@@ -37,13 +37,20 @@ TEST(FrmMapa, PorDisenoMideComoElMarcoSinPantalla) {
 
 TEST(FrmMapa, ElDobleClicEnLaLeyendaVuelveAlFormato) {
     Formato formato{ConCodigos({texto("A"), texto("B"), texto("A"), texto("B")})};
-    formato.usuario.clic(formato.ventana().CmdAceptar);
-    auto& mapa = formato.programa.tocar<FrmMapa>();
-    mapa.LbLeyenda(0).Visible = true;
-    formato.usuario.dobleClic(mapa.LbLeyenda(0));
+    formato.usuario.escribir(formato.ventana().TxtCodigo(1), "roble");
+    formato.aceptar();
+    formato.usuario.arrastrar(formato.mapa().LbLeyenda(1), 3, 4);
+    formato.usuario.dobleClic(formato.mapa().LbLeyenda(1));
     EXPECT_EQ(formato.programa.cargada<FrmMapa>(), nullptr);
     EXPECT_TRUE(formato.ventana().Visible());
     EXPECT_TRUE(formato.marco().mnuMapa.Enabled());
+    EXPECT_EQ(formato.ventana().TxtCodigo(1).Text(), "roble") << "con todo lo elegido en su sitio";
+
+    formato.aceptar();
+    EXPECT_EQ(formato.mapa().LbLeyenda(1).Caption(), "roble");
+    EXPECT_NE(formato.mapa().LbLeyenda(1).Top(), 4) << "el sitio al que se llevó no se guarda";
+    EXPECT_TRUE(formato.mapa().Visible());
+    EXPECT_FALSE(formato.marco().mnuMapa.Enabled());
 }
 
 TEST(FrmMapa, CerrarElMapaDejaElFormatoOculto) {
