@@ -25,6 +25,12 @@ double ExigirFinito(double numero) {
     return numero;
 }
 
+float ASimple(double numero) {
+    const auto simple = static_cast<float>(numero);
+    ExigirFinito(static_cast<double>(simple));
+    return simple;
+}
+
 double Dividir(double a, double b) {
     if (b == 0) {
         throw ErrorEjecucion{fallo::divisionPorCero};

@@ -9,6 +9,9 @@ inline constexpr double numeroPi = 3.1415927;
 /// The number itself; an infinity or a NaN throws 6.
 double ExigirFinito(double numero);
 
+/// Rounded to a 32-bit float; out of its range throws 6.
+float ASimple(double numero);
+
 /// a / b. b = 0 throws 11 (0 / 0 too); leaving the range of a 64-bit float throws 6.
 double Dividir(double a, double b);
 

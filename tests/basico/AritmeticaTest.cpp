@@ -24,6 +24,13 @@ TEST(ExigirFinito, DejaPasarLosNumerosYDesbordaEnLoDemas) {
     EXPECT_EQ(FalloDe([] { (void)ExigirFinito(noNumero); }), fallo::desbordamiento);
 }
 
+TEST(ASimple, RedondeaA32BitsYDesbordaFueraDeElla) {
+    EXPECT_EQ(ASimple(0.1), 0.1F);
+    EXPECT_EQ(ASimple(16777217), 16777216.0F); // 2^24 + 1 lies between two of them
+    EXPECT_EQ(FalloDe([] { (void)ASimple(3.5E+38); }), fallo::desbordamiento);
+    EXPECT_EQ(FalloDe([] { (void)ASimple(noNumero); }), fallo::desbordamiento);
+}
+
 TEST(Dividir, DaElCocienteMasCercano) {
     EXPECT_EQ(Dividir(1, 4), 0.25);
     EXPECT_EQ(Dividir(1, 3), 0x1.5555555555555p-2);

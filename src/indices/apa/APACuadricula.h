@@ -3,7 +3,8 @@
 #pragma once
 
 #include "indices/apa/APAVecinos.h"
-#include "indices/vecinos/Cuadricula.h"
+#include "indices/vecinos/Arboles.h"
+#include "plot/calculo/Cuadricula.h"
 
 #include <cstddef>
 #include <vector>

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "indices/vecinos/Arboles.h"
-#include "indices/vecinos/Cuadricula.h"
 #include "indices/vecinos/Marcas.h"
+#include "plot/calculo/Cuadricula.h"
 
 #include <cstddef>
 #include <span>

@@ -2,7 +2,8 @@
 // and no distance overflows, so that between two trees nothing faults but for their places.
 #pragma once
 
-#include "indices/vecinos/Cuadricula.h"
+#include "indices/vecinos/Arboles.h"
+#include "plot/calculo/Cuadricula.h"
 
 #include <cassert>
 #include <cstddef>

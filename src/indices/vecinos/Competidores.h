@@ -2,9 +2,9 @@
 #pragma once
 
 #include "indices/vecinos/Arboles.h"
-#include "indices/vecinos/Cuadricula.h"
 #include "indices/vecinos/Lado.h"
 #include "indices/vecinos/Marcas.h"
+#include "plot/calculo/Cuadricula.h"
 
 #include <span>
 

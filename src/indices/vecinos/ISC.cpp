@@ -13,13 +13,11 @@ namespace varo {
 
 namespace {
 
-/// Rounded to a 32-bit float; out of its range throws 6.
-float ASimple(double numero) {
-    const auto simple = static_cast<float>(numero);
-    Porque(
+/// As ASimple, with the cause of its fault.
+float MedidaSimple(double numero) {
+    return Porque(
         fallo::desbordamiento, [] { return "las medidas de la copa son demasiado grandes"; },
-        [&] { ExigirFinito(static_cast<double>(simple)); });
-    return simple;
+        [&] { return ASimple(numero); });
 }
 
 class VarianteISC {
@@ -45,7 +43,7 @@ public:
         }
         float suma = 0;
         const auto sumar = [&](std::size_t j, double /*diametro*/) {
-            suma = ASimple(static_cast<double>(suma) + interseccion(i, j, ri));
+            suma = MedidaSimple(static_cast<double>(suma) + interseccion(i, j, ri));
             return true;
         };
         RecorrerCompetidores<&Arboles::diametro>(arboles_, vecinos(i, ri), lado_, pareja, sumar);
@@ -112,17 +110,17 @@ float RadiosDeCopa::calcular(std::size_t i) const {
         const double E = metros(1);
         const double S = metros(2);
         const double W = metros(3);
-        return ASimple((N + E + S + W) / 4);
+        return MedidaSimple((N + E + S + W) / 4);
     }
     case DatosDeCopa::DosDiametros: {
         const double D1 = metros(0);
         const double D2 = metros(1);
-        return ASimple((D1 + D2) / 4);
+        return MedidaSimple((D1 + D2) / 4);
     }
     case DatosDeCopa::RadioMedio:
         break;
     }
-    return ASimple(metros(0));
+    return MedidaSimple(metros(0));
 }
 
 std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado) {

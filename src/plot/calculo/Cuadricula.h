@@ -1,10 +1,9 @@
 // A uniform grid over the trees of a plot: it finds the trees of one part without looking at the others.
 #pragma once
 
-#include "indices/vecinos/Arboles.h"
-
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace varo {
@@ -13,7 +12,7 @@ namespace varo {
 /// per cell; the number of cells stays proportional to the number of trees, however narrow the plot.
 class Cuadricula {
 public:
-    using Fila = std::uint32_t; ///< a tree, numbered as in Arboles
+    using Fila = std::uint32_t; ///< a tree, numbered as its owner numbers it
 
     /// Cells in a row of them, both ends included.
     struct Tramo {
@@ -26,8 +25,17 @@ public:
 
     /// An empty one.
     Cuadricula() = default;
-    /// Takes these trees; their coordinates must be numbers.
-    Cuadricula(const Arboles& arboles, std::vector<Fila> filas);
+    /// Takes these trees. `sitios` gives their coordinates by x(fila) and y(fila); they must be numbers.
+    template <class Sitios>
+    Cuadricula(const Sitios& sitios, std::vector<Fila> filas) : filas_{std::move(filas)} {
+        x_.reserve(filas_.size());
+        y_.reserve(filas_.size());
+        for (const Fila i : filas_) {
+            x_.push_back(sitios.x(i));
+            y_.push_back(sitios.y(i));
+        }
+        repartir();
+    }
 
     [[nodiscard]] std::size_t cuantos() const { return filas_.size(); }
     [[nodiscard]] const Extremos& extremos() const { return extremos_; }
@@ -69,8 +77,8 @@ public:
     }
 
 private:
-    void medir(const Arboles& arboles);
-    void repartir(const Arboles& arboles);
+    void repartir();
+    void medir();
     [[nodiscard]] std::size_t casilla(double distancia, std::size_t cuantas) const;
 
     Extremos extremos_;
