@@ -29,11 +29,12 @@ const T& Exigir(const std::optional<T>& leido) {
 }
 
 /// A crown as its cells give it; the radius is in metres.
-class Circulo {
+class CirculoRecortado {
 public:
-    Circulo(std::optional<Sitio> centro, std::optional<double> radio) : centro_{centro}, radio_{radio} {}
+    CirculoRecortado(std::optional<Sitio> centro, std::optional<double> radio)
+        : centro_{centro}, radio_{radio} {}
 
-    [[nodiscard]] const Sitio& C() const { return Exigir(centro_); }
+    [[nodiscard]] const Sitio& centro() const { return Exigir(centro_); }
     [[nodiscard]] double rr() const { return Exigir(radio_); }
 
 private:
@@ -52,40 +53,40 @@ double AnguloEn(const Sitio& a, const Sitio& b, const Sitio& c) {
 class Tijera {
 public:
     /// Adds the piece that the edge from Q to R cuts off to `SupFuera`.
-    void cortar(const Circulo& circulo, const Sitio& Q, const Sitio& R, double& SupFuera) {
+    void cortar(const CirculoRecortado& circulo, const Sitio& Q, const Sitio& R, double& SupFuera) {
         Saltando([&] {
-            const Sitio& C = circulo.C();
+            const Sitio& C = circulo.centro();
             h_ = AlturaTriangulo(C.x, C.y, Q.x, Q.y, R.x, R.y);
         });
         if (PruebaSaltando([&] { return h_ < circulo.rr(); })) {
-            Saltando([&] { dQ_ = Separacion(circulo.C(), Q); });
-            Saltando([&] { dR_ = Separacion(circulo.C(), R); });
+            Saltando([&] { dQ_ = Separacion(circulo.centro(), Q); });
+            Saltando([&] { dR_ = Separacion(circulo.centro(), R); });
             medir(circulo, Q, R);
             Saltando([&] { SupFuera = ExigirFinito(SupFuera + recorte_); });
         }
     }
 
     /// The last vertex that a crown was cut about.
-    void centroDeVertice(const Sitio& P) { P_ = P; }
+    void centroDeVertice(const Sitio& P) { ultimoVertice_ = P; }
 
 private:
-    void medir(const Circulo& circulo, const Sitio& Q, const Sitio& R) {
+    void medir(const CirculoRecortado& circulo, const Sitio& Q, const Sitio& R) {
         const auto hasta = [&](double dentro, double fuera) {
             return PruebaSaltando([&] { return dentro < circulo.rr() && fuera > circulo.rr(); });
         };
         if (PruebaSaltando([&] { return dQ_ < circulo.rr() && dR_ < circulo.rr(); })) {
             Saltando([&] {
-                const Sitio& C = circulo.C();
+                const Sitio& C = circulo.centro();
                 recorte_ = ExigirFinito(((circulo.rr() * circulo.rr()) * 0.5) * AnguloEn(C, Q, R) -
                                         AreaTrianguloPuntos(C.x, C.y, Q.x, Q.y, R.x, R.y));
             });
         } else if (hasta(dQ_, dR_)) {
             // The centre: a tree or the vertex in hand.
-            esquina(circulo, Q, R, [&] { return Separacion(Q, circulo.C()); });
+            esquina(circulo, Q, R, [&] { return Separacion(Q, circulo.centro()); });
         } else if (hasta(dR_, dQ_)) {
             // Meant: from the last vertex that was a centre, not from the tree.
-            esquina(circulo, R, Q, [&] { return Separacion(R, P_); });
-        } else if (PruebaSaltando([&] { return AnguloEn(circulo.C(), Q, R) > numeroPi / 2.0; })) {
+            esquina(circulo, R, Q, [&] { return Separacion(R, ultimoVertice_); });
+        } else if (PruebaSaltando([&] { return AnguloEn(circulo.centro(), Q, R) > numeroPi / 2.0; })) {
             segmento(circulo);
         } else {
             recorte_ = 0;
@@ -94,23 +95,24 @@ private:
 
     /// One end of the edge inside of the circle. `delLado` is the length that `lado` starts from.
     template <class Longitud>
-    void esquina(const Circulo& circulo, const Sitio& dentro, const Sitio& fuera, Longitud delLado) {
-        Saltando([&] { aQ_ = AnguloEn(dentro, circulo.C(), fuera); });
+    void esquina(const CirculoRecortado& circulo, const Sitio& dentro, const Sitio& fuera, Longitud delLado) {
+        Saltando([&] { aQ_ = AnguloEn(dentro, circulo.centro(), fuera); });
         Saltando([&] {
             // Meant: the sine of the quotient.
-            const double seno = std::sin(Dividir(AnguloEn(dentro, circulo.C(), fuera), circulo.rr()));
-            aX_ = Asin(Separacion(dentro, circulo.C()) * seno);
+            const double seno = std::sin(Dividir(AnguloEn(dentro, circulo.centro(), fuera), circulo.rr()));
+            aX_ = Asin(Separacion(dentro, circulo.centro()) * seno);
         });
         aC_ = (numeroPi - aX_) - aQ_;
         Saltando([&] { lado_ = Dividir(delLado() * std::sin(aC_), std::sin(aX_)); });
         Saltando([&] {
-            recorte_ = ExigirFinito(((circulo.rr() * circulo.rr()) * 0.5) * aC_ -
-                                    AreaTrianguloLados(circulo.rr(), lado_, Separacion(dentro, circulo.C())));
+            recorte_ =
+                ExigirFinito(((circulo.rr() * circulo.rr()) * 0.5) * aC_ -
+                             AreaTrianguloLados(circulo.rr(), lado_, Separacion(dentro, circulo.centro())));
         });
     }
 
     /// The edge passes through the circle, both ends outside.
-    void segmento(const Circulo& circulo) {
+    void segmento(const CirculoRecortado& circulo) {
         Saltando([&] { w_ = Acos(Dividir(h_, circulo.rr())); });
         Saltando(
             [&] { cuerda_ = ExigirFinito((2 * circulo.rr()) * std::sin(Acos(Dividir(h_, circulo.rr())))); });
@@ -124,7 +126,7 @@ private:
     double aQ_ = 0, aX_ = 0, aC_ = 0, lado_ = 0;
     double w_ = 0, cuerda_ = 0;
     double recorte_ = 0;
-    Sitio P_;
+    Sitio ultimoVertice_;
 };
 
 /// The mean radius in metres, rounded to a 32-bit float.
@@ -168,7 +170,7 @@ public:
     Recortador(const FilasDeCopas& copas, const Contorno& contorno) : copas_{copas}, contorno_{contorno} {}
 
     /// Meant: the rows behind the first one on a vertex are not looked at.
-    double SupFuera() {
+    double supFuera() {
         for (const FilaDeCopa& fila : copas_.filas) {
             Saltando([&] { r_ = static_cast<double>(RadioMedio(fila, copas_)); });
             if (recortarEnVertices(fila.x.texto())) {
@@ -176,7 +178,7 @@ public:
             }
             recortarArbol(fila);
         }
-        return SupFuera_;
+        return supFuera_;
     }
 
 private:
@@ -195,7 +197,7 @@ private:
     void recortarVertice(int vertice) {
         const auto i = static_cast<std::size_t>(vertice);
         tijera_.centroDeVertice(contorno_.vertice[i]);
-        const Circulo circulo{contorno_.vertice[i], contorno_.radio[i]};
+        const CirculoRecortado circulo{contorno_.vertice[i], contorno_.radio[i]};
         for (int j = 0; j < contorno_.lados; ++j) {
             // Meant: the two edges that meet there are left out, but for the closing one at vertex 0.
             if (vertice - j > 1 || vertice - j < 0) {
@@ -209,22 +211,22 @@ private:
         if (fila.x.esNumero() && fila.y.esNumero()) {
             centro = {fila.x.numero(), fila.y.numero()};
         }
-        const Circulo circulo{centro, r_};
+        const CirculoRecortado circulo{centro, r_};
         for (int k = 0; k < contorno_.lados; ++k) {
             cortar(circulo, k);
         }
     }
 
-    void cortar(const Circulo& circulo, int lado) {
+    void cortar(const CirculoRecortado& circulo, int lado) {
         const auto k = static_cast<std::size_t>(lado);
-        tijera_.cortar(circulo, contorno_.vertice[k], contorno_.vertice[k + 1], SupFuera_);
+        tijera_.cortar(circulo, contorno_.vertice[k], contorno_.vertice[k + 1], supFuera_);
     }
 
     const FilasDeCopas& copas_;
     const Contorno& contorno_;
     Tijera tijera_;
     double r_ = 0; ///< mean radius of the last row that has one
-    double SupFuera_ = 0;
+    double supFuera_ = 0;
 };
 
 } // namespace
@@ -240,7 +242,7 @@ RecorteDeCopas RecortarCirculos(const FilasDeCopas& copas, const TablaPoligono& 
                                                ((numeroPi * (r * r)) * (360.0 - AnguloInterior(i))) / 360);
         });
     }
-    recorte.SupFuera = Recortador{copas, contorno}.SupFuera();
+    recorte.SupFuera = Recortador{copas, contorno}.supFuera();
     return recorte;
 }
 

@@ -18,7 +18,7 @@ namespace varo {
 
 namespace {
 
-using Orden = Cuadricula::Fila; ///< a tree with a size, numbered from 0
+using ConTamano = Cuadricula::Fila; ///< a tree with a size, numbered from 0
 
 /// The mean radius in metres, rounded to a 32-bit float.
 float RadioMedio(const FilaDeCopa& fila, const FilasDeCopas& copas) {
@@ -54,19 +54,21 @@ public:
         }
     }
 
-    [[nodiscard]] Orden cuantos() const { return static_cast<Orden>(fila_.size()); }
+    [[nodiscard]] ConTamano cuantos() const { return static_cast<ConTamano>(fila_.size()); }
     /// Row of the grid.
-    [[nodiscard]] double fila(Orden i) const { return static_cast<double>(fila_[i]); }
-    [[nodiscard]] double x(Orden i) const { return x_[i]; }
-    [[nodiscard]] double y(Orden i) const { return y_[i]; }
+    [[nodiscard]] double fila(ConTamano i) const { return static_cast<double>(fila_[i]); }
+    [[nodiscard]] double x(ConTamano i) const { return x_[i]; }
+    [[nodiscard]] double y(ConTamano i) const { return y_[i]; }
     /// Without it, all areas with that tree fault.
-    [[nodiscard]] bool tieneSitio(Orden i) const { return !std::isnan(x_[i]); }
+    [[nodiscard]] bool tieneSitio(ConTamano i) const { return !std::isnan(x_[i]); }
 
     /// In metres, in the role of the first tree of a pair.
-    [[nodiscard]] double radioDePrimera(Orden i) const { return conRadio_[i] ? radio_[*conRadio_[i]] : 0; }
+    [[nodiscard]] double radioDePrimera(ConTamano i) const {
+        return conRadio_[i] ? radio_[*conRadio_[i]] : 0;
+    }
     /// The same of the second one, in the walk of the trees behind i. Meant: where none of them up to j has a
     /// radius, that of the last row in the walk before serves; the first walk starts at 0.
-    [[nodiscard]] double radioDeSegunda(Orden i, Orden j) const {
+    [[nodiscard]] double radioDeSegunda(ConTamano i, ConTamano j) const {
         const auto propio = conRadio_[j];
         if (propio && *propio > i) {
             return radio_[*propio];
@@ -89,13 +91,13 @@ private:
         radio_.push_back(static_cast<double>(radio));
         mayorRadio_ = std::max(mayorRadio_, radio_.back());
         const auto anterior = conRadio_.empty() ? std::nullopt : conRadio_.back();
-        conRadio_.push_back(falla ? anterior : std::optional{static_cast<Orden>(radio_.size() - 1)});
+        conRadio_.push_back(falla ? anterior : std::optional{static_cast<ConTamano>(radio_.size() - 1)});
     }
 
     std::vector<std::size_t> fila_;
     std::vector<double> x_, y_;
-    std::vector<double> radio_;                  ///< 0 where the row has none
-    std::vector<std::optional<Orden>> conRadio_; ///< the last row up to this one that has a radius
+    std::vector<double> radio_;                      ///< 0 where the row has none
+    std::vector<std::optional<ConTamano>> conRadio_; ///< the last row up to this one that has a radius
     double mayorRadio_ = 0;
 };
 
@@ -103,11 +105,11 @@ private:
 class Cercanas {
 public:
     explicit Cercanas(const Circulos& circulos) : circulos_{circulos} {
-        std::vector<Orden> situadas;
-        for (Orden i = 0; i < circulos.cuantos(); ++i) {
+        std::vector<ConTamano> situadas;
+        for (ConTamano i = 0; i < circulos.cuantos(); ++i) {
             if (circulos.tieneSitio(i)) {
                 situadas.push_back(i);
-                mesuradas_ = mesuradas_ && EsMesurada(circulos.x(i)) && EsMesurada(circulos.y(i));
+                mesuradas_ = mesuradas_ && esMesurada(circulos.x(i)) && esMesurada(circulos.y(i));
             }
         }
         if (mesuradas_) {
@@ -118,7 +120,7 @@ public:
     }
 
     /// Those behind i, in their order. The areas of the others with i are 0.
-    std::span<const Orden> detrasDe(Orden i) {
+    std::span<const ConTamano> detrasDe(ConTamano i) {
         if (!mesuradas_) {
             return {std::upper_bound(todas_.begin(), todas_.end(), i), todas_.end()};
         }
@@ -126,7 +128,7 @@ public:
         const double x = circulos_.x(i);
         const double y = circulos_.y(i);
         const double radio = circulos_.radioDePrimera(i);
-        const double alcance = ConHolgura(std::max(radio + circulos_.mayorRadio(), 0.0));
+        const double alcance = conHolgura(std::max(radio + circulos_.mayorRadio(), 0.0));
         cuadricula_.recorrerCuadro(x, y, alcance, [&](std::size_t lugar) {
             const double dx = cuadricula_.x(lugar) - x;
             const double dy = cuadricula_.y(lugar) - y;
@@ -140,14 +142,14 @@ public:
 
 private:
     /// No distance between such coordinates overflows.
-    static bool EsMesurada(double coordenada) { return std::abs(coordenada) < 1E+100; }
+    static bool esMesurada(double coordenada) { return std::abs(coordenada) < 1E+100; }
     /// Beyond what rounding can move a distance.
-    static double ConHolgura(double distancia) { return distancia * (1 + 1E-9); }
+    static double conHolgura(double distancia) { return distancia * (1 + 1E-9); }
 
     const Circulos& circulos_;
     bool mesuradas_ = true;
     Cuadricula cuadricula_;
-    std::vector<Orden> todas_, halladas_;
+    std::vector<ConTamano> todas_, halladas_;
 };
 
 /// The walk over all pairs: the trees behind the first one, those behind the second one, and so on. Pairs
@@ -158,7 +160,7 @@ public:
         : circulos_{copas}, cercanas_{circulos_}, solape_{solape} {}
 
     void recorrer() {
-        for (Orden i = 0; i + 1 < circulos_.cuantos(); ++i) {
+        for (ConTamano i = 0; i + 1 < circulos_.cuantos(); ++i) {
             siguiente_ = i + 1;
             arrastrar(i);
             if (circulos_.tieneSitio(i)) {
@@ -168,9 +170,9 @@ public:
     }
 
 private:
-    void recorrerCercanas(Orden i) {
+    void recorrerCercanas(ConTamano i) {
         const double ri = circulos_.radioDePrimera(i);
-        for (const Orden j : cercanas_.detrasDe(i)) {
+        for (const ConTamano j : cercanas_.detrasDe(i)) {
             if (j > siguiente_) {
                 area_ = 0; // that of the far pair before it
             }
@@ -188,7 +190,7 @@ private:
     }
 
     /// Passes over the next pairs whose area faults for want of a place. An area of 0 stays 0 through them.
-    void arrastrar(Orden i) {
+    void arrastrar(ConTamano i) {
         while (area_ != 0 && siguiente_ < circulos_.cuantos() &&
                !(circulos_.tieneSitio(i) && circulos_.tieneSitio(siguiente_))) {
             guardar(i, siguiente_);
@@ -196,7 +198,7 @@ private:
         }
     }
 
-    void guardar(Orden i, Orden j) {
+    void guardar(ConTamano i, ConTamano j) {
         if (area_ != 0) {
             ++solape_.NumParesCopas;
             solape_.ParesCopas.push_back({circulos_.fila(i), circulos_.fila(j), area_});
@@ -206,8 +208,8 @@ private:
     Circulos circulos_;
     Cercanas cercanas_;
     SolapeDeCopas& solape_;
-    Orden siguiente_ = 0; ///< the pairs of the walk up to here are done
-    double area_ = 0;     ///< of the last of them
+    ConTamano siguiente_ = 0; ///< the pairs of the walk up to here are done
+    double area_ = 0;         ///< of the last of them
 };
 
 } // namespace
