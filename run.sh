@@ -27,7 +27,11 @@ tr '\r' '\n' <"$resultados" | LC_ALL=C awk -F '\t' -v superficie="$superficie" '
         print "  área basimétrica:     " area " m2/ha"
         print "  columnas escritas:    " columnas ", " columnas - 2 " de ellas índices"
     }'
-printf '  resultados:           %s\n  mapa:                 %s\n  trabajo:              %s\n' \
-    "$PWD/$resultados" "$PWD/$salida/mapa.svg" "$PWD/ejemplos/trabajo.toml"
+# The figures of the crowns come from the plot data: a name, a tab and the text of a label a line.
+for cifra in LbAreaCopas LbAreaCopasInterior LbAreaIntersecCopas LbFcc; do
+    sed -n "s/^$cifra\t/  /p" "$salida/datos.txt"
+done
+printf '  resultados:           %s\n  datos de parcela:     %s\n  mapa:                 %s\n  trabajo:              %s\n' \
+    "$PWD/$resultados" "$PWD/$salida/datos.txt" "$PWD/$salida/mapa.svg" "$PWD/ejemplos/trabajo.toml"
 printf '\nLa aplicación de escritorio se abre con:  %s\n' "$PWD/build/release/src/varo"
 echo '  (menú Archivo, Abrir: ejemplos/parcela.xls es la parcela de ejemplo)'

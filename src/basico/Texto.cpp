@@ -119,6 +119,16 @@ std::string Reemplazar(std::string_view texto, std::string_view buscado, std::st
     return resultado.append(texto);
 }
 
+std::string EnUnaLinea(std::string_view texto) {
+    std::string plano = Reemplazar(texto, "\r\n", " ");
+    for (char& caracter : plano) {
+        if (caracter == '\t' || caracter == '\n' || caracter == '\r') {
+            caracter = ' ';
+        }
+    }
+    return plano;
+}
+
 std::string Minusculas(std::string_view texto) {
     std::string resultado;
     while (!texto.empty()) {

@@ -10,6 +10,8 @@
 #include "indices/independientes/Razones.h"
 #include "map/FrmMapa.h"
 #include "options/Unidades.h"
+#include "plot/CamposDeLaHoja.h"
+#include "plot/CausasDeFallos.h"
 #include "shell/Programa.h"
 
 #include <algorithm>
@@ -33,7 +35,7 @@ DatosDeCorrida Reunir(Programa& programa) {
     auto& hoja = programa.tocar<Hojadedatos>();
     const int columnaDAP = programa.sesion.ColumnaDAP.valor();
     return {hoja.Data1.Database(),
-            hoja.Data1.Recordset().campos()(columnaDAP - 1).Name,
+            CampoDelTallo(programa),
             programa.tocar<FrmSeleccion>().CboHoja.Text,
             UnidadesDelTallo(programa.tocar<OpcionesPrograma>()),
             TextosDeColumna(hoja.MSFlexGrid1, columnaDAP),
@@ -73,23 +75,11 @@ private:
         auto& indice = programa_.resultados.*columna.indice;
         indice.redimensionar(filasGrid_ - 1);
         const auto situar = [&](ErrorEjecucion& error) {
-            explicarSuperficie(error);
+            ExplicarSuperficie(error, programa_);
             PonerArbol(error, programa_);
             error.en(std::string{"familia "} + columna.encabezado);
         };
         AlFallar(situar, [&] { guardar(calcular(familia), indice); });
-    }
-
-    /// What nobody nearer has explained is divided by the area of the plot.
-    void explicarSuperficie(ErrorEjecucion& error) const {
-        if (error.numero() != fallo::divisionPorCero || programa_.sesion.SupPoligono != 0) {
-            return;
-        }
-        const int arboles = filasGrid_ - 1;
-        error.porque("la superficie de la parcela es 0: " +
-                     std::string{arboles == 1   ? "tiene un solo árbol"
-                                 : arboles == 2 ? "tiene solo dos árboles"
-                                                : "todos los árboles están en una línea"});
     }
 
     std::vector<double> calcular(const RasgosDeFamilia& familia) {

@@ -25,16 +25,6 @@ std::string Hexadecimal(const Relleno& relleno) {
     return relleno ? Hexadecimal(*relleno) : "-";
 }
 
-std::string EnUnaLinea(std::string_view texto) {
-    std::string plano = Reemplazar(texto, "\r\n", " ");
-    for (char& caracter : plano) {
-        if (caracter == '\t' || caracter == '\n' || caracter == '\r') {
-            caracter = ' ';
-        }
-    }
-    return plano;
-}
-
 std::string NombreCompleto(const EtiquetaMostrada& etiqueta) {
     const bool suelta = etiqueta.indice == EtiquetaMostrada::sinIndice;
     return suelta ? etiqueta.nombre : etiqueta.nombre + '(' + ATexto(etiqueta.indice) + ')';

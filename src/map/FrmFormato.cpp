@@ -193,6 +193,14 @@ void FrmFormato::limpiarRejilla() {
     });
 }
 
+void FrmFormato::guardarCampoDelRadio() {
+    if (programa_.tocar<OpcionesPrograma>().OptRM.Value) {
+        auto& sesion = programa_.sesion;
+        sesion.CampoRadio =
+            programa_.tocar<Hojadedatos>().MSFlexGrid1.TextMatrix(0, sesion.Columnas(PapelDeCopa(0)).valor());
+    }
+}
+
 std::vector<double> FrmFormato::LeerColumna(int columna) const {
     const auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
     return PorArbol(rejilla, [&](int fila) {
@@ -276,6 +284,7 @@ void FrmFormato::dibujarYMedir() {
 void FrmFormato::CmdAceptar_Click() {
     const auto reloj = PonerReloj(*this);
     limpiarRejilla();
+    guardarCampoDelRadio();
     const AlSalir avisar{[this] { avisarDibujo(); }};
     AlFallar([this](ErrorEjecucion& error) { explicarDesbordamiento(error); }, [this] { dibujarYMedir(); });
     auto& marco = programa_.tocar<VAROMAIN>();

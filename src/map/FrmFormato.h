@@ -71,6 +71,7 @@ private:
     };
     ColorElegido preguntarColor(Desplegable& control);
     void limpiarRejilla();
+    void guardarCampoDelRadio();
     /// A numeric cell gives its number, any other -1.
     [[nodiscard]] std::vector<double> LeerColumna(int columna) const;
     /// Empties both surfaces and gives them their scale.

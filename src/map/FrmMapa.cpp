@@ -9,7 +9,12 @@
 #include "map/FrmFormato.h"
 #include "options/OpcionesPrograma.h"
 #include "options/Unidades.h"
+#include "plot/CamposDeLaHoja.h"
+#include "plot/CausasDeFallos.h"
+#include "plot/DatosDeParcela.h"
+#include "plot/ReunirCopas.h"
 #include "plot/calculo/PorHectarea.h"
+#include "plot/calculo/SolaparCirculos.h"
 #include "shell/Programa.h"
 #include "shell/VAROMAIN.h"
 
@@ -148,8 +153,7 @@ void FrmMapa::Form_Unload() {
 }
 
 void FrmMapa::mnuDatos_Click() {
-    throw ErrorEjecucion{fallo::accionNoAdmitida,
-                         "Los datos de parcela todavía no se calculan en esta versión"};
+    CalcularDatosDeParcela(programa_);
 }
 
 void FrmMapa::mnuIndices_Click() {
@@ -174,35 +178,34 @@ void FrmMapa::Lbcodigo_DragOver(int /*Index*/, Control& Source, PasoDeArrastre S
 void FrmMapa::Npies_ha() {
     auto& sesion = programa_.sesion;
     const bool conCodigo = programa_.tocar<OpcionesPrograma>().ChCodigo.Value() == 1;
-    const int papel = conCodigo ? sesion.UltimaColumna.valor() : PapelDeCopa(0);
-    auto& datos = programa_.tocar<Hojadedatos>().Data1;
-    const auto& campo = datos.Recordset().campos()(sesion.Columnas(papel).valor() - 1).Name;
-    const auto explicar = [&](ErrorEjecucion& error) {
-        if (error.numero() == fallo::sintaxisDeConsulta || error.numero() == fallo::nombreDesconocido) {
-            error.porque("los pies se cuentan por la columna «" + campo +
-                         "», y su cabecera no es una palabra: cambie la cabecera a una sola palabra, sin "
-                         "blancos ni signos");
-        }
-    };
-    sesion.PiesHaActual = AlFallar(explicar, [&] {
-        return PiesPorHectarea(datos.Database(), campo, programa_.tocar<FrmSeleccion>().CboHoja.Text,
-                               sesion.NumPuntosPoligono.valor(), sesion.SupPoligono);
-    });
+    const std::string campo =
+        CampoDePapel(programa_, conCodigo ? sesion.UltimaColumna.valor() : PapelDeCopa(0));
+    sesion.PiesHaActual =
+        AlFallar([&](ErrorEjecucion& error) { ExplicarCabecera(error, "los pies se cuentan", {campo}); },
+                 [&] {
+                     return PiesPorHectarea(programa_.tocar<Hojadedatos>().Data1.Database(), campo,
+                                            programa_.tocar<FrmSeleccion>().CboHoja.Text,
+                                            sesion.NumPuntosPoligono.valor(), sesion.SupPoligono);
+                 });
 }
 
 void FrmMapa::Ab_ha() {
     auto& sesion = programa_.sesion;
     const auto& opciones = programa_.tocar<OpcionesPrograma>();
-    auto& datos = programa_.tocar<Hojadedatos>().Data1;
-    const auto& campo = datos.Recordset().campos()(sesion.ColumnaDAP.valor() - 1).Name;
-    const Valor suma = SumaAreaBasimetrica(
-        datos.Database(), campo, programa_.tocar<FrmSeleccion>().CboHoja.Text, UnidadesDelTallo(opciones));
+    const std::string campo = CampoDelTallo(programa_);
+    const Valor suma =
+        SumaAreaBasimetrica(programa_.tocar<Hojadedatos>().Data1.Database(), campo,
+                            programa_.tocar<FrmSeleccion>().CboHoja.Text, UnidadesDelTallo(opciones));
     const int columnaArea = opciones.ChCodigo.Value() == 1 ? 3 : 2;
     const double quitar = AreaBasimetricaDeBorde(sesion.Poligono, columnaArea,
                                                  sesion.NumPuntosPoligono.valor(), sesion.AnguloInterior);
     sesion.AbHaActual = Porque(
         fallo::usoDeNulo, [&] { return "ningún árbol tiene tamaño en la columna «" + campo + "»"; },
         [&] { return AreaBasimetricaPorHectarea(suma, quitar, sesion.SupPoligono); });
+}
+
+void FrmMapa::AreaTotalIntersCopas() {
+    SolaparCirculos(ReunirCopas(programa_), solape);
 }
 
 FrmMapa2::FrmMapa2(Programa& programa)

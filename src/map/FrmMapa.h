@@ -6,7 +6,10 @@
 #include "lienzo/AspectoDeEtiqueta.h"
 #include "lienzo/Lienzo.h"
 #include "map/ArbolDelMapa.h"
+#include "motor/Recordset.h"
+#include "plot/calculo/SolapeDeCopas.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -76,6 +79,17 @@ public:
     void Npies_ha();
     /// Basal area per hectare (m2/ha), corrected likewise, into Sesion::AbHaActual.
     void Ab_ha();
+
+    /// The pairs of crowns that overlap as circles, and their area, into `solape`.
+    void AreaTotalIntersCopas();
+    SolapeDeCopas solape;
+
+    /// Where the open file has a copy of the sheet, runs GrabarEncima. No command asks for either.
+    void ComprobarRepeticionDeHoja();
+    /// Queries the crown areas for a copy of the sheet. Nothing is written, and it ends in a fault.
+    void GrabarEncima();
+    /// The rows that it has opened.
+    std::optional<Recordset> filasDeLaCopia;
 
     void Form_Load() override;
     void Form_Unload() override;

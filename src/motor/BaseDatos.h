@@ -1,6 +1,7 @@
 // An open plot file: its tables and the queries over them.
 #pragma once
 
+#include "motor/DefinicionDeTabla.h"
 #include "motor/Recordset.h"
 #include "motor/Tabla.h"
 
@@ -8,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace varo {
@@ -29,6 +31,11 @@ public:
     /// The rows of a SELECT text as a snapshot. A broken text, an unknown name or a type that does not fit
     /// throws ErrorMotor.
     [[nodiscard]] Recordset OpenRecordset(std::string_view sql) const;
+
+    /// A definition in memory, without fields and in no database.
+    [[nodiscard]] static DefinicionDeTabla CreateTableDef(std::string nombre) {
+        return DefinicionDeTabla{std::move(nombre)};
+    }
 
 private:
     std::shared_ptr<const Coleccion<Tabla>> tablas_;

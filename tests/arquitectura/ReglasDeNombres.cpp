@@ -20,12 +20,12 @@ const std::set<std::string_view> establecidos{
     "AddItem", "Clear", "Cls", "Col", "ColWidth", "Cols", "Count", "Database", "DatabaseName", "Eof",
     "Fields", "FileName", "Hide", "Index", "List", "ListCount", "MoveFirst", "MoveLast", "MoveNext", "Name",
     "OpenRecordset", "Path", "Point", "Print", "RecordCount", "Recordset", "Refresh", "RemoveItem", "Row",
-    "Rows", "Selected", "SetFocus", "Show", "TabCaption", "TableDefs", "Tabs", "Text", "TextMatrix",
-    "Visible",
+    "Append", "CreateField", "CreateTableDef", "Rows", "Selected", "SetFocus", "Show", "TabCaption",
+    "TableDefs", "Tabs", "Text", "TextMatrix", "Visible",
     // Procedures and variables of the windows.
-    "Ab_ha", "AbrirArchivoDeDatos", "FilasCodigos", "LeerColumna", "ListaCodigos", "Npies_ha", "RellenarGrid",
-    "Tipo2DAlActivar", "Tipo2DAlDesactivar", "Tipo4RAlActivar", "Tipo4RAlDesactivar", "TipoRMAlActivar",
-    "TipoRMAlDesactivar",
+    "Ab_ha", "AbrirArchivoDeDatos", "AreaTotalIntersCopas", "ComprobarRepeticionDeHoja", "GrabarEncima",
+    "FilasCodigos", "LeerColumna", "ListaCodigos", "Npies_ha", "RellenarGrid", "Tipo2DAlActivar",
+    "Tipo2DAlDesactivar", "Tipo4RAlActivar", "Tipo4RAlDesactivar", "TipoRMAlActivar", "TipoRMAlDesactivar",
     // The distance in the formulas.
     "L",
     // Of the language.

@@ -27,6 +27,11 @@ std::string EnUtf8(const std::u32string& caracteres) {
     return texto;
 }
 
+TEST(Texto, EnUnaLineaCambiaTabuladoresYFinesDeLineaPorBlancos) {
+    EXPECT_EQ(EnUnaLinea("Pinus\tsylvestris\r\nL.\n"), "Pinus sylvestris L. ");
+    EXPECT_EQ(EnUnaLinea("Roble"), "Roble");
+}
+
 } // namespace
 
 TEST(Texto, CuentaCaracteresYNoBytes) {

@@ -121,6 +121,7 @@ public:
         formato();
         linea("[salida]");
         linea("resultados = \"indices.txt\"   # junto a este archivo, o en la carpeta de --salida");
+        linea("# datos = \"datos.txt\"        # las cifras de la ventana «Datos de parcela»");
         linea("# mapa = \"mapa.svg\"          # o .pdf, .png, .txt (sus figuras, una por renglón); o varios: "
               "[ \"a.svg\", \"a.txt\" ]");
         return std::move(texto_);

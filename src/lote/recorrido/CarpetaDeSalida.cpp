@@ -1,6 +1,7 @@
 #include "lote/recorrido/CarpetaDeSalida.h"
 
 #include "basico/ErrorEjecucion.h"
+#include "sistema/ArchivoEntero.h"
 
 #include <string>
 #include <system_error>
@@ -40,6 +41,13 @@ fs::path CrearCarpetaDe(const fs::path& ruta) {
                                                          "»: " + PorQueNoHayCarpeta(error)};
     }
     return carpeta;
+}
+
+void EscribirEntero(const fs::path& ruta, const std::string& bytes) {
+    CrearCarpetaDe(ruta);
+    ArchivoEntero archivo{ruta.string()};
+    archivo.escribir(bytes);
+    archivo.publicar();
 }
 
 } // namespace varo

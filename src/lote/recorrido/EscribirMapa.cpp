@@ -3,7 +3,6 @@
 #include "lote/recorrido/CarpetaDeSalida.h"
 #include "map/FrmMapa.h"
 #include "map/TextoDelMapa.h"
-#include "sistema/ArchivoEntero.h"
 
 #include <algorithm>
 #include <cassert>
@@ -89,14 +88,7 @@ void EscribirMapa(PuestoDeTrabajo& puesto, const SalidaPedida& salida, PintorDeM
         bytes = TextoDelMapa(mapa);
     }
     puesto.hacer(
-        lugar,
-        [&] {
-            CrearCarpetaDe(salida.ruta);
-            ArchivoEntero archivo{salida.ruta.string()};
-            archivo.escribir(bytes);
-            archivo.publicar();
-        },
-        Estado::ErrorDeArchivo);
+        lugar, [&] { EscribirEntero(salida.ruta, bytes); }, Estado::ErrorDeArchivo);
 }
 
 } // namespace varo

@@ -7,9 +7,9 @@
 #include "lote/recorrido/AplicarFormato.h"
 #include "lote/recorrido/AplicarOpciones.h"
 #include "lote/recorrido/ElegirColumnas.h"
+#include "lote/recorrido/EscribirDatos.h"
 #include "lote/recorrido/EscribirMapa.h"
 #include "lote/recorrido/EscribirResultados.h"
-#include "lote/trabajo/Pendiente.h"
 #include "map/FrmFormato.h"
 #include "map/FrmMapa.h"
 #include "options/OpcionesPrograma.h"
@@ -22,6 +22,17 @@
 namespace varo {
 
 namespace {
+
+/// Refuses pictures where there is nobody to paint them.
+void ExigirPintor(const Trabajo& trabajo) {
+    for (const auto& mapa : trabajo.mapas) {
+        if (EsDeDibujo(ExtensionDe(mapa.ruta))) {
+            throw ErrorTrabajo{trabajo.ruta,
+                               {"salida.mapa", mapa.linea},
+                               "aquí no se escriben mapas .svg, .pdf ni .png: pida un .txt"};
+        }
+    }
+}
 
 void AbrirParcela(PuestoDeTrabajo& puesto) {
     auto& marco = puesto.programa.tocar<VAROMAIN>();
@@ -114,6 +125,9 @@ std::string Informe::texto(const Trabajo& trabajo) const {
     for (const auto& mapa : trabajo.mapas) {
         texto += ", mapa -> " + mapa.ruta.string();
     }
+    if (trabajo.datos) {
+        texto += ", datos de parcela -> " + trabajo.datos->ruta.string();
+    }
     if (trabajo.resultados) {
         texto += ", " + ATexto(columnas) + " columnas -> " + trabajo.resultados->ruta.string();
     }
@@ -121,7 +135,9 @@ std::string Informe::texto(const Trabajo& trabajo) const {
 }
 
 Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento, PintorDeMapas* pintor) {
-    RechazarLoPendiente(trabajo, pintor != nullptr);
+    if (pintor == nullptr) {
+        ExigirPintor(trabajo);
+    }
     PuestoDeTrabajo puesto{trabajo, seguimiento};
     puesto.empezar("abriendo " + trabajo.archivo.string());
     AbrirParcela(puesto);
@@ -137,6 +153,9 @@ Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento, Pi
     Salidas salidas{puesto};
     for (const auto& mapa : trabajo.mapas) {
         salidas.intentar([&] { EscribirMapa(puesto, mapa, pintor); });
+    }
+    if (trabajo.datos) {
+        salidas.intentar([&] { EscribirDatos(puesto, *trabajo.datos); });
     }
     if (trabajo.resultados) {
         salidas.intentar([&] { informe.columnas = EscribirResultados(puesto, *trabajo.resultados); });

@@ -104,19 +104,14 @@ TEST(Recorrido, CadaEtapaSeAnuncia) {
     EXPECT_EQ(fin.etapas, etapas);
 }
 
-TEST(Recorrido, LoQueTodaviaNoSeHaceSeRechazaAntesDeAbrirNada) {
+TEST(Recorrido, UnDibujoSinQuienLoPinteSeRechazaAntesDeAbrirNada) {
     const ParcelaDePrueba parcela;
-    const auto rechazo = [&](const std::string& salida) {
-        TextoDeTrabajo texto;
-        texto.parcela = "archivo = 'no_esta.xls'\nhoja = 'H'\n";
-        texto.salida = salida;
-        const auto fin = Correr(parcela, texto);
-        EXPECT_EQ(fin.estado, Estado::Rechazado);
-        return fin.error;
-    };
-    EXPECT_EQ(rechazo("datos = 'd.txt'\n"),
-              ErrorDeClave(parcela, "línea 15: salida.datos: todavía no se puede pedir"));
-    EXPECT_EQ(rechazo("mapa = 'm.svg'\n"),
+    TextoDeTrabajo texto;
+    texto.parcela = "archivo = 'no_esta.xls'\nhoja = 'H'\n";
+    texto.salida = "mapa = 'm.svg'\n";
+    const auto fin = Correr(parcela, texto);
+    EXPECT_EQ(fin.estado, Estado::Rechazado);
+    EXPECT_EQ(fin.error,
               ErrorDeClave(parcela, "línea 15: salida.mapa: aquí no se escriben mapas .svg, .pdf ni .png: "
                                     "pida un .txt"));
 }
