@@ -16,10 +16,30 @@ def area_triangulo_puntos(x1, y1, x2, y2, x3, y3):
     return raiz((((s - a) * s) * (s - b)) * (s - c))
 
 
+def area_triangulo_lados(a, b, c):
+    s = ((a + b) + c) / 2
+    return raiz(((s * (s - a)) * (s - b)) * (s - c))
+
+
 def altura_triangulo(x1, y1, x2, y2, x3, y3):
     """Height of the first point over the line of the other two."""
     area = area_triangulo_puntos(x1, y1, x2, y2, x3, y3)
     return dividir(area + area, raiz((x3 - x2) ** 2 + (y3 - y2) ** 2))
+
+
+def angulo_vertice(x1, y1, x2, y2, x3, y3):
+    """Angle at the first point; it is obtuse where the foot of a perpendicular lies on the side of the others."""
+    area = area_triangulo_puntos(x1, y1, x2, y2, x3, y3)
+    d13, d12 = distancia(x1, y1, x3, y3), distancia(x1, y1, x2, y2)
+    t = arco_seno(dividir(area * 2, d12 * d13))
+    m1 = dividir(x2 - x1, y1 - y2)
+    b1 = y1 - m1 * x1
+    m2 = dividir(y3 - y2, x3 - x2)
+    b2 = y3 - m2 * x3
+    qx = dividir(b2 - b1, m1 - m2)
+    qy = m1 * qx + b1
+    mx, my = (x2 + x3) / 2, (y2 + y3) / 2
+    return PI - t if distancia(mx, my, qx, qy) <= distancia(mx, my, x2, y2) else t
 
 
 def angulo_direccion(x1, y1, x2, y2):

@@ -207,6 +207,7 @@ def construir_poligono(p):
     y = [a_numero(fila[p.columna["Y"]]) for fila in p.rejilla]
     candidato = [0.0] * len(x)
     p.poligono, lado = [vertice(p, p.rejilla[0])], []
+    p.filas_de_vertice = [p.rejilla[0]]
     actual, de_vuelta = 0, False
     while True:
         for s in range(len(x)):
@@ -220,6 +221,7 @@ def construir_poligono(p):
         t = media_vuelta(candidato[elegido]) if de_vuelta else candidato[elegido]
         lado.append(360.0 if de_vuelta and t == 0 else t)  # a closing edge straight up ends the full turn
         p.poligono.append(vertice(p, p.rejilla[elegido]))
+        p.filas_de_vertice.append(p.rejilla[elegido])
         entero16(len(p.poligono))
         dx, dy = x[elegido] - x[actual], y[elegido] - y[actual]
         de_vuelta = dx < 0 or (dx == 0 and dy < 0)
@@ -320,11 +322,16 @@ def primeros(valores, n):
 
 # ----------------------------------------------------------------------------------------------------- indices
 
+def sin_corchetes(campo):
+    """A field that a query names without brackets must be a single word."""
+    if not re.fullmatch(r"[^\W\d]\w*", campo):
+        raise Fallo(3075)
+
+
 def npies_ha(p):
     """Stems per hectare, half a stem less for each vertex. The query names the field without brackets."""
     columna = p.columna["Codigo"] if p.marcada("ChCodigo") else p.copa[0]
-    if not re.fullmatch(r"[^\W\d]\w*", p.campos[columna - 1]):
-        raise Fallo(3075)
+    sin_corchetes(p.campos[columna - 1])
     cuenta = sum(registro[columna - 1] is not None for registro in p.registros)
     return dividir(cuenta - ((len(p.poligono) - 1) / 2.0), p.superficie) * 10000
 

@@ -1,7 +1,7 @@
-"""The surface on which crowns of ellipse are painted and sampled, for familias.py.
+"""The surface on which crowns are painted and sampled, for familias.py and copas.py.
 
 Nothing is drawn: the colour at a point follows from the crowns painted so far, each a crown of four quarter
-ellipses.
+ellipses or a circle.
 """
 from numeros import a_numero, es_numerico
 
@@ -33,6 +33,10 @@ class Superficie:
         n, e, s, w = (0.5 if r == 0 else r for r in radios)
         self.pintadas.append((x, y, n, e, s, w, color))
 
+    def pintar_circulo(self, x, y, radio, color):
+        """A circle of radius 0 covers its centre alone."""
+        self.pintadas.append((x, y, radio, radio, radio, radio, color))
+
     def point(self, px, py):
         if self.izquierda < self.derecha and not (
                 self.izquierda <= px <= self.derecha and self.abajo <= py <= self.arriba):
@@ -41,6 +45,10 @@ class Superficie:
             dx, dy = px - x, py - y
             a = e if dx >= 0 else w
             b = n if dy >= 0 else s
+            if a == 0:
+                if dx == 0 and dy == 0:
+                    return color
+                continue
             if (dx / a) * (dx / a) + (dy / b) * (dy / b) <= 1:
                 return color
         return FONDO
