@@ -6,6 +6,7 @@
 #include <charconv>
 #include <set>
 #include <stdexcept>
+#include <type_traits>
 
 namespace varo::prueba {
 namespace {
@@ -15,11 +16,13 @@ namespace fs = std::filesystem;
 constexpr const char* archivoDeIndices = "esperado-indices.txt";
 constexpr const char* archivoDeFallo = "esperado-fallo.txt";
 constexpr const char* archivoDeDatos = "esperado-datos.txt";
+constexpr const char* archivoDeFalloDeDatos = "esperado-fallo-de-datos.txt";
 constexpr const char* archivoDeMapa = "esperado-mapa.txt";
 
 std::set<std::string> ArchivosDe(const fs::path& carpeta) {
     static const std::set<std::string> conocidos{"parcela.xls",  "trabajo.toml", archivoDeIndices,
-                                                 archivoDeFallo, archivoDeDatos, archivoDeMapa};
+                                                 archivoDeFallo, archivoDeDatos, archivoDeFalloDeDatos,
+                                                 archivoDeMapa};
     std::set<std::string> archivos;
     for (const auto& entrada : fs::directory_iterator{carpeta}) {
         const auto nombre = entrada.path().filename().string();
@@ -32,7 +35,8 @@ std::set<std::string> ArchivosDe(const fs::path& carpeta) {
 }
 
 /// "11 división por cero", or the words of the plots that came with the project.
-int NumeroDelFallo(const std::string& texto) {
+int NumeroDelFallo(const fs::path& archivo) {
+    const std::string texto = LeerArchivo(archivo);
     if (texto == "FAULT division by zero\n") {
         return fallo::divisionPorCero;
     }
@@ -40,9 +44,23 @@ int NumeroDelFallo(const std::string& texto) {
     int numero = 0;
     const auto leido = std::from_chars(texto.data(), fin, numero);
     if (leido.ec != std::errc{} || leido.ptr == fin || *leido.ptr != ' ') {
-        throw std::runtime_error{"esperado-fallo.txt no empieza por el número del fallo"};
+        throw std::runtime_error{archivo.filename().string() + " no empieza por el número del fallo"};
     }
     return numero;
+}
+
+void ComprobarArchivos(const std::set<std::string>& archivos) {
+    for (const char* necesario : {"parcela.xls", "trabajo.toml"}) {
+        if (!archivos.contains(necesario)) {
+            throw std::runtime_error{"al caso le falta " + std::string{necesario}};
+        }
+    }
+    if (archivos.contains(archivoDeIndices) == archivos.contains(archivoDeFallo)) {
+        throw std::runtime_error{"el caso ha de esperar un archivo de índices o un fallo, y solo uno"};
+    }
+    if (archivos.contains(archivoDeDatos) && archivos.contains(archivoDeFalloDeDatos)) {
+        throw std::runtime_error{"el caso no puede esperar datos de parcela y un fallo en su lugar"};
+    }
 }
 
 } // namespace
@@ -60,25 +78,18 @@ std::vector<std::string> NombresDeCasos(const fs::path& carpeta) {
 
 Caso LeerCaso(const fs::path& carpeta) {
     const auto archivos = ArchivosDe(carpeta);
-    for (const char* necesario : {"parcela.xls", "trabajo.toml"}) {
-        if (!archivos.contains(necesario)) {
-            throw std::runtime_error{"al caso le falta " + std::string{necesario}};
-        }
-    }
-    if (archivos.contains(archivoDeIndices) == archivos.contains(archivoDeFallo)) {
-        throw std::runtime_error{"el caso ha de esperar un archivo de índices o un fallo, y solo uno"};
-    }
+    ComprobarArchivos(archivos);
+    const auto siEsta = [&](const char* nombre, const auto leer) {
+        using Leido = std::invoke_result_t<decltype(leer), const fs::path&>;
+        return archivos.contains(nombre) ? std::optional<Leido>{leer(carpeta / nombre)} : std::nullopt;
+    };
     Caso caso;
     caso.carpeta = carpeta;
-    caso.conDatos = archivos.contains(archivoDeDatos);
-    if (archivos.contains(archivoDeFallo)) {
-        caso.fallo = NumeroDelFallo(LeerArchivo(carpeta / archivoDeFallo));
-    } else {
-        caso.indices = LeerArchivo(carpeta / archivoDeIndices);
-    }
-    if (archivos.contains(archivoDeMapa)) {
-        caso.mapa = LeerArchivo(carpeta / archivoDeMapa);
-    }
+    caso.indices = siEsta(archivoDeIndices, LeerArchivo).value_or("");
+    caso.fallo = siEsta(archivoDeFallo, NumeroDelFallo);
+    caso.datos = siEsta(archivoDeDatos, LeerArchivo);
+    caso.falloDeDatos = siEsta(archivoDeFalloDeDatos, NumeroDelFallo);
+    caso.mapa = siEsta(archivoDeMapa, LeerArchivo);
     return caso;
 }
 

@@ -10,11 +10,14 @@ namespace varo::prueba {
 
 struct Caso {
     std::filesystem::path carpeta;
-    std::string indices;               ///< the bytes of the results file, empty when a fault ends the run
-    std::optional<int> fallo;          ///< the fault that leaves no results file
-    bool conDatos = false;             ///< it expects the plot data too
-    std::optional<std::string> mapa{}; ///< the text of the map, where it is expected
+    std::string indices;                ///< the bytes of the results file, empty when a fault ends the run
+    std::optional<int> fallo;           ///< the fault that leaves no results file
+    std::optional<std::string> datos{}; ///< the plot data, where they are expected
+    std::optional<int> falloDeDatos{};  ///< the fault that leaves none
+    std::optional<std::string> mapa{};  ///< the text of the map, where it is expected
 
+    /// Whether the job asks for plot data.
+    [[nodiscard]] bool conDatos() const { return datos || falloDeDatos; }
     [[nodiscard]] std::filesystem::path trabajo() const { return carpeta / "trabajo.toml"; }
 };
 

@@ -34,7 +34,7 @@ TEST(Caso, EsperaUnArchivoDeIndicesOUnFallo) {
         CasoCon({{"parcela.xls", ""}, {"trabajo.toml", ""}, {"esperado-indices.txt", "N\r\n"}});
     EXPECT_EQ(indices.indices, "N\r\n");
     EXPECT_FALSE(indices.fallo);
-    EXPECT_FALSE(indices.conDatos);
+    EXPECT_FALSE(indices.conDatos());
 
     const auto fallido = CasoCon({{"parcela.xls", ""},
                                   {"trabajo.toml", ""},
@@ -44,9 +44,30 @@ TEST(Caso, EsperaUnArchivoDeIndicesOUnFallo) {
     const auto venido = CasoCon({{"parcela.xls", ""},
                                  {"trabajo.toml", ""},
                                  {"esperado-fallo.txt", "FAULT division by zero\n"},
-                                 {"esperado-datos.txt", ""}});
+                                 {"esperado-datos.txt", "LbFcc\tFcc: 0,25\n"}});
     EXPECT_EQ(venido.fallo, fallo::divisionPorCero);
-    EXPECT_TRUE(venido.conDatos);
+    EXPECT_EQ(venido.datos, "LbFcc\tFcc: 0,25\n");
+    EXPECT_TRUE(venido.conDatos());
+}
+
+TEST(Caso, EsperaDatosOUnFalloEnSuLugar) {
+    const std::map<std::string, std::string> archivos{
+        {"parcela.xls", ""}, {"trabajo.toml", ""}, {"esperado-indices.txt", ""}};
+    auto fallidos = archivos;
+    fallidos["esperado-fallo-de-datos.txt"] = "3464 no coinciden los tipos de datos en la consulta\n";
+    const auto caso = CasoCon(fallidos);
+    EXPECT_EQ(caso.falloDeDatos, fallo::tiposDistintosEnConsulta);
+    EXPECT_FALSE(caso.fallo);
+    EXPECT_FALSE(caso.datos);
+    EXPECT_TRUE(caso.conDatos());
+
+    auto ambos = fallidos;
+    ambos["esperado-datos.txt"] = "";
+    EXPECT_NE(Rechazo(ambos).find("un fallo en su lugar"), std::string::npos);
+
+    auto sinNumero = archivos;
+    sinNumero["esperado-fallo-de-datos.txt"] = "once\n";
+    EXPECT_EQ(Rechazo(sinNumero), "esperado-fallo-de-datos.txt no empieza por el número del fallo");
 }
 
 TEST(Caso, UnaCarpetaIncompletaOConMasSeRechaza) {

@@ -83,30 +83,55 @@ void CompararLineas(const std::string& obtenido, const std::string& esperado) {
     EXPECT_EQ(obtenido, esperado);
 }
 
-/// Runs the job, with its results in a folder of the test.
-void CorrerCaso(const Caso& caso) {
-    const CarpetaTemporal carpeta;
-    Trabajo trabajo = LeerTrabajo(caso.trabajo(), {.archivo = {}, .hoja = {}, .salida = carpeta.ruta()});
-    ASSERT_TRUE(trabajo.resultados) << "el trabajo no pide el archivo de resultados";
-    ASSERT_EQ(trabajo.datos.has_value(), caso.conDatos) << "el trabajo pide los datos o el caso los espera";
-    ASSERT_NE(trabajo.mapas.empty(), caso.mapa.has_value()) << "el trabajo pide el mapa o el caso lo espera";
-    trabajo.datos.reset(); // still to come
-    try {
-        CorrerTrabajo(trabajo);
-    } catch (const ErrorTrabajo& error) {
-        EXPECT_EQ(error.estado(), Estado::FalloDeCalculo) << error.what();
-        EXPECT_EQ(error.fallo(), caso.fallo) << error.what();
-        EXPECT_TRUE(fs::is_empty(carpeta.ruta())) << "un fallo no deja archivo";
-        return;
+std::set<std::string> Archivos(const fs::path& carpeta) {
+    std::set<std::string> nombres;
+    for (const auto& entrada : fs::directory_iterator{carpeta}) {
+        nombres.insert(entrada.path().filename().string());
     }
-    if (caso.fallo) {
-        ADD_FAILURE() << "debía fallar con " << *caso.fallo;
-        return;
+    return nombres;
+}
+
+/// What the job wrote; an output that faults leaves no file, and the others stand.
+void CompararSalidas(const Caso& caso, const Trabajo& trabajo, const fs::path& carpeta) {
+    std::set<std::string> esperados;
+    if (!caso.fallo) {
+        esperados.insert(trabajo.resultados->ruta.filename().string());
     }
-    CompararBytes(trabajo.resultados->ruta, caso.indices);
+    if (caso.datos) {
+        esperados.insert(trabajo.datos->ruta.filename().string());
+    }
+    if (caso.mapa) {
+        esperados.insert("mapa.txt");
+    }
+    ASSERT_EQ(Archivos(carpeta), esperados);
+    if (!caso.fallo) {
+        CompararBytes(trabajo.resultados->ruta, caso.indices);
+    }
+    if (caso.datos) {
+        CompararLineas(LeerArchivo(trabajo.datos->ruta), *caso.datos);
+    }
     if (caso.mapa) {
         CompararLineas(LeerArchivo(carpeta / "mapa.txt"), *caso.mapa);
     }
+}
+
+/// Runs the job, with its results in a folder of the test.
+void CorrerCaso(const Caso& caso) {
+    const CarpetaTemporal carpeta;
+    const Trabajo trabajo =
+        LeerTrabajo(caso.trabajo(), {.archivo = {}, .hoja = {}, .salida = carpeta.ruta()});
+    ASSERT_TRUE(trabajo.resultados) << "el trabajo no pide el archivo de resultados";
+    ASSERT_EQ(trabajo.datos.has_value(), caso.conDatos()) << "el trabajo pide los datos o el caso los espera";
+    ASSERT_NE(trabajo.mapas.empty(), caso.mapa.has_value()) << "el trabajo pide el mapa o el caso lo espera";
+    try {
+        CorrerTrabajo(trabajo);
+        EXPECT_FALSE(caso.fallo || caso.falloDeDatos) << "debía fallar";
+    } catch (const ErrorTrabajo& error) {
+        EXPECT_EQ(error.estado(), Estado::FalloDeCalculo) << error.what();
+        ASSERT_TRUE(error.fallo()) << error.what();
+        EXPECT_TRUE(error.fallo() == caso.fallo || error.fallo() == caso.falloDeDatos) << error.what();
+    }
+    CompararSalidas(caso, trabajo, carpeta.ruta());
 }
 
 fs::path CasosPropios() {
