@@ -14,8 +14,10 @@ from pathlib import Path
 import xlwt
 
 sys.dont_write_bytecode = True
+import datos
 import literal
 import mapa
+from casos_de_datos import casos_de_datos
 from casos_de_familias import casos_de_familias
 from parcelas import (COPA, COPA_EN, NOMBRES, SIN_DOMINANTES, UNIDADES, Caso, arbol, bosque, cambiar, en_lugares,
                       en_marco, en_orden)
@@ -269,7 +271,8 @@ def trabajo_de(caso):
         lineas.append("DAP = 0")
     lineas += ["", "[opciones]", *(f"{clave(nombre)} = {toml(valor)}" for nombre, valor in opciones.items())]
     lineas += [*formato_de(caso), "", "[salida]", 'resultados = "indices.txt"']
-    return "\n".join([*lineas, *['mapa = "mapa.txt"'] * (caso.formato is not None), ""])
+    lineas += ['datos = "datos.txt"'] * caso.datos + ['mapa = "mapa.txt"'] * (caso.formato is not None)
+    return "\n".join([*lineas, ""])
 
 
 def hacer(caso, carpeta):
@@ -279,8 +282,10 @@ def hacer(caso, carpeta):
     escribir_libro(caso, carpeta / "parcela.xls")
     trabajo = trabajo_de(caso)
     (carpeta / "trabajo.toml").write_text(trabajo, "utf-8")
-    nombre, contenido = literal.responder(str(carpeta / "parcela.xls"), tomllib.loads(trabajo))
-    (carpeta / nombre).write_bytes(contenido)
+    pedidos = [literal] + [datos] * caso.datos
+    for nombre, contenido in (programa.responder(str(carpeta / "parcela.xls"), tomllib.loads(trabajo))
+                              for programa in pedidos):
+        (carpeta / nombre).write_bytes(contenido)
     if caso.formato is not None:
         mapa_esperado = mapa.responder(str(carpeta / "parcela.xls"), tomllib.loads(trabajo))
         (carpeta / "esperado-mapa.txt").write_bytes(mapa_esperado)
@@ -289,7 +294,7 @@ def hacer(caso, carpeta):
 def main():
     raiz = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).parent)
     familias = (de_tipos_y_unidades, de_codigos_e_indices, de_tamanos, de_filas, de_cabeceras, de_contorno,
-                de_casillas, de_mapas, casos_de_familias)
+                de_casillas, de_mapas, casos_de_familias, casos_de_datos)
     for caso in (caso for familia in familias for caso in familia()):
         hacer(caso, raiz / caso.nombre)
 

@@ -32,6 +32,7 @@ class Caso:
     otra_hoja: bool = False  # another sheet stands before the plot
     primera_fila: int = 0
     opciones: dict = field(default_factory=dict)  # other controls of the job, as they stand in it
+    datos: bool = False  # the job asks for the plot data too
     formato: dict = None  # the format of the map, which the job writes then; {} asks for the map as it is
 
 
