@@ -107,6 +107,17 @@ Escritorio::~Escritorio() {
 void Escritorio::seguirAlModelo() {
     programa_.alCargar = [this](Formulario& modelo) { alCargar(modelo); };
     programa_.alDescargar = [this](Formulario& modelo) { alDescargar(modelo); };
+    programa_.alCrearControl = [this](Control& control) {
+        const Vinculos* const vinculos = vistas_.vinculosDe(control);
+        if (vinculos != nullptr && vinculos->alCrearControl) {
+            vinculos->alCrearControl(control);
+        }
+    };
+    programa_.alQuitarControl = [this](const Control& control) {
+        if (Vinculos* const vinculos = vistas_.vinculosDe(control)) {
+            vinculos->soltar(control);
+        }
+    };
     programa_.alActivar = [this](Formulario& modelo) {
         cambioDeActiva_ = true;
         ponerEncima(modelo);

@@ -1,5 +1,6 @@
 #include "desktop/ServiciosQt.h"
 
+#include "desktop/Letra.h"
 #include "desktop/Texto.h"
 #include "desktop/widgets/ArchivosEnEspanol.h"
 #include "desktop/widgets/VentanasReales.h"
@@ -86,13 +87,8 @@ QString Filtros(const std::string& filtro) {
     return nombres.join(";;");
 }
 
-QFont FuenteQt(const Fuente& fuente) {
-    QFont letra{AQt(fuente.nombre)};
-    letra.setPointSizeF(static_cast<double>(fuente.tamano));
-    letra.setBold(fuente.negrita);
-    letra.setItalic(fuente.cursiva);
-    letra.setStrikeOut(fuente.tachado);
-    letra.setUnderline(fuente.subrayado);
+QFont FuenteDelDialogo(const Fuente& fuente) {
+    QFont letra = FuenteQt(fuente);
     // The font dialog finds a style by name, and each font spells that differently.
     letra.setStyleName(QFontInfo{letra}.styleName());
     return letra;
@@ -169,7 +165,7 @@ void ServiciosQt::elegirArchivo(DialogoAbrir& dialogo) {
 
 std::optional<Fuente> ServiciosQt::elegirFuente(const Fuente& actual) {
     bool elegida = false;
-    const QFont letra = QFontDialog::getFont(&elegida, FuenteQt(actual), padre());
+    const QFont letra = QFontDialog::getFont(&elegida, FuenteDelDialogo(actual), padre());
     if (!elegida) {
         return std::nullopt;
     }

@@ -48,6 +48,26 @@ void Vinculos::soltar() {
     controles_.clear();
 }
 
+void Vinculos::soltar(const Control& control) {
+    std::erase_if(observados_, [&](const auto& observado) {
+        if (observado.first != &control) {
+            return false;
+        }
+        observado.first->dejarDeObservar(observado.second);
+        return true;
+    });
+    const auto vinculo = vinculos_.find(&control);
+    if (vinculo == vinculos_.end()) {
+        return;
+    }
+    QWidget* const widget = vinculo->second.widget;
+    controles_.erase(widget);
+    vinculos_.erase(vinculo);
+    widget->disconnect(this);
+    widget->hide();
+    widget->deleteLater(); // a signal of it may still be on its way
+}
+
 void Vinculos::alSoltar(QWidget& widget, std::function<void()> aviso) {
     alSoltar_.emplace_back(&widget, std::move(aviso));
 }

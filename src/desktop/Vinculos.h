@@ -65,6 +65,11 @@ public:
     /// The control of a widget, null when it has none.
     [[nodiscard]] Control* controlDe(const QWidget& widget) const;
 
+    /// Told of each control that the window gets after it was laid out, to give it a widget.
+    std::function<void(Control&)> alCrearControl;
+
+    /// Lets go of one control, which is about to go; its widget goes too.
+    void soltar(const Control& control);
     /// Lets go of all controls: the window is about to go. The widgets stay as they are and do nothing more.
     void soltar();
     /// Told once, when the controls are let go: for widgets that read the window itself. A widget that is

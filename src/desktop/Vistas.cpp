@@ -33,9 +33,14 @@ QWidget* Vistas::ventanaDe(const Formulario& modelo) const {
     return vista == vistas_.end() ? nullptr : vista->second.ventana;
 }
 
-QWidget* Vistas::widgetDe(const Control& control) const {
+Vinculos* Vistas::vinculosDe(const Control& control) const {
     const auto vista = vistas_.find(&control.ventana());
-    return vista == vistas_.end() ? nullptr : vista->second.vinculos->widgetDe(control);
+    return vista == vistas_.end() ? nullptr : vista->second.vinculos.get();
+}
+
+QWidget* Vistas::widgetDe(const Control& control) const {
+    const Vinculos* const vinculos = vinculosDe(control);
+    return vinculos == nullptr ? nullptr : vinculos->widgetDe(control);
 }
 
 Formulario* Vistas::modeloDe(const QObject* ventana) const {
@@ -49,7 +54,9 @@ Control* Vistas::controlDe(const QWidget* widget) const {
         for (const auto& [modelo, vista] : vistas_) {
             Control* const control = vista.vinculos->controlDe(*widget);
             if (control != nullptr) {
-                return control->tipo() == TipoControl::Marco ? nullptr : control;
+                const bool sinFoco =
+                    control->tipo() == TipoControl::Marco || control->tipo() == TipoControl::Etiqueta;
+                return sinFoco ? nullptr : control;
             }
         }
     }

@@ -39,10 +39,12 @@ public:
     [[nodiscard]] QWidget* ventanaDe(const Formulario& modelo) const;
     /// The widget of a control, null when it has none.
     [[nodiscard]] QWidget* widgetDe(const Control& control) const;
+    /// The bindings of the window of a control, null when that has no view.
+    [[nodiscard]] Vinculos* vinculosDe(const Control& control) const;
     /// The model that a window shows, null when it shows none.
     [[nodiscard]] Formulario* modeloDe(const QObject* ventana) const;
     /// The control whose widget it is, or lies around it: the field of a drop-down, the bar of a tabbed
-    /// dialog. Null when there is none, and for a frame, which takes no focus.
+    /// dialog. Null when there is none, and for a frame or a label, which take no focus.
     [[nodiscard]] Control* controlDe(const QWidget* widget) const;
 
 private:

@@ -7,6 +7,7 @@
 #include "map/FrmFormato.h"
 #include "map/FrmMapa.h"
 #include "options/OpcionesPrograma.h"
+#include "plot/FrmResultados.h"
 
 #include <algorithm>
 #include <array>
@@ -36,10 +37,11 @@ constexpr Disposicion De(bool sePuedeAgrandar) {
 }
 
 constexpr std::array disposiciones{
-    De<FrmSeleccion, DisponerSeleccion>(fija),   De<Hojadedatos, DisponerHoja>(agrandable),
-    De<SelColumnas, DisponerColumnas>(fija),     De<OpcionesPrograma, DisponerOpciones>(fija),
-    De<FrmFormato, DisponerFormato>(agrandable), De<FrmMapa, DisponerMapa>(agrandable),
-    De<FrmMapa2, DisponerMapa2>(agrandable),     De<FrmCrearArchivo, DisponerCrearArchivo>(fija),
+    De<FrmSeleccion, DisponerSeleccion>(fija),       De<Hojadedatos, DisponerHoja>(agrandable),
+    De<SelColumnas, DisponerColumnas>(fija),         De<OpcionesPrograma, DisponerOpciones>(fija),
+    De<FrmFormato, DisponerFormato>(agrandable),     De<FrmMapa, DisponerMapa>(agrandable),
+    De<FrmMapa2, DisponerMapa2>(agrandable),         De<FrmResultados, DisponerResultados>(agrandable),
+    De<FrmCrearArchivo, DisponerCrearArchivo>(fija),
 };
 
 const Disposicion& DisposicionDe(const Formulario& ventana) {

@@ -10,6 +10,7 @@ class FrmCrearArchivo;
 class FrmFormato;
 class FrmMapa;
 class FrmMapa2;
+class FrmResultados;
 class FrmSeleccion;
 class Hojadedatos;
 class OpcionesPrograma;
@@ -30,6 +31,7 @@ QWidget* DisponerOpciones(OpcionesPrograma& ventana, Vinculos& vinculos);
 QWidget* DisponerFormato(FrmFormato& ventana, Vinculos& vinculos);
 QWidget* DisponerMapa(FrmMapa& ventana, Vinculos& vinculos);
 QWidget* DisponerMapa2(FrmMapa2& ventana, Vinculos& vinculos);
+QWidget* DisponerResultados(FrmResultados& ventana, Vinculos& vinculos);
 QWidget* DisponerCrearArchivo(FrmCrearArchivo& ventana, Vinculos& vinculos);
 
 } // namespace varo
