@@ -3,17 +3,13 @@
 #include "basico/Texto.h"
 #include "plot/FrmResultados.h"
 
-#include <algorithm>
-
 namespace varo {
 
 namespace {
 
 /// A caption as one cell: it breaks neither its line nor its column.
-std::string Celda(std::string texto) {
-    std::ranges::replace_if(
-        texto, [](char letra) { return letra == '\t' || letra == '\n' || letra == '\r'; }, ' ');
-    return Recortar(texto);
+std::string Celda(const std::string& texto) {
+    return Recortar(EnUnaLinea(texto));
 }
 
 void PonerRenglon(std::string& texto, const Etiqueta& etiqueta) {

@@ -6,9 +6,12 @@
 #include "desktop/ventanas/VistaDeMapa.h"
 #include "recorrido/Pasos.h"
 
+#include <QLabel>
 #include <QMessageBox>
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace varo::prueba {
 
@@ -75,24 +78,48 @@ void ArrastrarElTitulo(const Manos& manos) {
     manos.foto("11-mapa-titulo-arrastrado");
 }
 
-void GuardarIndices(const Manos& manos, const std::filesystem::path& resultados) {
+void Dibujar(const Manos& manos) {
     manos.esperarVentana("FrmFormato");
     manos.foto("10-formato");
     EXPECT_EQ(manos.leer("FrmFormato", "", LoQueNoCabe), "");
+    manos.clic("FrmFormato", "TxtTitName");
+    manos.tecla("ctrl+a");
+    manos.teclear("Parcela de ejemplo");
     manos.clic("FrmFormato", "CmdAceptar");
     manos.esperarVentana("FrmMapa");
     manos.foto("11-mapa");
     ArrastrarElTitulo(manos);
+}
+
+/// Looks at the plot data and closes them. Each label shows what the file of a job has.
+void MirarLosDatos(const Manos& manos, const std::filesystem::path& datos) {
+    manos.tecla("alt+d");
+    manos.esperarVentana("FrmResultados");
+    manos.foto("12-datos");
+    std::ifstream archivo{datos};
+    ASSERT_TRUE(archivo);
+    int cifras = 0;
+    for (std::string nombre, leyenda; std::getline(archivo, nombre, '\t') && std::getline(archivo, leyenda);
+         ++cifras) {
+        const auto texto = [](QWidget& widget) { return dynamic_cast<QLabel&>(widget).text(); };
+        EXPECT_EQ(manos.leer("FrmResultados", nombre.c_str(), texto).toStdString(), leyenda) << nombre;
+    }
+    EXPECT_EQ(cifras, 22);
+    manos.tecla("ctrl+F4");
+    manos.esperarQueSeVaya("FrmResultados");
+}
+
+void GuardarIndices(const Manos& manos, const std::filesystem::path& resultados) {
     manos.tecla("alt+i");
     manos.esperarVentana("FrmCrearArchivo");
-    manos.foto("12-crear-archivo");
+    manos.foto("13-crear-archivo");
     manos.clic("FrmCrearArchivo", "TxtLista", Manos::enElCentro, 2);
     manos.tecla("ctrl+a");
     manos.teclear(resultados.filename().string());
-    manos.foto("13-nombre");
+    manos.foto("14-nombre");
     manos.tecla("Return");
     manos.esperarVentana("CajaDeMensaje");
-    manos.foto("14-creado");
+    manos.foto("15-creado");
     EXPECT_EQ(
         manos.leer("CajaDeMensaje", "", [](QWidget& caja) { return dynamic_cast<QMessageBox&>(caja).text(); })
             .toStdString(),
@@ -105,7 +132,7 @@ void Salir(const Manos& manos) {
     manos.tecla("alt+a");
     manos.tecla("s");
     manos.esperarVentana("CajaDeMensaje");
-    manos.foto("15-salir");
+    manos.foto("16-salir");
     manos.tecla("Escape"); // the program goes on
     manos.esperarQueSeVaya("CajaDeMensaje");
     manos.tecla("alt+a");
@@ -132,6 +159,8 @@ TEST(RecorridoEnPantalla, ElArchivoDeIndicesEsElDeVaroLote) {
         ElegirHoja(manos);
         MarcarIndices(manos);
         ElegirColumnas(manos);
+        Dibujar(manos);
+        MirarLosDatos(manos, carpeta / "lote/datos.txt");
         GuardarIndices(manos, resultados);
         Salir(manos);
     });

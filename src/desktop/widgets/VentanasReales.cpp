@@ -1,8 +1,10 @@
 #include "desktop/widgets/VentanasReales.h"
 
+#include <QAction>
 #include <QDialog>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -28,12 +30,28 @@ QSize SitioEnPantalla(const QWidget& ventana) {
     return ventana.screen()->availableGeometry().size() - marcos;
 }
 
+namespace {
+
+/// Ctrl+F4 closes a child, and nothing else does by the keyboard.
+void PonerTeclaDeCierre(QMdiSubWindow& hija) {
+    for (QAction* const accion : hija.systemMenu()->actions()) {
+        if (accion->shortcuts() == QKeySequence::keyBindings(QKeySequence::Close)) {
+            accion->setShortcut(Qt::CTRL | Qt::Key_F4);
+            accion->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+            hija.addAction(accion);
+        }
+    }
+}
+
+} // namespace
+
 QMdiSubWindow* CrearHija(QMdiArea& zona, QWidget& contenido, bool sePuedeAgrandar) {
     auto* const hija = new QMdiSubWindow;
     hija->setWidget(&contenido);
     if (!sePuedeAgrandar) {
         hija->setWindowFlags(Qt::SubWindow | sinAgrandar);
     }
+    PonerTeclaDeCierre(*hija);
     zona.addSubWindow(hija, hija->windowFlags());
     hija->hide();
     return hija;
