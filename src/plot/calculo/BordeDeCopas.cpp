@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <span>
 
 namespace varo {
 
@@ -15,7 +16,8 @@ constexpr double infinito = std::numeric_limits<double>::infinity();
 } // namespace
 
 BordeDeCopas::BordeDeCopas(const ContornoXY& contorno) : contorno_{contorno} {
-    const auto& [x, y] = contorno_;
+    const std::span<const double> x = contorno.x;
+    const std::span<const double> y = contorno.y;
     for (std::size_t k = 0; k + 1 < x.size(); ++k) {
         LadoDelBorde lado{x[k], x[k + 1]};
         const auto fallado = Saltando([&] { lado.m = Dividir(y[k + 1] - y[k], x[k + 1] - x[k]); });
@@ -26,7 +28,8 @@ BordeDeCopas::BordeDeCopas(const ContornoXY& contorno) : contorno_{contorno} {
 }
 
 double BordeDeCopas::alturaMenor(double x, double y) const {
-    const auto& [px, py] = contorno_;
+    const std::span<const double> px = contorno_.x;
+    const std::span<const double> py = contorno_.y;
     double menor = infinito;
     const auto fallado = Saltando([&] {
         for (std::size_t k = 0; k + 1 < px.size(); ++k) {

@@ -74,6 +74,7 @@ void SolaparElipses(const FilasDeCopas& filas, const ContornoXY& contorno, const
     const BordeDeCopas borde{contorno};
     const std::vector<ElipseDeFila> elipses = ElipsesDeFilas(filas);
     std::vector<double> alturas;
+    alturas.reserve(elipses.size());
     for (const auto& elipse : elipses) {
         alturas.push_back(borde.alturaMenor(elipse.copa.x, elipse.copa.y));
     }

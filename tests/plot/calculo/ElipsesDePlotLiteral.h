@@ -11,6 +11,7 @@
 #include "plot/calculo/SolapeDeCopas.h"
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 namespace varo::prueba {
@@ -130,7 +131,8 @@ private:
     }
 
     [[nodiscard]] bool cerca(const Copa& c) const {
-        const auto& [px, py] = contorno_;
+        const std::span<const double> px = contorno_.x;
+        const std::span<const double> py = contorno_.y;
         for (std::size_t k = 0; k + 1 < px.size(); ++k) {
             const bool bloque = PruebaSaltando([&] {
                 return AlturaTriangulo(c.x, c.y, px[k], py[k], px[k + 1], py[k + 1]) <
