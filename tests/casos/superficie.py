@@ -31,25 +31,23 @@ class Superficie:
 
     def pintar(self, x, y, radios, color):
         n, e, s, w = (0.5 if r == 0 else r for r in radios)
-        self.pintadas.append((x, y, n, e, s, w, color))
+
+        def cubre(dx, dy):
+            a = e if dx >= 0 else w
+            b = n if dy >= 0 else s
+            return (dx / a) * (dx / a) + (dy / b) * (dy / b) <= 1
+
+        self.pintadas.append((x, y, cubre, color))
 
     def pintar_circulo(self, x, y, radio, color):
-        """A circle of radius 0 covers its centre alone."""
-        self.pintadas.append((x, y, radio, radio, radio, radio, color))
+        self.pintadas.append((x, y, lambda dx, dy: dx * dx + dy * dy <= radio * radio, color))
 
     def point(self, px, py):
         if self.izquierda < self.derecha and not (
                 self.izquierda <= px <= self.derecha and self.abajo <= py <= self.arriba):
             return FUERA
-        for x, y, n, e, s, w, color in reversed(self.pintadas):
-            dx, dy = px - x, py - y
-            a = e if dx >= 0 else w
-            b = n if dy >= 0 else s
-            if a == 0:
-                if dx == 0 and dy == 0:
-                    return color
-                continue
-            if (dx / a) * (dx / a) + (dy / b) * (dy / b) <= 1:
+        for x, y, cubre, color in reversed(self.pintadas):
+            if cubre(px - x, py - y):
                 return color
         return FONDO
 
