@@ -4,6 +4,7 @@
 #include "pintura/Colores.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QFileDialog>
 #include <QHelpEvent>
 #include <QImage>
@@ -228,6 +229,20 @@ TEST_F(ElMapa, Ctrl_SGuardaLaImagenConLaExtensionQueSeEscribe) {
     QTest::keyClick(&vista(), Qt::Key_S, Qt::ControlModifier);
     const QImage imagen{QString::fromStdString(carpeta.archivo("mapa.png"))};
     EXPECT_EQ(imagen.width(), 3508);
+}
+
+TEST_F(ElMapa, Ctrl_PImprimeElMapa) {
+    activar("FrmMapa");
+    const std::string papel = carpeta.archivo("papel.pdf");
+    contestador.preparar([&papel](QWidget& modal) {
+        EXPECT_EQ(modal.objectName(), "DlogoImprimir");
+        auto* const campo = modal.findChild<QLineEdit*>("filename"); // of a printer that is a file
+        ASSERT_NE(campo, nullptr);
+        campo->setText(QString::fromStdString(papel));
+        dynamic_cast<QDialog&>(modal).accept();
+    });
+    QTest::keyClick(&vista(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(LeerArchivo(papel).starts_with("%PDF-"));
 }
 
 TEST_F(ElMapa, UnaImagenQueNoSePuedeEscribirSeDice) {

@@ -146,7 +146,7 @@ void Puesto::cerrar(const std::string& ventana) const {
 void Puesto::abrirArchivo() {
     Hoja hoja;
     hoja.nombre = "Parcela1";
-    hoja.celdas = CuadradoConCentro();
+    hoja.celdas = filas;
     EscribirArchivoXls(carpeta / "parcela.xls", {hoja});
     const QString ruta = QString::fromStdString(carpeta.archivo("parcela.xls"));
     contestador.preparar([ruta](QWidget& dialogo) {

@@ -42,6 +42,7 @@ enum class Etapa { Inicio, Seleccion, Hoja, Opciones, Columnas, Formato, Mapa, C
 struct Puesto {
     Puesto();
 
+    Filas filas = CuadradoConCentro(); ///< of the sheet that `abrirArchivo` opens
     CarpetaTemporal carpeta;
     Contestador contestador;
     ServiciosQt servicios;
@@ -78,7 +79,7 @@ struct Puesto {
     /// Presses the close box of a window.
     void cerrar(const std::string& ventana) const;
 
-    /// Opens the plot of CuadradoConCentro up to the choice of its sheet, "Parcela1$".
+    /// Opens the plot up to the choice of its sheet, "Parcela1$".
     void abrirArchivo();
     void aceptarHoja() const;
     [[nodiscard]] QTableView& rejilla() const { return widget<QTableView>("Hojadedatos", "MSFlexGrid1"); }
