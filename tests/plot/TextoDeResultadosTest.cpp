@@ -71,7 +71,7 @@ TEST(TextoDeResultados, NingunTextoParteSuFilaNiSuColumna) {
     ventana.LbParcela.Caption = "Parcela: 1\tNorte\r\nSur";
     ventana.LbPiesHaCodigo(0).Caption = " A\tB\n";
     const std::string texto = TextoDeResultados(ventana);
-    EXPECT_TRUE(texto.starts_with("Parcela: 1 Norte  Sur\n")) << texto;
+    EXPECT_TRUE(texto.starts_with("Parcela: 1 Norte Sur\n")) << texto;
     EXPECT_NE(texto.find("\nCod:\tA B\nValor:\t\n"), std::string::npos) << texto;
 }
 

@@ -14,30 +14,30 @@ constexpr int entreColumnas = 14;
 constexpr int entreFilas = 2;
 
 /// A row or a column.
-struct Franja {
+struct FranjaDeEtiquetas {
     int medida = 0; ///< of its largest text
     int cuantas = 0;
     int lugar = 0;
 };
 
-using Columna = std::pair<int, int>; ///< left edge and index
+using ColumnaDeEtiquetas = std::pair<int, int>; ///< left edge and index
 
 int DisenoDe(int franja) {
     return franja;
 }
 
-int DisenoDe(const Columna& columna) {
+int DisenoDe(const ColumnaDeEtiquetas& columna) {
     return columna.first;
 }
 
-void Anotar(Franja& franja, int medida) {
+void Anotar(FranjaDeEtiquetas& franja, int medida) {
     franja.medida = std::max(franja.medida, medida);
     ++franja.cuantas;
 }
 
 /// Each one in its place, or behind the one before.
 template <class Clave>
-void Colocar(std::map<Clave, Franja>& franjas, int separacion) {
+void Colocar(std::map<Clave, FranjaDeEtiquetas>& franjas, int separacion) {
     int libre = 0;
     for (auto& [clave, franja] : franjas) {
         franja.lugar = std::max(DisenoDe(clave), libre);
@@ -57,7 +57,7 @@ public:
         Colocar(filas_, entreFilas);
         for (const auto& etiqueta : etiquetas) {
             if (esDeTabla(etiqueta)) {
-                Anotar(columnas_[ColumnaDe(etiqueta)], etiqueta.texto.width());
+                Anotar(columnas_[columnaDe(etiqueta)], etiqueta.texto.width());
             }
         }
         Colocar(columnas_, entreColumnas);
@@ -73,21 +73,21 @@ public:
             return {{std::max(margen, enMedio), arriba}, etiqueta.texto};
         }
         if (esDeTabla(etiqueta)) {
-            return {{columnas_.at(ColumnaDe(etiqueta)).lugar, arriba}, etiqueta.texto};
+            return {{columnas_.at(columnaDe(etiqueta)).lugar, arriba}, etiqueta.texto};
         }
         return {{etiqueta.diseno.left(), arriba}, etiqueta.texto.expandedTo({etiqueta.diseno.width(), 0})};
     }
 
 private:
-    static Columna ColumnaDe(const EtiquetaPorRepartir& etiqueta) {
+    static ColumnaDeEtiquetas columnaDe(const EtiquetaPorRepartir& etiqueta) {
         return {etiqueta.diseno.left(), etiqueta.indice};
     }
     [[nodiscard]] bool esDeTabla(const EtiquetaPorRepartir& etiqueta) const {
         return !etiqueta.texto.isEmpty() && filas_.at(etiqueta.diseno.top()).cuantas > 1;
     }
 
-    std::map<int, Franja> filas_;
-    std::map<Columna, Franja> columnas_;
+    std::map<int, FranjaDeEtiquetas> filas_;
+    std::map<ColumnaDeEtiquetas, FranjaDeEtiquetas> columnas_;
     int anchoALaVista_;
 };
 
