@@ -5,6 +5,7 @@
 #include "basico/Saltando.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
+#include "data/PadronDeArboles.h"
 #include "data/Papeles.h"
 #include "formularios/Reloj.h"
 #include "map/FrmFormato.h"
@@ -47,12 +48,16 @@ public:
 
     void correr() {
         const AlSalir avisar{[this] { superficie_.avisarDibujo(); }};
-        AlFallar([this](ErrorEjecucion& error) { ExplicarSuperficie(error, programa_); },
-                 [this] {
-                     EnLugar("pies por hectárea", [this] { contarPies(); });
-                     EnLugar("área basimétrica", [this] { sumarAreaBasimetrica(); });
-                     EnLugar("superficie de las copas", [this] { consultarCopas(); });
-                 });
+        AlFallar(
+            [this](ErrorEjecucion& error) {
+                ExplicarSuperficie(error, programa_);
+                PonerArbol(error, programa_);
+            },
+            [this] {
+                EnLugar("pies por hectárea", [this] { contarPies(); });
+                EnLugar("área basimétrica", [this] { sumarAreaBasimetrica(); });
+                EnLugar("superficie de las copas", [this] { consultarCopas(); });
+            });
         sumarCopas();
         recortar();
         solapar();

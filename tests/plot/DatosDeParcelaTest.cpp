@@ -141,7 +141,7 @@ TEST(DatosDeParcela, UnaPalabraEnLaCopaDeUnaFilaSinSitioAcabaConTodo) {
     datos.pedir();
     const std::string mensaje = datos.servicios.fallos().back().what();
     EXPECT_NE(mensaje.find("superficie de las copas"), std::string::npos) << mensaje;
-    EXPECT_NE(mensaje.find("fila 7"), std::string::npos) << mensaje;
+    EXPECT_NE(mensaje.find("fila 7 de «Parcela1$», árbol 5, columna «RE»"), std::string::npos) << mensaje;
     EXPECT_NE(mensaje.find("ancha"), std::string::npos) << mensaje;
     EXPECT_EQ(datos.programa.cargada<FrmResultados>(), nullptr);
     EXPECT_EQ(datos.mapa().MousePointer(), Formulario::punteroNormal);
