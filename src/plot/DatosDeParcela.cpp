@@ -130,7 +130,7 @@ private:
 
     /// Meant: ellipses of mean radii have no query, and the one before it stands.
     [[nodiscard]] std::string ultimaConsultaDeArea() {
-        const std::string consulta =
+        std::string consulta =
             ConsultaAreaBasimetrica(CampoDelTallo(programa_), hoja(), UnidadesDelTallo(opciones_)) + "] ";
         if (!conCodigos_ || codigos().empty()) {
             return consulta;
