@@ -208,7 +208,7 @@ TEST_F(LosResultados, ConMuchosCodigosLaVentanaCabeEnElMarcoYSeDesplaza) {
     EXPECT_GT(hoja().horizontalScrollBar()->maximum(), 0);
     const QRect titulo = etiqueta("LbParcela").geometry();
     EXPECT_LE(titulo.right(), hoja().viewport()->width()) << "el título se ve sin desplazarse";
-    EXPECT_NEAR(titulo.center().x(), hoja().viewport()->width() / 2, 1);
+    EXPECT_NEAR(titulo.center().x(), hoja().viewport()->width() / 2.0, 1);
 }
 
 TEST_F(LosResultados, UnTituloLargoSeVeEntero) {
