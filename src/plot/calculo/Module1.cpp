@@ -49,12 +49,16 @@ double Extremo(std::span<const double> filas, Supera supera) {
     return extremo;
 }
 
-/// Visits desde, desde + 1, ... up to and including hasta.
+/// Visits desde, desde + 1, ... up to and including hasta. Where a step is lost in rounding, the walk would
+/// not end: that is an overflow.
 template <class Visita>
 void DeUnoEnUno(double desde, double hasta, Visita visita) {
     double valor = desde;
     while (valor <= hasta) {
         visita(valor);
+        if (valor + 1.0 == valor) {
+            throw ErrorEjecucion{fallo::desbordamiento};
+        }
         valor += 1.0;
     }
 }

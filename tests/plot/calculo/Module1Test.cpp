@@ -344,6 +344,13 @@ TEST(CalcularFcc, UnLadoVerticalFalta) {
               fallo::divisionPorCero);
 }
 
+TEST(CalcularFcc, UnPasoQueSePierdeEnElRedondeoDesborda) {
+    const Coordenadas lejano{{1E+17, 2E+17, 3E+17, 1E+17}, {0, 5, 1, 0}};
+    EXPECT_EQ(NumeroDeFallo([&] { CalcularFcc(Contorno(lejano), [](double, double) { return negro; }); }),
+              fallo::desbordamiento)
+        << "el recorrido no acabaría nunca";
+}
+
 // --- Any points ---------------------------------------------------------------------------------------
 
 double Real(std::int64_t entero) {
