@@ -49,17 +49,23 @@ double Extremo(std::span<const double> filas, Supera supera) {
     return extremo;
 }
 
-/// Visits desde, desde + 1, ... up to and including hasta. Where a step is lost in rounding, the walk would
-/// not end: that is an overflow.
+/// Visits desde, desde + 1, ... up to and including hasta.
 template <class Visita>
 void DeUnoEnUno(double desde, double hasta, Visita visita) {
     double valor = desde;
     while (valor <= hasta) {
         visita(valor);
-        if (valor + 1.0 == valor) {
-            throw ErrorEjecucion{fallo::desbordamiento};
-        }
         valor += 1.0;
+    }
+}
+
+/// A walk over all points of such a box that would not end is an overflow.
+void ExigirQueAcabe(double xDesde, double xHasta, double yDesde, double yHasta) {
+    constexpr double demasiados = 1E+10; // some ten minutes
+    const bool sePierdeUnPaso =
+        xHasta + 1.0 == xHasta || yHasta + 1.0 == yHasta || xDesde + 1.0 == xDesde || yDesde + 1.0 == yDesde;
+    if (sePierdeUnPaso || (xHasta - xDesde + 1.0) * (yHasta - yDesde + 1.0) > demasiados) {
+        throw ErrorEjecucion{fallo::desbordamiento};
     }
 }
 
@@ -186,6 +192,7 @@ float CalcularFcc(const ContornoXY& contorno, const std::function<Color(double, 
     const double XMaxPoligono = MaximoXPoligono(contorno);
     const double YMaxPoligono = MaximoYPoligono(contorno);
     const double YMinPoligono = MinimoYPoligono(contorno);
+    ExigirQueAcabe(contorno.x[0], XMaxPoligono, YMinPoligono, YMaxPoligono);
     double dentro = 0;
     double cubierto = 0;
     DeUnoEnUno(contorno.x[0], XMaxPoligono, [&](double x) {

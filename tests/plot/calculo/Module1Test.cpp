@@ -344,11 +344,19 @@ TEST(CalcularFcc, UnLadoVerticalFalta) {
               fallo::divisionPorCero);
 }
 
-TEST(CalcularFcc, UnPasoQueSePierdeEnElRedondeoDesborda) {
-    const Coordenadas lejano{{1E+17, 2E+17, 3E+17, 1E+17}, {0, 5, 1, 0}};
-    EXPECT_EQ(NumeroDeFallo([&] { CalcularFcc(Contorno(lejano), [](double, double) { return negro; }); }),
-              fallo::desbordamiento)
-        << "el recorrido no acabaría nunca";
+TEST(CalcularFcc, UnRecorridoQueNoAcabariaDesborda) {
+    const auto numero = [](const Coordenadas& lejano) {
+        return NumeroDeFallo([&] { CalcularFcc(Contorno(lejano), [](double, double) { return negro; }); });
+    };
+    EXPECT_EQ(numero({{1E+17, 2E+17, 3E+17, 1E+17}, {0, 5, 1, 0}}), fallo::desbordamiento)
+        << "un metro se pierde en el redondeo";
+    EXPECT_EQ(numero({{5, 7, 450000, 5}, {4600000, 4600008, 3, 4600000}}), fallo::desbordamiento)
+        << "un árbol en otro sistema de coordenadas";
+}
+
+TEST(CalcularFcc, UnaParcelaMuyLargaYEstrechaSeRecorre) {
+    const Coordenadas larga{{0.5, 1000000, 2000000.5, 0.5}, {0, 1.5, 0.75, 0}};
+    EXPECT_EQ(CalcularFcc(Contorno(larga), [](double, double) { return negro; }), 1);
 }
 
 // --- Any points ---------------------------------------------------------------------------------------
