@@ -59,6 +59,25 @@ bool EsDelCodigo(const TablaPoligono& poligono, int vertice, const std::string& 
     return ATexto(poligono(columnaDeCodigo, vertice)) == codigo;
 }
 
+Valor CuentaDeCodigo(const FilasPorCodigo& filas, const std::string& condicion) {
+    return filas.base
+        .OpenRecordset("SELECT Count (" + filas.campo + ") as [variablecodigo] FROM [" + filas.hoja +
+                       "] WHERE " + condicion)
+        .Fields(0)
+        .Value;
+}
+
+/// A code that is seen in the grid may be none in the query: a date, a truth value, a number with points.
+std::string PorQueNoHaySuma(const FilasPorCodigo& filas, const std::string& condicion,
+                            const std::string& campoTamano) {
+    if (ANumero(CuentaDeCodigo(filas, condicion)) == 0) {
+        return "la consulta no halla ninguno de sus árboles, porque su celda no guarda lo que se lee en ella "
+               "(una fecha, un valor lógico o un número con puntos): cambie el código en la hoja por una "
+               "palabra";
+    }
+    return "ninguno de sus árboles tiene tamaño en la columna " + Cita(campoTamano);
+}
+
 } // namespace
 
 std::string CondicionDeCodigo(const std::string& campo, const std::string& codigo) {
@@ -69,10 +88,7 @@ void PiesDeCodigos(const FilasPorCodigo& filas, const TablaPoligono& poligono, i
                    double supPoligono, CifrasPorCodigo& cifras) {
     int enBorde = 0; // Meant: it runs on from code to code.
     PorCadaCodigo(filas, cifras, [&](const std::string& codigo, const std::string& condicion) {
-        const auto consulta =
-            filas.base.OpenRecordset("SELECT Count (" + filas.campo + ") as [variablecodigo] FROM [" +
-                                     filas.hoja + "] WHERE " + condicion);
-        const Entero16 pies{ANumero(consulta.Fields(0).Value)};
+        const Entero16 pies{ANumero(CuentaDeCodigo(filas, condicion))};
         for (int v = 0; v <= numPuntosPoligono - 2; ++v) {
             enBorde += EsDelCodigo(poligono, v, codigo) ? 1 : 0;
         }
@@ -90,8 +106,7 @@ void AreaBasimetricaDeCodigos(const FilasPorCodigo& filas, const std::string& ca
         const auto consulta = filas.base.OpenRecordset(
             ConsultaAreaBasimetrica(campoTamano, filas.hoja, unidades) + "] WHERE " + condicion);
         const double suma = Porque(
-            fallo::usoDeNulo,
-            [&] { return "ninguno de sus árboles tiene tamaño en la columna " + Cita(campoTamano); },
+            fallo::usoDeNulo, [&] { return PorQueNoHaySuma(filas, condicion, campoTamano); },
             [&] { return ANumero(consulta.Fields(0).Value); });
         for (int v = 0; v <= numPuntosPoligono - 2; ++v) {
             if (EsDelCodigo(poligono, v, codigo)) {

@@ -175,6 +175,17 @@ TEST(PorHectarea, UnCodigoSinTamanosNoTieneArea) {
     }));
 }
 
+TEST(PorHectarea, UnCodigoQueLaConsultaNoHallaLoDice) {
+    // Text in the sheet, but a number in the query: 1.000 is not 1000 there.
+    const auto base = Hoja({{Letra("1.000"), 50.0, 1.0}});
+    const std::vector<std::string> codigos{"1.000"};
+    CifrasPorCodigo area;
+    EXPECT_TRUE(prueba::FallaCon<ErrorEjecucion>(94, "la consulta no halla ninguno de sus árboles", [&] {
+        AreaBasimetricaDeCodigos({base, "Cod", "Hoja1$", codigos}, "CAP", {}, CuadradoDeCodigos(), 5,
+                                 AngulosRectos(), 100, area);
+    }));
+}
+
 TEST(PorHectarea, UnaPalabraEnElTamanoDeOtroCodigoNoEstorba) {
     const auto base = Hoja({{Letra("A"), 1.0, 1.0}, {Letra("B"), Letra("gordo"), 1.0}});
     const std::vector<std::string> codigos{"A"};
