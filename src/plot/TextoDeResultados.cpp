@@ -7,9 +7,11 @@ namespace varo {
 
 namespace {
 
-/// A caption as one cell: it breaks neither its line nor its column.
+/// A caption as one cell: it breaks neither its line nor its column. Spreadsheets take a quote at the start
+/// for the first of a pair, so such a cell is quoted.
 std::string Celda(const std::string& texto) {
-    return Recortar(EnUnaLinea(texto));
+    const std::string celda = Recortar(EnUnaLinea(texto));
+    return celda.starts_with('"') ? '"' + Reemplazar(celda, "\"", "\"\"") + '"' : celda;
 }
 
 void PonerRenglon(std::string& texto, const Etiqueta& etiqueta) {

@@ -75,6 +75,16 @@ TEST(TextoDeResultados, NingunTextoParteSuFilaNiSuColumna) {
     EXPECT_NE(texto.find("\nCod:\tA B\nValor:\t\n"), std::string::npos) << texto;
 }
 
+TEST(TextoDeResultados, UnaComillaAlPrincipioNoSeTragaLasCeldasQueSiguen) {
+    Jornada dia;
+    auto& ventana = dia.programa.tocar<FrmResultados>();
+    ventana.LbParcela.Caption = "Monte \"Alto\"";
+    ventana.LbPiesHaCodigo(0).Caption = "\"A\" y \"B";
+    const std::string texto = TextoDeResultados(ventana);
+    EXPECT_TRUE(texto.starts_with("Monte \"Alto\"\n")) << texto;
+    EXPECT_NE(texto.find("\nCod:\t\"\"\"A\"\" y \"\"B\"\nValor:"), std::string::npos) << texto;
+}
+
 TEST(TextoDeResultados, LoQueNoSeVeNoSeCopia) {
     Jornada dia;
     auto& ventana = dia.programa.tocar<FrmResultados>();
