@@ -197,8 +197,13 @@ void FrmMapa::Ab_ha() {
         SumaAreaBasimetrica(programa_.tocar<Hojadedatos>().Data1.Database(), campo,
                             programa_.tocar<FrmSeleccion>().CboHoja.Text, UnidadesDelTallo(opciones));
     const int columnaArea = opciones.ChCodigo.Value() == 1 ? 3 : 2;
-    const double quitar = AreaBasimetricaDeBorde(sesion.Poligono, columnaArea,
-                                                 sesion.NumPuntosPoligono.valor(), sesion.AnguloInterior);
+    const double quitar = Porque(
+        fallo::tiposDistintos,
+        [] { return "el mapa se dibujó con códigos, y ahora no se piden: dibuje el mapa de nuevo"; },
+        [&] {
+            return AreaBasimetricaDeBorde(sesion.Poligono, columnaArea, sesion.NumPuntosPoligono.valor(),
+                                          sesion.AnguloInterior);
+        });
     sesion.AbHaActual = Porque(
         fallo::usoDeNulo, [&] { return "ningún árbol tiene tamaño en la columna «" + campo + "»"; },
         [&] { return AreaBasimetricaPorHectarea(suma, quitar, sesion.SupPoligono); });

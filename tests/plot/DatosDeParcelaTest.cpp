@@ -230,6 +230,16 @@ TEST(DatosDeParcela, ConLaCasillaDeCodigosPulsadaDosVecesNoHayFilasDeCodigos) {
     EXPECT_EQ(datos.programa.sesion.PiesHaActual, 0);
 }
 
+TEST(DatosDeParcela, UnMapaDibujadoConCodigosYSinPedirlosYaDiceQueSeDibujeDeNuevo) {
+    Datos datos;
+    datos.cambiarOpciones([&](OpcionesPrograma& opciones) { datos.usuario.clic(opciones.ChCodigo); });
+    datos.servicios.esperarFallo(fallo::tiposDistintos);
+    datos.pedir();
+    const std::string mensaje = datos.servicios.fallos().back().what();
+    EXPECT_NE(mensaje.find("el mapa se dibujó con códigos"), std::string::npos) << mensaje;
+    EXPECT_NE(mensaje.find("dibuje el mapa de nuevo"), std::string::npos) << mensaje;
+}
+
 TEST(DatosDeParcela, LasElipsesSeRecortanYSeCubrenPorMuestras) {
     // A rhombus has no upright side. One tree inside with an ellipse of 1 by 2 m, the others without crowns.
     Filas filas = CuadradoCon([](Filas& hoja) {
