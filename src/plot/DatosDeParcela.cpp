@@ -169,6 +169,7 @@ private:
     void cubrir() {
         FilasDeCopas copas = ReunirCopas(programa_);
         copas.FactorRadios = FactorDeRadios(opciones_);
+        copas.datos = DatosDeLaCopa(opciones_); // Meant: a mean radius is a circle here, in ellipses too.
         PintarCopas(copas, !circulos_, superficie_.lienzo);
         const ContornoXY contorno = sesion_.Poligono.contorno();
         // A fault ends the measuring of the cover: what it has set by then stays.

@@ -240,6 +240,16 @@ TEST(DatosDeParcela, UnMapaDibujadoConCodigosYSinPedirlosYaDiceQueSeDibujeDeNuev
     EXPECT_NE(mensaje.find("dibuje el mapa de nuevo"), std::string::npos) << mensaje;
 }
 
+TEST(DatosDeParcela, LaCubiertaDeUnRadioMedioSonCirculosConCualquierForma) {
+    Datos datos;
+    datos.opciones().OptRM.Value = true;
+    datos.opciones().OptElipse.Value = true; // no person can
+    datos.pedir();
+    Lienzo& superficie = datos.programa.tocar<FrmMapa2>().lienzo;
+    EXPECT_EQ(superficie.Point(5.9, 5), 0);
+    EXPECT_NE(superficie.Point(6.1, 5), 0);
+}
+
 TEST(DatosDeParcela, LasElipsesSeRecortanYSeCubrenPorMuestras) {
     // A rhombus has no upright side. One tree inside with an ellipse of 1 by 2 m, the others without crowns.
     Filas filas = CuadradoCon([](Filas& hoja) {
