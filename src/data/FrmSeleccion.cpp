@@ -29,10 +29,11 @@ int AnchoConMargen(const std::string& texto) {
 
 /// Removes the rows without data. Meant: the bound is taken once, so after a removal the walk runs past the
 /// end of the grid; that fault, like the one of removing the last row, ends the walk.
-void QuitarFilasVacias(Rejilla& rejilla) {
+void QuitarFilasVacias(Rejilla& rejilla, const Avance& avance) {
     Saltando([&] {
         const int ultima = rejilla.Rows() - 1;
         for (int fila = 1; fila <= ultima; ++fila) {
+            avance.paso();
             bool vacia = true;
             for (int columna = 1; vacia && columna < rejilla.Cols(); ++columna) {
                 vacia = rejilla.TextMatrix(fila, columna).empty();
@@ -126,6 +127,15 @@ void FrmSeleccion::abrirHoja() {
 
 void FrmSeleccion::RellenarGrid(const std::string& hoja) {
     auto& ventana = programa_.tocar<Hojadedatos>();
+    const auto dejarComoEstaba = [&, datos = ventana.Data1, celdas = ventana.MSFlexGrid1.contenido()] {
+        ventana.Data1 = datos;
+        ventana.MSFlexGrid1.reponer(celdas);
+    };
+    AlCancelar(dejarComoEstaba, [&] { copiarTabla(hoja, programa_.servicios().avance()); });
+}
+
+void FrmSeleccion::copiarTabla(const std::string& hoja, const Avance& avance) {
+    auto& ventana = programa_.tocar<Hojadedatos>();
     auto& datos = ventana.Data1;
     auto& rejilla = ventana.MSFlexGrid1;
     datos.RecordSource = hoja;
@@ -138,8 +148,10 @@ void FrmSeleccion::RellenarGrid(const std::string& hoja) {
     rejilla.Rows(datos.Recordset().RecordCount() + 1);
     datos.Recordset().MoveFirst();
     escribirEncabezados(hoja);
-    copiarFilas(hoja);
-    QuitarFilasVacias(rejilla);
+    avance.etapa("Hoja «" + hoja + "»");
+    avance.empezar(2 * static_cast<std::size_t>(rejilla.Rows()));
+    copiarFilas(hoja, avance);
+    QuitarFilasVacias(rejilla, avance);
     OcultarColumnasVacias(rejilla);
     rejilla.ColSel = 0;
 }
@@ -159,13 +171,14 @@ void FrmSeleccion::escribirEncabezados(const std::string& hoja) {
     rejilla.ColWidth(0, AnchoConMargen(rejilla.Text()));
 }
 
-void FrmSeleccion::copiarFilas(const std::string& hoja) {
+void FrmSeleccion::copiarFilas(const std::string& hoja, const Avance& avance) {
     auto& ventana = programa_.tocar<Hojadedatos>();
     auto& rejilla = ventana.MSFlexGrid1;
     auto& filas = ventana.Data1.Recordset();
     const int campos = ventana.Data1.Database().TableDefs()(hoja).Fields.Count();
     Entero16 contador = 1;
     for (; !filas.Eof(); filas.MoveNext()) {
+        avance.paso();
         rejilla.Row(rejilla.Row() + 1);
         const auto situar = [&](ErrorEjecucion& error) {
             if (rejilla.Row() > filasQueCaben) {

@@ -1,6 +1,7 @@
 // The choice of the sheet that holds the plot, and its copy into the grid of the data window.
 #pragma once
 
+#include "basico/Avance.h"
 #include "basico/Entero16.h"
 #include "basico/ErrorEjecucion.h"
 #include "formularios/Control.h"
@@ -28,7 +29,8 @@ public:
     void CmdCancelar_Click();
 
     /// Copies a table into the grid as texts. The data of the last field never arrive, blank rows go, and
-    /// columns without data are hidden.
+    /// columns without data are hidden. One that is cancelled leaves the grid and its connection as they
+    /// were.
     void RellenarGrid(const std::string& hoja);
 
     /// The fault behind the last "Hoja no encontrada"; one message serves them all.
@@ -36,8 +38,9 @@ public:
 
 private:
     void abrirHoja();
+    void copiarTabla(const std::string& hoja, const Avance& avance);
     void escribirEncabezados(const std::string& hoja);
-    void copiarFilas(const std::string& hoja);
+    void copiarFilas(const std::string& hoja, const Avance& avance);
     void copiarFila(const Recordset& filas, int campos, Entero16& contador);
 
     Programa& programa_;

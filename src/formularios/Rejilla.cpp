@@ -7,6 +7,7 @@
 #include <cassert>
 #include <compare>
 #include <numeric>
+#include <utility>
 
 namespace varo {
 
@@ -121,6 +122,15 @@ int Rejilla::ColWidth(int columna) const {
 
 void Rejilla::ColWidth(int columna, int ancho) {
     anchos_[columnaComprobada(columna)] = ancho;
+}
+
+void Rejilla::reponer(Contenido contenido) {
+    filas_ = std::move(contenido.filas);
+    anchos_ = std::move(contenido.anchos);
+    fila_ = contenido.fila;
+    columna_ = contenido.columna;
+    ColSel = contenido.ColSel;
+    avisar();
 }
 
 void Rejilla::RemoveItem(int fila) {

@@ -39,6 +39,16 @@ public:
     /// The column that a person selected.
     Propiedad<int> ColSel{*this, 0};
 
+    /// All that it shows, to be put back as it was.
+    struct Contenido {
+        std::vector<std::vector<std::string>> filas;
+        std::vector<int> anchos;
+        int fila = 0, columna = 0; ///< the current cell
+        int ColSel = 0;
+    };
+    [[nodiscard]] Contenido contenido() const { return {filas_, anchos_, fila_, columna_, ColSel}; }
+    void reponer(Contenido contenido);
+
     /// Removes a row; the header and the last remaining row refuse (30015).
     void RemoveItem(int fila);
 

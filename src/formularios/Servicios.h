@@ -1,6 +1,7 @@
 // What a window asks of its platform.
 #pragma once
 
+#include "basico/Avance.h"
 #include "basico/ErrorEjecucion.h"
 #include "lienzo/Color.h"
 #include "lienzo/Fuente.h"
@@ -75,6 +76,8 @@ public:
     /// Begins the file that is to stand at `ruta`. This, and each step of the writing, throws the fault
     /// whose description tells a person what was not written and why.
     virtual std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) = 0;
+    /// What a long computation tells how far it is. Who hears it may cancel: that ends the act.
+    [[nodiscard]] virtual Avance avance() { return {}; }
 };
 
 } // namespace varo

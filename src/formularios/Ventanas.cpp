@@ -218,6 +218,8 @@ std::exception_ptr Ventanas::correr(const std::function<void()>& acto) {
         servicios_.falloFatal(error);
     } catch (const ErrorEjecucion& error) {
         servicios_.fallo(error);
+    } catch (const Cancelado&) {
+        return nullptr; // who cancelled knows
     } catch (...) {
         return std::current_exception();
     }

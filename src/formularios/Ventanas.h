@@ -78,8 +78,9 @@ public:
     /// The control is going: no handler runs.
     void olvidarFoco(const Control& control);
 
-    /// Runs an act that a person, or the platform, set off. A run-time fault ends it and is told; windows
-    /// unloaded on the way are destroyed when the outermost act is over.
+    /// Runs an act that a person, or the platform, set off. A run-time fault ends it and is told; one that is
+    /// cancelled ends without a word. Windows unloaded on the way are destroyed when the outermost act is
+    /// over.
     void atender(const std::function<void()>& acto);
 
     /// True while an act is going on.

@@ -121,7 +121,8 @@ class FasesDeVecindad {
 public:
     explicit FasesDeVecindad(Programa& programa)
         : programa_{programa}, opciones_{programa.tocar<OpcionesPrograma>()},
-          mapa_{programa.tocar<FrmMapa>()}, resultados_{programa.resultados} {}
+          mapa_{programa.tocar<FrmMapa>()},
+          resultados_{programa.resultados}, avance_{programa.servicios().avance()} {}
 
     void correr() {
         fase(opciones_.ChSupCopa, "ISC", [this] { faseISC(); });
@@ -142,9 +143,10 @@ private:
             return;
         }
         mapa_.MousePointer = Formulario::relojDeArena;
+        familia_ = familia;
         const auto soltarReloj = [&](ErrorEjecucion& error) {
             mapa_.MousePointer = Formulario::punteroNormal;
-            error.en(std::string{"familia "} + familia);
+            error.en("familia " + familia_);
         };
         AlFallar(soltarReloj, cuerpo);
     }
@@ -154,6 +156,7 @@ private:
         const auto lados = LadosDe(opciones_.ChISCBil, opciones_.ChISCUni);
         r.NumISC = static_cast<double>(lados.size());
         r.IndISC.redimensionar(static_cast<int>(lados.size()) - 1, cuantosArboles());
+        esperarColumnas(static_cast<int>(lados.size()));
         const auto calcular = opciones_.Optcirc.Value() ? iscDeCirculos() : iscDeElipses();
         int numero = -1;
         for (const Lado lado : lados) {
@@ -166,7 +169,7 @@ private:
 
     CalculoISC iscDeCirculos() {
         return [this, radios = RadiosDeCopa{arboles(), DatosDeLaCopa(opciones_), factorDeRadios()}](
-                   Lado lado) { return CalcularISC(vecindad(), radios, lado); };
+                   Lado lado) { return CalcularISC(vecindad(), radios, lado, avance_); };
     }
 
     CalculoISC iscDeElipses() {
@@ -174,7 +177,7 @@ private:
             [this, copas = CopasDeArboles{arboles(), DatosDeLaCopa(opciones_), factorDeRadios()}](Lado lado) {
                 auto& superficie = programa_.tocar<FrmMapa2>();
                 const AlSalir avisar{[&superficie] { superficie.avisarDibujo(); }};
-                return CalcularISCDeElipses(vecindad(), copas, lado, superficie.lienzo);
+                return CalcularISCDeElipses(vecindad(), copas, lado, superficie.lienzo, avance_);
             };
     }
 
@@ -189,6 +192,7 @@ private:
         r.NumColAOI = CuantasColumnas(CuantosCaben(r.AOIk) * r.NumFuncAOI.valor() * r.NumLadosAOI.valor());
         Dimensionar(r.IndAOI, r.NumColAOI, cuantosArboles(),
                     [&] { return BarridoSinValores(r.AOIk, exponenteAOI); });
+        esperarColumnas(r.NumColAOI.valor());
         int numero = -1;
         for (const Lado lado : lados) {
             for (int entrada = 1; entrada <= r.NumFuncAOI.valor(); ++entrada) {
@@ -196,7 +200,7 @@ private:
                 for (const double k : ValoresDe(r.AOIk)) {
                     columna(
                         r.IndAOI, ++numero, [&] { return RotuloAOI(k, entrada, lado); },
-                        [&] { return CalcularAOI(vecindad(), radios, lado, k); });
+                        [&] { return CalcularAOI(vecindad(), radios, lado, k, avance_); });
                 }
             }
         }
@@ -219,6 +223,7 @@ private:
         r.NumColIDP = CuantasColumnas(r.NumLadosIDP.valor() * r.NumParamIDP * r.NumCentralIDP.valor());
         Dimensionar(r.IndIDP, r.NumColIDP, cuantosArboles(),
                     [&] { return sinParametros(seleccionIDP, r.IDP); });
+        esperarColumnas(r.NumColIDP.valor());
         const ReglaDeSeleccion regla = ReglaElegida(opciones_, seleccionIDP);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorAngulo};
         int numero = -1;
@@ -230,7 +235,7 @@ private:
             };
             columna(r.IndIDP, ++numero, rotulo, [&] {
                 return explicandoElBAF(regla, seleccionIDP, pedida.p, [&] {
-                    return CalcularIDP(arboles(), seleccion, pedida.lado, pedida.forma);
+                    return CalcularIDP(arboles(), seleccion, pedida.lado, pedida.forma, avance_);
                 });
             });
         }
@@ -266,6 +271,7 @@ private:
             const auto motivo = sinParametros(seleccionDR, r.DR);
             return motivo ? motivo : BarridoSinValores(r.DRk, exponenteDR);
         });
+        esperarColumnas(r.NumColDR.valor());
         const ReglaDeSeleccion regla = ReglaElegida(opciones_, seleccionDR);
         Seleccion seleccion{vecindad(), regla, OrdenDeRango::PorDistancia};
         std::vector<EntradaDeDistancia> entradas = entradasDeDistancia();
@@ -278,7 +284,8 @@ private:
             };
             columna(r.IndDR, ++numero, rotulo, [&] {
                 return explicandoElBAF(regla, seleccionDR, pedida.p, [&] {
-                    return CalcularDR(arboles(), seleccion, pedida.lado, entradas[pedida.entrada], pedida.k);
+                    return CalcularDR(arboles(), seleccion, pedida.lado, entradas[pedida.entrada], pedida.k,
+                                      avance_);
                 });
             });
         }
@@ -315,13 +322,16 @@ private:
         r.NumColAPA = CuantasColumnas(CuantosCaben(r.APAk));
         Dimensionar(r.IndAPA, r.NumColAPA, cuantosArboles(),
                     [&] { return BarridoSinValores(r.APAk, exponenteAPA); });
+        esperarColumnas(r.NumColAPA.valor());
         int numero = -1;
         CeldasEnElMapa celdas{programa_};
         const auto dibujo = [&](std::size_t, std::span<const TrazoAPA> trazos) { celdas.dibujar(trazos); };
         for (const double k : ValoresDe(r.APAk)) {
             columna(
                 r.IndAPA, ++numero, [&] { return RotuloAPA(k); },
-                [&] { return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k, dibujo); });
+                [&] {
+                    return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k, dibujo, avance_);
+                });
         }
         if (const auto exponentes = ValoresDe(r.APAk); !exponentes.empty()) {
             guardarCentro(exponentes.back());
@@ -374,8 +384,16 @@ private:
         return regla == ReglaDeSeleccion::Funcion ? p + 1 : p;
     }
 
-    static void columna(IndicePorColumnas& indice, int numero, const Rotulo& rotulo,
-                        const std::function<std::vector<double>()>& calcular) {
+    /// Begins to count the trees of all columns of the family.
+    void esperarColumnas(int columnas) {
+        columnas_ = columnas;
+        avance_.empezar(static_cast<std::size_t>(columnas) * arboles().cuantos());
+    }
+
+    void columna(IndicePorColumnas& indice, int numero, const Rotulo& rotulo,
+                 const std::function<std::vector<double>()>& calcular) const {
+        avance_.etapa(familia_ + ", columna " + std::to_string(numero + 1) + " de " +
+                      std::to_string(columnas_));
         EnLugar([&] { return "columna " + rotulo(); },
                 [&] {
                     const std::vector<double> valores = calcular();
@@ -405,6 +423,9 @@ private:
     const OpcionesPrograma& opciones_;
     FrmMapa& mapa_;
     ResultadosIndices& resultados_;
+    Avance avance_;
+    std::string familia_; ///< the one at work
+    int columnas_ = 0;    ///< and how many it has
     std::optional<Arboles> arboles_;
     std::optional<Vecindad> vecindad_;
 };

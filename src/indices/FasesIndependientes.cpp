@@ -54,7 +54,8 @@ class FasesIndependientes {
 public:
     explicit FasesIndependientes(Programa& programa)
         : programa_{programa}, opciones_{programa.tocar<OpcionesPrograma>()},
-          mapa_{programa.tocar<FrmMapa>()}, filasGrid_{programa.tocar<Hojadedatos>().MSFlexGrid1.Rows()} {}
+          mapa_{programa.tocar<FrmMapa>()}, filasGrid_{programa.tocar<Hojadedatos>().MSFlexGrid1.Rows()},
+          avance_{programa.servicios().avance()} {}
 
     void correr() {
         for (const auto& familia : familiasIndependientes) {
@@ -87,8 +88,9 @@ private:
         case ClaseDeFamilia::DeParcela:
             return std::vector<double>(static_cast<std::size_t>(filasGrid_ - 1), deParcela(familia.familia));
         case ClaseDeFamilia::AreaDeMayores:
+            avance_.etapa(ColumnaDe(familia.familia).encabezado);
             return CalcularABj(datos().base, datos().campo, datos().tabla, datos().unidades, datos().celdas,
-                               programa_.sesion.SupPoligono, datos().padron);
+                               programa_.sesion.SupPoligono, datos().padron, avance_);
         case ClaseDeFamilia::AreaProporcional:
             if (!activa(ColumnaDe(Independiente::N))) {
                 mapa_.Npies_ha();
@@ -135,6 +137,7 @@ private:
     const OpcionesPrograma& opciones_;
     FrmMapa& mapa_;
     int filasGrid_;
+    Avance avance_;
     std::optional<DatosDeCorrida> datos_;
     std::vector<double> tamanos_;
 };

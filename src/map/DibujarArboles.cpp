@@ -37,12 +37,16 @@ public:
         : sesion_{programa.sesion}, opciones_{programa.tocar<OpcionesPrograma>()},
           mapa_{programa.tocar<FrmMapa>()}, rejilla_{programa.tocar<Hojadedatos>().MSFlexGrid1},
           celdas_{rejilla_, PadronDeLaRejilla(programa)}, datos_{DatosDeLaCopa(opciones_)},
-          conCodigo_{opciones_.ChCodigo.Value() == 1}, codigos_{FilasPorCodigo(programa)} {}
+          conCodigo_{opciones_.ChCodigo.Value() == 1}, codigos_{FilasPorCodigo(programa)},
+          avance_{programa.servicios().avance()} {}
 
     void dibujar() {
         mapa_.arboles.reserve(static_cast<std::size_t>(rejilla_.Rows()));
+        avance_.etapa("Dibujo del mapa");
+        avance_.empezar(static_cast<std::size_t>(rejilla_.Rows()) - 1);
         for (int fila = 1; fila < rejilla_.Rows(); ++fila) {
             dibujar(fila);
+            avance_.paso();
         }
     }
 
@@ -143,6 +147,7 @@ private:
     DatosDeCopa datos_;
     bool conCodigo_;
     std::unordered_map<std::string, int> codigos_;
+    Avance avance_;
 };
 
 } // namespace

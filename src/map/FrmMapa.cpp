@@ -210,7 +210,7 @@ void FrmMapa::Ab_ha() {
 }
 
 void FrmMapa::AreaTotalIntersCopas() {
-    SolaparCirculos(ReunirCopas(programa_), solape);
+    SolaparCirculos(ReunirCopas(programa_), solape, programa_.servicios().avance());
 }
 
 FrmMapa2::FrmMapa2(Programa& programa)

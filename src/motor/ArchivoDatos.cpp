@@ -116,11 +116,11 @@ std::string PorQueNoSeReconoce(Bytes bytes) {
 
 } // namespace
 
-std::vector<Tabla> LeerArchivoDatos(const std::filesystem::path& archivo) {
+std::vector<Tabla> LeerArchivoDatos(const std::filesystem::path& archivo, const Avance& avance) {
     const auto nombre = NombreDe(archivo);
     const auto bytes = LeerBytes(archivo, nombre);
     if (PareceXls(bytes)) {
-        return LeerXls(bytes, nombre);
+        return LeerXls(bytes, nombre, avance);
     }
     NoSeAbre(fallo::formatoNoReconocido, nombre, PorQueNoSeReconoce(bytes));
 }

@@ -25,8 +25,8 @@ const Tabla& Buscar(const Coleccion<Tabla>& tablas, const std::string& nombre) {
 BaseDatos::BaseDatos(std::vector<Tabla> tablas)
     : tablas_{std::make_shared<const Coleccion<Tabla>>(std::move(tablas))} {}
 
-BaseDatos BaseDatos::abrir(const std::filesystem::path& archivo) {
-    return BaseDatos{LeerArchivoDatos(archivo)};
+BaseDatos BaseDatos::abrir(const std::filesystem::path& archivo, const Avance& avance) {
+    return BaseDatos{LeerArchivoDatos(archivo, avance)};
 }
 
 const Coleccion<Tabla>& BaseDatos::TableDefs() const {

@@ -1,6 +1,7 @@
 // An open plot file: its tables and the queries over them.
 #pragma once
 
+#include "basico/Avance.h"
 #include "motor/DefinicionDeTabla.h"
 #include "motor/Recordset.h"
 #include "motor/Tabla.h"
@@ -21,7 +22,7 @@ public:
 
     /// Recognises the file by its content and reads it. A file that cannot be read, or whose content is
     /// foreign, damaged or encrypted, throws ErrorMotor with its name.
-    static BaseDatos abrir(const std::filesystem::path& archivo);
+    static BaseDatos abrir(const std::filesystem::path& archivo, const Avance& avance = {});
 
     [[nodiscard]] const Coleccion<Tabla>& TableDefs() const;
 

@@ -14,9 +14,9 @@ void ControlDatos::DatabaseName(std::string archivo) {
     }
 }
 
-void ControlDatos::Refresh() {
+void ControlDatos::Refresh(const Avance& avance) {
     if (porAbrir_) {
-        base_ = BaseDatos::abrir(std::u8string{archivo_.begin(), archivo_.end()});
+        base_ = BaseDatos::abrir(std::u8string{archivo_.begin(), archivo_.end()}, avance);
         filas_.reset();
         porAbrir_ = false;
     } else if (RecordSource.empty()) {

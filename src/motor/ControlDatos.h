@@ -22,7 +22,7 @@ public:
 
     /// Opens the connection when a file waits to be opened; otherwise the rows of RecordSource. A fault
     /// (ErrorMotor, or 91 when no connection is open) leaves open what is open.
-    void Refresh();
+    void Refresh(const Avance& avance = {});
 
     /// 91 while nothing is open.
     [[nodiscard]] const BaseDatos& Database() const;

@@ -43,7 +43,8 @@ class CorridaDeDatos {
 public:
     explicit CorridaDeDatos(Programa& programa)
         : programa_{programa}, sesion_{programa.sesion}, opciones_{programa.tocar<OpcionesPrograma>()},
-          mapa_{programa.tocar<FrmMapa>()}, superficie_{programa.tocar<FrmMapa2>()},
+          mapa_{programa.tocar<FrmMapa>()},
+          superficie_{programa.tocar<FrmMapa2>()}, avance_{programa.servicios().avance()},
           conCodigos_{opciones_.ChCodigo.Value() == 1}, circulos_{opciones_.Optcirc.Value()} {}
 
     void correr() {
@@ -146,20 +147,22 @@ private:
     }
 
     void recortar() {
+        avance_.etapa("Datos de parcela: recorte de las copas");
         if (circulos_) {
             sesion_.FactorRadios = FactorDeRadios(opciones_);
             recorte_ = RecortarCirculos(ReunirCopas(programa_), sesion_.Poligono, sesion_.AnguloInterior,
-                                        conCodigos_);
+                                        conCodigos_, avance_);
         } else {
             recorte_.SupFuera = RecortarElipses(ReunirCopas(programa_), sesion_.Poligono.contorno(),
-                                                superficie_.lienzo, copas_);
+                                                superficie_.lienzo, copas_, avance_);
         }
     }
 
     void solapar() {
+        avance_.etapa("Datos de parcela: solape de las copas");
         if (!circulos_) {
             SolaparElipses(ReunirCopas(programa_), sesion_.Poligono.contorno(), superficie_.lienzo,
-                           mapa_.solape);
+                           mapa_.solape, avance_);
             return;
         }
         // A pair too many ends the procedure alone.
@@ -167,18 +170,19 @@ private:
     }
 
     void cubrir() {
+        avance_.etapa("Datos de parcela: cubierta de las copas");
         FilasDeCopas copas = ReunirCopas(programa_);
         copas.FactorRadios = FactorDeRadios(opciones_);
         copas.datos = DatosDeLaCopa(opciones_); // Meant: a mean radius is a circle here, in ellipses too.
-        PintarCopas(copas, !circulos_, superficie_.lienzo);
+        PintarCopas(copas, !circulos_, superficie_.lienzo, avance_);
         const ContornoXY contorno = sesion_.Poligono.contorno();
         // A fault ends the measuring of the cover: what it has set by then stays.
         Saltando([&] {
             sesion_.XMaxPoligono = MaximoXPoligono(contorno);
             sesion_.YMaxPoligono = MaximoYPoligono(contorno);
             sesion_.YMinPoligono = MinimoYPoligono(contorno);
-            sesion_.Fcc =
-                CalcularFcc(contorno, [this](double x, double y) { return superficie_.lienzo.Point(x, y); });
+            sesion_.Fcc = CalcularFcc(
+                contorno, [this](double x, double y) { return superficie_.lienzo.Point(x, y); }, avance_);
         });
     }
 
@@ -217,6 +221,7 @@ private:
     const OpcionesPrograma& opciones_;
     FrmMapa& mapa_;
     FrmMapa2& superficie_;
+    Avance avance_;
     bool conCodigos_;
     bool circulos_;
 

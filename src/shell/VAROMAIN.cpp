@@ -1,11 +1,14 @@
 #include "shell/VAROMAIN.h"
 
+#include "basico/Avance.h"
 #include "basico/Entero16.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
 #include "data/SelColumnas.h"
 #include "options/OpcionesPrograma.h"
 #include "shell/Programa.h"
+
+#include <filesystem>
 
 namespace varo {
 
@@ -75,12 +78,21 @@ void VAROMAIN::mnuAbrir_Click() {
 
 void VAROMAIN::AbrirArchivoDeDatos(const std::string& ruta) {
     auto& datos = programa_.tocar<Hojadedatos>().Data1;
-    auto& lista = programa_.tocar<FrmSeleccion>().CboHoja;
-    try {
+    const auto dejarloCerrado = [&, antes = datos] {
+        datos = antes;
+        DlogoAbrir.FileName.clear();
+    };
+    const auto leer = [&] {
+        const Avance avance = programa_.servicios().avance();
+        avance.etapa("Lectura de «" + std::filesystem::path{ruta}.filename().string() + "»");
         // Whatever the name says: the engine recognises the file by its content.
         datos.Connect = "Excel 8.0";
         datos.DatabaseName(ruta);
-        datos.Refresh();
+        datos.Refresh(avance);
+    };
+    try {
+        AlCancelar(dejarloCerrado, leer);
+        auto& lista = programa_.tocar<FrmSeleccion>().CboHoja;
         const auto& tablas = datos.Database().TableDefs();
         const Entero16 cuantas = tablas.Count();
         for (int i = 0; i < cuantas.valor(); ++i) {
@@ -89,7 +101,7 @@ void VAROMAIN::AbrirArchivoDeDatos(const std::string& ruta) {
     } catch (const ErrorEjecucion& error) {
         throw ErrorFatal{error};
     }
-    lista.Text = "(ninguna)";
+    programa_.tocar<FrmSeleccion>().CboHoja.Text = "(ninguna)";
 }
 
 void VAROMAIN::mnuCerrar_Click() {

@@ -31,7 +31,7 @@ public:
     void mnuOpciones_Click();
 
     /// Connects the data window to a plot file and lists its tables in FrmSeleccion. A fault of the data
-    /// engine here ends the process.
+    /// engine here ends the process. One that is cancelled leaves the connection as it was and names no file.
     void AbrirArchivoDeDatos(const std::string& ruta);
 
     bool Form_QueryUnload() override;

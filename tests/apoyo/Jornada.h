@@ -30,12 +30,15 @@ using Filas = std::vector<std::vector<Valor>>;
 /// RE, RS, RO, Cod, CAP, Nota.
 Filas CuadradoConCentro();
 
-/// Prepared answers, and files as the programs write them.
+/// Prepared answers, files as the programs write them, and whoever hears long computations.
 struct ServiciosDePrueba : ServiciosPreparados {
     std::function<std::unique_ptr<ArchivoNuevo>(const std::string&)> crear = [](const std::string& ruta) {
         return std::make_unique<ArchivoEntero>(ruta);
     };
     std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override { return crear(ruta); }
+
+    OyenteDeAvance* oyente = nullptr;
+    Avance avance() override { return oyente != nullptr ? Avance{*oyente} : Avance{}; }
 };
 
 struct Jornada {

@@ -1,9 +1,14 @@
 #include "data/FrmSeleccion.h"
 
 #include "apoyo/Jornada.h"
+#include "apoyo/OyenteDePrueba.h"
 #include "data/Hojadedatos.h"
 
 #include <gtest/gtest.h>
+
+#include <cstddef>
+#include <optional>
+#include <vector>
 
 namespace varo::prueba {
 namespace {
@@ -230,6 +235,81 @@ TEST(Hojadedatos, LaRejillaSigueElTamanoDeLaVentana) {
     abierta.hoja().redimensionar(20, 30);
     EXPECT_EQ(abierta.rejilla().Width(), -30);
     EXPECT_EQ(abierta.rejilla().Height(), -370);
+}
+
+std::vector<int> Anchos(const Rejilla& rejilla) {
+    std::vector<int> anchos;
+    for (int columna = 0; columna < rejilla.Cols(); ++columna) {
+        anchos.push_back(rejilla.ColWidth(columna));
+    }
+    return anchos;
+}
+
+/// A workbook of a wide sheet, with a blank row, and a narrow one: the choice of the sheet is open.
+struct DosHojas : Jornada {
+    DosHojas() {
+        Hoja ancha;
+        ancha.nombre = "Ancha";
+        ancha.celdas = {{texto("A"), texto("B"), texto("C"), texto("D"), texto("Z")},
+                        {1.0, 2.0, texto("una celda larga"), 4.0, 5.0},
+                        {{}, {}, {}, {}, 5.0},
+                        {6.0, 7.0, 8.0, 9.0, 10.0}};
+        Hoja estrecha;
+        estrecha.nombre = "Estrecha";
+        estrecha.celdas = {{texto("X"), texto("Y"), texto("Z")}, {1.0, 2.0, 3.0}};
+        abrirLibro({ancha, estrecha});
+    }
+    FrmSeleccion& seleccion() { return programa.tocar<FrmSeleccion>(); }
+    Hojadedatos& hoja() { return programa.tocar<Hojadedatos>(); }
+    Rejilla& rejilla() { return hoja().MSFlexGrid1; }
+    std::size_t oirHoja(const T& nombre, std::optional<std::size_t> cancelarEn) {
+        OyenteDePrueba oyente;
+        oyente.cancelarEn = cancelarEn;
+        servicios.oyente = &oyente;
+        aceptarHoja(nombre);
+        servicios.oyente = nullptr;
+        EXPECT_EQ(oyente.etapas, std::vector<T>{"Hoja «" + nombre + "»"});
+        return oyente.oidos;
+    }
+};
+
+TEST(FrmSeleccion, LaCopiaDeUnaHojaSePuedeCancelarEnCualquierPaso) {
+    DosHojas entera;
+    const std::size_t pasos = entera.oirHoja("Ancha$", std::nullopt);
+    ASSERT_GE(pasos, 6U); // three rows to copy, as many to look at
+    for (std::size_t paso = 1; paso <= pasos; ++paso) {
+        DosHojas abierta;
+        const auto celdas = Celdas(abierta.rejilla());
+        const auto anchos = Anchos(abierta.rejilla());
+        EXPECT_EQ(abierta.oirHoja("Ancha$", paso), paso);
+        EXPECT_EQ(Celdas(abierta.rejilla()), celdas) << paso;
+        EXPECT_EQ(Anchos(abierta.rejilla()), anchos) << paso;
+        EXPECT_EQ(abierta.hoja().Data1.RecordSource, "") << paso;
+        EXPECT_FALSE(abierta.hoja().Visible()) << paso;
+        EXPECT_TRUE(abierta.seleccion().Visible()) << paso;
+        EXPECT_EQ(abierta.seleccion().MousePointer(), Formulario::punteroNormal) << paso;
+        EXPECT_EQ(abierta.seleccion().CboHoja.Text(), "Ancha$") << paso;
+        EXPECT_FALSE(abierta.seleccion().ultimoFallo()) << paso;
+        EXPECT_TRUE(abierta.servicios.mensajes().empty()) << paso;
+        EXPECT_FALSE(abierta.marco().mnuMapa.Enabled()) << paso;
+        // Nothing of the wide sheet shows in the narrow one, whose last column nobody writes.
+        abierta.aceptarHoja("Estrecha$");
+        EXPECT_EQ(Celdas(abierta.rejilla()),
+                  (std::vector<std::vector<T>>{{"Nº de punto", "X", "Y", "Z"}, {"1", "1", "2", ""}}));
+        EXPECT_TRUE(abierta.hoja().Visible());
+    }
+}
+
+TEST(FrmSeleccion, TrasCancelarSeCopiaLaMismaHojaEntera) {
+    DosHojas entera;
+    entera.aceptarHoja("Ancha$");
+    DosHojas abierta;
+    abierta.oirHoja("Ancha$", 2);
+    abierta.aceptarHoja("Ancha$");
+    EXPECT_EQ(Celdas(abierta.rejilla()), Celdas(entera.rejilla()));
+    EXPECT_EQ(Anchos(abierta.rejilla()), Anchos(entera.rejilla()));
+    EXPECT_EQ(abierta.rejilla().Row(), entera.rejilla().Row());
+    EXPECT_EQ(abierta.rejilla().Col(), entera.rejilla().Col());
 }
 
 } // namespace

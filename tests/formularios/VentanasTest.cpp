@@ -59,6 +59,24 @@ private:
 
 } // namespace
 
+TEST(Ventanas, UnActoCanceladoAcabaSinDecirNadaYElProgramaSigue) {
+    ConVentanas p;
+    bool sigue = false;
+    int finales = 0;
+    p.programa.alTerminarActo = [&] { ++finales; };
+    p.programa.atender([&] {
+        p.mostrada<VentanaA>();
+        throw Cancelado{};
+    });
+    EXPECT_TRUE(p.servicios.fallos().empty());
+    EXPECT_TRUE(p.servicios.mensajes().empty());
+    EXPECT_FALSE(p.programa.atendiendo());
+    EXPECT_FALSE(p.programa.terminado());
+    p.programa.atender([&] { sigue = true; });
+    EXPECT_TRUE(sigue);
+    EXPECT_EQ(finales, 2);
+}
+
 TEST(Ventanas, ElPrimerToqueCreaLaVentanaOcultaYCorreFormLoadUnaVez) {
     ConVentanas banco;
     EXPECT_EQ(banco.programa.cargada<VentanaA>(), nullptr);

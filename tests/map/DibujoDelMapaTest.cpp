@@ -1,12 +1,15 @@
 #include "map/Formato.h"
 
+#include "apoyo/OyenteDePrueba.h"
 #include "map/TextoDelMapa.h"
 #include "map/ValoresDeFormato.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
 #include <variant>
+#include <vector>
 
 namespace varo::prueba {
 namespace {
@@ -449,6 +452,45 @@ TEST(FrmMapa2, SuCajaDeCierreLaEscondeYGuardaSusFiguras) {
     p.usuario.clic(p.marco().mnuCerrar);
     ASSERT_NE(p.programa.cargada<FrmMapa2>(), nullptr) << "cerrar el archivo no la descarga";
     EXPECT_EQ(p.gemela().lienzo.figuras().size(), 4U);
+}
+
+/// Whether the five menus of both windows can be chosen.
+std::vector<bool> MenusDe(Jornada& jornada) {
+    auto& marco = jornada.marco();
+    auto& mapa = jornada.programa.tocar<FrmMapa>();
+    return {marco.mnuAbrir.Enabled(),    marco.mnuCerrar.Enabled(), marco.mnuMapa.Enabled(),
+            marco.mnuOpciones.Enabled(), mapa.mnuDatos.Enabled(),   mapa.mnuIndices.Enabled()};
+}
+
+TEST(DibujoDelMapa, CanceladoAcabaDondeEsta) {
+    FormatoDeCuadrado entero;
+    const std::string esperado = TextoDelMapa(entero.mapa());
+    FormatoDeCuadrado p;
+    p.volver();
+    const auto contorno = p.programa.sesion.Poligono.filas();
+    const double superficie = p.programa.sesion.SupPoligono;
+    p.programa.sesion.SupPoligono = 7; // nobody measures it
+    const auto menus = MenusDe(p);
+    OyenteDePrueba oyente;
+    oyente.cancelarEn = 3;
+    p.servicios.oyente = &oyente;
+    p.aceptar();
+    p.servicios.oyente = nullptr;
+    EXPECT_EQ(oyente.etapas, Textos{"Dibujo del mapa"});
+    EXPECT_EQ(oyente.ultima.pasos, 5U);
+    EXPECT_EQ(p.mapa().arboles.size(), 3U);
+    EXPECT_EQ(ColoresDeArboles(p.mapa().lienzo).size(), 3U);
+    EXPECT_EQ(p.programa.sesion.Poligono.filas(), contorno);
+    EXPECT_EQ(p.programa.sesion.SupPoligono, 7);
+    EXPECT_EQ(MenusDe(p), menus);
+    EXPECT_TRUE(p.formato().Visible());
+    EXPECT_EQ(p.formato().MousePointer(), Formulario::punteroNormal);
+    EXPECT_EQ(p.programa.activa(), &p.formato());
+    EXPECT_TRUE(p.servicios.fallos().empty());
+    p.aceptar();
+    EXPECT_EQ(TextoDelMapa(p.mapa()), esperado);
+    EXPECT_EQ(p.programa.sesion.SupPoligono, superficie);
+    EXPECT_TRUE(p.mapa().Visible());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "apoyo/Fallos.h"
 #include "apoyo/Jornada.h"
+#include "apoyo/OyenteDePrueba.h"
 #include "data/Hojadedatos.h"
 #include "map/FrmFormato.h"
 #include "map/FrmMapa.h"
@@ -10,7 +11,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace varo::prueba {
 namespace {
@@ -326,6 +330,74 @@ TEST(CopiaDeLaHoja, OtraHojaNoEsCopia) {
     Copia copia{"Parcela1COPIAS"};
     copia.mapa().ComprobarRepeticionDeHoja();
     EXPECT_FALSE(copia.mapa().filasDeLaCopia.has_value());
+}
+
+/// Runs the plot data to their end and tells what was heard.
+std::vector<std::string> EtapasDe(Datos& datos, std::size_t& pasos) {
+    OyenteDePrueba oyente;
+    datos.servicios.oyente = &oyente;
+    datos.pedir();
+    datos.servicios.oyente = nullptr;
+    pasos = oyente.oidos;
+    return oyente.etapas;
+}
+
+void CancelarEnCadaPaso(const std::function<void(Datos&)>& cambio) {
+    Datos enteros{CuadradoConCentro(), cambio};
+    std::size_t pasos = 0;
+    EXPECT_EQ(EtapasDe(enteros, pasos),
+              (std::vector<std::string>{"Datos de parcela: recorte de las copas",
+                                        "Datos de parcela: solape de las copas",
+                                        "Datos de parcela: cubierta de las copas"}));
+    Datos datos{CuadradoConCentro(), cambio};
+    for (std::size_t paso = 1; paso <= pasos; ++paso) {
+        OyenteDePrueba oyente;
+        oyente.cancelarEn = paso;
+        datos.servicios.oyente = &oyente;
+        datos.pedir();
+        EXPECT_EQ(oyente.oidos, paso);
+        EXPECT_EQ(datos.programa.cargada<FrmResultados>(), nullptr) << paso;
+        EXPECT_EQ(datos.mapa().MousePointer(), Formulario::punteroNormal) << paso;
+        EXPECT_EQ(datos.programa.activa(), &datos.mapa()) << paso;
+        // What its statements have set by then stays.
+        EXPECT_EQ(datos.programa.sesion.PiesHaActual, enteros.programa.sesion.PiesHaActual) << paso;
+        EXPECT_EQ(datos.programa.sesion.AreaTotalCopas, enteros.programa.sesion.AreaTotalCopas) << paso;
+    }
+    datos.servicios.oyente = nullptr;
+    EXPECT_TRUE(datos.servicios.mensajes().empty());
+    datos.pedir();
+    EXPECT_EQ(datos.texto(), enteros.texto());
+}
+
+TEST(DatosDeParcela, CanceladosNoMuestranVentanaYVuelvenASalirEnteros) {
+    CancelarEnCadaPaso([](Datos&) {});
+    CancelarEnCadaPaso([](Datos& datos) { datos.usuario.clic(datos.opciones().OptElipse); });
+}
+
+TEST(DatosDeParcela, UnSolapeCanceladoConservaSusParesYLaSumaDeAntes) {
+    // Crowns of 10 m: all ten pairs overlap.
+    Datos datos{CuadradoCon([](Filas& filas) {
+        for (std::size_t fila = 1; fila < filas.size(); ++fila) {
+            for (std::size_t radio = 3; radio <= 6; ++radio) {
+                filas[fila][radio] = 100.0;
+            }
+        }
+    })};
+    datos.pedir();
+    const auto entero = datos.mapa().solape;
+    ASSERT_EQ(entero.ParesCopas.size(), 10U);
+    OyenteDePrueba oyente;
+    datos.servicios.oyente = &oyente;
+    datos.pedir();
+    // Behind it five crowns are painted, and the first point of the cover faults. The walk of the first tree
+    // is over when that of the second one begins.
+    const std::size_t hastaElSolape = oyente.oidos - (4 + 5 + 1);
+    OyenteDePrueba otro;
+    otro.cancelarEn = hastaElSolape + 2;
+    datos.servicios.oyente = &otro;
+    datos.pedir();
+    EXPECT_EQ(datos.mapa().solape.ParesCopas.size(), 4U);
+    EXPECT_EQ(datos.mapa().solape.AreaIntersecCopas, entero.AreaIntersecCopas);
 }
 
 } // namespace

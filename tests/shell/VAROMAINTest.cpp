@@ -1,4 +1,5 @@
 #include "apoyo/Jornada.h"
+#include "apoyo/OyenteDePrueba.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
 #include "map/FrmFormato.h"
@@ -9,7 +10,9 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <string>
 #include <tuple>
+#include <vector>
 
 namespace varo::prueba {
 namespace {
@@ -338,6 +341,70 @@ TEST(VAROMAIN, SalirDescargaLasHijasYAcaba) {
     EXPECT_EQ(jornada.programa.cargada<FrmMapa>(), nullptr);
     EXPECT_EQ(jornada.programa.cargada<SelCol4R>(), nullptr);
     EXPECT_EQ(jornada.programa.cargada<OpcionesPrograma>(), nullptr);
+}
+
+/// What opening, or its cancelling, leaves.
+using Apertura = std::tuple<Menus, int, bool, bool, std::string, std::string>;
+
+Apertura EstadoDeApertura(Jornada& jornada) {
+    auto& datos = jornada.programa.tocar<Hojadedatos>();
+    const auto* const seleccion = jornada.programa.cargada<FrmSeleccion>();
+    return {EstadoDeMenus(jornada), jornada.marco().MousePointer(),      datos.Visible(),
+            seleccion != nullptr,   jornada.marco().DlogoAbrir.FileName, datos.Data1.DatabaseName()};
+}
+
+TEST(VAROMAIN, CancelarLaLecturaEsComoCancelarElDialogoDeAbrir) {
+    Jornada cancelado;
+    cancelado.servicios.prepararArchivo("");
+    cancelado.usuario.clic(cancelado.marco().mnuAbrir);
+    Jornada jornada;
+    Hoja hoja;
+    hoja.nombre = "Parcela1";
+    hoja.celdas = CuadradoConCentro();
+    OyenteDePrueba oyente;
+    oyente.cancelarEn = 9;
+    jornada.servicios.oyente = &oyente;
+    jornada.abrirLibro({hoja});
+    EXPECT_EQ(oyente.oidos, 9U);
+    EXPECT_EQ(oyente.etapas, std::vector<std::string>{"Lectura de «parcela.xls»"});
+    EXPECT_EQ(EstadoDeApertura(jornada), EstadoDeApertura(cancelado));
+    EXPECT_THROW(static_cast<void>(jornada.programa.tocar<Hojadedatos>().Data1.Database()), ErrorEjecucion);
+    EXPECT_FALSE(jornada.programa.terminado());
+    jornada.servicios.oyente = nullptr;
+    jornada.abrirLibro({hoja}, "otra.xls");
+    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().CboHoja.ListCount(), 1);
+    jornada.aceptarHoja("Parcela1$");
+    EXPECT_EQ(jornada.marco().MousePointer(), Formulario::punteroNormal);
+    EXPECT_TRUE(jornada.programa.tocar<Hojadedatos>().Visible());
+}
+
+TEST(VAROMAIN, LaLecturaCanceladaDeOtroArchivoDejaElQueSeElegia) {
+    Jornada jornada;
+    Hoja hoja;
+    hoja.nombre = "Parcela1";
+    hoja.celdas = CuadradoConCentro();
+    jornada.abrirLibro({hoja});
+    OyenteDePrueba oyente;
+    oyente.cancelarEn = 1;
+    jornada.servicios.oyente = &oyente;
+    jornada.abrirLibro({hoja}, "otra.xls");
+    EXPECT_EQ(oyente.oidos, 1U);
+    EXPECT_EQ(jornada.programa.tocar<FrmSeleccion>().CboHoja.ListCount(), 1);
+    jornada.servicios.oyente = nullptr;
+    jornada.aceptarHoja("Parcela1$");
+    EXPECT_EQ(jornada.programa.tocar<Hojadedatos>().MSFlexGrid1.Rows(), 6);
+}
+
+TEST(VAROMAIN, LaLecturaCuentaLosBytesDelArchivo) {
+    Jornada jornada;
+    OyenteDePrueba oyente;
+    jornada.servicios.oyente = &oyente;
+    Hoja hoja;
+    hoja.nombre = "Parcela1";
+    hoja.celdas = CuadradoConCentro();
+    jornada.abrirLibro({hoja});
+    EXPECT_GT(oyente.ultima.hechos, 0U);
+    EXPECT_LE(oyente.ultima.hechos, oyente.ultima.pasos);
 }
 
 } // namespace

@@ -82,9 +82,9 @@ private:
 } // namespace
 
 std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contorno, double k,
-                                const DibujoAPA& dibujo) {
+                                const DibujoAPA& dibujo, const Avance& avance) {
     ColumnaAPA columna{arboles, contorno, k, dibujo};
-    return ParaCadaArbol(arboles, [&](Pareja& pareja) { return columna.indice(pareja); });
+    return ParaCadaArbol(arboles, avance, [&](Pareja& pareja) { return columna.indice(pareja); });
 }
 
 std::optional<CirculoCircunscrito> UltimoCirculoAPA(const Arboles& arboles, double k) {

@@ -4,6 +4,7 @@
 // W * L from the tree, W = d(i)^k / (d(i)^k + d(j)^k), d in metres.
 #pragma once
 
+#include "basico/Avance.h"
 #include "indices/apa/APACelda.h"
 #include "indices/vecinos/Arboles.h"
 
@@ -25,7 +26,7 @@ using DibujoAPA = std::function<void(std::size_t, std::span<const TrazoAPA>)>;
 ///
 /// Trees far from a cell are left out of its turn where that changes no bit of it (docs/apa.md).
 std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contorno, double k,
-                                const DibujoAPA& dibujo = {});
+                                const DibujoAPA& dibujo = {}, const Avance& avance = {});
 
 /// The last circle that such a column asks for when its turns are over all trees: one of its last tree with a
 /// cell. None when no tree has two neighbours.

@@ -80,7 +80,7 @@ Bloque SumarMayores(const Tallos& tallos, const Bloque& cotas) {
 /// The sum for each different size, absent where no tree is larger.
 using SumaPorTamano = std::map<double, std::optional<double>>;
 
-void SumarTodos(const Tallos& tallos, SumaPorTamano& sumas) {
+void SumarTodos(const Tallos& tallos, SumaPorTamano& sumas, const Avance& avance) {
     for (auto primera = sumas.begin(); primera != sumas.end();) {
         Bloque cotas{};
         auto siguiente = primera;
@@ -92,6 +92,7 @@ void SumarTodos(const Tallos& tallos, SumaPorTamano& sumas) {
             if (tallos.mayor > primera->first) {
                 primera->second = bloque[k];
             }
+            avance.paso();
         }
     }
 }
@@ -107,9 +108,11 @@ bool Cuenta(const std::string& texto) {
 }
 
 /// The sums for all sizes that need no query.
-SumaPorTamano SumasSinConsulta(const Tallos& tallos, std::span<const std::string> celdas) {
+SumaPorTamano SumasSinConsulta(const Tallos& tallos, std::span<const std::string> celdas,
+                               const Avance& avance) {
     SumaPorTamano sumas;
     if (tallos.desmedidos) {
+        avance.empezar(celdas.size());
         return sumas;
     }
     for (const std::string& celda : celdas) {
@@ -118,7 +121,8 @@ SumaPorTamano SumasSinConsulta(const Tallos& tallos, std::span<const std::string
             sumas.emplace(Val(texto), std::nullopt);
         }
     }
-    SumarTodos(tallos, sumas);
+    avance.empezar(sumas.size() + celdas.size());
+    SumarTodos(tallos, sumas, avance);
     return sumas;
 }
 
@@ -131,8 +135,8 @@ std::string ConsultaMayores(const std::string& campo, const std::string& tabla, 
 
 std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo, const std::string& tabla,
                                 const UnidadesTallo& unidades, std::span<const std::string> celdas,
-                                double supPoligono, const Padron& padron) {
-    const SumaPorTamano sumas = SumasSinConsulta(LeerTallos(base, campo, tabla, unidades), celdas);
+                                double supPoligono, const Padron& padron, const Avance& avance) {
+    const SumaPorTamano sumas = SumasSinConsulta(LeerTallos(base, campo, tabla, unidades), celdas, avance);
     const auto suma = [&](const std::string& texto) -> std::optional<double> {
         const auto calculada = EsLiteral(texto) ? sumas.find(Val(texto)) : sumas.end();
         if (calculada != sumas.end()) {
@@ -145,6 +149,7 @@ std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo,
 
     std::vector<double> indices(celdas.size());
     for (std::size_t i = 0; i < celdas.size(); ++i) {
+        avance.paso();
         const std::string texto = ConPunto(celdas[i]);
         if (!Cuenta(texto)) {
             continue;

@@ -1,6 +1,7 @@
 // Basal area per hectare of the trees larger than each tree (BAL; Wykoff, Crookston and Stage 1982).
 #pragma once
 
+#include "basico/Avance.h"
 #include "motor/BaseDatos.h"
 #include "plot/calculo/Padron.h"
 #include "plot/calculo/Unidades.h"
@@ -24,6 +25,6 @@ std::string ConsultaMayores(const std::string& campo, const std::string& tabla, 
 /// The sums are added in the order of the table's rows, as the engine adds them, several trees side by side.
 std::vector<double> CalcularABj(const BaseDatos& base, const std::string& campo, const std::string& tabla,
                                 const UnidadesTallo& unidades, std::span<const std::string> celdas,
-                                double supPoligono, const Padron& padron = {});
+                                double supPoligono, const Padron& padron = {}, const Avance& avance = {});
 
 } // namespace varo

@@ -123,9 +123,10 @@ RadiosDeInfluencia::RadiosDeInfluencia(const Arboles& arboles, const SumaDePoten
     }
 }
 
-std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k) {
+std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k,
+                                const Avance& avance) {
     ColumnaAOI columna{vecindad, radios, lado, k};
-    return ParaCadaArbol(vecindad.arboles, [&](Pareja& pareja) { return columna.indice(pareja); });
+    return ParaCadaArbol(vecindad.arboles, avance, [&](Pareja& pareja) { return columna.indice(pareja); });
 }
 
 } // namespace varo

@@ -78,9 +78,9 @@ bool EntradaDeDistancia::sinFallosEntre(double desde, double hasta) {
 }
 
 std::vector<double> CalcularDR(const Arboles& arboles, Seleccion& seleccion, Lado lado,
-                               EntradaDeDistancia& entrada, double k) {
+                               EntradaDeDistancia& entrada, double k, const Avance& avance) {
     const ColumnaDR columna{arboles, seleccion, lado, entrada, k};
-    return ParaCadaArbol(arboles, [&](Pareja& pareja) { return IndiceDe(pareja, columna); });
+    return ParaCadaArbol(arboles, avance, [&](Pareja& pareja) { return IndiceDe(pareja, columna); });
 }
 
 } // namespace varo

@@ -2,6 +2,7 @@
 // k = 1 and f = 1 / L it is the index of Hegyi (1974).
 #pragma once
 
+#include "basico/Avance.h"
 #include "indices/vecinos/FuncionesDeLista.h"
 #include "indices/vecinos/Seleccion.h"
 
@@ -32,6 +33,6 @@ private:
 /// parameter and ranks by distance. f is computed for every candidate, so a rejected one may fault too: 11 on
 /// a null denominator, and on distance 0 with a negative exponent.
 std::vector<double> CalcularDR(const Arboles& arboles, Seleccion& seleccion, Lado lado,
-                               EntradaDeDistancia& entrada, double k);
+                               EntradaDeDistancia& entrada, double k, const Avance& avance = {});
 
 } // namespace varo

@@ -38,9 +38,10 @@ double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, La
 
 } // namespace
 
-std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, Lado lado, FormaIDP forma) {
+std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, Lado lado, FormaIDP forma,
+                                const Avance& avance) {
     const double h = forma == FormaIDP::ConArbolCentral ? 0.5 : -0.5;
-    return ParaCadaArbol(arboles,
+    return ParaCadaArbol(arboles, avance,
                          [&](Pareja& pareja) { return IndiceDe(pareja, arboles, seleccion, lado, h); });
 }
 

@@ -123,9 +123,10 @@ float RadiosDeCopa::calcular(std::size_t i) const {
     return MedidaSimple(metros(0));
 }
 
-std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado) {
+std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado,
+                                const Avance& avance) {
     VarianteISC variante{vecindad, radios, lado};
-    return ParaCadaArbol(vecindad.arboles, [&](Pareja& pareja) { return variante.indice(pareja); });
+    return ParaCadaArbol(vecindad.arboles, avance, [&](Pareja& pareja) { return variante.indice(pareja); });
 }
 
 } // namespace varo

@@ -102,9 +102,9 @@ private:
 } // namespace
 
 std::vector<double> CalcularISCDeElipses(Vecindad& vecindad, const CopasDeArboles& copas, Lado lado,
-                                         Lienzo& superficie) {
+                                         Lienzo& superficie, const Avance& avance) {
     VarianteDeElipses variante{vecindad, copas, lado, superficie};
-    return ParaCadaArbol(vecindad.arboles, [&](Pareja& pareja) { return variante.indice(pareja); });
+    return ParaCadaArbol(vecindad.arboles, avance, [&](Pareja& pareja) { return variante.indice(pareja); });
 }
 
 } // namespace varo

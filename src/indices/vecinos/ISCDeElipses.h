@@ -2,6 +2,7 @@
 // crown, 0.1 m apart, those are counted that the crowns of the others cover.
 #pragma once
 
+#include "basico/Avance.h"
 #include "indices/vecinos/CopasDeArboles.h"
 #include "indices/vecinos/Lado.h"
 #include "indices/vecinos/Vecindad.h"
@@ -15,6 +16,6 @@ namespace varo {
 /// surface keeps what was painted for the last tree. A crown without samples throws 11; near a vertical side
 /// of the boundary a crown throws 11 too.
 std::vector<double> CalcularISCDeElipses(Vecindad& vecindad, const CopasDeArboles& copas, Lado lado,
-                                         Lienzo& superficie);
+                                         Lienzo& superficie, const Avance& avance = {});
 
 } // namespace varo

@@ -2,6 +2,7 @@
 // share.
 #pragma once
 
+#include "basico/Avance.h"
 #include "basico/EnLugar.h"
 #include "indices/vecinos/Arboles.h"
 
@@ -33,15 +34,16 @@ struct Pareja {
 };
 
 /// The index or the marker of every tree, in the order of the rows: `indice` takes the pair and
-/// notes in it which neighbour is at work. A fault gets both rows.
+/// notes in it which neighbour is at work. A fault gets both rows. Each tree is a step.
 template <class Indice>
-std::vector<double> ParaCadaArbol(const Arboles& arboles, Indice&& indice) {
+std::vector<double> ParaCadaArbol(const Arboles& arboles, const Avance& avance, Indice&& indice) {
     std::vector<double> indices;
     indices.reserve(arboles.cuantos());
     for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
         Pareja pareja{i, i};
         const auto situar = [&](ErrorEjecucion& error) { pareja.situar(error, arboles.padron()); };
         indices.push_back(AlFallar(situar, [&] { return indice(pareja); }));
+        avance.paso();
     }
     return indices;
 }

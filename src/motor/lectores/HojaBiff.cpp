@@ -63,8 +63,9 @@ void Ordenar(std::vector<CeldaDeHoja>& celdas) {
 
 class LectorDeHoja {
 public:
-    LectorDeHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites)
-        : registros_{flujo, comienzo}, libro_{libro}, limites_{limites} {}
+    LectorDeHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites,
+                 const Avance& avance)
+        : registros_{flujo, comienzo}, libro_{libro}, limites_{limites}, avance_{avance} {}
 
     HojaBiff leer() {
         if (registros_.clase() != biff::hojaDeCalculo) {
@@ -73,6 +74,7 @@ public:
         while (const auto registro = registros_.siguiente()) {
             comprobarTextoPendiente(registro->tipo);
             atender(*registro);
+            avance_.paso(registro->datos.size());
         }
         comprobarTextoPendiente(biff::eof);
         Ordenar(hoja_.celdas);
@@ -215,14 +217,16 @@ private:
     Subflujo registros_;
     const LibroBiff& libro_;
     LimitesDeLectura& limites_;
+    const Avance& avance_;
     HojaBiff hoja_;
     bool faltaTexto_ = false;
 };
 
 } // namespace
 
-HojaBiff LeerHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites) {
-    return LectorDeHoja{flujo, comienzo, libro, limites}.leer();
+HojaBiff LeerHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites,
+                  const Avance& avance) {
+    return LectorDeHoja{flujo, comienzo, libro, limites, avance}.leer();
 }
 
 } // namespace varo

@@ -1,6 +1,7 @@
 // The cells of one sheet of a workbook.
 #pragma once
 
+#include "basico/Avance.h"
 #include "basico/Valor.h"
 #include "motor/lectores/LibroBiff.h"
 #include "motor/lectores/LimitesDeLectura.h"
@@ -30,6 +31,7 @@ struct HojaBiff {
 };
 
 /// Reads the sheet that begins at `comienzo`. Formulas give the results that the file keeps.
-HojaBiff LeerHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites);
+HojaBiff LeerHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites,
+                  const Avance& avance = {});
 
 } // namespace varo

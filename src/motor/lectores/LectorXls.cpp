@@ -68,7 +68,8 @@ void ComprobarVersion(Bytes flujo) {
     }
 }
 
-std::vector<Tabla> TablasDelLibro(Bytes flujo, LimitesDeLectura& limites) {
+std::vector<Tabla> TablasDelLibro(Bytes flujo, LimitesDeLectura& limites, const Avance& avance) {
+    avance.empezar(flujo.size());
     const auto libro = LeerLibro(flujo);
     std::multimap<std::size_t, std::size_t> nombresPorHoja;
     for (std::size_t i = 0; i < libro.nombres.size(); ++i) {
@@ -81,7 +82,7 @@ std::vector<Tabla> TablasDelLibro(Bytes flujo, LimitesDeLectura& limites) {
         if (!libro.hojas[i].deCalculo) {
             continue;
         }
-        const auto hoja = LeerHoja(flujo, libro.hojas[i].comienzo, libro, limites);
+        const auto hoja = LeerHoja(flujo, libro.hojas[i].comienzo, libro, limites, avance);
         leidos += hoja.bytes;
         if (leidos > flujo.size()) {
             ArchivoDanado("unas hojas pisan a otras");
@@ -105,12 +106,13 @@ bool PareceXls(std::span<const std::byte> bytes) {
     return ArchivoCompuesto::esCompuesto(bytes) || VersionDeExcel(bytes) != 0;
 }
 
-std::vector<Tabla> LeerXls(std::span<const std::byte> bytes, const std::string& archivo) {
+std::vector<Tabla> LeerXls(std::span<const std::byte> bytes, const std::string& archivo,
+                           const Avance& avance) {
     try {
         const auto flujo = FlujoDelLibro(bytes);
         ComprobarVersion(flujo);
         LimitesDeLectura limites{bytes.size()};
-        return TablasDelLibro(flujo, limites);
+        return TablasDelLibro(flujo, limites, avance);
     } catch (const ErrorMotor& error) {
         throw ErrorMotor{error.numero(), "No se puede leer «" + archivo + "»: " + error.descripcion()};
     }

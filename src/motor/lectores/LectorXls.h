@@ -1,6 +1,7 @@
 // Reads a BIFF5 or BIFF8 workbook from its bytes: sheets as tables.
 #pragma once
 
+#include "basico/Avance.h"
 #include "motor/Tabla.h"
 
 #include <cstddef>
@@ -16,8 +17,9 @@ bool PareceXls(std::span<const std::byte> bytes);
 
 /// Every worksheet, hidden ones too, as a table named with a trailing "$", in the workbook's order, then
 /// every workbook-level name that covers a rectangle of cells. Formula cells give their cached values.
-/// `archivo` is the name that the faults tell. Damaged, truncated, encrypted or foreign bytes throw
-/// ErrorMotor.
-std::vector<Tabla> LeerXls(std::span<const std::byte> bytes, const std::string& archivo);
+/// `archivo` is the name that the faults tell; the steps are bytes. Damaged, truncated, encrypted or foreign
+/// bytes throw ErrorMotor.
+std::vector<Tabla> LeerXls(std::span<const std::byte> bytes, const std::string& archivo,
+                           const Avance& avance = {});
 
 } // namespace varo

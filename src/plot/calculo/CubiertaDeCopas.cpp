@@ -19,14 +19,16 @@ double Radio(const CeldaLeida& celda, const FilasDeCopas& filas) {
 
 } // namespace
 
-void PintarCopas(const FilasDeCopas& filas, bool elipses, Lienzo& superficie) {
+void PintarCopas(const FilasDeCopas& filas, bool elipses, Lienzo& superficie, const Avance& avance) {
     constexpr Color negro = 0;
     superficie.Cls();
     superficie.ForeColor = negro;
     superficie.FillColor = negro;
     const auto cuantas = static_cast<std::size_t>(MedidasDeCopa(filas.datos));
     std::array<double, 4> radios{};
+    avance.empezar(filas.filas.size());
     for (const FilaDeCopa& fila : filas.filas) {
+        avance.paso();
         if (!fila.x.esNumero() || !fila.y.esNumero()) {
             continue;
         }

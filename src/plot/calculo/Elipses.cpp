@@ -69,7 +69,7 @@ void AnadirPar(SolapeDeCopas& solape, const ParDeCopas& par) {
 } // namespace
 
 void SolaparElipses(const FilasDeCopas& filas, const ContornoXY& contorno, const Lienzo& superficie,
-                    SolapeDeCopas& solape) {
+                    SolapeDeCopas& solape, const Avance& avance) {
     solape = {{}, -1, 0};
     const BordeDeCopas borde{contorno};
     const std::vector<ElipseDeFila> elipses = ElipsesDeFilas(filas);
@@ -78,7 +78,9 @@ void SolaparElipses(const FilasDeCopas& filas, const ContornoXY& contorno, const
     for (const auto& elipse : elipses) {
         alturas.push_back(borde.alturaMenor(elipse.copa.x, elipse.copa.y));
     }
+    avance.empezar(elipses.size());
     for (std::size_t i = 0; i < elipses.size(); ++i) {
+        avance.paso();
         const ElipseDeFila& A = elipses[i];
         std::optional<PrimeraCopa> copaA; // not for one that meets no other
         for (std::size_t j = i + 1; j < elipses.size(); ++j) {
@@ -106,10 +108,13 @@ void SolaparElipses(const FilasDeCopas& filas, const ContornoXY& contorno, const
 }
 
 double RecortarElipses(const FilasDeCopas& filas, const ContornoXY& contorno, const Lienzo& superficie,
-                       const std::vector<Valor>& areas) {
+                       const std::vector<Valor>& areas, const Avance& avance) {
     const BordeDeCopas borde{contorno};
     double SupFuera = 0;
-    for (const auto& elipse : ElipsesDeFilas(filas)) {
+    const std::vector<ElipseDeFila> elipses = ElipsesDeFilas(filas);
+    avance.empezar(elipses.size());
+    for (const auto& elipse : elipses) {
+        avance.paso();
         const auto& [x, y, N, E, S, W] = elipse.copa;
         if (borde.alturaMenor(x, y) < elipse.radioMayor() && elipse.fila <= areas.size()) {
             Saltando([&] {

@@ -59,14 +59,16 @@ void DeUnoEnUno(double desde, double hasta, Visita visita) {
     }
 }
 
-/// A walk over all points of such a box that would not end is an overflow.
-void ExigirQueAcabe(double xDesde, double xHasta, double yDesde, double yHasta) {
+/// How many points such a walk visits in a box. One that would not end is an overflow.
+std::size_t PuntosDeUnoEnUno(double xDesde, double xHasta, double yDesde, double yHasta) {
     constexpr double demasiados = 1E+10; // some ten minutes
     const bool sePierdeUnPaso =
         xHasta + 1.0 == xHasta || yHasta + 1.0 == yHasta || xDesde + 1.0 == xDesde || yDesde + 1.0 == yDesde;
-    if (sePierdeUnPaso || (xHasta - xDesde + 1.0) * (yHasta - yDesde + 1.0) > demasiados) {
+    const double puntos = (std::floor(xHasta - xDesde) + 1.0) * (std::floor(yHasta - yDesde) + 1.0);
+    if (sePierdeUnPaso || puntos > demasiados) {
         throw ErrorEjecucion{fallo::desbordamiento};
     }
+    return static_cast<std::size_t>(puntos);
 }
 
 } // namespace
@@ -188,15 +190,18 @@ double MinimoYPoligono(const ContornoXY& contorno) {
     return Extremo(contorno.y, std::less<>{});
 }
 
-float CalcularFcc(const ContornoXY& contorno, const std::function<Color(double, double)>& color) {
+float CalcularFcc(const ContornoXY& contorno, const std::function<Color(double, double)>& color,
+                  const Avance& avance) {
     const double XMaxPoligono = MaximoXPoligono(contorno);
     const double YMaxPoligono = MaximoYPoligono(contorno);
     const double YMinPoligono = MinimoYPoligono(contorno);
-    ExigirQueAcabe(contorno.x[0], XMaxPoligono, YMinPoligono, YMaxPoligono);
+    const std::size_t puntos = PuntosDeUnoEnUno(contorno.x[0], XMaxPoligono, YMinPoligono, YMaxPoligono);
     double dentro = 0;
     double cubierto = 0;
+    avance.empezar(puntos);
     DeUnoEnUno(contorno.x[0], XMaxPoligono, [&](double x) {
         DeUnoEnUno(YMinPoligono, YMaxPoligono, [&](double y) {
+            avance.paso();
             if (!PuntoEnPoligono(contorno, x, y)) {
                 return;
             }

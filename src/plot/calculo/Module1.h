@@ -3,6 +3,7 @@
 #pragma once
 
 #include "basico/Aritmetica.h"
+#include "basico/Avance.h"
 #include "lienzo/Color.h"
 
 #include <functional>
@@ -64,7 +65,9 @@ double MinimoYPoligono(const ContornoXY& contorno);
 
 /// Canopy cover: the fraction of the sample points inside the polygon whose colour is 0 (black). The points
 /// stand 1 apart, from the x of row 0 and from the lowest y on; `color` answers the colour at a point. No
-/// point inside throws 11; more than 10,000 million points, or a step that is lost in rounding, throw 6.
-float CalcularFcc(const ContornoXY& contorno, const std::function<Color(double, double)>& color);
+/// point inside throws 11; more than 10,000 million points, or a step that is lost in rounding, throw 6. Each
+/// point is a step.
+float CalcularFcc(const ContornoXY& contorno, const std::function<Color(double, double)>& color,
+                  const Avance& avance = {});
 
 } // namespace varo

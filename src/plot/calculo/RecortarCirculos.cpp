@@ -170,8 +170,10 @@ public:
     Recortador(const FilasDeCopas& copas, const Contorno& contorno) : copas_{copas}, contorno_{contorno} {}
 
     /// Meant: the rows behind the first one on a vertex are not looked at.
-    double supFuera() {
+    double supFuera(const Avance& avance) {
+        avance.empezar(copas_.filas.size());
         for (const FilaDeCopa& fila : copas_.filas) {
+            avance.paso();
             Saltando([&] { r_ = static_cast<double>(RadioMedio(fila, copas_)); });
             if (recortarEnVertices(fila.x.texto())) {
                 break;
@@ -232,7 +234,8 @@ private:
 } // namespace
 
 RecorteDeCopas RecortarCirculos(const FilasDeCopas& copas, const TablaPoligono& Poligono,
-                                const MatrizDinamica<double>& AnguloInterior, bool conCodigo) {
+                                const MatrizDinamica<double>& AnguloInterior, bool conCodigo,
+                                const Avance& avance) {
     const Contorno contorno{Poligono, conCodigo ? 4 : 3};
     RecorteDeCopas recorte;
     for (int i = 0; i < contorno.lados; ++i) {
@@ -242,7 +245,7 @@ RecorteDeCopas RecortarCirculos(const FilasDeCopas& copas, const TablaPoligono& 
                                                ((numeroPi * (r * r)) * (360.0 - AnguloInterior(i))) / 360);
         });
     }
-    recorte.SupFuera = Recortador{copas, contorno}.supFuera();
+    recorte.SupFuera = Recortador{copas, contorno}.supFuera(avance);
     return recorte;
 }
 

@@ -1,6 +1,7 @@
 // What the circular crowns have outside of the plot.
 #pragma once
 
+#include "basico/Avance.h"
 #include "basico/MatrizDinamica.h"
 #include "plot/calculo/FilasDeCopas.h"
 #include "plot/calculo/Poligono.h"
@@ -20,6 +21,7 @@ struct RecorteDeCopas {
 /// statement: a variable keeps its value, from edge to edge and from tree to tree, and a test lets its block
 /// run.
 RecorteDeCopas RecortarCirculos(const FilasDeCopas& copas, const TablaPoligono& Poligono,
-                                const MatrizDinamica<double>& AnguloInterior, bool conCodigo);
+                                const MatrizDinamica<double>& AnguloInterior, bool conCodigo,
+                                const Avance& avance = {});
 
 } // namespace varo

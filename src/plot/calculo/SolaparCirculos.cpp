@@ -159,8 +159,10 @@ public:
     Recorrido(const FilasDeCopas& copas, SolapeDeCopas& solape)
         : circulos_{copas}, cercanas_{circulos_}, solape_{solape} {}
 
-    void recorrer() {
+    void recorrer(const Avance& avance) {
+        avance.empezar(circulos_.cuantos());
         for (ConTamano i = 0; i + 1 < circulos_.cuantos(); ++i) {
+            avance.paso();
             siguiente_ = i + 1;
             arrastrar(i);
             if (circulos_.tieneSitio(i)) {
@@ -214,10 +216,10 @@ private:
 
 } // namespace
 
-void SolaparCirculos(const FilasDeCopas& copas, SolapeDeCopas& solape) {
+void SolaparCirculos(const FilasDeCopas& copas, SolapeDeCopas& solape, const Avance& avance) {
     solape.NumParesCopas = -1;
     solape.ParesCopas.clear();
-    Recorrido{copas, solape}.recorrer();
+    Recorrido{copas, solape}.recorrer(avance);
     solape.AreaIntersecCopas = 0;
     for (const ParDeCopas& par : solape.ParesCopas) {
         solape.AreaIntersecCopas += par.area;
