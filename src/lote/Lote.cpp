@@ -1,6 +1,8 @@
 #include "lote/Lote.h"
 
+#include "basico/AlSalir.h"
 #include "basico/ErrorEjecucion.h"
+#include "lote/LineaDeAvance.h"
 #include "lote/LineaDeOrdenes.h"
 #include "lote/plantilla/Plantilla.h"
 #include "lote/plantilla/Tablas.h"
@@ -10,7 +12,6 @@
 #include <algorithm>
 #include <atomic>
 #include <future>
-#include <mutex>
 #include <ostream>
 #include <thread>
 #include <variant>
@@ -45,7 +46,8 @@ void Terminar(Final& final, const std::filesystem::path& trabajo, Acto&& acto) {
 class Lote {
 public:
     Lote(const Ordenes& ordenes, const Consola& consola, PintorDeMapas* pintor)
-        : ordenes_{ordenes}, consola_{consola}, pintor_{pintor} {}
+        : ordenes_{ordenes}, consola_{consola}, pintor_{pintor}, linea_{consola.errores, consola.ancho,
+                                                                        ordenes.trabajos.size()} {}
 
     Estado correr() {
         leer();
@@ -62,7 +64,7 @@ public:
         for (std::size_t i = 0; i < cuantos; ++i) {
             obreros.emplace_back([&] {
                 for (std::size_t j = siguiente++; j < leidos_.size(); j = siguiente++) {
-                    promesas[j].set_value(finalDe(leidos_[j]));
+                    promesas[j].set_value(finalDe(j));
                 }
             });
         }
@@ -90,16 +92,20 @@ private:
         return trabajos;
     }
 
-    Final finalDe(const TrabajoLeido& leido) {
-        if (const auto* const final = std::get_if<Final>(&leido)) {
+    Final finalDe(std::size_t numero) {
+        const AlSalir contarlo{[&] { linea_.acabado(numero); }};
+        if (const auto* const final = std::get_if<Final>(&leidos_[numero])) {
             return *final;
         }
-        const auto& trabajo = std::get<Trabajo>(leido);
+        const auto& trabajo = std::get<Trabajo>(leidos_[numero]);
         Final final;
         Seguimiento seguimiento;
         seguimiento.aviso = [&](const std::string& aviso) { final.errores.push_back(aviso); };
-        if (consola_.conAvance) {
-            seguimiento.etapa = [this](const std::string& etapa) { decir(etapa); };
+        if (linea_.seVe()) {
+            seguimiento.etapa = [&](const std::string& etapa) { linea_.etapa(numero, etapa); };
+            seguimiento.marcha = [&](const Marcha& marcha, int arboles) {
+                linea_.marcha(numero, marcha, arboles);
+            };
         }
         Terminar(final, trabajo.ruta, [&] {
             const Informe informe = CorrerTrabajo(trabajo, seguimiento, pintor_);
@@ -114,10 +120,10 @@ private:
         for (auto& futuro : finales) {
             const Final final = futuro.get();
             for (const auto& linea : final.errores) {
-                decir(linea);
+                linea_.decir(linea);
             }
             if (final.estado == Estado::Hecho) {
-                consola_.salida << final.resumen << '\n' << std::flush;
+                linea_.decir(final.resumen, consola_.salida);
             } else if (estado == Estado::Hecho) {
                 estado = final.estado;
             }
@@ -125,15 +131,10 @@ private:
         return estado;
     }
 
-    void decir(const std::string& linea) {
-        const std::lock_guard turno{consolaLibre_};
-        consola_.errores << linea << '\n' << std::flush;
-    }
-
     const Ordenes& ordenes_;
     const Consola& consola_;
     PintorDeMapas* pintor_;
-    std::mutex consolaLibre_;
+    LineaDeAvance linea_;
     std::vector<TrabajoLeido> leidos_;
 };
 

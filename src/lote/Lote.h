@@ -4,6 +4,7 @@
 #include "lote/recorrido/PintorDeMapas.h"
 #include "lote/trabajo/ErrorTrabajo.h"
 
+#include <cstddef>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -12,9 +13,9 @@ namespace varo {
 
 /// Where the command writes. Everything is UTF-8.
 struct Consola {
-    std::ostream& salida;   ///< the answer: a line for each job that is done
-    std::ostream& errores;  ///< errors and warnings, one line each
-    bool conAvance = false; ///< tells on `errores` how far the jobs are
+    std::ostream& salida;  ///< the answer: a line for each job that is done
+    std::ostream& errores; ///< errors and warnings, one line each
+    std::size_t ancho = 0; ///< of the terminal behind `errores`, which tells how far the jobs are; 0 for none
 };
 
 /// Runs the command with these arguments, without the program's name. Pictures of maps are made by `pintor`;

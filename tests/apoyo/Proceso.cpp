@@ -2,9 +2,13 @@
 
 #include "apoyo/Jornada.h"
 
+#include <array>
+#include <cstddef>
+#include <cstdlib>
 #include <fcntl.h>
 #include <spawn.h>
 #include <stdexcept>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -35,9 +39,10 @@ private:
 
 } // namespace
 
-Proceso Ejecutar(const std::filesystem::path& programa, const std::vector<std::string>& argumentos) {
-    const CarpetaTemporal carpeta;
-    const Redirecciones redirecciones{carpeta.archivo("salida"), carpeta.archivo("errores")};
+namespace {
+
+pid_t Lanzar(const std::filesystem::path& programa, const std::vector<std::string>& argumentos,
+             const Redirecciones& redirecciones) {
     std::vector<std::string> textos{programa.string()};
     textos.insert(textos.end(), argumentos.begin(), argumentos.end());
     std::vector<char*> punteros;
@@ -46,18 +51,71 @@ Proceso Ejecutar(const std::filesystem::path& programa, const std::vector<std::s
         punteros.push_back(texto.data());
     }
     punteros.push_back(nullptr);
-
     pid_t hijo = 0;
     if (posix_spawn(&hijo, textos.front().c_str(), redirecciones.acciones(), nullptr, punteros.data(),
                     environ) != 0) {
         throw std::runtime_error{"no se puede ejecutar " + programa.string()};
     }
+    return hijo;
+}
+
+int EstadoDe(pid_t hijo) {
     int final = 0;
     if (waitpid(hijo, &final, 0) != hijo) {
-        throw std::runtime_error{"se ha perdido " + programa.string()};
+        throw std::runtime_error{"se ha perdido el proceso " + std::to_string(hijo)};
     }
-    return {WIFEXITED(final) ? WEXITSTATUS(final) : -1, LeerArchivo(carpeta.ruta() / "salida"),
-            LeerArchivo(carpeta.ruta() / "errores")};
+    return WIFEXITED(final) ? WEXITSTATUS(final) : -1;
+}
+
+/// Both ends of a terminal. The near one is read to its end, which comes when nobody holds the far one.
+class Terminal {
+public:
+    Terminal() : cerca_{posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)} {
+        if (cerca_ < 0 || grantpt(cerca_) != 0 || unlockpt(cerca_) != 0) {
+            throw std::runtime_error{"no hay terminales"};
+        }
+        winsize medidas{};
+        medidas.ws_col = 100;
+        ioctl(cerca_, TIOCSWINSZ, &medidas); // NOLINT(*-vararg)
+        nombre_ = ptsname(cerca_);           // NOLINT(concurrency-mt-unsafe)
+    }
+    Terminal(const Terminal&) = delete;
+    Terminal& operator=(const Terminal&) = delete;
+    ~Terminal() { close(cerca_); }
+
+    [[nodiscard]] const std::string& nombre() const { return nombre_; }
+    [[nodiscard]] std::string leerHastaElFinal() const {
+        std::string leido;
+        std::array<char, 4096> trozo{};
+        for (ssize_t n = read(cerca_, trozo.data(), trozo.size()); n > 0;
+             n = read(cerca_, trozo.data(), trozo.size())) {
+            leido.append(trozo.data(), static_cast<std::size_t>(n));
+        }
+        return leido;
+    }
+
+private:
+    int cerca_;
+    std::string nombre_;
+};
+
+} // namespace
+
+Proceso Ejecutar(const std::filesystem::path& programa, const std::vector<std::string>& argumentos) {
+    const CarpetaTemporal carpeta;
+    const Redirecciones redirecciones{carpeta.archivo("salida"), carpeta.archivo("errores")};
+    const int estado = EstadoDe(Lanzar(programa, argumentos, redirecciones));
+    return {estado, LeerArchivo(carpeta.ruta() / "salida"), LeerArchivo(carpeta.ruta() / "errores")};
+}
+
+Proceso EjecutarEnTerminal(const std::filesystem::path& programa,
+                           const std::vector<std::string>& argumentos) {
+    const CarpetaTemporal carpeta;
+    const Terminal terminal;
+    const Redirecciones redirecciones{carpeta.archivo("salida"), terminal.nombre()};
+    const pid_t hijo = Lanzar(programa, argumentos, redirecciones);
+    const std::string errores = terminal.leerHastaElFinal();
+    return {EstadoDe(hijo), LeerArchivo(carpeta.ruta() / "salida"), errores};
 }
 
 } // namespace varo::prueba

@@ -16,4 +16,7 @@ struct Proceso {
 /// Standard input is empty. Throws std::runtime_error when the program cannot be started.
 Proceso Ejecutar(const std::filesystem::path& programa, const std::vector<std::string>& argumentos);
 
+/// The same with a terminal of 100 columns behind the errors. Ends of lines read there as "\r\n".
+Proceso EjecutarEnTerminal(const std::filesystem::path& programa, const std::vector<std::string>& argumentos);
+
 } // namespace varo::prueba

@@ -40,6 +40,23 @@ TEST(VaroLote, UnTrabajoHechoAcabaConCeroYUnaLineaDeResumen) {
     EXPECT_EQ(LeerArchivo(parcela.ruta("uno.txt")), resultadosSinIndices);
 }
 
+TEST(VaroLote, EnUnTerminalElAvanceEsUnaLineaQueAlFinalSeBorra) {
+    const ParcelaDePrueba parcela;
+    const auto uno = Escribir(parcela, "uno");
+    const auto dos = Escribir(parcela, "dos", ConOpciones("ChX = 1\n"));
+    const std::string vacia = "\r\x1b[K";
+    const auto final = EjecutarEnTerminal(ProgramaLote(), {uno, dos});
+    EXPECT_EQ(final.estado, 2);
+    EXPECT_TRUE(final.errores.starts_with(vacia + "0 de 2 trabajos; ")) << final.errores;
+    EXPECT_EQ(std::count(final.errores.begin(), final.errores.end(), '\n'), 1) << "la del error";
+    // Whatever was shown last is wiped.
+    const auto borrada = final.errores.rfind(vacia);
+    const auto resto = final.errores.substr(borrada + vacia.size());
+    EXPECT_TRUE(resto.empty() || resto.ends_with("\r\n")) << resto;
+    EXPECT_EQ(std::count(final.salida.begin(), final.salida.end(), '\n'), 1);
+    EXPECT_EQ(final.salida.find('\r'), std::string::npos);
+}
+
 TEST(VaroLote, LosMapasSePintanSinPantalla) {
     const ParcelaDePrueba parcela;
     TextoDeTrabajo texto;

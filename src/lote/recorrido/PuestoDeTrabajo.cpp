@@ -1,6 +1,27 @@
 #include "lote/recorrido/PuestoDeTrabajo.h"
 
+#include "data/Hojadedatos.h"
+
 namespace varo {
+
+PuestoDeTrabajo::PuestoDeTrabajo(const Trabajo& trabajo_, const Seguimiento& seguimiento)
+    : trabajo{trabajo_}, seguimiento_{seguimiento} {
+    if (seguimiento.marcha) {
+        servicios.oyente = &oyente_;
+    }
+}
+
+bool PuestoDeTrabajo::Oyente::oir(const Marcha& marcha) {
+    constexpr std::chrono::milliseconds cadaCuanto{100};
+    const auto ahora = std::chrono::steady_clock::now();
+    if (ahora - dicho_ >= cadaCuanto) {
+        dicho_ = ahora;
+        const auto* const hoja = puesto_.programa.cargada<Hojadedatos>();
+        const bool conArboles = hoja != nullptr && hoja->Visible();
+        puesto_.seguimiento_.marcha(marcha, conArboles ? hoja->MSFlexGrid1.Rows() - 1 : 0);
+    }
+    return false;
+}
 
 void PuestoDeTrabajo::hacer(const Lugar& lugar, const std::function<void()>& acto, Estado siFalla) {
     try {
