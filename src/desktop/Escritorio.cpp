@@ -260,6 +260,7 @@ void Escritorio::ponerEncima(Formulario& modelo) {
 }
 
 void Escritorio::alTerminarActo() {
+    servicios_.acabarActo();
     soltarRetiradas();
     if (programa_.terminado()) {
         if (alTerminar) {

@@ -96,7 +96,8 @@ QFont FuenteDelDialogo(const Fuente& fuente) {
 
 } // namespace
 
-QWidget* ServiciosQt::padre() const {
+QWidget* ServiciosQt::padre() {
+    avance_.ocultar();
     QWidget* const activa = QApplication::activeWindow();
     return activa != nullptr ? activa : ventana_;
 }
@@ -129,7 +130,7 @@ void ServiciosQt::falloFatal(const ErrorEjecucion& error) {
     mostrarFallo(error, QStringLiteral("\n\nEl programa se cerrará."));
 }
 
-void ServiciosQt::mostrarFallo(const ErrorEjecucion& error, const QString& cierre) const {
+void ServiciosQt::mostrarFallo(const ErrorEjecucion& error, const QString& cierre) {
     QMessageBox caja{QMessageBox::Critical, "VARO 1.0", QString{}, QMessageBox::NoButton, padre()};
     caja.setObjectName("CajaDeFallo");
     caja.setTextFormat(Qt::PlainText);

@@ -1,6 +1,7 @@
 // The platform of the windows, in Qt.
 #pragma once
 
+#include "desktop/VentanaDeAvance.h"
 #include "formularios/Servicios.h"
 
 class QString;
@@ -11,7 +12,12 @@ namespace varo {
 class ServiciosQt : public Servicios {
 public:
     /// Boxes and dialogs stand over this window when none is active.
-    void ponerVentana(QWidget* ventana) { ventana_ = ventana; }
+    void ponerVentana(QWidget* ventana) {
+        ventana_ = ventana;
+        avance_.ponerVentana(ventana);
+    }
+    /// The act of a person is over: whatever it shows of its progress goes.
+    void acabarActo() { avance_.acabar(); }
 
     int mensaje(const std::string& texto, const std::string& titulo, int opciones) override;
     void fallo(const ErrorEjecucion& error) override;
@@ -20,12 +26,15 @@ public:
     std::optional<Fuente> elegirFuente(const Fuente& actual) override;
     std::optional<Color> elegirColor(Color actual) override;
     std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override;
+    Avance avance() override { return Avance{avance_}; }
 
 private:
-    [[nodiscard]] QWidget* padre() const;
-    void mostrarFallo(const ErrorEjecucion& error, const QString& cierre) const;
+    /// Over which a box comes up now. What shows progress gives way to it.
+    [[nodiscard]] QWidget* padre();
+    void mostrarFallo(const ErrorEjecucion& error, const QString& cierre);
 
     QWidget* ventana_ = nullptr;
+    VentanaDeAvance avance_;
 };
 
 } // namespace varo

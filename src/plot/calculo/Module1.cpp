@@ -1,6 +1,7 @@
 #include "plot/calculo/Module1.h"
 
 #include "basico/ErrorEjecucion.h"
+#include <cmath>
 
 #include <cstddef>
 
