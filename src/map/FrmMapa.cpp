@@ -197,13 +197,15 @@ void FrmMapa::Ab_ha() {
         SumaAreaBasimetrica(programa_.tocar<Hojadedatos>().Data1.Database(), campo,
                             programa_.tocar<FrmSeleccion>().CboHoja.Text, UnidadesDelTallo(opciones));
     const int columnaArea = opciones.ChCodigo.Value() == 1 ? 3 : 2;
-    const double quitar = Porque(
-        fallo::tiposDistintos,
-        [] { return "el mapa se dibujó con códigos, y ahora no se piden: dibuje el mapa de nuevo"; },
-        [&] {
-            return AreaBasimetricaDeBorde(sesion.Poligono, columnaArea, sesion.NumPuntosPoligono.valor(),
-                                          sesion.AnguloInterior);
-        });
+    const auto situar = [](ErrorEjecucion& error) {
+        if (error.numero() == fallo::tiposDistintos) {
+            error.en("contorno de un mapa que se dibujó con códigos, y ahora no se piden: dibújelo de nuevo");
+        }
+    };
+    const double quitar = AlFallar(situar, [&] {
+        return AreaBasimetricaDeBorde(sesion.Poligono, columnaArea, sesion.NumPuntosPoligono.valor(),
+                                      sesion.AnguloInterior);
+    });
     sesion.AbHaActual = Porque(
         fallo::usoDeNulo, [&] { return "ningún árbol tiene tamaño en la columna «" + campo + "»"; },
         [&] { return AreaBasimetricaPorHectarea(suma, quitar, sesion.SupPoligono); });

@@ -131,12 +131,13 @@ private:
 
     /// Meant: ellipses of mean radii have no query, and the one before it stands.
     [[nodiscard]] std::string ultimaConsultaDeArea() {
-        std::string consulta =
-            ConsultaAreaBasimetrica(CampoDelTallo(programa_), hoja(), UnidadesDelTallo(opciones_)) + "] ";
+        const std::string tallo = CampoDelTallo(programa_);
+        const UnidadesTallo unidades = UnidadesDelTallo(opciones_);
         if (!conCodigos_ || codigos().empty()) {
-            return consulta;
+            return ConsultaAreaBasimetrica(tallo, hoja(), unidades) + "] ";
         }
-        return consulta + "WHERE " + CondicionDeCodigo(filasPorCodigo().campo, codigos().back());
+        return ConsultaAreaBasimetrica(tallo, hoja(), unidades,
+                                       CondicionDeCodigo(filasPorCodigo().campo, codigos().back()));
     }
 
     void sumarCopas() {

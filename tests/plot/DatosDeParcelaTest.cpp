@@ -240,8 +240,10 @@ TEST(DatosDeParcela, UnMapaDibujadoConCodigosYSinPedirlosYaDiceQueSeDibujeDeNuev
     datos.servicios.esperarFallo(fallo::tiposDistintos);
     datos.pedir();
     const std::string mensaje = datos.servicios.fallos().back().what();
-    EXPECT_NE(mensaje.find("el mapa se dibujó con códigos"), std::string::npos) << mensaje;
-    EXPECT_NE(mensaje.find("dibuje el mapa de nuevo"), std::string::npos) << mensaje;
+    EXPECT_NE(
+        mensaje.find("contorno de un mapa que se dibujó con códigos, y ahora no se piden: dibújelo de nuevo"),
+        std::string::npos)
+        << mensaje;
 }
 
 TEST(DatosDeParcela, LaCubiertaDeUnRadioMedioSonCirculosConCualquierForma) {
@@ -250,8 +252,8 @@ TEST(DatosDeParcela, LaCubiertaDeUnRadioMedioSonCirculosConCualquierForma) {
     datos.opciones().OptElipse.Value = true; // no person can
     datos.pedir();
     Lienzo& superficie = datos.programa.tocar<FrmMapa2>().lienzo;
-    EXPECT_EQ(superficie.Point(5.9, 5), 0);
-    EXPECT_NE(superficie.Point(6.1, 5), 0);
+    EXPECT_EQ(superficie.Point(4.9, 6), 0);
+    EXPECT_NE(superficie.Point(5.1, 6), 0);
 }
 
 TEST(DatosDeParcela, LasElipsesSeRecortanYSeCubrenPorMuestras) {

@@ -17,21 +17,36 @@ double AreaBasimetrica(double tamano, const UnidadesTallo& unidades) {
     return unidades.circunferencia ? cuadrado / 12.5663708 : (cuadrado * numeroPi) / 4.0;
 }
 
-std::string ConsultaAreaBasimetrica(const std::string& campo, const std::string& hoja,
-                                    const UnidadesTallo& unidades) {
+namespace {
+
+/// The query up to the name of the table. The divisors are those of diameters in cm and in dm.
+std::string Cabeza(const std::string& campo, const std::string& hoja, const UnidadesTallo& unidades,
+                   const std::string& enCentimetros, const std::string& enDecimetros) {
     std::string expresion;
     switch (unidades.unidad) {
     case UnidadLongitud::Centimetros:
-        expresion = unidades.circunferencia ? "]^2/(4*3.1415927*10000)" : "]^2*3.1415927/(4*10000)";
+        expresion = unidades.circunferencia ? "]^2/(4*3.1415927*10000)" : "]^2*3.1415927/" + enCentimetros;
         break;
     case UnidadLongitud::Decimetros:
-        expresion = unidades.circunferencia ? "]^2/(4*3.1415927*100)" : "]^2*3.1415927/(4*100)";
+        expresion = unidades.circunferencia ? "]^2/(4*3.1415927*100)" : "]^2*3.1415927/" + enDecimetros;
         break;
     case UnidadLongitud::Metros:
         expresion = unidades.circunferencia ? "]^2/(4*3.1415927)" : "]^2*3.1415927/4";
         break;
     }
     return "SELECT Sum ( [" + campo + expresion + " ) as [AB] FROM [" + hoja;
+}
+
+} // namespace
+
+std::string ConsultaAreaBasimetrica(const std::string& campo, const std::string& hoja,
+                                    const UnidadesTallo& unidades) {
+    return Cabeza(campo, hoja, unidades, "(4*10000)", "(4*100)");
+}
+
+std::string ConsultaAreaBasimetrica(const std::string& campo, const std::string& hoja,
+                                    const UnidadesTallo& unidades, const std::string& condicion) {
+    return Cabeza(campo, hoja, unidades, "40000", "400") + "] WHERE " + condicion;
 }
 
 double TerminoAreaBasimetrica(double tamano, const UnidadesTallo& unidades) {

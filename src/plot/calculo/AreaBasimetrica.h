@@ -14,6 +14,9 @@ double AreaBasimetrica(double tamano, const UnidadesTallo& unidades);
 /// table's name without its closing bracket.
 std::string ConsultaAreaBasimetrica(const std::string& campo, const std::string& hoja,
                                     const UnidadesTallo& unidades);
+/// The same, whole, for the rows that meet a condition.
+std::string ConsultaAreaBasimetrica(const std::string& campo, const std::string& hoja,
+                                    const UnidadesTallo& unidades, const std::string& condicion);
 
 /// One term of that sum, as the engine evaluates it.
 double TerminoAreaBasimetrica(double tamano, const UnidadesTallo& unidades);

@@ -75,7 +75,8 @@ std::string PorQueNoHaySuma(const FilasPorCodigo& filas, const std::string& cond
                "(una fecha, un valor lógico o un número con puntos): cambie el código en la hoja por una "
                "palabra";
     }
-    return "ninguno de sus árboles tiene tamaño en la columna " + Cita(campoTamano);
+    return "ninguno de sus árboles tiene tamaño en la columna " + Cita(campoTamano) +
+           ": escriba en la hoja el de alguno";
 }
 
 } // namespace
@@ -103,8 +104,8 @@ void AreaBasimetricaDeCodigos(const FilasPorCodigo& filas, const std::string& ca
     constexpr int columnaDeArea = 3;
     double quitar = 0; // Meant: it runs on from code to code.
     PorCadaCodigo(filas, cifras, [&](const std::string& codigo, const std::string& condicion) {
-        const auto consulta = filas.base.OpenRecordset(
-            ConsultaAreaBasimetrica(campoTamano, filas.hoja, unidades) + "] WHERE " + condicion);
+        const auto consulta =
+            filas.base.OpenRecordset(ConsultaAreaBasimetrica(campoTamano, filas.hoja, unidades, condicion));
         const double suma = Porque(
             fallo::usoDeNulo, [&] { return PorQueNoHaySuma(filas, condicion, campoTamano); },
             [&] { return ANumero(consulta.Fields(0).Value); });

@@ -34,5 +34,16 @@ TEST(AreaBasimetrica, LaConsultaLlevaLaUnidadEnSuExpresion) {
     EXPECT_EQ(consulta(dapM), "SELECT Sum ( [CAP]^2*3.1415927/4 ) as [AB] FROM [Hoja1$");
 }
 
+TEST(AreaBasimetrica, LaConsultaDeUnCodigoLlevaSuCondicionYOtrosDivisores) {
+    const auto consulta = [](const UnidadesTallo& unidades) {
+        return ConsultaAreaBasimetrica("CAP", "Hoja1$", unidades, "Cod = 12");
+    };
+    EXPECT_EQ(consulta(capCm),
+              "SELECT Sum ( [CAP]^2/(4*3.1415927*10000) ) as [AB] FROM [Hoja1$] WHERE Cod = 12");
+    EXPECT_EQ(consulta(dapCm), "SELECT Sum ( [CAP]^2*3.1415927/40000 ) as [AB] FROM [Hoja1$] WHERE Cod = 12");
+    EXPECT_EQ(consulta(dapDm), "SELECT Sum ( [CAP]^2*3.1415927/400 ) as [AB] FROM [Hoja1$] WHERE Cod = 12");
+    EXPECT_EQ(consulta(dapM), "SELECT Sum ( [CAP]^2*3.1415927/4 ) as [AB] FROM [Hoja1$] WHERE Cod = 12");
+}
+
 } // namespace
 } // namespace varo
