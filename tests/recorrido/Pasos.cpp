@@ -92,4 +92,25 @@ void ElegirHoja(const Manos& manos) {
     manos.foto("05-hoja");
 }
 
+void ElegirColumnas(const Manos& manos) {
+    manos.tecla("alt+m");
+    manos.esperarVentana("SelCol4R");
+    manos.foto("08-columnas");
+    const auto asignar = [&](const Manos::Sitio& sitio, const QString& boton) {
+        manos.clic("Hojadedatos", "MSFlexGrid1", sitio);
+        manos.clic("SelCol4R", boton);
+    };
+    asignar(EnLaColumna("X"), "Command1(0)");
+    asignar(EnLaCabecera("Y"), "Command1(1)");
+    asignar(EnLaColumna("RN"), "Command1(2)");
+    asignar(EnLaCabecera("RE"), "Command1(3)");
+    asignar(EnLaColumna("RS"), "Command1(4)");
+    asignar(EnLaColumna("RO"), "Command1(5)");
+    asignar(EnLaColumna("Arbol"), "Command1(6)");
+    asignar(EnLaColumna("Especie"), "Command1(7)");
+    asignar(EnLaColumna("CAP"), "CmdDAP");
+    manos.foto("09-columnas-elegidas");
+    manos.clic("SelCol4R", "CmdDibujar");
+}
+
 } // namespace varo::prueba

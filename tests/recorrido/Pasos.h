@@ -25,6 +25,9 @@ void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo);
 /// Accepts "(ninguna)", answers the box about it, and then chooses the first sheet.
 void ElegirHoja(const Manos& manos);
 
+/// Gives the columns of the example plot, by their headers, their roles and presses "Dibujar".
+void ElegirColumnas(const Manos& manos);
+
 /// The visible parts of a window that cannot show their whole content.
 QString LoQueNoCabe(QWidget& ventana);
 
