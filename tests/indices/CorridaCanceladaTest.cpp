@@ -104,7 +104,7 @@ TEST_P(CancelarLaCorrida, NoDejaResultadosYLaSiguienteLosDaEnteros) {
     entera.correr();
     const std::string esperado = entera.guardar();
     Corrida corrida{GetParam()};
-    for (const std::size_t paso : {1, 7, 11, 14, 23, 38, 47, 52, 55}) {
+    for (const std::size_t paso : {1U, 7U, 11U, 14U, 23U, 38U, 47U, 52U, 55U}) {
         corrida.cancelarEn(paso);
         EXPECT_EQ(corrida.dialogo(), nullptr) << paso;
         EXPECT_EQ(corrida.mapa().MousePointer(), Formulario::punteroNormal) << paso;
