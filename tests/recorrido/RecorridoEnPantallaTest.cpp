@@ -108,12 +108,14 @@ void GuardarIndices(const Manos& manos, const std::filesystem::path& resultados)
 }
 
 void Salir(const Manos& manos) {
+    manos.esperarVentana("VAROMAIN");
     manos.tecla("alt+a");
     manos.tecla("s");
     manos.esperarVentana("CajaDeMensaje");
     manos.foto("16-salir");
     manos.tecla("Escape"); // the program goes on
     manos.esperarQueSeVaya("CajaDeMensaje");
+    manos.esperarVentana("VAROMAIN");
     manos.tecla("alt+a");
     manos.tecla("s");
     manos.esperarVentana("CajaDeMensaje");
