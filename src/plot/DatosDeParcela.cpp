@@ -30,15 +30,6 @@ namespace varo {
 
 namespace {
 
-MatrizDinamica<double> EnMatriz(const std::vector<double>& cifras) {
-    MatrizDinamica<double> matriz;
-    for (const double cifra : cifras) {
-        matriz.redimensionarConservando(matriz.limite() + 1);
-        matriz(matriz.limite()) = cifra;
-    }
-    return matriz;
-}
-
 class CorridaDeDatos {
 public:
     explicit CorridaDeDatos(Programa& programa)
@@ -191,8 +182,8 @@ private:
         CifrasDeParcela cifras;
         cifras.numCodigos = sesion_.NumCodigos;
         cifras.codigos = sesion_.Codigos;
-        cifras.piesHaCodigo = EnMatriz(pies_.porHectarea);
-        cifras.abHaCodigo = EnMatriz(area_.porHectarea);
+        cifras.piesHaCodigo = pies_.porHectarea;
+        cifras.abHaCodigo = area_.porHectarea;
         cifras.piesHa = sesion_.PiesHaActual;
         cifras.abHa = sesion_.AbHaActual;
         cifras.superficie = sesion_.SupPoligono;

@@ -6,6 +6,7 @@
 #include "indices/vecinos/ISC.h"
 #include "indices/vecinos/ISCDeElipses.h"
 
+#include "SitiosDeParcela.h"
 #include "basico/Numeros.h"
 #include "indices/vecinos/ElipsesLiteral.h"
 #include "plot/calculo/Envolvente.h"
@@ -23,15 +24,8 @@ namespace {
 struct Parcela {
     explicit Parcela(std::int64_t cuantos) {
         std::mt19937 azar{1};
-        const double lado = std::sqrt(static_cast<double>(cuantos) / 900 * 10000);
-        std::uniform_real_distribution<double> coordenada{0, lado};
         std::uniform_real_distribution<double> diametro{10, 40};
-        std::vector<double> xs, ys;
-        for (std::int64_t i = 0; i < cuantos; ++i) {
-            xs.push_back(ANumero(Formato(coordenada(azar), "##0.00")));
-            ys.push_back(ANumero(Formato(coordenada(azar), "##0.00")));
-        }
-        std::sort(xs.begin(), xs.end()); // the walk round the plot starts at the first one
+        const auto [xs, ys] = SitiosDeParcela{cuantos, azar};
         celdas.copa.resize(1);
         for (std::size_t i = 0; i < xs.size(); ++i) {
             const double d = diametro(azar);

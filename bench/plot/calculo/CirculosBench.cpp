@@ -2,6 +2,7 @@
 #include "plot/calculo/RecortarCirculos.h"
 #include "plot/calculo/SolaparCirculos.h"
 
+#include "SitiosDeParcela.h"
 #include "basico/Numeros.h"
 #include "plot/calculo/Envolvente.h"
 #include "plot/calculo/SolapeLiteral.h"
@@ -24,14 +25,7 @@ namespace {
 struct Parcela {
     explicit Parcela(std::int64_t cuantos) {
         std::mt19937 azar{1};
-        const double lado = std::sqrt(static_cast<double>(cuantos) / 900 * 10000);
-        std::uniform_real_distribution<double> coordenada{0, lado};
-        std::vector<double> xs, ys;
-        for (std::int64_t i = 0; i < cuantos; ++i) {
-            xs.push_back(ANumero(Formato(coordenada(azar), "##0.00")));
-            ys.push_back(ANumero(Formato(coordenada(azar), "##0.00")));
-        }
-        std::sort(xs.begin(), xs.end()); // the walk round the plot starts at the first one
+        const auto [xs, ys] = SitiosDeParcela{cuantos, azar};
         cercar(xs, ys);
         plantar(xs, ys, azar);
     }

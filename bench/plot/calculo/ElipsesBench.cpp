@@ -4,6 +4,7 @@
 #include "plot/calculo/Elipses.h"
 #include "plot/calculo/Envolvente.h"
 
+#include "SitiosDeParcela.h"
 #include "basico/Numeros.h"
 #include "plot/calculo/ElipsesDePlotLiteral.h"
 
@@ -20,15 +21,8 @@ namespace {
 struct ParcelaDeElipses {
     explicit ParcelaDeElipses(std::int64_t cuantos) {
         std::mt19937 azar{1};
-        const double lado = std::sqrt(static_cast<double>(cuantos) / 900 * 10000);
-        std::uniform_real_distribution<double> coordenada{0, lado};
         std::uniform_real_distribution<double> radio{2.7, 3.3};
-        std::vector<double> xs, ys;
-        for (std::int64_t i = 0; i < cuantos; ++i) {
-            xs.push_back(ANumero(Formato(coordenada(azar), "##0.00")));
-            ys.push_back(ANumero(Formato(coordenada(azar), "##0.00")));
-        }
-        std::ranges::sort(xs); // the walk round the plot starts at the first one
+        const auto [xs, ys] = SitiosDeParcela{cuantos, azar};
         for (std::size_t i = 0; i < xs.size(); ++i) {
             FilaDeCopa fila{CeldaLeida{ATexto(xs[i])}, CeldaLeida{ATexto(ys[i])}, false, {}};
             for (auto& medida : fila.medidas) {

@@ -50,7 +50,9 @@ void PorCadaCodigo(const FilasPorCodigo& filas, CifrasPorCodigo& cifras, const D
         };
         const double cifra =
             AlFallar(explicar, [&] { return deCodigo(codigo, CondicionDeCodigo(filas.campo, codigo)); });
-        cifras.porHectarea.push_back(cifra);
+        const int ultima = cifras.porHectarea.limite() + 1;
+        cifras.porHectarea.redimensionarConservando(ultima);
+        cifras.porHectarea(ultima) = cifra;
         cifras.total = cifras.total + cifra;
     }
 }

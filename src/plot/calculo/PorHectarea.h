@@ -9,7 +9,6 @@
 
 #include <span>
 #include <string>
-#include <vector>
 
 namespace varo {
 
@@ -44,8 +43,8 @@ std::string CondicionDeCodigo(const std::string& campo, const std::string& codig
 
 /// What the stems or the basal area of each code come to per hectare. Faults tell the code.
 struct CifrasPorCodigo {
-    std::vector<double> porHectarea; ///< in the order of the codes
-    double total = 0;                ///< their sum
+    MatrizDinamica<double> porHectarea; ///< in the order of the codes, unallocated without any
+    double total = 0;                   ///< their sum
 };
 
 /// Stems per hectare of each code. Meant: half a stem is taken off for each vertex of the code and of all
