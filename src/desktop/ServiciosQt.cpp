@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QFontInfo>
@@ -87,6 +88,27 @@ QString Filtros(const std::string& filtro) {
     return nombres.join(";;");
 }
 
+void Avisar(const std::function<void(const std::string&)>& aviso, const std::string& texto) {
+    if (aviso) {
+        aviso(texto);
+    }
+}
+
+/// Tells when it has taken its place.
+class ArchivoAnunciado : public ArchivoEntero {
+public:
+    ArchivoAnunciado(const std::string& ruta, std::function<void()> alPublicar)
+        : ArchivoEntero{ruta}, alPublicar_{std::move(alPublicar)} {}
+
+    void publicar() override {
+        ArchivoEntero::publicar();
+        alPublicar_();
+    }
+
+private:
+    std::function<void()> alPublicar_;
+};
+
 QFont FuenteDelDialogo(const Fuente& fuente) {
     QFont letra = FuenteQt(fuente);
     // The font dialog finds a style by name, and each font spells that differently.
@@ -103,6 +125,7 @@ QWidget* ServiciosQt::padre() {
 }
 
 int ServiciosQt::mensaje(const std::string& texto, const std::string& titulo, int opciones) {
+    Avisar(alDecir, texto);
     QMessageBox caja{Icono(opciones), AQt(titulo), AQt(texto), QMessageBox::NoButton, padre()};
     caja.setTextFormat(Qt::PlainText);
     caja.setObjectName("CajaDeMensaje");
@@ -131,6 +154,7 @@ void ServiciosQt::falloFatal(const ErrorEjecucion& error) {
 }
 
 void ServiciosQt::mostrarFallo(const ErrorEjecucion& error, const QString& cierre) {
+    Avisar(alDecir, error.descripcion());
     QMessageBox caja{QMessageBox::Critical, "VARO 1.0", QString{}, QMessageBox::NoButton, padre()};
     caja.setObjectName("CajaDeFallo");
     caja.setTextFormat(Qt::PlainText);
@@ -154,11 +178,19 @@ void ServiciosQt::mostrarFallo(const ErrorEjecucion& error, const QString& cierr
 }
 
 void ServiciosQt::elegirArchivo(DialogoAbrir& dialogo) {
+    if (!preparado_.empty()) {
+        dialogo.FileName = std::exchange(preparado_, {});
+        return;
+    }
     QFileDialog ventana{padre(), AQt(dialogo.DialogTitle), QString{}, Filtros(dialogo.Filter)};
     ventana.setObjectName("DlogoAbrir");
     ventana.setFileMode(QFileDialog::ExistingFile);
     ventana.setDefaultSuffix(AQt(dialogo.DefaultExt));
     ventana.setProxyModel(new ArchivosEnEspanol{&ventana});
+    const QString carpeta = carpetaAlAbrir ? AQt(carpetaAlAbrir()) : QString{};
+    if (!carpeta.isEmpty() && QDir{carpeta}.isReadable()) {
+        ventana.setDirectory(carpeta);
+    }
     ventana.resize(medidasAlAbrir.boundedTo(SitioEnPantalla(ventana)));
     const bool elegido = ventana.exec() == QDialog::Accepted && !ventana.selectedFiles().isEmpty();
     dialogo.FileName = elegido ? DeQt(ventana.selectedFiles().front()) : std::string{};
@@ -184,7 +216,7 @@ std::optional<Color> ServiciosQt::elegirColor(Color actual) {
 }
 
 std::unique_ptr<ArchivoNuevo> ServiciosQt::crearArchivo(const std::string& ruta) {
-    return std::make_unique<ArchivoEntero>(ruta);
+    return std::make_unique<ArchivoAnunciado>(ruta, [this, ruta] { Avisar(alEscribir, ruta); });
 }
 
 } // namespace varo

@@ -4,6 +4,10 @@
 #include "desktop/VentanaDeAvance.h"
 #include "formularios/Servicios.h"
 
+#include <functional>
+#include <string>
+#include <utility>
+
 class QString;
 class QWidget;
 
@@ -18,6 +22,15 @@ public:
     }
     /// The act of a person is over: whatever it shows of its progress goes.
     void acabarActo() { avance_.acabar(); }
+    /// The next choice of a file gives this one, and no dialog asks; the empty text takes that back.
+    void prepararArchivo(std::string ruta) { preparado_ = std::move(ruta); }
+
+    /// The folder in which the choice of a file begins; where Qt likes without one.
+    std::function<std::string()> carpetaAlAbrir;
+    /// Told of the text of each box.
+    std::function<void(const std::string& texto)> alDecir;
+    /// Told of each file that has taken its place.
+    std::function<void(const std::string& ruta)> alEscribir;
 
     int mensaje(const std::string& texto, const std::string& titulo, int opciones) override;
     void fallo(const ErrorEjecucion& error) override;
@@ -35,6 +48,7 @@ private:
 
     QWidget* ventana_ = nullptr;
     VentanaDeAvance avance_;
+    std::string preparado_;
 };
 
 } // namespace varo

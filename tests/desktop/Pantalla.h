@@ -6,6 +6,8 @@
 #include "desktop/Contestador.h"
 #include "desktop/Escritorio.h"
 #include "desktop/ServiciosQt.h"
+#include "desktop/comodidades/Comodidades.h"
+#include "desktop/comodidades/Recientes.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -48,6 +50,8 @@ struct Puesto {
     ServiciosQt servicios;
     Escritorio escritorio{servicios};
     Programa& programa = escritorio.programa();
+    Recientes recientes{QString::fromStdString(carpeta.archivo("recientes.ini"))};
+    Comodidades comodidades{escritorio, servicios, recientes};
     int terminaciones = 0; ///< how often the desktop has told that the program is over
 
     [[nodiscard]] Formulario* modelo(const std::string& ventana) const; ///< null while it is not loaded

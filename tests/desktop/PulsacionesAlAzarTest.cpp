@@ -3,6 +3,7 @@
 #include "desktop/Pantalla.h"
 #include "formularios/Rejilla.h"
 #include "formularios/Usuario.h"
+#include "indices/archivo/FrmCrearArchivo.h"
 #include "shell/Programa.h"
 #include "shell/VAROMAIN.h"
 
@@ -108,6 +109,11 @@ public:
     Gemelos() {
         real_.abrirArchivo();
         real_.aceptarHoja();
+        programa_.alCargar = [this](Formulario& ventana) {
+            if (auto* const crear = dynamic_cast<FrmCrearArchivo*>(&ventana)) {
+                crear->DirLista.Path(real_.carpeta.ruta().string()); // where the desktop begins: by the plot
+            }
+        };
         servicios_.archivo = real_.carpeta.archivo("parcela.xls");
         programa_.tocar<VAROMAIN>().Show();
         usuario_.clic(programa_.tocar<VAROMAIN>().mnuAbrir);

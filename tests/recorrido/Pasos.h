@@ -1,8 +1,11 @@
 // The first steps of every journey at the screen, and the places where a person presses controls.
 #pragma once
 
+#include "apoyo/CarpetaTemporal.h"
 #include "desktop/Aplicacion.h"
 #include "desktop/Escritorio.h"
+#include "desktop/comodidades/Comodidades.h"
+#include "desktop/comodidades/Recientes.h"
 #include "recorrido/Manos.h"
 
 #include <filesystem>
@@ -35,12 +38,16 @@ QString LoQueNoCabe(QWidget& ventana);
 struct Programado {
     Programado();
 
+    CarpetaTemporal ajustes; ///< instead of the settings of the person who runs the test
+    const bool apartado = qputenv("XDG_CONFIG_HOME", ajustes.ruta().c_str());
     int argc = 1;
     std::string nombre = "varo";
     char* argv[2] = {nombre.data(), nullptr};
     Aplicacion aplicacion{argc, argv};
     ServiciosQt servicios;
     Escritorio escritorio{servicios};
+    Recientes recientes;
+    Comodidades comodidades{escritorio, servicios, recientes};
     bool terminado = false;
 };
 

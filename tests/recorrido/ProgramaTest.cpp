@@ -65,12 +65,20 @@ bool ElegirArchivo(const Manos& manos, const std::filesystem::path& archivo) {
     return false;
 }
 
+/// The environment of a person whose settings are in this folder.
+QProcessEnvironment ConAjustesEn(const CarpetaTemporal& carpeta) {
+    auto entorno = QProcessEnvironment::systemEnvironment();
+    entorno.insert("XDG_CONFIG_HOME", QString::fromStdString(carpeta.ruta().string()));
+    return entorno;
+}
+
 } // namespace
 
 TEST(Programa, UnArchivoQueNoSePuedeLeerSeDiceYElProgramaAcabaSinPreguntar) {
     const CarpetaTemporal carpeta;
     const auto roto = carpeta.Escribir("roto.xls", "esto no es un libro de cálculo");
     QProcess varo;
+    varo.setProcessEnvironment(ConAjustesEn(carpeta));
     varo.start(QString::fromStdString(ProgramaEscritorio().string()), QStringList{});
     ASSERT_TRUE(varo.waitForStarted(plazo));
     const Manos manos;

@@ -49,6 +49,7 @@ QWidget* DisponerCrearArchivo(FrmCrearArchivo& ventana, Vinculos& vinculos) {
                        5, 0, 1, 2);
     contenido->setMinimumSize(minimo);
     nombre->setFocus();
+    nombre->selectAll(); // typing replaces what is proposed
     return contenido;
 }
 
