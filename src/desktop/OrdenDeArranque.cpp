@@ -15,7 +15,7 @@ Abre la ventana del programa y, si se da, el archivo de la parcela, como hace Ar
   -h, --help   Muestra esta ayuda
   --version    Dice la versión
 
-Los trabajos sin ventanas los corre varo-lote.
+El manual está en el menú Ayuda (F1). Los trabajos sin ventanas los corre varo-lote.
 )";
 
 OrdenDeArranque Rechazo(const std::string& causa) {

@@ -41,10 +41,11 @@ TEST_F(ElMarco, SeLlamaVaro) {
 
 TEST_F(ElMarco, LlevaSusMenusEnOrdenConSusAceleradores) {
     const auto arriba = escritorio.marco().menuBar()->actions();
-    ASSERT_EQ(arriba.size(), 3);
+    ASSERT_EQ(arriba.size(), 4);
     EXPECT_EQ(arriba[0]->text(), "&Archivo");
     EXPECT_EQ(arriba[1]->text(), "&Mapa de copas");
     EXPECT_EQ(arriba[2]->text(), "&Opciones");
+    EXPECT_EQ(arriba[3]->text(), "A&yuda"); // behind them, not one of theirs
     ASSERT_NE(arriba[0]->menu(), nullptr);
     const auto archivo = arriba[0]->menu()->actions();
     ASSERT_GE(archivo.size(), 4);

@@ -6,6 +6,7 @@
 #include "desktop/Intentar.h"
 #include "desktop/ServiciosQt.h"
 #include "desktop/Texto.h"
+#include "desktop/comodidades/Ayuda.h"
 #include "desktop/comodidades/BarraDeEstado.h"
 #include "desktop/comodidades/MenuDeRecientes.h"
 #include "desktop/comodidades/Recientes.h"
@@ -41,10 +42,12 @@ Comodidades::Comodidades(Escritorio& escritorio, ServiciosQt& servicios, Recient
     : escritorio_{escritorio}, servicios_{servicios}, recientes_{recientes}, programa_{escritorio.programa()},
       barra_{std::make_unique<BarraDeEstado>(*escritorio.marco().statusBar())},
       menuDeRecientes_{std::make_unique<MenuDeRecientes>(
-          *AccionDe(escritorio.marco(), programa_.tocar<VAROMAIN>().mnuArchivo).menu(), recientes)} {
+          *AccionDe(escritorio.marco(), programa_.tocar<VAROMAIN>().mnuArchivo).menu(), recientes)},
+      ayuda_{std::make_unique<Ayuda>(escritorio.marco())} {
     menuDeRecientes_->alElegir = [this](const QString& archivo) { abrir(archivo); };
     escritorio_.marco().setAcceptDrops(true);
     escritorio_.marco().installEventFilter(this);
+    ponerTeclas();
     atenderServicios();
     seguirAlPrograma();
     alTerminarActo();
@@ -56,6 +59,17 @@ Comodidades::~Comodidades() {
     servicios_.carpetaAlAbrir = {};
     servicios_.alDecir = {};
     servicios_.alEscribir = {};
+}
+
+/// A child closes with Ctrl+F4, so Ctrl+W is free for the file.
+void Comodidades::ponerTeclas() const {
+    const auto& marco = *programa_.cargada<VAROMAIN>();
+    const auto poner = [this](const Menu& menu, Qt::Key tecla) {
+        AccionDe(escritorio_.marco(), menu).setShortcut(Qt::CTRL | tecla);
+    };
+    poner(marco.mnuAbrir, Qt::Key_O);
+    poner(marco.mnuCerrar, Qt::Key_W);
+    poner(marco.mnuSalir, Qt::Key_Q);
 }
 
 void Comodidades::atenderServicios() {

@@ -14,6 +14,7 @@ class QUrl;
 
 namespace varo {
 
+class Ayuda;
 class BarraDeEstado;
 class Escritorio;
 class Formulario;
@@ -41,6 +42,7 @@ private:
     void seguirAlPrograma();
     void alTerminarActo();
     void llevarASuCarpeta(FrmCrearArchivo& ventana) const;
+    void ponerTeclas() const;
     void soltar(const QList<QUrl>& lugares);
     [[nodiscard]] QString porQueNoSeAbre() const;
 
@@ -50,6 +52,7 @@ private:
     Programa& programa_;
     std::unique_ptr<BarraDeEstado> barra_;
     std::unique_ptr<MenuDeRecientes> menuDeRecientes_;
+    std::unique_ptr<Ayuda> ayuda_;
     std::string abierto_;             ///< the plot file that was open at the end of the last act
     std::string carpetaDeResultados_; ///< of the last results file of this session
     std::function<void(Formulario&)> alCargarAntes_;

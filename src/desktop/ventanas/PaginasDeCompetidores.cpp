@@ -67,8 +67,8 @@ QLayout* CrearSeleccionDeCompetidores(const PiezasDeOpciones& piezas, int i, int
     enElMismoSitio(CrearFuncionDeRichards(piezas, i), 1, 0, 2);
     enElMismoSitio(CrearFuncionHiperbolica(piezas, i), 1, 0, 2);
     rejilla->addLayout(
-        piezas.crearLista(v.LstRich(i), {&v.CmdAñadirRich(i), &v.CmdQuitarRich(i), &v.CmdVaciarRich(i)}), 2,
-        0, 1, 2);
+        piezas.crearLista(v.LstRich(i), {v.CmdAñadirRich(i), v.CmdQuitarRich(i), v.CmdVaciarRich(i)}), 2, 0,
+        1, 2);
     rejilla->setColumnStretch(1, 1);
     rejilla->setRowStretch(2, 1);
     return rejilla;
@@ -117,8 +117,7 @@ QGroupBox* CrearFuncionDeDistancia(const PiezasDeOpciones& piezas) {
                                                 {v.Label16(2), v.TxtEXP(2)},
                                                 {v.Label17(2), v.TxtEXP(3)},
                                                 {v.Label18(2), v.TxtEXP(4)}}}));
-    columna->addLayout(piezas.crearLista(v.LstDist, {&v.CmdAñadirDist, &v.CmdQuitarDist, &v.CmdVaciarDist}),
-                       1);
+    columna->addLayout(piezas.crearLista(v.LstDist, {v.CmdAñadirDist, v.CmdQuitarDist, v.CmdVaciarDist}), 1);
     return grupo;
 }
 

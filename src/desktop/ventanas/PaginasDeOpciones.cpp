@@ -78,7 +78,7 @@ QGroupBox* CrearRadioDeInfluencia(const PiezasDeOpciones& piezas) {
                                                 {v.LbC, v.TxtRm(2)},
                                                 {v.LbD, v.TxtRm(3)},
                                                 {v.LbE, v.TxtRm(4)}}}));
-    columna->addLayout(piezas.crearLista(v.LstAOI, {&v.CmdAñadir, &v.CmdQuitar2, &v.CmdQuitarTodo}), 1);
+    columna->addLayout(piezas.crearLista(v.LstAOI, {v.CmdAñadir, v.CmdQuitar2, v.CmdQuitarTodo}), 1);
     return grupo;
 }
 

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QShortcut>
 
 #include <cassert>
 #include <utility>
@@ -15,6 +16,18 @@ namespace varo {
 namespace {
 
 constexpr int espacio = 6; ///< between the parts of one piece, in pixels
+
+/// Supr presses the button; the focus stays in the list.
+void PonerTeclaDeQuitar(QListWidget& lista, QPushButton& boton) {
+    auto* const tecla =
+        new QShortcut{QKeySequence{Qt::Key_Delete}, &lista, nullptr, nullptr, Qt::WidgetShortcut};
+    QObject::connect(tecla, &QShortcut::activated, &lista, [&lista, &boton] {
+        if (!lista.selectedItems().isEmpty()) {
+            boton.click();
+            lista.setFocus();
+        }
+    });
+}
 
 } // namespace
 
@@ -107,15 +120,19 @@ QLayout* PiezasDeOpciones::crearParametros(const std::vector<Renglon>& renglones
     return rejilla;
 }
 
-QLayout* PiezasDeOpciones::crearLista(Lista& lista, const std::vector<Boton*>& botones) const {
+QLayout* PiezasDeOpciones::crearLista(Lista& lista, const BotonesDeLista& botones) const {
     auto* const fila = new QHBoxLayout;
     QListWidget* const lineas = vinculos_.crearLista(lista);
     lineas->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     fila->addWidget(conSitioFijo(lineas), 1);
     auto* const columna = new QVBoxLayout;
     columna->setSpacing(espacio);
-    for (Boton* const boton : botones) {
-        columna->addWidget(conSitioFijo(vinculos_.crearBoton(*boton)));
+    for (Boton* const boton : {&botones.anadir, &botones.quitar, &botones.vaciar}) {
+        QPushButton* const pulsador = conSitioFijo(vinculos_.crearBoton(*boton));
+        columna->addWidget(pulsador);
+        if (boton == &botones.quitar) {
+            PonerTeclaDeQuitar(*lineas, *pulsador);
+        }
     }
     columna->addStretch();
     fila->addLayout(columna);

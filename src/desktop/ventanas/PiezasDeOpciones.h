@@ -71,8 +71,15 @@ public:
     /// Rows of fields, each behind its label.
     [[nodiscard]] QLayout* crearParametros(const std::vector<Renglon>& renglones) const;
 
-    /// A list with its buttons beside it, as high as these or, in a higher page, higher.
-    [[nodiscard]] QLayout* crearLista(Lista& lista, const std::vector<Boton*>& botones) const;
+    /// The buttons of a function list.
+    struct BotonesDeLista {
+        Boton& anadir;
+        Boton& quitar;
+        Boton& vaciar;
+    };
+    /// A list with its buttons beside it, as high as these or, in a higher page, higher. The key Supr does
+    /// what the second one does.
+    [[nodiscard]] QLayout* crearLista(Lista& lista, const BotonesDeLista& botones) const;
 
     /// Two parts side by side, `hueco` pixels apart, at the left of the row.
     [[nodiscard]] static QLayout* crearFila(QWidget* primera, int hueco, QWidget* segunda);

@@ -1,0 +1,26 @@
+// The menu Ayuda: the manual and what program this is.
+#pragma once
+
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+
+class QDialog;
+
+namespace varo {
+
+class Ayuda : public QObject {
+public:
+    /// Puts the menu at the end of the bar of the window.
+    explicit Ayuda(QMainWindow& marco);
+
+    /// The manual has a window of its own beside the others, which may stay open.
+    void mostrarManual();
+    void mostrarAcercaDe();
+
+private:
+    QMainWindow& marco_;
+    QPointer<QDialog> manual_;
+};
+
+} // namespace varo
