@@ -18,10 +18,17 @@ namespace {
 constexpr int letrasDeArchivo = 28; ///< the longest texts that are shown whole
 constexpr int letrasDeHoja = 20;
 constexpr int letrasDeCuenta = 16;
+constexpr int letrasDeColumna = 64;
 
 QString CuantosArboles(int cuantos) {
     return QLocale{}.toString(cuantos) +
            (cuantos == 1 ? QStringLiteral(" árbol") : QStringLiteral(" árboles"));
+}
+
+/// The header of the last column where the grid hides it; empty elsewhere.
+QString UltimaOculta(const Rejilla& rejilla) {
+    const int ultima = rejilla.Cols() - 1;
+    return rejilla.ColWidth(ultima) == 0 ? AQt(rejilla.TextMatrix(0, ultima)) : QString{};
 }
 
 } // namespace
@@ -34,6 +41,7 @@ BarraDeEstado::BarraDeEstado(QStatusBar& barra) : barra_{barra} {
     archivo_ = crearRotulo(QStringLiteral("EstadoArchivo"), letrasDeArchivo);
     hoja_ = crearRotulo(QStringLiteral("EstadoHoja"), letrasDeHoja);
     arboles_ = crearRotulo(QStringLiteral("EstadoArboles"), letrasDeCuenta);
+    ultimaColumna_ = crearRotulo(QStringLiteral("EstadoColumna"), letrasDeColumna);
 }
 
 RotuloRecortado* BarraDeEstado::crearRotulo(const QString& nombre, int letras) {
@@ -57,6 +65,21 @@ void BarraDeEstado::mostrar(const Programa& programa) {
         marco != nullptr && marco->mnuCerrar.Enabled() && datos != nullptr && seleccion != nullptr;
     hoja_->poner(conHoja ? AQt(seleccion->CboHoja.Text()) : QString{});
     arboles_->poner(conHoja ? CuantosArboles(datos->MSFlexGrid1.Rows() - 1) : QString{});
+    mostrarUltimaColumna(conHoja ? UltimaOculta(datos->MSFlexGrid1) : QString{});
+}
+
+void BarraDeEstado::mostrarUltimaColumna(const QString& cabecera) {
+    if (cabecera.isEmpty()) {
+        ultimaColumna_->poner({});
+        return;
+    }
+    ultimaColumna_->poner(
+        QStringLiteral("No se ve «%1»: la última columna no se lee").arg(cabecera),
+        QStringLiteral(
+            "La última columna de la hoja, «%1», no se ve ni se puede elegir: el programa nunca lee los "
+            "datos "
+            "de la última columna. Si hacen falta, ponga en la hoja otra columna con cabecera detrás.")
+            .arg(cabecera));
 }
 
 } // namespace varo

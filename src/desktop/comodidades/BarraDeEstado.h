@@ -21,6 +21,7 @@ public:
     void mostrar(const Programa& programa);
 
 private:
+    void mostrarUltimaColumna(const QString& cabecera);
     RotuloRecortado* crearRotulo(const QString& nombre, int letras);
 
     QStatusBar& barra_;
@@ -28,6 +29,7 @@ private:
     RotuloRecortado* archivo_;
     RotuloRecortado* hoja_;
     RotuloRecortado* arboles_;
+    RotuloRecortado* ultimaColumna_;
 };
 
 } // namespace varo

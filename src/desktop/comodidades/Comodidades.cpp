@@ -20,6 +20,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QUrl>
 
 #include <filesystem>
@@ -165,6 +166,13 @@ void Comodidades::soltar(const QList<QUrl>& lugares) {
 
 bool Comodidades::eventFilter(QObject* objeto, QEvent* suceso) {
     const auto tipo = suceso->type();
+    if (tipo == QEvent::StatusTip) {
+        const QString texto = static_cast<QStatusTipEvent*>(suceso)->tip();
+        if (!texto.isEmpty()) {
+            barra_->decir(texto);
+        }
+        return true; // the bar keeps what it says when the pointer leaves a menu
+    }
     if (tipo != QEvent::DragEnter && tipo != QEvent::DragMove && tipo != QEvent::Drop) {
         return QObject::eventFilter(objeto, suceso);
     }

@@ -1,6 +1,7 @@
 #include "desktop/widgets/ModeloDeRejilla.h"
 
 #include "desktop/Texto.h"
+#include "desktop/widgets/Pista.h"
 
 namespace varo {
 
@@ -34,10 +35,12 @@ QVariant ModeloDeRejilla::data(const QModelIndex& celda, int papel) const {
 }
 
 QVariant ModeloDeRejilla::headerData(int seccion, Qt::Orientation sentido, int papel) const {
-    if (papel != Qt::DisplayRole || sentido != Qt::Horizontal || seccion < 0 || seccion >= rejilla_.Cols()) {
+    const bool conTexto = papel == Qt::DisplayRole || papel == Qt::ToolTipRole;
+    if (!conTexto || sentido != Qt::Horizontal || seccion < 0 || seccion >= rejilla_.Cols()) {
         return {};
     }
-    return AQt(rejilla_.TextMatrix(0, seccion));
+    const QString cabecera = AQt(rejilla_.TextMatrix(0, seccion));
+    return papel == Qt::ToolTipRole ? TextoDePista(cabecera) : cabecera;
 }
 
 } // namespace varo

@@ -2,11 +2,16 @@
 
 #include "desktop/Texto.h"
 #include "desktop/widgets/MedidaDeTextos.h"
+#include "desktop/widgets/TextoParaHojas.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QFontMetricsF>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QProxyStyle>
+#include <QScopedValueRollback>
+#include <QStatusTipEvent>
 
 namespace varo {
 
@@ -39,7 +44,7 @@ VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
     horizontalHeader()->setStyle(estilo);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     horizontalHeader()->setMinimumSectionSize(1);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -52,8 +57,10 @@ VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
     setWordWrap(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setTabKeyNavigation(false); // Tab leaves the grid
+    seguirLosAnchosAMano();
     connect(selectionModel(), &QItemSelectionModel::currentColumnChanged, this,
             [this](const QModelIndex& actual) {
+                todoElegido_ = false;
                 if (actual.isValid() && actual.column() != rejilla_.ColSel() && alElegirColumna) {
                     alElegirColumna(actual.column());
                     // Qt selects the clicked column after this, even a refused one.
@@ -66,6 +73,7 @@ VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
 void VistaDeRejilla::mostrar() {
     if (!rejilla_.Visible()) {
         anchos_.clear();
+        aMano_.clear();
         return; // a grid is hidden while it is filled
     }
     modelo_->ponerAlDia();
@@ -95,15 +103,24 @@ QItemSelectionModel::SelectionFlags VistaDeRejilla::selectionCommand(const QMode
 /// shape.
 void VistaDeRejilla::medirSiHaCambiado() {
     if (static_cast<int>(anchos_.size()) != rejilla_.Cols() || filasMedidas_ != rejilla_.Rows()) {
+        if (static_cast<int>(anchos_.size()) != rejilla_.Cols()) {
+            aMano_.clear();
+        }
         anchos_ = MedirColumnas(rejilla_, QFontMetricsF{font()});
         filasMedidas_ = rejilla_.Rows();
     }
 }
 
+int VistaDeRejilla::anchoDe(int columna) const {
+    const auto aMano = aMano_.find(columna);
+    return aMano == aMano_.end() ? anchos_[static_cast<std::size_t>(columna)] : aMano->second;
+}
+
 void VistaDeRejilla::mostrarAnchos() {
+    const QScopedValueRollback nuestros{ponemosAnchos_, true};
     for (int columna = 0; columna < rejilla_.Cols(); ++columna) {
         const bool oculta = rejilla_.ColWidth(columna) == 0;
-        const int ancho = oculta ? 0 : anchos_[static_cast<std::size_t>(columna)];
+        const int ancho = oculta ? 0 : anchoDe(columna);
         if (isColumnHidden(columna) != (ancho == 0)) {
             setColumnHidden(columna, ancho == 0);
         }
@@ -111,6 +128,65 @@ void VistaDeRejilla::mostrarAnchos() {
             setColumnWidth(columna, ancho);
         }
     }
+}
+
+/// A double click on the edge gives the column the width of its texts back.
+void VistaDeRejilla::seguirLosAnchosAMano() {
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int columna, int /*antes*/, int ancho) {
+                if (!ponemosAnchos_ && ancho > 0) {
+                    aMano_[columna] = ancho;
+                }
+            });
+    connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this] { todoElegido_ = false; });
+    connect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this, [this](int columna) {
+        aMano_.erase(columna);
+        mostrarAnchos();
+    });
+}
+
+void VistaDeRejilla::decir(const QString& texto) {
+    QStatusTipEvent aviso{texto};
+    QCoreApplication::sendEvent(this, &aviso);
+}
+
+void VistaDeRejilla::copiar() {
+    if (model() == nullptr) {
+        return; // the window is unloaded
+    }
+    const int columna = rejilla_.ColSel();
+    const int filas = rejilla_.Rows() - 1;
+    if (todoElegido_) {
+        QGuiApplication::clipboard()->setText(AQt(RejillaParaHojas(rejilla_)));
+        decir(QStringLiteral("Copiada toda la hoja, con sus cabeceras: %1 filas.").arg(filas));
+    } else if (columna < rejilla_.Cols()) {
+        QGuiApplication::clipboard()->setText(AQt(ColumnaParaHojas(rejilla_, columna)));
+        decir(QStringLiteral("Copiada la columna «%1», con su cabecera: %2 filas.")
+                  .arg(AQt(rejilla_.TextMatrix(0, columna)))
+                  .arg(filas));
+    }
+}
+
+void VistaDeRejilla::keyPressEvent(QKeyEvent* suceso) {
+    if (suceso->matches(QKeySequence::SelectAll)) {
+        todoElegido_ = true;
+        decir(QStringLiteral("Ctrl+C copia ahora toda la hoja."));
+    } else if (suceso->matches(QKeySequence::Copy)) {
+        copiar();
+    } else {
+        todoElegido_ = todoElegido_ && suceso->key() == Qt::Key_Control;
+        QTableView::keyPressEvent(suceso);
+    }
+}
+
+void VistaDeRejilla::mousePressEvent(QMouseEvent* suceso) {
+    todoElegido_ = false;
+    QTableView::mousePressEvent(suceso);
+}
+
+void VistaDeRejilla::focusOutEvent(QFocusEvent* suceso) {
+    todoElegido_ = false;
+    QTableView::focusOutEvent(suceso);
 }
 
 } // namespace varo

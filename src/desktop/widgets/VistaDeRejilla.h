@@ -6,11 +6,14 @@
 #include <QTableView>
 
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace varo {
 
-/// A click on a header or a cell selects the whole column, and so do the arrow keys.
+/// A click on a header or a cell selects the whole column, and so do the arrow keys. Ctrl+C copies the
+/// selected column, right behind Ctrl+A all of them; a status tip tells what was copied. A column can be made
+/// wider by hand, until the grid is filled anew; the model does not hear of it.
 class VistaDeRejilla : public QTableView {
 public:
     explicit VistaDeRejilla(const Rejilla& rejilla);
@@ -25,8 +28,15 @@ protected:
     /// Whatever a person presses, one column is selected.
     [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& celda,
                                                                        const QEvent* suceso) const override;
+    void keyPressEvent(QKeyEvent* suceso) override;
+    void mousePressEvent(QMouseEvent* suceso) override;
+    void focusOutEvent(QFocusEvent* suceso) override;
 
 private:
+    void copiar();
+    void decir(const QString& texto);
+    void seguirLosAnchosAMano();
+    [[nodiscard]] int anchoDe(int columna) const;
     void medirSiHaCambiado();
     void mostrarAnchos();
     void mostrarSeleccion();
@@ -35,6 +45,9 @@ private:
     ModeloDeRejilla* modelo_;
     std::vector<int> anchos_; ///< of the columns with the texts that they hold, in pixels
     int filasMedidas_ = 0;
+    std::map<int, int> aMano_;   ///< the widths that a person gave, in pixels
+    bool ponemosAnchos_ = false; ///< the widths that change now are ours
+    bool todoElegido_ = false;   ///< Ctrl+A was the last key
 };
 
 } // namespace varo
