@@ -268,6 +268,8 @@ TEST_F(AbrirDeOtrosModos, LaBarraGuardaElMensajeDeLaUltimaCaja) {
     contestador.pulsar("Aceptar");
     clic("FrmSeleccion", "CmdAceptar");
     EXPECT_EQ(estado("EstadoMensaje"), "No se ha encontrado la hoja seleccionada. Intente de nuevo");
+    aceptarHoja();
+    EXPECT_EQ(estado("EstadoMensaje"), "");
 }
 
 } // namespace varo::prueba

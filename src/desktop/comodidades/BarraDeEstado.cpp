@@ -63,7 +63,11 @@ void BarraDeEstado::mostrar(const Programa& programa) {
     archivo_->poner(QFileInfo{ruta}.fileName(), ruta);
     const bool conHoja =
         marco != nullptr && marco->mnuCerrar.Enabled() && datos != nullptr && seleccion != nullptr;
-    hoja_->poner(conHoja ? AQt(seleccion->CboHoja.Text()) : QString{});
+    const QString hoja = conHoja ? AQt(seleccion->CboHoja.Text()) : QString{};
+    if (hoja != hoja_->texto()) {
+        mensaje_->poner({}); // what was said is about what was open before
+    }
+    hoja_->poner(hoja);
     arboles_->poner(conHoja ? CuantosArboles(datos->MSFlexGrid1.Rows() - 1) : QString{});
     mostrarUltimaColumna(conHoja ? UltimaOculta(datos->MSFlexGrid1) : QString{});
 }

@@ -15,7 +15,7 @@ class BarraDeEstado : public QObject {
 public:
     explicit BarraDeEstado(QStatusBar& barra);
 
-    /// Shows this until the next message; a text of several lines in one.
+    /// Shows this until the next message, or until a sheet opens or closes; a text of several lines in one.
     void decir(const QString& texto);
     /// Shows what the program has open now.
     void mostrar(const Programa& programa);
