@@ -60,6 +60,11 @@ void LlevarALaVista(QWidget& widget) {
     }
 }
 
+/// Null where nobody asked for pictures.
+const char* CarpetaDeFotos() {
+    return std::getenv("VARO_FOTOS");
+}
+
 /// The screen shows of the active window what the window would paint now.
 bool PintadaComoEsta() {
     QWidget* const ventana = QApplication::activeWindow();
@@ -85,7 +90,7 @@ void Manos::esperar(const std::string& que, const std::function<bool()>& condici
     const QDeadlineTimer limite{plazo};
     while (!EnElHiloDeLasVentanas(condicion)) {
         if (limite.hasExpired()) {
-            foto("fallo");
+            fotoEnMarcha("fallo");
             throw std::runtime_error{"no llega: " + que};
         }
         QThread::msleep(pausa);
@@ -153,12 +158,15 @@ QString Manos::leer(const QString& ventana, const QString& control,
 }
 
 void Manos::foto(const std::string& nombre) const {
-    const char* const carpeta = std::getenv("VARO_FOTOS");
-    if (carpeta != nullptr) {
+    if (CarpetaDeFotos() != nullptr) {
         QThread::msleep(asiento);
     }
     esperar("que se pinte lo de «" + nombre + "»", PintadaComoEsta);
-    if (carpeta != nullptr) {
+    fotoEnMarcha(nombre);
+}
+
+void Manos::fotoEnMarcha(const std::string& nombre) const {
+    if (const char* const carpeta = CarpetaDeFotos()) {
         EnElHiloDeLasVentanas([&] {
             return QApplication::primaryScreen()->grabWindow(0).save(QString{carpeta} + "/" +
                                                                      QString::fromStdString(nombre) + ".png");

@@ -40,8 +40,10 @@ public:
                  const std::function<QString(QWidget&)>& lectura) const;
 
     /// Waits until the screen shows the active window as it is now: a part that nobody repaints fails here.
-    /// Saves a picture of the screen in the folder that VARO_FOTOS names, if it names one.
+    /// Then `fotoEnMarcha`.
     void foto(const std::string& nombre) const;
+    /// Saves a picture of the screen in the folder that VARO_FOTOS names, if it names one.
+    void fotoEnMarcha(const std::string& nombre) const;
 
     static QPoint enElCentro(QWidget& widget) { return widget.rect().center(); }
 };
