@@ -18,11 +18,16 @@ double EntreMenosUnoYUno(double x) {
 
 } // namespace
 
-double ExigirFinito(double numero) {
-    if (!std::isfinite(numero)) {
-        throw ErrorEjecucion{fallo::desbordamiento};
-    }
-    return numero;
+void FallarPorDesbordamiento() {
+    throw ErrorEjecucion{fallo::desbordamiento};
+}
+
+void FallarPorDivisionPorCero() {
+    throw ErrorEjecucion{fallo::divisionPorCero};
+}
+
+void FallarPorArgumento() {
+    throw ErrorEjecucion{fallo::argumentoNoValido};
 }
 
 float ASimple(double numero) {
@@ -31,31 +36,14 @@ float ASimple(double numero) {
     return simple;
 }
 
-double Dividir(double a, double b) {
-    if (b == 0) {
-        throw ErrorEjecucion{fallo::divisionPorCero};
-    }
-    return ExigirFinito(a / b);
-}
-
-double Raiz(double x) {
-    if (x < 0) {
-        throw ErrorEjecucion{fallo::argumentoNoValido};
-    }
-    return ExigirFinito(std::sqrt(x));
-}
-
-double Potencia(double a, double b) {
+double PotenciaPorPow(double a, double b) {
     if (a == 0 && b < 0) {
-        throw ErrorEjecucion{fallo::divisionPorCero};
+        FallarPorDivisionPorCero();
     }
     if (a < 0 && b != std::trunc(b)) {
-        throw ErrorEjecucion{fallo::argumentoNoValido};
+        FallarPorArgumento();
     }
-    if (b == 1) {
-        return ExigirFinito(a); // what std::pow gives too, and sooner
-    }
-    return b == 0 ? 1 : ExigirFinito(std::pow(a, b));
+    return ExigirFinito(std::pow(a, b));
 }
 
 double Asin(double x) {

@@ -74,10 +74,6 @@ std::size_t PuntosDeUnoEnUno(double xDesde, double xHasta, double yDesde, double
 
 } // namespace
 
-double Distancia(double x1, double y1, double x2, double y2) {
-    return Raiz((x2 - x1) * (x2 - x1) + (y2 - y1) * (y2 - y1));
-}
-
 double Maximo(double a, double b) {
     return b > a ? b : a;
 }
@@ -87,11 +83,6 @@ double AreaTrianguloPuntos(double x1, double y1, double x2, double y2, double x3
     const double b = Distancia(x2, y2, x3, y3);
     const double c = Distancia(x3, y3, x1, y1);
     return AreaTrianguloLados(a, b, c);
-}
-
-double AreaTrianguloLados(double a, double b, double c) {
-    const double s = ((a + b) + c) / 2.0;
-    return Raiz(((s * (s - a)) * (s - b)) * (s - c)); // In another order the last digits change.
 }
 
 double AlturaTriangulo(double x1, double y1, double x2, double y2, double x3, double y3) {
@@ -120,8 +111,9 @@ double AnguloVertice(double x1, double y1, double x2, double y2, double x3, doub
 }
 
 double AnguloDireccion(double x1, double y1, double x2, double y2) {
-    const double A = AreaTrianguloPuntos(x1, y1, x1 + 1.0, y1, x2, y2);
-    const double t = Asin(Dividir(A * 2.0, Distancia(x1, y1, x2, y2))) * gradosPorRadian;
+    const double L = Distancia(x1, y1, x2, y2);
+    const double A = AreaTrianguloLados(Distancia(x1, y1, x1 + 1.0, y1), Distancia(x1 + 1.0, y1, x2, y2), L);
+    const double t = Asin(Dividir(A * 2.0, L)) * gradosPorRadian;
 
     // Meant: 1 is taken off before comparing, so that a difference too small to survive it counts as none.
     const double ux1 = x1 - 1.0;

@@ -15,15 +15,20 @@ namespace varo {
 inline constexpr double gradosPorRadian = 180.0 / numeroPi;
 
 /// Distance between two points.
-double Distancia(double x1, double y1, double x2, double y2);
+inline double Distancia(double x1, double y1, double x2, double y2) {
+    return Raiz((x2 - x1) * (x2 - x1) + (y2 - y1) * (y2 - y1));
+}
 
 /// The larger of the two; the first when they are equal.
 double Maximo(double a, double b);
 
 /// Area of a triangle by Heron's formula, from its corners and from its sides. A negative value under the
 /// root (collinear points, by rounding) throws 5.
+inline double AreaTrianguloLados(double a, double b, double c) {
+    const double s = ((a + b) + c) / 2.0;
+    return Raiz(((s * (s - a)) * (s - b)) * (s - c)); // In another order the last digits change.
+}
 double AreaTrianguloPuntos(double x1, double y1, double x2, double y2, double x3, double y3);
-double AreaTrianguloLados(double a, double b, double c);
 
 /// Height from point 1 over the base from point 2 to point 3. Points 2 and 3 in one place throw 11.
 double AlturaTriangulo(double x1, double y1, double x2, double y2, double x3, double y3);
