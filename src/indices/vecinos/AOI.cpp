@@ -39,7 +39,8 @@ class ColumnaAOI {
 public:
     ColumnaAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k)
         : arboles_{vecindad.arboles}, vecindad_{vecindad}, lado_{lado}, radios_{radios}, k_{k},
-          sinFallos_{vecindad.buscador.fiable() && radios_.todosSinFallo() && PesosSinFallo(arboles_, k)} {}
+          cercanas_{vecindad.arboles}, sinFallos_{vecindad.buscador.fiable() && radios_.todosSinFallo() &&
+                                                  PesosSinFallo(arboles_, k)} {}
 
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
@@ -71,7 +72,7 @@ private:
             return vecindad_.todas;
         }
         vecindad_.buscador.buscar(i, Ri + radios_.mayor(), cercanas_);
-        return cercanas_;
+        return cercanas_.filas;
     }
 
     [[nodiscard]] double parte(std::size_t i, std::size_t j, double Ri) const {
@@ -103,7 +104,7 @@ private:
     Lado lado_;
     const RadiosDeInfluencia& radios_;
     double k_;
-    std::vector<Cuadricula::Fila> cercanas_;
+    ArbolesCercanos cercanas_;
     bool sinFallos_;
 };
 

@@ -62,9 +62,11 @@ Arboles::Arboles(CeldasDeArboles celdas, const UnidadesTallo& unidades, const Co
     : celdas_{std::move(celdas)}, vertice_{MarcarVertices(celdas_, contorno)} {
     const FactoresDeTamano factores = FactoresDe(unidades);
     diametro_.reserve(cuantos());
+    d_.reserve(cuantos());
     for (std::size_t i = 0; i < cuantos(); ++i) {
         const double diametro = celdas_.tamano.legible(i) ? ADiametro(tamano(i), factores) : sinNumero;
         diametro_.push_back(std::isfinite(diametro) ? diametro : sinNumero);
+        d_.push_back(diametro_.back() / 100);
     }
 }
 

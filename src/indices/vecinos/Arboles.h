@@ -10,6 +10,7 @@
 #include <cmath>
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,9 @@ public:
         }
         return numeros_[i];
     }
+
+    /// Of all cells, with a NaN where `numero` throws.
+    [[nodiscard]] std::span<const double> numeros() const { return numeros_; }
 
     [[nodiscard]] const Padron& padron() const { return *padron_; }
     /// Adds the column and the row of the tree to a fault.
@@ -89,7 +93,12 @@ public:
         return diametro_[i];
     }
     /// Diameter in metres; faults as `diametro`.
-    [[nodiscard]] double d(std::size_t i) const { return diametro(i) / 100; }
+    [[nodiscard]] double d(std::size_t i) const {
+        if (std::isnan(d_[i])) {
+            fallarDiametro(i);
+        }
+        return d_[i];
+    }
 
     /// Whether the texts of both coordinates equal those of a vertex of the boundary. It converts nothing.
     [[nodiscard]] bool esVertice(std::size_t i) const { return vertice_[i]; }
@@ -98,7 +107,7 @@ private:
     [[noreturn]] void fallarDiametro(std::size_t i) const;
 
     CeldasDeArboles celdas_;
-    std::vector<double> diametro_; ///< NaN where asking for it faults
+    std::vector<double> diametro_, d_; ///< NaN where asking for it faults
     std::vector<bool> vertice_;
 };
 

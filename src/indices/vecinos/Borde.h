@@ -4,8 +4,10 @@
 #include "indices/vecinos/Arboles.h"
 #include "plot/calculo/Module1.h"
 
+#include <array>
 #include <cstddef>
 #include <limits>
+#include <optional>
 #include <vector>
 
 namespace varo {
@@ -21,6 +23,12 @@ public:
     [[nodiscard]] bool algunaAlturaMenor(std::size_t i, double limite);
     /// The same with equality.
     [[nodiscard]] bool algunaAlturaMenorOIgual(std::size_t i, double limite);
+    /// The least height (m) of tree i, infinity where there are no sides; nothing where the height over some
+    /// side cannot be computed.
+    [[nodiscard]] std::optional<double> alturaMinima(std::size_t i) {
+        const Alturas& suyas = alturas(i);
+        return suyas.ladoConFallo == ninguno ? std::optional{suyas.minima} : std::nullopt;
+    }
     /// Throws where the height of tree i over some side cannot be computed.
     void exigirAlturas(std::size_t i) { exigirSinFallo(i, alturas(i)); }
 
@@ -29,19 +37,33 @@ public:
 private:
     static constexpr std::size_t ninguno = std::numeric_limits<std::size_t>::max();
 
+    static constexpr std::size_t aLaVez = 4;
+
+    /// Some sides: one end, the way to the other end and its length (m).
+    struct Lados {
+        std::array<double, aLaVez> x{}, y{}, haciaX{}, haciaY{}, largo{};
+    };
+
     struct Alturas {
         bool calculadas = false;
         double minima = std::numeric_limits<double>::infinity(); ///< of the sides before the faulty one
         std::size_t ladoConFallo = ninguno;
     };
 
+    void agruparLados();
+    /// Whether no height of tree i is near the limit (m) or below, nor can fault. It is right where it says
+    /// so.
+    [[nodiscard]] bool muyAdentro(std::size_t i, double limite) const;
     const Alturas& alturas(std::size_t i);
     Alturas calcular(std::size_t i) const;
+    Alturas calcularPasoAPaso(double x, double y) const;
     void exigirSinFallo(std::size_t i, const Alturas& alturas) const;
 
     const Arboles& arboles_;
     ContornoXY contorno_;
     std::vector<double> lados_; ///< their lengths
+    std::vector<Lados> grupos_; ///< the same sides; the last one again where a group is not full
+    double x0_ = 0, y0_ = 0, x1_ = 0, y1_ = 0; ///< the extent of the boundary (m)
     std::vector<Alturas> porArbol_;
 };
 

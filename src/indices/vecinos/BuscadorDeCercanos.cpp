@@ -47,41 +47,58 @@ BuscadorDeCercanos::BuscadorDeCercanos(const Arboles& arboles) : arboles_{arbole
         d_.push_back(arboles.d(i));
     }
     mayorD_ = *std::max_element(d_.begin(), d_.end());
-    comparteSitio_.resize(arboles.cuantos());
-    std::vector<Fila> enElSitio;
-    for (const Fila i : cuadricula_.filas()) {
-        buscar(i, 0, enElSitio);
-        comparteSitio_[i] = !enElSitio.empty();
+    marcarLosQueCompartenSitio();
+}
+
+/// Two trees at distance 0 are in one cell. Their coordinates may differ where the square of the difference
+/// is 0: by less than 1E-161, so that both are next to 0, and the distances to the corner of a grid whose
+/// cells are not as small as that are the same number, or less than a cell's side.
+void BuscadorDeCercanos::marcarLosQueCompartenSitio() {
+    comparteSitio_.resize(arboles_.cuantos());
+    constexpr double minusculo = 1E-100;
+    if (cuadricula_.lado() < minusculo) {
+        ArbolesCercanos enElSitio{arboles_};
+        for (const Fila i : cuadricula_.filas()) {
+            buscar(i, 0, enElSitio);
+            comparteSitio_[i] = !enElSitio.filas.empty();
+        }
+        return;
     }
+    const auto& filas = cuadricula_.filas();
+    cuadricula_.recorrerParejasDeCasilla([&](std::size_t uno, std::size_t otro) {
+        const double dx = cuadricula_.x(uno) - cuadricula_.x(otro);
+        const double dy = cuadricula_.y(uno) - cuadricula_.y(otro);
+        if (dx * dx + dy * dy == 0) {
+            comparteSitio_[filas[uno]] = true;
+            comparteSitio_[filas[otro]] = true;
+        }
+    });
 }
 
 /// `alcanceDe` gives the reach (m) of the tree in a place of the grid, `mayorAlcance` at the most.
 template <class Alcance>
 void BuscadorDeCercanos::buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe,
-                                  std::vector<Fila>& cercanas) const {
+                                  ArbolesCercanos& cercanas) const {
     assert(fiable_);
-    cercanas.clear();
     const double x = arboles_.x(i);
     const double y = arboles_.y(i);
     cuadricula_.recorrerCuadro(x, y, mayorAlcance, [&](std::size_t lugar) {
         const double dx = cuadricula_.x(lugar) - x;
         const double dy = cuadricula_.y(lugar) - y;
         const double alcance = alcanceDe(lugar);
-        if (dx * dx + dy * dy <= alcance * alcance && cuadricula_.fila(lugar) != i) {
-            cercanas.push_back(cuadricula_.fila(lugar));
-        }
+        cercanas.orden_.tomarSi(dx * dx + dy * dy <= alcance * alcance, cuadricula_.fila(lugar));
     });
-    std::sort(cercanas.begin(), cercanas.end());
+    cercanas.orden_.vaciarEn(cercanas.filas, static_cast<Fila>(i));
 }
 
-void BuscadorDeCercanos::buscar(std::size_t i, double radio, std::vector<Fila>& cercanas) const {
+void BuscadorDeCercanos::buscar(std::size_t i, double radio, ArbolesCercanos& cercanas) const {
     const double alcance = ConHolgura(std::max(radio, 0.0));
     buscarEn(
         i, alcance, [&](std::size_t) { return alcance; }, cercanas);
 }
 
 void BuscadorDeCercanos::buscarPorTamano(std::size_t i, double porD, double radio,
-                                         std::vector<Fila>& cercanas) const {
+                                         ArbolesCercanos& cercanas) const {
     const auto alcanceDe = [&](double d) { return ConHolgura(std::max(porD * d, radio)); };
     buscarEn(
         i, alcanceDe(mayorD_), [&](std::size_t lugar) { return alcanceDe(d_[lugar]); }, cercanas);

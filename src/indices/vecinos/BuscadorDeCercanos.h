@@ -4,12 +4,26 @@
 
 #include "indices/vecinos/Arboles.h"
 #include "plot/calculo/Cuadricula.h"
+#include "plot/calculo/FilasEnOrden.h"
 
 #include <cassert>
 #include <cstddef>
 #include <vector>
 
 namespace varo {
+
+/// The trees that a search finds, in the order of the rows, and what it needs to find them. Each walk over
+/// the trees has its own.
+class ArbolesCercanos {
+public:
+    explicit ArbolesCercanos(const Arboles& arboles) : orden_{arboles.cuantos()} {}
+
+    std::vector<Cuadricula::Fila> filas;
+
+private:
+    friend class BuscadorDeCercanos;
+    FilasEnOrden orden_;
+};
 
 class BuscadorDeCercanos {
 public:
@@ -22,11 +36,11 @@ public:
     /// asked.
     [[nodiscard]] bool fiable() const { return fiable_; }
 
-    /// Replaces `cercanas` by the trees within a distance (m) of tree i, itself left out, in the order of the
-    /// rows. It may take in trees that are farther by a rounding; it never leaves one out.
-    void buscar(std::size_t i, double radio, std::vector<Fila>& cercanas) const;
+    /// Replaces the rows of `cercanas` by the trees within a distance (m) of tree i, itself left out. It may
+    /// take in trees that are farther by a rounding; it never leaves one out.
+    void buscar(std::size_t i, double radio, ArbolesCercanos& cercanas) const;
     /// The same with a distance for each tree: `porD` times its d, or `radio` where that is more.
-    void buscarPorTamano(std::size_t i, double porD, double radio, std::vector<Fila>& cercanas) const;
+    void buscarPorTamano(std::size_t i, double porD, double radio, ArbolesCercanos& cercanas) const;
 
     /// Whether another tree stands at distance 0.
     [[nodiscard]] bool comparteSitio(std::size_t i) const {
@@ -55,8 +69,10 @@ private:
         return cuadricula_;
     }
 
+    void marcarLosQueCompartenSitio();
+
     template <class Alcance>
-    void buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe, std::vector<Fila>& cercanas) const;
+    void buscarEn(std::size_t i, double mayorAlcance, Alcance alcanceDe, ArbolesCercanos& cercanas) const;
 
     const Arboles& arboles_;
     bool fiable_ = true;

@@ -17,7 +17,33 @@ struct ColumnaDR {
     Lado lado;
     EntradaDeDistancia& entrada;
     double k;
+
+    /// What an accepted competitor adds.
+    [[nodiscard]] double sumando(double f, double dj, double di) const {
+        const double razon = Porque(
+            fallo::divisionPorCero, [] { return "el tamaño del árbol es 0"; },
+            [&] { return Dividir(dj, di); });
+        return f * Potencia(razon, k);
+    }
 };
+
+/// The index of a subject none of whose candidates can fault, but for the function of the distance and the
+/// sum: the cause of that fault is given once about them all.
+double IndiceSinFallos(Pareja& pareja, const ColumnaDR& columna, double di) {
+    const FuncionDeDistancia* funcion = nullptr;
+    double suma = 0;
+    const auto sumar = [&](const Juzgado& j) {
+        funcion = funcion != nullptr ? funcion : &columna.entrada.funcion();
+        const double f = funcion->en(j.L);
+        if (j.veredicto.juicio == Veredicto::Juicio::Aceptado) {
+            suma = ExigirFinito(suma + columna.sumando(f, j.d, di));
+        }
+        return j.veredicto.juicio != Veredicto::Juicio::Borde;
+    };
+    const bool hastaElFinal = FuncionDeDistancia::explicando(
+        [&] { return RecorrerJuzgados(columna.seleccion.juzgados(), pareja, sumar); });
+    return hastaElFinal ? suma : efectoBorde;
+}
 
 double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
     const Arboles& arboles = columna.arboles;
@@ -36,16 +62,16 @@ double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
     if (apartados && !entrada.sinFallosEntre(apartados->desde, apartados->hasta)) {
         seleccion.mirarTodos();
     }
+    if (seleccion.sinFallos()) {
+        return IndiceSinFallos(pareja, columna, di);
+    }
     double suma = 0;
     const auto sumar = [&](std::size_t j, double dj) {
         // Meant: before the rule, so that a fault in f counts for a candidate that would be rejected.
-        const double f = entrada.funcion().en(seleccion.L(j));
+        const double f = FuncionDeDistancia::explicando([&] { return entrada.funcion().en(seleccion.L(j)); });
         const Veredicto veredicto = seleccion.juzgar(j);
         if (veredicto.juicio == Veredicto::Juicio::Aceptado) {
-            const double razon = Porque(
-                fallo::divisionPorCero, [] { return "el tamaño del árbol es 0"; },
-                [&] { return Dividir(dj, di); });
-            suma = ExigirFinito(suma + f * Potencia(razon, columna.k));
+            suma = ExigirFinito(suma + columna.sumando(f, dj, di));
         }
         return veredicto.juicio != Veredicto::Juicio::Borde;
     };
@@ -56,13 +82,6 @@ double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
 }
 
 } // namespace
-
-const FuncionDeDistancia& EntradaDeDistancia::funcion() {
-    if (!funcion_) {
-        funcion_ = LeerFuncionDeDistancia(texto_);
-    }
-    return *funcion_;
-}
 
 bool EntradaDeDistancia::sinFallosEntre(double desde, double hasta) {
     assert(desde <= hasta);

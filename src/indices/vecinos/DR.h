@@ -18,7 +18,12 @@ class EntradaDeDistancia {
 public:
     explicit EntradaDeDistancia(std::string texto) : texto_{std::move(texto)} {}
 
-    const FuncionDeDistancia& funcion();
+    const FuncionDeDistancia& funcion() {
+        if (!funcion_) {
+            funcion_ = LeerFuncionDeDistancia(texto_);
+        }
+        return *funcion_;
+    }
     /// True only if the function can be read and does not fault between two distances (m), `desde` <=
     /// `hasta`.
     bool sinFallosEntre(double desde, double hasta);

@@ -79,24 +79,9 @@ bool PotenciaAcotada(double exponente, double desde, double hasta) {
 
 } // namespace
 
-double SumaDePotencias::en(double x) const {
-    const double deC = Potencia(x, c);
-    const double deE = Potencia(x, e);
-    return ExigirFinito(a + b * deC + d * deE);
-}
-
 SumaDePotencias LeerRadioDeInfluencia(const std::string& entrada) {
     const PartesDeEntrada partes{entrada};
     return LeerSuma(partes, PartesDeEntrada::redondeado(ANumero(partes.primero("b"))));
-}
-
-double FuncionDeDistancia::en(double L) const {
-    return Porque(
-        fallo::divisionPorCero, [] { return "la función de la distancia divide por 0 a la que los separa"; },
-        [&] {
-            const double s = suma.en(L);
-            return exponencial ? ExigirFinito(std::exp(-s)) : Dividir(1, s);
-        });
 }
 
 bool FuncionDeDistancia::sinFallosEntre(double desde, double hasta) const {

@@ -4,7 +4,12 @@
 // An entry that lacks a letter throws 5; a parameter that is no number throws 13.
 #pragma once
 
+#include "basico/Aritmetica.h"
+#include "basico/EnLugar.h"
+
+#include <cmath>
 #include <string>
+#include <utility>
 
 namespace varo {
 
@@ -12,7 +17,11 @@ namespace varo {
 struct SumaDePotencias {
     double a = 0, b = 0, c = 0, d = 0, e = 0;
 
-    [[nodiscard]] double en(double x) const;
+    [[nodiscard]] double en(double x) const {
+        const double deC = Potencia(x, c);
+        const double deE = Potencia(x, e);
+        return ExigirFinito(a + b * deC + d * deE);
+    }
 };
 
 /// "a: 0,5000; b: ...; e: 0,0000": the radius of influence (m) of a diameter (cm).
@@ -24,7 +33,18 @@ struct FuncionDeDistancia {
     SumaDePotencias suma;
 
     /// exp(-s), or 1 / s, of the sum s at distance L. In the second form s = 0 throws 11.
-    [[nodiscard]] double en(double L) const;
+    [[nodiscard]] double en(double L) const {
+        const double s = suma.en(L);
+        return exponencial ? ExigirFinito(std::exp(-s)) : Dividir(1, s);
+    }
+    /// Runs `acto`, which asks `en`; a division by zero that has no cause yet gets this one.
+    template <class Acto>
+    static decltype(auto) explicando(Acto&& acto) {
+        return Porque(
+            fallo::divisionPorCero,
+            [] { return "la función de la distancia divide por 0 a la que los separa"; },
+            std::forward<Acto>(acto));
+    }
     /// True only if `en` faults nowhere between two distances, the first one above 0.
     [[nodiscard]] bool sinFallosEntre(double desde, double hasta) const;
 };

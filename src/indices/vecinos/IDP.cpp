@@ -19,18 +19,25 @@ double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, La
     seleccion.empezar(i, lado);
     double suma = 0;
     int m = 0;
-    const auto sumar = [&](std::size_t j, double dj) {
-        const Veredicto veredicto = seleccion.juzgar(j);
+    const auto sumar = [&](double dj, const Veredicto& veredicto, auto distancia) {
         if (veredicto.juicio == Veredicto::Juicio::Aceptado) {
             const double razon = Porque(
                 fallo::divisionPorCero, [] { return "los dos árboles están en el mismo sitio"; },
-                [&] { return Dividir(dj, seleccion.L(j)); });
+                [&] { return Dividir(dj, distancia()); });
             suma = ExigirFinito(suma + (veredicto.rango + h) * (razon * razon));
             ++m;
         }
         return veredicto.juicio != Veredicto::Juicio::Borde;
     };
-    if (!RecorrerCompetidores<&Arboles::d>(arboles, seleccion.candidatos(), lado, pareja, sumar)) {
+    const bool hastaElFinal =
+        seleccion.sinFallos()
+            ? RecorrerJuzgados(seleccion.juzgados(), pareja,
+                               [&](const Juzgado& j) { return sumar(j.d, j.veredicto, [&] { return j.L; }); })
+            : RecorrerCompetidores<&Arboles::d>(
+                  arboles, seleccion.candidatos(), lado, pareja, [&](std::size_t j, double dj) {
+                      return sumar(dj, seleccion.juzgar(j), [&] { return seleccion.L(j); });
+                  });
+    if (!hastaElFinal) {
         return efectoBorde;
     }
     return m > 0 ? ExigirFinito(Dividir(2500, m) * suma) : 0;

@@ -23,7 +23,8 @@ float MedidaSimple(double numero) {
 class VarianteISC {
 public:
     VarianteISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado)
-        : arboles_{vecindad.arboles}, vecindad_{vecindad}, radios_{radios}, lado_{lado} {}
+        : arboles_{vecindad.arboles}, vecindad_{vecindad}, radios_{radios}, lado_{lado},
+          cercanas_{vecindad.arboles} {}
 
     double indice(Pareja& pareja) {
         const std::size_t i = pareja.sujeto;
@@ -58,7 +59,7 @@ private:
             return vecindad_.todas;
         }
         vecindad_.buscador.buscar(i, ri + static_cast<double>(radios_.mayor()), cercanas_);
-        return cercanas_;
+        return cercanas_.filas;
     }
 
     [[nodiscard]] double interseccion(std::size_t i, std::size_t j, double ri) const {
@@ -80,7 +81,7 @@ private:
     Vecindad& vecindad_;
     const RadiosDeCopa& radios_;
     Lado lado_;
-    std::vector<Cuadricula::Fila> cercanas_;
+    ArbolesCercanos cercanas_;
 };
 
 } // namespace

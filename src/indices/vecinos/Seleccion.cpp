@@ -21,7 +21,7 @@ constexpr Veredicto borde{Veredicto::Juicio::Borde};
 } // namespace
 
 Seleccion::Seleccion(Vecindad& vecindad, ReglaDeSeleccion regla, OrdenDeRango orden)
-    : vecindad_{vecindad}, arboles_{vecindad.arboles}, regla_{regla}, orden_{orden} {}
+    : vecindad_{vecindad}, arboles_{vecindad.arboles}, regla_{regla}, orden_{orden}, cercanas_{arboles_} {}
 
 void Seleccion::poner(double p) {
     assert(regla_ != ReglaDeSeleccion::Funcion);
@@ -41,8 +41,10 @@ void Seleccion::poner(std::string entrada) {
 void Seleccion::empezar(std::size_t i, Lado lado) {
     assert(puesta_ && !arboles_.sinTamano(i));
     sujeto_ = i;
+    lado_ = lado;
     limite_.reset();
     clavesListas_ = false;
+    sinFallos_ = false;
     const auto& buscador = vecindad_.buscador;
     pasoAPaso_ = !buscador.fiable() || (orden_ == OrdenDeRango::PorAngulo && buscador.comparteSitio(i));
     if (pasoAPaso_) {
@@ -59,8 +61,16 @@ void Seleccion::empezar(std::size_t i, Lado lado) {
         break;
     case ReglaDeSeleccion::Funcion:
     case ReglaDeSeleccion::Distancia:
-        empezarPorLimite(lado);
+        empezarPorLimite();
         break;
+    }
+}
+
+/// What is left to fault, once nothing about the pairs can: the heights of the subject.
+void Seleccion::confiar() {
+    if (const auto altura = vecindad_.borde.alturaMinima(*sujeto_)) {
+        alturaMinima_ = *altura;
+        sinFallos_ = true;
     }
 }
 
@@ -73,7 +83,10 @@ void Seleccion::empezarPorAngulo() {
     // All trees within one cell's side are candidates, so that those left out stand at a distance.
     alcance_ = vecindad_.buscador.lado();
     vecindad_.buscador.buscarPorTamano(*sujeto_, 50 / std::sqrt(p_), alcance_, cercanas_);
-    candidatos_ = cercanas_;
+    candidatos_ = cercanas_.filas;
+    if (!vecindad_.buscador.comparteSitio(*sujeto_)) {
+        confiar();
+    }
 }
 
 /// Searches wider and wider circles, until no tree outside can rank among the first p.
@@ -88,6 +101,7 @@ void Seleccion::empezarPorNumero() {
     double radio = buscador.lado() * std::sqrt(abundantes / (2 * numeroPi));
     for (;; radio *= 1.5) {
         proponer(radio);
+        reunirClaves();
         ordenarClaves();
         if (radio >= buscador.extension()) {
             break;
@@ -100,42 +114,44 @@ void Seleccion::empezarPorNumero() {
     if (static_cast<double>(claves_.size()) > puesto) {
         dejarLosPrimeros(puesto);
     }
+    confiar();
 }
 
 void Seleccion::dejarLosPrimeros(double puesto) {
     const double umbral = claves_[static_cast<std::size_t>(puesto) - 1];
-    std::erase_if(cercanas_, [&](Fila j) { return clave(j) < umbral; });
-    candidatos_ = cercanas_;
+    std::erase_if(cercanas_.filas, [&](Fila j) { return clave(j) < umbral; });
+    candidatos_ = cercanas_.filas;
     alcance_ = orden_ == OrdenDeRango::PorDistancia ? -umbral : 0;
 }
 
-/// The first competitor decides whether the subject is a border tree, however far it stands.
-void Seleccion::empezarPorLimite(Lado lado) {
-    cercanas_.clear();
-    candidatos_ = cercanas_;
-    alcance_ = sinLimite;
-    assert(vecindad_.primero);
-    const auto primero = vecindad_.primero->de(*sujeto_, lado);
-    if (!primero) {
-        return;
-    }
+/// The heights and the limit are the same for all candidates: the first one decides whether the subject is a
+/// border tree, however far it stands.
+void Seleccion::empezarPorLimite() {
     bool sigue = false;
     Saltando([&] { sigue = !vecindad_.borde.algunaAlturaMenor(*sujeto_, limite()); });
     if (sigue) {
         proponer(std::max(limite(), vecindad_.buscador.lado()));
+        sinFallos_ = true;
+    } else {
+        dejarElPrimero();
     }
-    const auto j = static_cast<Fila>(*primero);
-    const auto sitio = std::lower_bound(cercanas_.begin(), cercanas_.end(), j);
-    if (sitio == cercanas_.end() || *sitio != j) {
-        cercanas_.insert(sitio, j);
+}
+
+/// The one that ends the subject, if there is one.
+void Seleccion::dejarElPrimero() {
+    assert(vecindad_.primero);
+    cercanas_.filas.clear();
+    if (const auto primero = vecindad_.primero->de(*sujeto_, lado_)) {
+        cercanas_.filas.push_back(static_cast<Fila>(*primero));
     }
-    candidatos_ = cercanas_;
+    candidatos_ = cercanas_.filas;
+    alcance_ = sinLimite;
 }
 
 void Seleccion::proponer(double alcance) {
     alcance_ = alcance;
     vecindad_.buscador.buscar(*sujeto_, alcance, cercanas_);
-    candidatos_ = cercanas_;
+    candidatos_ = cercanas_.filas;
 }
 
 std::optional<Seleccion::Distancias> Seleccion::distanciasDeApartados() const {
@@ -144,6 +160,71 @@ std::optional<Seleccion::Distancias> Seleccion::distanciasDeApartados() const {
         return std::nullopt;
     }
     return Distancias{alcance_, vecindad_.buscador.extension()};
+}
+
+std::span<const Juzgado> Seleccion::juzgados() {
+    assert(sinFallos());
+    medirCercanas();
+    const auto& filas = cercanas_.filas;
+    juzgados_.resize(filas.size());
+    std::size_t cuantos = 0;
+    const double suya = arboles_.d(*sujeto_);
+    for (std::size_t n = 0; n < filas.size(); ++n) {
+        const double d = arboles_.d(filas[n]);
+        if (!PuedeCompetir(lado_, d, suya)) {
+            continue;
+        }
+        const Veredicto veredicto = juzgarSinFallos(d, distancias_[n]);
+        juzgados_[cuantos++] = {filas[n], d, distancias_[n], veredicto};
+        if (veredicto.juicio == Veredicto::Juicio::Borde) {
+            break;
+        }
+    }
+    return {juzgados_.data(), cuantos};
+}
+
+/// The roots apart, so that they are taken side by side.
+void Seleccion::medirCercanas() {
+    const std::span<const double> x = arboles_.celdas().x.numeros();
+    const std::span<const double> y = arboles_.celdas().y.numeros();
+    const double xi = x[*sujeto_];
+    const double yi = y[*sujeto_];
+    const auto& filas = cercanas_.filas;
+    distancias_.resize(filas.size());
+    for (std::size_t n = 0; n < filas.size(); ++n) {
+        const double dx = x[filas[n]] - xi;
+        const double dy = y[filas[n]] - yi;
+        distancias_[n] = dx * dx + dy * dy;
+    }
+    for (double& L : distancias_) {
+        L = std::sqrt(L);
+    }
+}
+
+/// As `juzgar`, step by step.
+Veredicto Seleccion::juzgarSinFallos(double d, double L) {
+    constexpr auto aceptado = Veredicto::Juicio::Aceptado;
+    const auto rangoPorAngulo = [&] { return orden_ == OrdenDeRango::PorAngulo ? rangoDe(d / L) : 1; };
+    switch (regla_) {
+    case ReglaDeSeleccion::BAF: {
+        const double raiz = std::sqrt(p_);
+        if (!(d / L > raiz / 50)) {
+            return rechazado;
+        }
+        return alturaMinima_ < d * 50 / raiz ? borde : Veredicto{aceptado, rangoPorAngulo()};
+    }
+    case ReglaDeSeleccion::NumeroFijo: {
+        const int suyo = rangoDe(claveDe(d, L));
+        if (pasaDelNumero(suyo)) {
+            return rechazado;
+        }
+        return alturaMinima_ < L ? borde : Veredicto{aceptado, suyo};
+    }
+    case ReglaDeSeleccion::Funcion:
+    case ReglaDeSeleccion::Distancia:
+        break;
+    }
+    return L <= limite() ? Veredicto{aceptado, rangoPorAngulo()} : rechazado;
 }
 
 Veredicto Seleccion::juzgar(std::size_t j) {
@@ -227,26 +308,48 @@ double Seleccion::clave(std::size_t j) const {
     return orden_ == OrdenDeRango::PorAngulo ? razon(j) : -L(j);
 }
 
-int Seleccion::rango(std::size_t j) {
-    if (pasoAPaso_) {
-        return rangoPasoAPaso(j);
-    }
-    if (!clavesListas_) {
-        ordenarClaves();
-    }
-    const auto noMejor = std::lower_bound(claves_.begin(), claves_.end(), clave(j), std::greater<>{});
-    return static_cast<int>(noMejor - claves_.begin()) + 1;
+double Seleccion::claveDe(double d, double L) const {
+    return orden_ == OrdenDeRango::PorAngulo ? d / L : -L;
 }
 
-void Seleccion::ordenarClaves() {
+int Seleccion::rango(std::size_t j) {
+    return pasoAPaso_ ? rangoPasoAPaso(j) : rangoDe(clave(j));
+}
+
+/// Of a few keys the better ones are sooner counted than the keys sorted.
+int Seleccion::rangoDe(double clave) {
+    constexpr std::size_t pocas = 128;
+    if (!clavesListas_) {
+        reunirClaves();
+        if (claves_.size() > pocas) {
+            ordenarClaves();
+        }
+    }
+    if (clavesEnOrden_) {
+        const auto noMejor = std::lower_bound(claves_.begin(), claves_.end(), clave, std::greater<>{});
+        return static_cast<int>(noMejor - claves_.begin()) + 1;
+    }
+    std::size_t mejores = 0;
+    for (const double otra : claves_) {
+        mejores += otra > clave ? 1 : 0;
+    }
+    return static_cast<int>(mejores) + 1;
+}
+
+void Seleccion::reunirClaves() {
     claves_.clear();
-    for (const Fila m : cercanas_) {
+    for (const Fila m : cercanas_.filas) {
         if (!limita() || L(m) <= limite()) {
             claves_.push_back(clave(m));
         }
     }
-    std::sort(claves_.begin(), claves_.end(), std::greater<>{});
     clavesListas_ = true;
+    clavesEnOrden_ = false;
+}
+
+void Seleccion::ordenarClaves() {
+    std::sort(claves_.begin(), claves_.end(), std::greater<>{});
+    clavesEnOrden_ = true;
 }
 
 /// The rank counted tree by tree, for a subject with which some step may fault. Under a fixed number the

@@ -4,6 +4,7 @@
 
 #include "indices/vecinos/FuncionesDeLista.h"
 #include "indices/vecinos/Lado.h"
+#include "indices/vecinos/Marcas.h"
 #include "indices/vecinos/Vecindad.h"
 
 #include <cassert>
@@ -29,6 +30,14 @@ struct Veredicto {
     enum class Juicio { Rechazado, Borde, Aceptado };
     Juicio juicio = Juicio::Rechazado;
     int rango = 1; ///< holds only for an accepted candidate, ranked by angle or under a fixed number
+};
+
+/// A candidate and what became of it.
+struct Juzgado {
+    Cuadricula::Fila fila = 0;
+    double d = 0; ///< m
+    double L = 0; ///< its distance to the subject (m)
+    Veredicto veredicto;
 };
 
 /// Distances in metres. Faults of two trees in one place: 11 under BAF, and wherever angles are ranked. The
@@ -63,7 +72,17 @@ public:
     void mirarTodos() {
         assert(sujeto_);
         candidatos_ = vecindad_.todas;
+        sinFallos_ = false;
     }
+
+    /// Whether no candidate can fault here. Then `juzgados` gives what `candidatos` and `juzgar` would.
+    [[nodiscard]] bool sinFallos() const {
+        assert(sujeto_);
+        return sinFallos_;
+    }
+    /// The candidates that the side rule lets through, in the order of the rows and judged; the last one is
+    /// the first that makes the subject a border tree.
+    [[nodiscard]] std::span<const Juzgado> juzgados();
 
     /// Judges a candidate that the side rule let through.
     Veredicto juzgar(std::size_t j);
@@ -82,7 +101,12 @@ private:
 
     void empezarPorAngulo();
     void empezarPorNumero();
-    void empezarPorLimite(Lado lado);
+    void empezarPorLimite();
+    void dejarElPrimero();
+    void confiar();
+    void medirCercanas();
+    [[nodiscard]] Veredicto juzgarSinFallos(double d, double L);
+    [[nodiscard]] int rangoDe(double clave);
     void proponer(double alcance);
     void dejarLosPrimeros(double puesto);
 
@@ -91,10 +115,12 @@ private:
     Veredicto juzgarPorLimite(std::size_t j);
     Veredicto aceptar(std::size_t j);
 
+    [[nodiscard]] double claveDe(double d, double L) const;
     int rango(std::size_t j);
     int rangoPasoAPaso(std::size_t j);
     bool adelanta(std::size_t m, std::size_t j);
     [[nodiscard]] bool pasaDelNumero(int rango) const;
+    void reunirClaves();
     void ordenarClaves();
 
     Vecindad& vecindad_;
@@ -107,14 +133,32 @@ private:
 
     bool puesta_ = false; ///< has a parameter
     std::optional<std::size_t> sujeto_;
+    Lado lado_ = Lado::Bilateral;
     bool pasoAPaso_ = false; ///< some step of the ranks may fault
+    bool sinFallos_ = false;
+    double alturaMinima_ = 0; ///< of the subject over the sides (m), where nothing faults
     std::optional<double> limite_;
     double alcance_ = 0; ///< trees that would be rejected and are no candidates stand farther
     std::span<const Fila> candidatos_;
-    bool clavesListas_ = false;
-    std::vector<double> claves_; ///< of the trees that count in ranks, from the best to the worst
+    bool clavesListas_ = false, clavesEnOrden_ = false;
+    std::vector<double> claves_; ///< of the trees that count in ranks; in order, from the best to the worst
 
-    std::vector<Fila> cercanas_;
+    ArbolesCercanos cercanas_;
+    std::vector<double> distancias_; ///< of each of them (m), where nothing faults
+    std::vector<Juzgado> juzgados_;
 };
+
+/// Visits them as RecorrerCompetidores visits candidates.
+template <class Visita>
+bool RecorrerJuzgados(std::span<const Juzgado> juzgados, Pareja& pareja, Visita visita) {
+    for (const Juzgado& juzgado : juzgados) {
+        pareja.vecino = juzgado.fila;
+        if (!visita(juzgado)) {
+            return false;
+        }
+    }
+    pareja.vecino = pareja.sujeto;
+    return true;
+}
 
 } // namespace varo

@@ -18,6 +18,7 @@ void Cuadricula::medir() {
     if (!(lado_ > 0)) {
         lado_ = 1;
     }
+    casillasPorMetro_ = 1 / lado_;
     columnas_ = static_cast<std::size_t>(ancho / lado_) + 1;
     hileras_ = static_cast<std::size_t>(alto / lado_) + 1;
 }
@@ -53,7 +54,7 @@ void Cuadricula::repartir() {
 }
 
 std::size_t Cuadricula::casilla(double distancia, std::size_t cuantas) const {
-    const double posicion = distancia / lado_;
+    const double posicion = distancia * casillasPorMetro_;
     if (!(posicion > 0)) {
         return 0;
     }
@@ -61,8 +62,8 @@ std::size_t Cuadricula::casilla(double distancia, std::size_t cuantas) const {
 }
 
 Cuadricula::Tramo Cuadricula::tramo(double desde, double hasta, std::size_t cuantas) const {
-    const double holgura = lado_ * 1E-6; // far more than the rounding of a cell's edge
-    return {casilla(desde - holgura, cuantas), casilla(hasta + holgura, cuantas)};
+    const double margen = lado_ * holgura;
+    return {casilla(desde - margen, cuantas), casilla(hasta + margen, cuantas)};
 }
 
 } // namespace varo

@@ -14,6 +14,8 @@ class Cuadricula {
 public:
     using Fila = std::uint32_t; ///< a tree, numbered as its owner numbers it
 
+    static constexpr double holgura = 1E-6; ///< in cells: far more than the rounding of a cell's edge
+
     /// Cells in a row of them, both ends included.
     struct Tramo {
         std::size_t desde = 0, hasta = 0;
@@ -76,13 +78,26 @@ public:
         }
     }
 
+    /// Visits the places of every two trees that are in one cell.
+    template <class Visita>
+    void recorrerParejasDeCasilla(Visita visita) const {
+        for (std::size_t casilla = 0; casilla + 1 < comienzo_.size(); ++casilla) {
+            const std::size_t fin = comienzo_[casilla + 1];
+            for (std::size_t uno = comienzo_[casilla]; uno < fin; ++uno) {
+                for (std::size_t otro = uno + 1; otro < fin; ++otro) {
+                    visita(uno, otro);
+                }
+            }
+        }
+    }
+
 private:
     void repartir();
     void medir();
     [[nodiscard]] std::size_t casilla(double distancia, std::size_t cuantas) const;
 
     Extremos extremos_;
-    double lado_ = 1;
+    double lado_ = 1, casillasPorMetro_ = 1;
     std::size_t columnas_ = 1, hileras_ = 1;
     std::vector<std::size_t> comienzo_{0, 0}; ///< the first place of each cell; one more at the end
     std::vector<Fila> filas_;

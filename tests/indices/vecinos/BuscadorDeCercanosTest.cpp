@@ -28,12 +28,13 @@ RC_GTEST_PROP(BuscadorDeCercanos, DaLosCercanosEnOrdenYApenasNingunoMas, ()) {
     const Arboles arboles = ArbolesDe(parcela);
     const BuscadorDeCercanos buscador{arboles};
     const double radio = *rc::gen::inRange(-2, 60) * 0.5;
-    Filas filas;
+    ArbolesCercanos cercanas{arboles};
+    const Filas& filas = cercanas.filas;
     for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
         if (arboles.sinTamano(i)) {
             continue;
         }
-        buscador.buscar(i, radio, filas);
+        buscador.buscar(i, radio, cercanas);
         RC_ASSERT(std::is_sorted(filas.begin(), filas.end()));
         bool alguienEncima = false;
         for (std::size_t j = 0; j < arboles.cuantos(); ++j) {
@@ -56,12 +57,13 @@ RC_GTEST_PROP(BuscadorDeCercanos, PorTamanoCadaUnoTieneSuAlcance, ()) {
     const BuscadorDeCercanos buscador{arboles};
     const double porD = *rc::gen::inRange(0, 120) * 0.25;
     const double radio = *rc::gen::inRange(0, 10) * 0.5;
-    Filas filas;
+    ArbolesCercanos cercanas{arboles};
+    const Filas& filas = cercanas.filas;
     for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
         if (arboles.sinTamano(i)) {
             continue;
         }
-        buscador.buscarPorTamano(i, porD, radio, filas);
+        buscador.buscarPorTamano(i, porD, radio, cercanas);
         RC_ASSERT(std::is_sorted(filas.begin(), filas.end()));
         for (std::size_t j = 0; j < arboles.cuantos(); ++j) {
             const bool dentro =
@@ -86,11 +88,11 @@ TEST(BuscadorDeCercanos, NoEsFiableSiUnArbolConTamanoTieneUnaCeldaMala) {
 TEST(BuscadorDeCercanos, UnArbolMuyLejosDeLosDemasSeEncuentraIgual) {
     // Trees far apart on one line; the cells stay in proportion to them.
     const Parcelita parcela{{{"0", "0", "1"}, {"1", "0", "1"}, {"1000000", "0", "1"}}};
-    Filas filas;
-    parcela.vecindad->buscador.buscar(0, 2, filas);
-    EXPECT_EQ(filas, Filas{1});
-    parcela.vecindad->buscador.buscar(0, 2000000, filas);
-    EXPECT_EQ(filas, (Filas{1, 2}));
+    ArbolesCercanos cercanas{*parcela.arboles};
+    parcela.vecindad->buscador.buscar(0, 2, cercanas);
+    EXPECT_EQ(cercanas.filas, Filas{1});
+    parcela.vecindad->buscador.buscar(0, 2000000, cercanas);
+    EXPECT_EQ(cercanas.filas, (Filas{1, 2}));
 }
 
 RC_GTEST_PROP(PrimerCompetidor, EsElPrimeroQuePasaLaReglaDelLado, ()) {

@@ -5,7 +5,9 @@
 #include "indices/vecinos/ISC.h"
 #include "indices/vecinos/ParcelaAlAzar.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 #include <rapidcheck/gtest.h>
 
 namespace varo::prueba {
@@ -133,6 +135,32 @@ RC_GTEST_PROP(IDP, LosCandidatosYLosRangosSonLosDelProcedimientoLiteral, ()) {
 }
 RC_GTEST_PROP(IDP, LosFallosSonLosDelProcedimientoLiteral, ()) {
     ProbarIDP(Percances::Posibles);
+}
+/// More neighbours than are counted one by one: the ranks come from sorted keys.
+TEST(IDP, EntreMuchosVecinosLosRangosSonLosDelProcedimientoLiteral) {
+    std::mt19937 azar{1};
+    ParcelaLiteral parcela;
+    parcela.contornoX = {-90, -80, 95, 90, -90};
+    parcela.contornoY = {-90, 90, 95, -80, -90};
+    for (int i = 0; i < 132; ++i) {
+        parcela.x.push_back(ATexto(static_cast<int>(azar() % 40) * 0.5));
+        parcela.y.push_back(ATexto(static_cast<int>(azar()) * 1E-9 + i * 0.01));
+        parcela.tamano.push_back(ATexto(static_cast<int>(azar() % 5) * 7 + 10));
+    }
+    const Arboles arboles = ArbolesDe(parcela);
+    Vecindad vecindad{arboles, parcela.contorno()};
+    VecindadLiteral literal{parcela};
+    const auto comparar = [&](const Regla& regla, Lado lado) {
+        Seleccion seleccion{vecindad, regla.regla, OrdenDeRango::PorAngulo};
+        seleccion.poner(regla.p);
+        const Columna esperada = literal.IDP(regla, lado, FormaIDP::ConArbolCentral);
+        ASSERT_EQ(esperada.fallo, 0);
+        const auto hallada = CalcularIDP(arboles, seleccion, lado, FormaIDP::ConArbolCentral);
+        EXPECT_EQ(hallada, esperada.valores);
+        EXPECT_GT(*std::max_element(hallada.begin(), hallada.end()), 0) << "todos son de borde";
+    };
+    comparar({ReglaDeSeleccion::Distancia, 50, {}}, Lado::Bilateral);
+    comparar({ReglaDeSeleccion::BAF, 0.01, {}}, Lado::Unilateral);
 }
 RC_GTEST_PROP(DR, LosCandidatosSonLosDelProcedimientoLiteral, ()) {
     ProbarDR(Percances::Ninguno);
