@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <optional>
@@ -62,32 +63,80 @@ bool EsLiteral(const std::string& texto) {
            texto.back() != '.';
 }
 
-/// The sums over the rows larger than each bound. The other rows add 0, which changes no bit; each sum keeps
-/// the order of the rows.
-constexpr std::size_t aLaVez = 8;
+/// So many bounds at a time, in ascending order, and their sums.
+constexpr std::size_t aLaVez = 16;
 using Bloque = std::array<double, aLaVez>;
 
-Bloque SumarMayores(const Tallos& tallos, const Bloque& cotas) {
-    Bloque sumas{};
-    for (std::size_t j = 0; j < tallos.tamano.size(); ++j) {
-        for (std::size_t k = 0; k < aLaVez; ++k) {
-            sumas[k] += tallos.tamano[j] > cotas[k] ? tallos.area[j] : 0.0;
+void SumarATodas(std::span<const double> areas, Bloque& sumas) {
+    Bloque s = sumas;
+    for (const double area : areas) {
+        for (double& suma : s) {
+            suma += area;
         }
     }
-    return sumas;
+    sumas = s;
 }
+
+/// Adds up the rows that are larger than each of some bounds. Each sum keeps the order of the rows; those
+/// that do not enter it would add 0, which changes no bit.
+class SumasDeMayores {
+public:
+    explicit SumasDeMayores(const Tallos& tallos) : tallos_{tallos}, areas_(tallos.area.size() + 1) {}
+
+    Bloque sumar(const Bloque& cotas) {
+        apartar(cotas.front(), cotas.back());
+        Bloque sumas{};
+        std::size_t desde = 0;
+        for (const auto& [puesto, tamano] : deAlguna_) {
+            SumarATodas({&areas_[desde], puesto - desde}, sumas);
+            for (std::size_t k = 0; k < aLaVez; ++k) {
+                sumas[k] += tamano > cotas[k] ? areas_[puesto] : 0.0;
+            }
+            desde = puesto + 1;
+        }
+        SumarATodas({&areas_[desde], cuantas_ - desde}, sumas);
+        return sumas;
+    }
+
+private:
+    struct DeAlguna {
+        std::size_t puesto; ///< in areas_
+        double tamano;
+    };
+
+    /// The rows that enter some sum: nearly all of them enter each one.
+    void apartar(double menor, double mayor) {
+        cuantas_ = 0;
+        deAlguna_.clear();
+        for (std::size_t j = 0; j < tallos_.tamano.size(); ++j) {
+            const double tamano = tallos_.tamano[j];
+            areas_[cuantas_] = tallos_.area[j];
+            if (tamano > menor && !(tamano > mayor)) {
+                deAlguna_.push_back({cuantas_, tamano});
+            }
+            cuantas_ += tamano > menor ? 1 : 0;
+        }
+    }
+
+    const Tallos& tallos_;
+    std::vector<double> areas_; ///< of the rows that enter some sum, in their order; one more at the end
+    std::size_t cuantas_ = 0;
+    std::vector<DeAlguna> deAlguna_; ///< those of them that do not enter all
+};
 
 /// The sum for each different size, absent where no tree is larger.
 using SumaPorTamano = std::map<double, std::optional<double>>;
 
 void SumarTodos(const Tallos& tallos, SumaPorTamano& sumas, const Avance& avance) {
+    SumasDeMayores deMayores{tallos};
     for (auto primera = sumas.begin(); primera != sumas.end();) {
         Bloque cotas{};
         auto siguiente = primera;
-        for (std::size_t k = 0; k < aLaVez && siguiente != sumas.end(); ++k, ++siguiente) {
-            cotas[k] = siguiente->first;
+        for (double& cota : cotas) {
+            cota = siguiente == sumas.end() ? std::prev(siguiente)->first : siguiente->first;
+            siguiente = siguiente == sumas.end() ? siguiente : std::next(siguiente);
         }
-        const Bloque bloque = SumarMayores(tallos, cotas);
+        const Bloque bloque = deMayores.sumar(cotas);
         for (std::size_t k = 0; primera != siguiente; ++k, ++primera) {
             if (tallos.mayor > primera->first) {
                 primera->second = bloque[k];
