@@ -19,16 +19,11 @@ constexpr double desmedido = 1E+100;
 constexpr double medidaMaxima = 1E+12; // m
 constexpr double cercaniaMinima = 1E-4;
 
-void OrdenarSinRepetir(std::vector<VecinosAPA::Fila>& filas) {
-    std::sort(filas.begin(), filas.end());
-    filas.erase(std::unique(filas.begin(), filas.end()), filas.end());
-}
-
 } // namespace
 
 CercanosAPA::CercanosAPA(const PesosAPA& pesos)
     : pesos_{pesos}, cuadricula_{pesos}, medida_{cuadricula_.mayorCoordenada() + 2 * cuadricula_.extension()},
-      dudoso_(pesos.arboles().cuantos()) {
+      dudoso_(pesos.arboles().cuantos()), presente_(pesos.arboles().cuantos()) {
     marcarDudosos();
 }
 
@@ -61,28 +56,60 @@ bool CercanosAPA::girar(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
         return false;
     }
     double medioLado = 2 * cuadricula_.lado();
-    filas_.clear();
-    cuadricula_.cuadro(i, medioLado, filas_);
+    empezar(i, medioLado);
     while (girarEntreEllas(pareja, vecinos, giro)) {
         const auto anillo = CerrarAnillo(vecinos, giro);
+        halladas_.clear();
         if (!anillo) {
             medioLado *= 2;
-            cuadricula_.cuadro(i, medioLado, filas_);
+            cuadricula_.cuadro(i, medioLado, halladas_);
+            anadirHalladas();
             continue;
         }
-        if (!buscarNecesarias(i, *anillo, vecinos, giro.lados())) {
+        if (!(anillo->vecinoMasCercano > cercaniaMinima * anillo->radio)) {
             return false;
         }
-        if (std::includes(filas_.begin(), filas_.end(), necesarias_.begin(), necesarias_.end())) {
+        // The lines go through the whole plot, so they are looked along only for a ring that stands so far.
+        cuadricula_.alAlcance(i, 2 * anillo->radio * masAllaDelAlcance, halladas_);
+        if (anadirHalladas()) {
+            continue;
+        }
+        if (!buscarEnLineas(i, *anillo, vecinos, giro.lados())) {
+            return false;
+        }
+        if (!anadirHalladas()) {
             return true;
         }
-        filas_.insert(filas_.end(), necesarias_.begin(), necesarias_.end());
     }
     return false;
 }
 
+void CercanosAPA::empezar(std::size_t i, double medioLado) {
+    for (const Fila fila : filas_) {
+        presente_[fila] = false;
+    }
+    filas_.clear();
+    halladas_.clear();
+    cuadricula_.cuadro(i, medioLado, halladas_);
+    anadirHalladas();
+}
+
+bool CercanosAPA::anadirHalladas() {
+    const std::size_t habia = filas_.size();
+    for (const Fila fila : halladas_) {
+        if (!presente_[fila]) {
+            presente_[fila] = true;
+            filas_.push_back(fila);
+        }
+    }
+    if (filas_.size() == habia) {
+        return false;
+    }
+    std::sort(filas_.begin(), filas_.end());
+    return true;
+}
+
 bool CercanosAPA::girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
-    OrdenarSinRepetir(filas_);
     if (filas_.size() > cuadricula_.cuantos() / 2) {
         return false;
     }
@@ -93,13 +120,9 @@ bool CercanosAPA::girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& 
     });
 }
 
-bool CercanosAPA::buscarNecesarias(std::size_t i, const AnilloAPA& anillo, const VecinosAPA& vecinos,
-                                   const std::vector<LadoAPA>& lados) {
-    if (!(anillo.vecinoMasCercano > cercaniaMinima * anillo.radio)) {
-        return false;
-    }
-    necesarias_.clear();
-    cuadricula_.alAlcance(i, 2 * anillo.radio * masAllaDelAlcance, necesarias_);
+bool CercanosAPA::buscarEnLineas(std::size_t i, const AnilloAPA& anillo, const VecinosAPA& vecinos,
+                                 const std::vector<LadoAPA>& lados) {
+    halladas_.clear();
     const double senoEjes = senoDeLosEjes(anillo.radio);
     bool medible = buscarEnLinea(i, {1, 0}, senoEjes) && buscarEnLinea(i, {0, 1}, senoEjes);
     for (std::size_t v = 0; medible && v < lados.size(); ++v) {
@@ -108,7 +131,6 @@ bool CercanosAPA::buscarNecesarias(std::size_t i, const AnilloAPA& anillo, const
         medible =
             buscarEnLinea(i, {x / distancia, y / distancia}, senoDelLado(anillo, std::abs(y) / distancia));
     }
-    OrdenarSinRepetir(necesarias_);
     return medible;
 }
 
@@ -116,7 +138,7 @@ bool CercanosAPA::buscarEnLinea(std::size_t i, const DireccionAPA& direccion, do
     if (!(seno < senoDesmedido)) {
         return false;
     }
-    cuadricula_.enfiladas(i, direccion, 2 * seno, necesarias_);
+    cuadricula_.enfiladas(i, direccion, 2 * seno, halladas_);
     return true;
 }
 

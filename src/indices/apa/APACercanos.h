@@ -25,13 +25,17 @@ private:
     using Fila = VecinosAPA::Fila;
 
     void marcarDudosos();
+    /// Makes `filas_` those in a square about tree i.
+    void empezar(std::size_t i, double medioLado);
+    /// Adds to `filas_` the ones in `halladas_` that are not there yet; false where all of them are.
+    bool anadirHalladas();
     /// Turns over the rows in `filas_`; false where they are too many, or the turn faults.
     bool girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro);
-    /// Leaves in `necesarias_` the trees that the turn must have had at hand; false where rounding may be too
-    /// large to tell.
-    bool buscarNecesarias(std::size_t i, const AnilloAPA& anillo, const VecinosAPA& vecinos,
-                          const std::vector<LadoAPA>& lados);
-    /// Adds to `necesarias_` the trees too near to a direction; false where "too near" is no narrow angle.
+    /// Leaves in `halladas_` the trees that might fault and that the turn must have had at hand; false where
+    /// rounding may be too large to tell.
+    bool buscarEnLineas(std::size_t i, const AnilloAPA& anillo, const VecinosAPA& vecinos,
+                        const std::vector<LadoAPA>& lados);
+    /// Adds to `halladas_` the trees too near to a direction; false where "too near" is no narrow angle.
     bool buscarEnLinea(std::size_t i, const DireccionAPA& direccion, double seno);
     /// Farther than this from both axes (the sine of the angle), no direction faults.
     [[nodiscard]] double senoDeLosEjes(double radio) const;
@@ -43,7 +47,9 @@ private:
     CuadriculaAPA cuadricula_;
     double medida_; ///< no coordinate of a virtual neighbour is larger (m)
     std::vector<bool> dudoso_;
-    std::vector<Fila> filas_, necesarias_; ///< in ascending order, each one once
+    std::vector<Fila> filas_;    ///< in ascending order, each one once
+    std::vector<Fila> halladas_; ///< in any order, some of them more than once
+    std::vector<bool> presente_; ///< whether a row is in `filas_`
 };
 
 } // namespace varo

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
-#include <optional>
 #include <utility>
 
 namespace varo {
@@ -22,6 +21,7 @@ Cuadricula CuadriculaDe(const Arboles& arboles) {
 
 /// The cells that a band about a line touches. It is walked slice by slice along the axis that the line is
 /// nearer to: by columns if that is x, by rows if it is y. So the line rises by at most one cell in a slice.
+/// Lengths are in cells, from the grid's corner.
 class Franja {
 public:
     /// The line goes through `punto`; no point of the band is farther than `semiancho` (m) from it.
@@ -32,38 +32,37 @@ public:
         const double subida = porColumnas_ ? direccion.y : direccion.x;
         pendiente_ = subida / avance;
         // Measured along a slice, which the line crosses aslant, the band is wider.
-        semiancho_ = semiancho / std::abs(avance);
-        const double x = punto.x - cuadricula.extremos().x0;
-        const double y = punto.y - cuadricula.extremos().y0;
-        origen_ = porColumnas_ ? x : y;
-        altura_ = porColumnas_ ? y : x;
+        const double lado = cuadricula.lado();
+        const double holgura = Cuadricula::holgura;
+        const double alLado = semiancho / std::abs(avance) / lado + holgura;
+        const double x = (punto.x - cuadricula.extremos().x0) / lado;
+        const double y = (punto.y - cuadricula.extremos().y0) / lado;
+        const double entra = porColumnas_ ? y - x * pendiente_ : x - y * pendiente_;
+        bajo_ = entra + std::min(pendiente_, 0.0) - alLado;
+        alto_ = entra + std::max(pendiente_, 0.0) + alLado;
     }
 
     /// Visits the places of the trees in those cells.
     template <class Visita>
     void recorrer(Visita visita) const {
         const std::size_t rebanadas = porColumnas_ ? cuadricula_.columnas() : cuadricula_.hileras();
+        const std::size_t casillas = porColumnas_ ? cuadricula_.hileras() : cuadricula_.columnas();
+        const auto ultima = static_cast<double>(casillas - 1);
         for (std::size_t rebanada = 0; rebanada < rebanadas; ++rebanada) {
-            if (const auto tramo = tramoDe(rebanada)) {
-                recorrerTramo(rebanada, *tramo, visita);
+            const double subida = static_cast<double>(rebanada) * pendiente_;
+            const double bajo = bajo_ + subida;
+            const double alto = alto_ + subida;
+            if (alto < -1 || bajo > ultima + 2) {
+                continue; // beside the grid
             }
+            recorrerTramo(rebanada, {casillaEn(bajo, ultima), casillaEn(alto, ultima)}, visita);
         }
     }
 
 private:
-    /// The cells of a slice between the lower and the upper edge of the band; none where it passes beside the
-    /// grid.
-    [[nodiscard]] std::optional<Cuadricula::Tramo> tramoDe(std::size_t rebanada) const {
-        const double lado = cuadricula_.lado();
-        const std::size_t casillas = porColumnas_ ? cuadricula_.hileras() : cuadricula_.columnas();
-        const double entra = (static_cast<double>(rebanada) * lado - origen_) * pendiente_;
-        const double sale = entra + lado * pendiente_;
-        const double bajo = altura_ + std::min(entra, sale) - semiancho_;
-        const double alto = altura_ + std::max(entra, sale) + semiancho_;
-        if (alto < -lado || bajo > static_cast<double>(casillas + 1) * lado) {
-            return std::nullopt;
-        }
-        return cuadricula_.tramo(bajo, alto, casillas);
+    /// What stands beyond the ends is in the cells at the ends.
+    static std::size_t casillaEn(double posicion, double ultima) {
+        return static_cast<std::size_t>(std::clamp(posicion, 0.0, ultima));
     }
 
     template <class Visita>
@@ -79,10 +78,8 @@ private:
 
     const Cuadricula& cuadricula_;
     bool porColumnas_;
-    double pendiente_ = 0; ///< rise of the line from one slice to the next, -1 to 1
-    double semiancho_ = 0; ///< along a slice (m)
-    double origen_ = 0,
-           altura_ = 0; ///< the point, across the slices and along them, from the grid's corner (m)
+    double pendiente_ = 0;       ///< rise of the line from one slice to the next, -1 to 1
+    double bajo_ = 0, alto_ = 0; ///< the edges of the band in the first slice
 };
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <tuple>
 
 namespace varo {
 
@@ -10,14 +9,19 @@ void RuedaAPA::llenar(const std::vector<double>& angulos, Vecino primero) {
     assert(primero < angulos.size());
     angulos_ = &angulos;
     ultimoLado_ = angulos[primero];
-    orden_.clear();
+    porAngulo_.clear();
     for (Vecino v = 0; v < angulos.size(); ++v) {
         if (v != primero) {
-            orden_.push_back(v);
+            porAngulo_.push_back({angulos[v], v});
         }
     }
-    std::sort(orden_.begin(), orden_.end(),
-              [&](Vecino a, Vecino b) { return std::tie(angulos[a], a) < std::tie(angulos[b], b); });
+    std::sort(porAngulo_.begin(), porAngulo_.end(), [](const Direccion& a, const Direccion& b) {
+        return a.angulo < b.angulo || (a.angulo == b.angulo && a.vecino < b.vecino);
+    });
+    orden_.clear();
+    for (const auto& direccion : porAngulo_) {
+        orden_.push_back(direccion.vecino);
+    }
     enlazar();
     const auto desde = std::lower_bound(orden_.begin(), orden_.end(), ultimoLado_,
                                         [&](Vecino v, double angulo) { return angulos[v] < angulo; });

@@ -34,7 +34,13 @@ private:
     [[nodiscard]] LugarEnRueda buscarElSiguiente() const;
     void enlazar();
 
+    struct Direccion {
+        double angulo; ///< degrees
+        Vecino vecino;
+    };
+
     const std::vector<double>* angulos_ = nullptr;
+    std::vector<Direccion> porAngulo_;
     std::vector<Vecino> orden_;                      ///< by angle, then by row
     std::vector<LugarEnRueda> siguiente_, anterior_; ///< a circular list of those that are left
     std::size_t quedan_ = 0;
