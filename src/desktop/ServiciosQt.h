@@ -1,6 +1,7 @@
 // The platform of the windows, in Qt.
 #pragma once
 
+#include "basico/Cuadrilla.h"
 #include "desktop/VentanaDeAvance.h"
 #include "formularios/Servicios.h"
 
@@ -40,6 +41,7 @@ public:
     std::optional<Color> elegirColor(Color actual) override;
     std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) override;
     Avance avance() override { return Avance{avance_}; }
+    Cuadrilla* cuadrilla() override { return &cuadrilla_; }
 
 private:
     /// Over which a box comes up now. What shows progress gives way to it.
@@ -49,6 +51,7 @@ private:
     QWidget* ventana_ = nullptr;
     VentanaDeAvance avance_;
     std::string preparado_;
+    Cuadrilla cuadrilla_{Cuadrilla::losDeLaMaquina()};
 };
 
 } // namespace varo

@@ -12,6 +12,8 @@
 
 namespace varo {
 
+class Cuadrilla;
+
 /// Buttons, icons and answers of a message box, as numbers that add up to its flags.
 namespace mensaje {
 inline constexpr int aceptar = 0;
@@ -78,6 +80,8 @@ public:
     virtual std::unique_ptr<ArchivoNuevo> crearArchivo(const std::string& ruta) = 0;
     /// What a long computation tells how far it is. Who hears it may cancel: that ends the act.
     [[nodiscard]] virtual Avance avance() { return {}; }
+    /// The threads that help the one of the windows to compute; null where it is alone.
+    [[nodiscard]] virtual Cuadrilla* cuadrilla() { return nullptr; }
 };
 
 } // namespace varo

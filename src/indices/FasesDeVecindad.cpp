@@ -121,8 +121,8 @@ class FasesDeVecindad {
 public:
     explicit FasesDeVecindad(Programa& programa)
         : programa_{programa}, opciones_{programa.tocar<OpcionesPrograma>()},
-          mapa_{programa.tocar<FrmMapa>()},
-          resultados_{programa.resultados}, avance_{programa.servicios().avance()} {}
+          mapa_{programa.tocar<FrmMapa>()}, resultados_{programa.resultados},
+          faena_{programa.servicios().avance(), programa.servicios().cuadrilla()} {}
 
     void correr() {
         fase(opciones_.ChSupCopa, "ISC", [this] { faseISC(); });
@@ -169,7 +169,7 @@ private:
 
     CalculoISC iscDeCirculos() {
         return [this, radios = RadiosDeCopa{arboles(), DatosDeLaCopa(opciones_), factorDeRadios()}](
-                   Lado lado) { return CalcularISC(vecindad(), radios, lado, avance_); };
+                   Lado lado) { return CalcularISC(vecindad(), radios, lado, faena_); };
     }
 
     CalculoISC iscDeElipses() {
@@ -177,7 +177,7 @@ private:
             [this, copas = CopasDeArboles{arboles(), DatosDeLaCopa(opciones_), factorDeRadios()}](Lado lado) {
                 auto& superficie = programa_.tocar<FrmMapa2>();
                 const AlSalir avisar{[&superficie] { superficie.avisarDibujo(); }};
-                return CalcularISCDeElipses(vecindad(), copas, lado, superficie.lienzo, avance_);
+                return CalcularISCDeElipses(vecindad(), copas, lado, superficie.lienzo, faena_.avance);
             };
     }
 
@@ -200,7 +200,7 @@ private:
                 for (const double k : ValoresDe(r.AOIk)) {
                     columna(
                         r.IndAOI, ++numero, [&] { return RotuloAOI(k, entrada, lado); },
-                        [&] { return CalcularAOI(vecindad(), radios, lado, k, avance_); });
+                        [&] { return CalcularAOI(vecindad(), radios, lado, k, faena_); });
                 }
             }
         }
@@ -235,7 +235,7 @@ private:
             };
             columna(r.IndIDP, ++numero, rotulo, [&] {
                 return explicandoElBAF(regla, seleccionIDP, pedida.p, [&] {
-                    return CalcularIDP(arboles(), seleccion, pedida.lado, pedida.forma, avance_);
+                    return CalcularIDP(arboles(), seleccion, pedida.lado, pedida.forma, faena_);
                 });
             });
         }
@@ -285,7 +285,7 @@ private:
             columna(r.IndDR, ++numero, rotulo, [&] {
                 return explicandoElBAF(regla, seleccionDR, pedida.p, [&] {
                     return CalcularDR(arboles(), seleccion, pedida.lado, entradas[pedida.entrada], pedida.k,
-                                      avance_);
+                                      faena_);
                 });
             });
         }
@@ -330,7 +330,7 @@ private:
             columna(
                 r.IndAPA, ++numero, [&] { return RotuloAPA(k); },
                 [&] {
-                    return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k, dibujo, avance_);
+                    return CalcularAPA(arboles(), programa_.sesion.Poligono.contorno(), k, dibujo, faena_);
                 });
         }
         if (const auto exponentes = ValoresDe(r.APAk); !exponentes.empty()) {
@@ -387,13 +387,13 @@ private:
     /// Begins to count the trees of all columns of the family.
     void esperarColumnas(int columnas) {
         columnas_ = columnas;
-        avance_.empezar(static_cast<std::size_t>(columnas) * arboles().cuantos());
+        faena_.avance.empezar(static_cast<std::size_t>(columnas) * arboles().cuantos());
     }
 
     void columna(IndicePorColumnas& indice, int numero, const Rotulo& rotulo,
                  const std::function<std::vector<double>()>& calcular) const {
-        avance_.etapa(familia_ + ", columna " + std::to_string(numero + 1) + " de " +
-                      std::to_string(columnas_));
+        faena_.avance.etapa(familia_ + ", columna " + std::to_string(numero + 1) + " de " +
+                            std::to_string(columnas_));
         EnLugar([&] { return "columna " + rotulo(); },
                 [&] {
                     const std::vector<double> valores = calcular();
@@ -423,7 +423,7 @@ private:
     const OpcionesPrograma& opciones_;
     FrmMapa& mapa_;
     ResultadosIndices& resultados_;
-    Avance avance_;
+    Faena faena_;
     std::string familia_; ///< the one at work
     int columnas_ = 0;    ///< and how many it has
     std::optional<Arboles> arboles_;

@@ -22,6 +22,7 @@ struct Escritas {
     std::optional<std::string> hoja;
     std::optional<std::string> salida;
     std::optional<std::string> aLaVez;
+    std::optional<std::string> hilos;
     std::optional<std::string> tablas;
     std::optional<std::string> plantilla;
     bool ayuda = false;
@@ -39,6 +40,7 @@ void Declarar(CLI::App& app, Escritas& escritas) {
     declarar("--hoja", escritas.hoja, "H", "La hoja, en lugar de la de cada trabajo");
     declarar("--salida", escritas.salida, "DIR", "La carpeta bajo la que van las salidas");
     declarar("--trabajos", escritas.aLaVez, "N", "Cuántos trabajos se corren a la vez (1)");
+    declarar("--hilos", escritas.hilos, "N", "Con cuántos hilos calcula cada uno (se reparten los núcleos)");
     declarar("--tablas", escritas.tablas, "F", "Enumera las tablas y los campos de una parcela");
     declarar("--plantilla", escritas.plantilla, "F", "Escribe un trabajo comentado para una parcela");
     app.add_flag("--version", escritas.version, "Dice la versión");
@@ -67,14 +69,24 @@ void Declarar(CLI::App& app, Escritas& escritas) {
     throw ErrorDeOrden{"la orden no es correcta («" + dicho + "»)"};
 }
 
-int LeerCuantos(const std::string& texto) {
+int LeerCuantos(const std::string& nombre, const std::string& texto) {
     int cuantos = 0;
     const char* const fin = texto.data() + texto.size();
     const auto leido = std::from_chars(texto.data(), fin, cuantos);
     if (leido.ec != std::errc{} || leido.ptr != fin || cuantos < 1) {
-        throw ErrorDeOrden{"--trabajos: se espera un número de 1 en adelante y hay «" + texto + "»"};
+        throw ErrorDeOrden{nombre + ": se espera un número de 1 en adelante y hay «" + texto + "»"};
     }
     return cuantos;
+}
+
+/// More threads than any machine has cores only take its memory.
+int LeerHilos(const std::string& texto) {
+    constexpr int demasiados = 1000;
+    const int hilos = LeerCuantos("--hilos", texto);
+    if (hilos >= demasiados) {
+        throw ErrorDeOrden{"--hilos: se espera un número menor que 1.000 y hay «" + texto + "»"};
+    }
+    return hilos;
 }
 
 void ExigirNoVacio(const char* nombre, const std::optional<std::string>& valor) {
@@ -86,8 +98,8 @@ void ExigirNoVacio(const char* nombre, const std::optional<std::string>& valor) 
 /// Either jobs, or one question about a plot file.
 void ExigirUnaSolaCosa(const Escritas& escritas) {
     const int preguntas = (escritas.tablas ? 1 : 0) + (escritas.plantilla ? 1 : 0);
-    const bool deTrabajos =
-        !escritas.trabajos.empty() || escritas.archivo || escritas.hoja || escritas.salida || escritas.aLaVez;
+    const bool deTrabajos = !escritas.trabajos.empty() || escritas.archivo || escritas.hoja ||
+                            escritas.salida || escritas.aLaVez || escritas.hilos;
     if (preguntas > 1 || (preguntas == 1 && deTrabajos)) {
         throw ErrorDeOrden{"--tablas y --plantilla van solas, sin trabajos ni otras opciones"};
     }
@@ -104,7 +116,10 @@ Ordenes Interpretar(const Escritas& escritas) {
     Ordenes ordenes;
     ordenes.trabajos.assign(escritas.trabajos.begin(), escritas.trabajos.end());
     ordenes.cambios = {escritas.archivo, escritas.hoja, escritas.salida};
-    ordenes.aLaVez = escritas.aLaVez ? LeerCuantos(*escritas.aLaVez) : 1;
+    ordenes.aLaVez = escritas.aLaVez ? LeerCuantos("--trabajos", *escritas.aLaVez) : 1;
+    if (escritas.hilos) {
+        ordenes.hilos = LeerHilos(*escritas.hilos);
+    }
     ordenes.tablas = escritas.tablas;
     ordenes.plantilla = escritas.plantilla;
     return ordenes;

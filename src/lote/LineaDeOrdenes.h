@@ -20,7 +20,8 @@ public:
 struct Ordenes {
     std::vector<std::filesystem::path> trabajos;
     Cambios cambios;
-    int aLaVez = 1; ///< jobs that run at once
+    int aLaVez = 1;           ///< jobs that run at once
+    std::optional<int> hilos; ///< on which each of them computes; by default they share the cores
     std::optional<std::filesystem::path> tablas;
     std::optional<std::filesystem::path> plantilla;
     /// The answer to --help or --version; nothing else is done then.

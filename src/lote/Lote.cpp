@@ -1,6 +1,7 @@
 #include "lote/Lote.h"
 
 #include "basico/AlSalir.h"
+#include "basico/Cuadrilla.h"
 #include "basico/ErrorEjecucion.h"
 #include "lote/LineaDeAvance.h"
 #include "lote/LineaDeOrdenes.h"
@@ -62,9 +63,10 @@ public:
         std::vector<std::jthread> obreros;
         const std::size_t cuantos = std::min(static_cast<std::size_t>(ordenes_.aLaVez), leidos_.size());
         for (std::size_t i = 0; i < cuantos; ++i) {
-            obreros.emplace_back([&] {
+            obreros.emplace_back([&, hilos = hilosDe(cuantos)] {
+                Cuadrilla cuadrilla{hilos};
                 for (std::size_t j = siguiente++; j < leidos_.size(); j = siguiente++) {
-                    promesas[j].set_value(finalDe(j));
+                    promesas[j].set_value(finalDe(j, cuadrilla));
                 }
             });
         }
@@ -92,7 +94,13 @@ private:
         return trabajos;
     }
 
-    Final finalDe(std::size_t numero) {
+    /// The threads of each of the jobs that run at once.
+    [[nodiscard]] std::size_t hilosDe(std::size_t aLaVez) const {
+        return ordenes_.hilos ? static_cast<std::size_t>(*ordenes_.hilos)
+                              : std::max<std::size_t>(1, Cuadrilla::losDeLaMaquina() / aLaVez);
+    }
+
+    Final finalDe(std::size_t numero, Cuadrilla& cuadrilla) {
         const AlSalir contarlo{[&] { linea_.acabado(numero); }};
         if (const auto* const final = std::get_if<Final>(&leidos_[numero])) {
             return *final;
@@ -108,7 +116,7 @@ private:
             };
         }
         Terminar(final, trabajo.ruta, [&] {
-            const Informe informe = CorrerTrabajo(trabajo, seguimiento, pintor_);
+            const Informe informe = CorrerTrabajo(trabajo, seguimiento, pintor_, &cuadrilla);
             final.resumen = LineaDeAviso(trabajo.ruta, {}, informe.texto(trabajo));
         });
         return final;

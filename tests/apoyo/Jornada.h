@@ -39,6 +39,9 @@ struct ServiciosDePrueba : ServiciosPreparados {
 
     OyenteDeAvance* oyente = nullptr;
     Avance avance() override { return oyente != nullptr ? Avance{*oyente} : Avance{}; }
+
+    Cuadrilla* ayuda = nullptr;
+    Cuadrilla* cuadrilla() override { return ayuda; }
 };
 
 struct Jornada {

@@ -39,6 +39,19 @@ TEST(LineaDeOrdenes, LosCambiosYLosTrabajosALaVezVanEnCualquierSitio) {
     EXPECT_EQ(ordenes.aLaVez, 4);
 }
 
+TEST(LineaDeOrdenes, LosHilosDeCadaTrabajoSePidenAparte) {
+    EXPECT_EQ(LeerOrdenes({"a.toml"}).hilos, std::nullopt) << "se reparten los núcleos";
+    EXPECT_EQ(LeerOrdenes({"--hilos", "7", "a.toml", "--trabajos=2"}).hilos, 7);
+    EXPECT_EQ(LeerOrdenes({"a.toml", "--hilos=999"}).hilos, 999);
+    for (const std::string hilos : {"0", "-1", "dos", "1.5"}) {
+        EXPECT_EQ(Error({"a.toml", "--hilos=" + hilos}),
+                  "--hilos: se espera un número de 1 en adelante y hay «" + hilos + "»");
+    }
+    EXPECT_EQ(Error({"a.toml", "--hilos=1000"}), "--hilos: se espera un número menor que 1.000 y hay «1000»");
+    EXPECT_EQ(Error({"--tablas", "p.xls", "--hilos", "2"}),
+              "--tablas y --plantilla van solas, sin trabajos ni otras opciones");
+}
+
 TEST(LineaDeOrdenes, TablasYPlantillaVanSolas) {
     EXPECT_EQ(LeerOrdenes({"--tablas", "p.xls"}).tablas, "p.xls");
     EXPECT_EQ(LeerOrdenes({"--plantilla", "p.xls"}).plantilla, "p.xls");

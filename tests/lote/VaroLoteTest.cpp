@@ -61,6 +61,21 @@ TEST(VaroLote, EnUnTerminalElAvanceEsUnaLineaQueAlFinalSeBorra) {
     EXPECT_EQ(final.salida.find('\r'), std::string::npos);
 }
 
+TEST(VaroLote, LosBytesNoDependenDeLosHilos) {
+    const ParcelaDePrueba parcela;
+    TextoDeTrabajo texto = ConOpciones("ChSupCopa = 1\nOptcirc = true\nChISCBil = 1\nChISCUni = 1\n");
+    texto.salida = "resultados = 'uno.txt'\n";
+    const auto trabajo = parcela.escribir("uno.toml", texto.texto()).string();
+    ASSERT_EQ(VaroLote({trabajo, "--hilos", "1"}).estado, 0);
+    const std::string enUno = LeerArchivo(parcela.ruta("uno.txt"));
+    EXPECT_NE(enUno.find("ISC"), std::string::npos);
+    for (const std::string hilos : {"2", "7"}) {
+        fs::remove(parcela.ruta("uno.txt"));
+        EXPECT_EQ(VaroLote({trabajo, "--hilos", hilos}).estado, 0);
+        EXPECT_EQ(LeerArchivo(parcela.ruta("uno.txt")), enUno) << hilos;
+    }
+}
+
 TEST(VaroLote, LosMapasSePintanSinPantalla) {
     const ParcelaDePrueba parcela;
     TextoDeTrabajo texto;

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace varo {
 
@@ -21,10 +23,14 @@ std::vector<VecinosAPA::Fila> ConTamano(const Arboles& arboles) {
     return filas;
 }
 
+/// The strokes of the cells that wait to be drawn, by tree; none where there is no cell.
+using CeldasTrazadas = std::vector<std::optional<std::vector<TrazoAPA>>>;
+
+/// Copies go on to read the weights of the first one.
 class ColumnaAPA {
 public:
-    ColumnaAPA(const Arboles& arboles, const ContornoXY& contorno, double k, const DibujoAPA& dibujo)
-        : arboles_{arboles}, contorno_{contorno}, dibujo_{dibujo}, pesos_{arboles, k}, conTamano_{ConTamano(
+    ColumnaAPA(const Arboles& arboles, const ContornoXY& contorno, double k, CeldasTrazadas* celdas)
+        : arboles_{arboles}, contorno_{contorno}, celdas_{celdas}, pesos_{arboles, k}, conTamano_{ConTamano(
                                                                                            arboles)} {
         if (std::all_of(conTamano_.begin(), conTamano_.end(), [&](auto j) { return esLegible(j); })) {
             cercanos_.emplace(pesos_);
@@ -41,11 +47,12 @@ public:
             return arbolDeContorno;
         }
         girar(pareja);
-        if (!dibujo_) {
+        if (celdas_ == nullptr) {
             return MedirCelda(giro_.lados(), contorno_, nullptr);
         }
-        const double valor = MedirCelda(giro_.lados(), contorno_, &trazos_);
-        dibujo_(i, trazos_);
+        std::vector<TrazoAPA> trazos;
+        const double valor = MedirCelda(giro_.lados(), contorno_, &trazos);
+        (*celdas_)[i] = std::move(trazos);
         return valor;
     }
 
@@ -70,21 +77,27 @@ private:
 
     const Arboles& arboles_;
     const ContornoXY& contorno_;
-    const DibujoAPA& dibujo_;
+    CeldasTrazadas* celdas_; ///< null when nobody draws
     PesosAPA pesos_;
     std::vector<VecinosAPA::Fila> conTamano_;
     std::optional<CercanosAPA> cercanos_; ///< none where a cell or a weight faults
     VecinosAPA vecinos_;
     GiroAPA giro_;
-    std::vector<TrazoAPA> trazos_;
 };
 
 } // namespace
 
 std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contorno, double k,
-                                const DibujoAPA& dibujo, const Avance& avance) {
-    ColumnaAPA columna{arboles, contorno, k, dibujo};
-    return ParaCadaArbol(arboles, avance, [&](Pareja& pareja) { return columna.indice(pareja); });
+                                const DibujoAPA& dibujo, const Faena& faena) {
+    CeldasTrazadas celdas(dibujo ? arboles.cuantos() : 0);
+    const ColumnaAPA columna{arboles, contorno, k, dibujo ? &celdas : nullptr};
+    const auto dibujar = [&](std::size_t i) {
+        if (auto& celda = celdas[i]) {
+            dibujo(i, *celda);
+            celda.reset();
+        }
+    };
+    return ParaCadaArbol(arboles, faena, columna, dibujo ? Hacer{dibujar} : Hacer{});
 }
 
 std::optional<CirculoCircunscrito> UltimoCirculoAPA(const Arboles& arboles, double k) {

@@ -4,7 +4,7 @@
 // W * L from the tree, W = d(i)^k / (d(i)^k + d(j)^k), d in metres.
 #pragma once
 
-#include "basico/Avance.h"
+#include "basico/Reparto.h"
 #include "indices/apa/APACelda.h"
 #include "indices/vecinos/Arboles.h"
 
@@ -16,7 +16,8 @@
 
 namespace varo {
 
-/// Gets the strokes of a cell when it is finished: the tree, numbered from 0, and its sides inside the plot.
+/// Gets the strokes of the cells in the order of the trees, on the thread of the caller: the tree, numbered
+/// from 0, and its sides inside the plot.
 using DibujoAPA = std::function<void(std::size_t, std::span<const TrazoAPA>)>;
 
 /// One column, that of the exponent k: for every tree the area of its cell (m2) or a marker. Faults: 11 on
@@ -26,7 +27,7 @@ using DibujoAPA = std::function<void(std::size_t, std::span<const TrazoAPA>)>;
 ///
 /// Trees far from a cell are left out of its turn where that changes no bit of it (docs/apa.md).
 std::vector<double> CalcularAPA(const Arboles& arboles, const ContornoXY& contorno, double k,
-                                const DibujoAPA& dibujo = {}, const Avance& avance = {});
+                                const DibujoAPA& dibujo = {}, const Faena& faena = {});
 
 /// The last circle that such a column asks for when its turns are over all trees: one of its last tree with a
 /// cell. None when no tree has two neighbours.

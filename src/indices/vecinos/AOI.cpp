@@ -125,9 +125,8 @@ RadiosDeInfluencia::RadiosDeInfluencia(const Arboles& arboles, const SumaDePoten
 }
 
 std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k,
-                                const Avance& avance) {
-    ColumnaAOI columna{vecindad, radios, lado, k};
-    return ParaCadaArbol(vecindad.arboles, avance, [&](Pareja& pareja) { return columna.indice(pareja); });
+                                const Faena& faena) {
+    return ParaCadaArbol(vecindad.arboles, faena, ColumnaAOI{vecindad, radios, lado, k});
 }
 
 } // namespace varo

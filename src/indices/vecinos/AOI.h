@@ -3,7 +3,7 @@
 // competition model for individual trees").
 #pragma once
 
-#include "basico/Avance.h"
+#include "basico/Reparto.h"
 #include "indices/vecinos/FuncionesDeLista.h"
 #include "indices/vecinos/Lado.h"
 #include "indices/vecinos/Vecindad.h"
@@ -37,6 +37,6 @@ private:
 /// One column: for every tree its index or a marker. Faults: 11 on a radius of 0 with a neighbour and on a
 /// size of 0 that is not written "0"; those of AreaInterseccionCirculos.
 std::vector<double> CalcularAOI(Vecindad& vecindad, const RadiosDeInfluencia& radios, Lado lado, double k,
-                                const Avance& avance = {});
+                                const Faena& faena = {});
 
 } // namespace varo

@@ -81,6 +81,17 @@ double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
     return suma;
 }
 
+/// The same with a state of its own, for one thread.
+struct ColumnaDeHilo {
+    const Arboles& arboles;
+    Seleccion seleccion;
+    Lado lado;
+    EntradaDeDistancia entrada;
+    double k;
+
+    double indice(Pareja& pareja) { return IndiceDe(pareja, {arboles, seleccion, lado, entrada, k}); }
+};
+
 } // namespace
 
 bool EntradaDeDistancia::sinFallosEntre(double desde, double hasta) {
@@ -96,10 +107,9 @@ bool EntradaDeDistancia::sinFallosEntre(double desde, double hasta) {
     return sinFallos;
 }
 
-std::vector<double> CalcularDR(const Arboles& arboles, Seleccion& seleccion, Lado lado,
-                               EntradaDeDistancia& entrada, double k, const Avance& avance) {
-    const ColumnaDR columna{arboles, seleccion, lado, entrada, k};
-    return ParaCadaArbol(arboles, avance, [&](Pareja& pareja) { return IndiceDe(pareja, columna); });
+std::vector<double> CalcularDR(const Arboles& arboles, const Seleccion& seleccion, Lado lado,
+                               const EntradaDeDistancia& entrada, double k, const Faena& faena) {
+    return ParaCadaArbol(arboles, faena, ColumnaDeHilo{arboles, seleccion, lado, entrada, k});
 }
 
 } // namespace varo

@@ -2,7 +2,7 @@
 // k = 1 and f = 1 / L it is the index of Hegyi (1974).
 #pragma once
 
-#include "basico/Avance.h"
+#include "basico/Reparto.h"
 #include "indices/vecinos/FuncionesDeLista.h"
 #include "indices/vecinos/Seleccion.h"
 
@@ -37,7 +37,7 @@ private:
 /// One column: for every tree its index, 0 where it has no competitor, or a marker. The selection has its
 /// parameter and ranks by distance. f is computed for every candidate, so a rejected one may fault too: 11 on
 /// a null denominator, and on distance 0 with a negative exponent.
-std::vector<double> CalcularDR(const Arboles& arboles, Seleccion& seleccion, Lado lado,
-                               EntradaDeDistancia& entrada, double k, const Avance& avance = {});
+std::vector<double> CalcularDR(const Arboles& arboles, const Seleccion& seleccion, Lado lado,
+                               const EntradaDeDistancia& entrada, double k, const Faena& faena = {});
 
 } // namespace varo

@@ -43,13 +43,22 @@ double IndiceDe(Pareja& pareja, const Arboles& arboles, Seleccion& seleccion, La
     return m > 0 ? ExigirFinito(Dividir(2500, m) * suma) : 0;
 }
 
+/// A state of its own, for one thread.
+struct ColumnaIDP {
+    const Arboles& arboles;
+    Seleccion seleccion;
+    Lado lado;
+    double h; ///< added to the rank
+
+    double indice(Pareja& pareja) { return IndiceDe(pareja, arboles, seleccion, lado, h); }
+};
+
 } // namespace
 
-std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, Lado lado, FormaIDP forma,
-                                const Avance& avance) {
+std::vector<double> CalcularIDP(const Arboles& arboles, const Seleccion& seleccion, Lado lado, FormaIDP forma,
+                                const Faena& faena) {
     const double h = forma == FormaIDP::ConArbolCentral ? 0.5 : -0.5;
-    return ParaCadaArbol(arboles, avance,
-                         [&](Pareja& pareja) { return IndiceDe(pareja, arboles, seleccion, lado, h); });
+    return ParaCadaArbol(arboles, faena, ColumnaIDP{arboles, seleccion, lado, h});
 }
 
 } // namespace varo

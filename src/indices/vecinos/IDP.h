@@ -3,7 +3,7 @@
 // tree, and the index is the mean of the estimates.
 #pragma once
 
-#include "basico/Avance.h"
+#include "basico/Reparto.h"
 #include "indices/vecinos/Seleccion.h"
 
 #include <vector>
@@ -18,7 +18,7 @@ enum class FormaIDP {
 
 /// One column, in m2/ha: for every tree its index, 0 where it has no competitor, or a marker. The selection
 /// has its parameter and ranks by angle. Faults of the selection; 11 on a competitor at distance 0.
-std::vector<double> CalcularIDP(const Arboles& arboles, Seleccion& seleccion, Lado lado, FormaIDP forma,
-                                const Avance& avance = {});
+std::vector<double> CalcularIDP(const Arboles& arboles, const Seleccion& seleccion, Lado lado, FormaIDP forma,
+                                const Faena& faena = {});
 
 } // namespace varo

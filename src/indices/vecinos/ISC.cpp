@@ -125,9 +125,8 @@ float RadiosDeCopa::calcular(std::size_t i) const {
 }
 
 std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado,
-                                const Avance& avance) {
-    VarianteISC variante{vecindad, radios, lado};
-    return ParaCadaArbol(vecindad.arboles, avance, [&](Pareja& pareja) { return variante.indice(pareja); });
+                                const Faena& faena) {
+    return ParaCadaArbol(vecindad.arboles, faena, VarianteISC{vecindad, radios, lado});
 }
 
 } // namespace varo

@@ -3,7 +3,7 @@
 // the crowns as the circles of competition.
 #pragma once
 
-#include "basico/Avance.h"
+#include "basico/Reparto.h"
 #include "indices/vecinos/Lado.h"
 #include "indices/vecinos/Vecindad.h"
 
@@ -37,6 +37,6 @@ private:
 /// One variant, for crowns as circles: for every tree its index or a marker. Sums are rounded to 32 bits at
 /// each addition. Faults of AreaInterseccionCirculos.
 std::vector<double> CalcularISC(Vecindad& vecindad, const RadiosDeCopa& radios, Lado lado,
-                                const Avance& avance = {});
+                                const Faena& faena = {});
 
 } // namespace varo

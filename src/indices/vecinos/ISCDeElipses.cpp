@@ -103,8 +103,8 @@ private:
 
 std::vector<double> CalcularISCDeElipses(Vecindad& vecindad, const CopasDeArboles& copas, Lado lado,
                                          Lienzo& superficie, const Avance& avance) {
-    VarianteDeElipses variante{vecindad, copas, lado, superficie};
-    return ParaCadaArbol(vecindad.arboles, avance, [&](Pareja& pareja) { return variante.indice(pareja); });
+    // They all paint on the one surface: one after the other.
+    return ParaCadaArbol(vecindad.arboles, {avance}, VarianteDeElipses{vecindad, copas, lado, superficie});
 }
 
 } // namespace varo

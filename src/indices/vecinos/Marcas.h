@@ -2,8 +2,8 @@
 // share.
 #pragma once
 
-#include "basico/Avance.h"
 #include "basico/EnLugar.h"
+#include "basico/Reparto.h"
 #include "indices/vecinos/Arboles.h"
 
 #include <cstddef>
@@ -33,18 +33,21 @@ struct Pareja {
     }
 };
 
-/// The index or the marker of every tree, in the order of the rows: `indice` takes the pair and
-/// notes in it which neighbour is at work. A fault gets both rows. Each tree is a step.
-template <class Indice>
-std::vector<double> ParaCadaArbol(const Arboles& arboles, const Avance& avance, Indice&& indice) {
-    std::vector<double> indices;
-    indices.reserve(arboles.cuantos());
-    for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
-        Pareja pareja{i, i};
-        const auto situar = [&](ErrorEjecucion& error) { pareja.situar(error, arboles.padron()); };
-        indices.push_back(AlFallar(situar, [&] { return indice(pareja); }));
-        avance.paso();
-    }
+/// The index or the marker of every tree, in the order of the rows: `columna.indice` takes the pair and notes
+/// in it which neighbour is at work. A fault gets both rows. Each tree is a step. Threads work with copies of
+/// `columna`; `enOrden` as in Repartir.
+template <class Columna>
+std::vector<double> ParaCadaArbol(const Arboles& arboles, const Faena& faena, const Columna& columna,
+                                  const Hacer& enOrden = {}) {
+    std::vector<double> indices(arboles.cuantos());
+    const auto crear = [&]() -> Hacer {
+        return [&, suya = columna](std::size_t i) mutable {
+            Pareja pareja{i, i};
+            const auto situar = [&](ErrorEjecucion& error) { pareja.situar(error, arboles.padron()); };
+            indices[i] = AlFallar(situar, [&] { return suya.indice(pareja); });
+        };
+    };
+    Repartir(arboles.cuantos(), faena, crear, enOrden);
     return indices;
 }
 

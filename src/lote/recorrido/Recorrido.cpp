@@ -134,11 +134,13 @@ std::string Informe::texto(const Trabajo& trabajo) const {
     return texto;
 }
 
-Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento, PintorDeMapas* pintor) {
+Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento, PintorDeMapas* pintor,
+                      Cuadrilla* cuadrilla) {
     if (pintor == nullptr) {
         ExigirPintor(trabajo);
     }
     PuestoDeTrabajo puesto{trabajo, seguimiento};
+    puesto.servicios.ayuda = cuadrilla;
     puesto.empezar("abriendo " + trabajo.archivo.string());
     AbrirParcela(puesto);
     AceptarHoja(puesto);

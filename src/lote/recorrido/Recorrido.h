@@ -20,8 +20,9 @@ struct Informe {
 };
 
 /// Does a job as a person would, through the same windows. What ends it early is an ErrorTrabajo; an output
-/// that fails leaves the others written. Without a painter a job that asks for a picture is refused.
+/// that fails leaves the others written. Without a painter a job that asks for a picture is refused; without
+/// other threads it computes on its own.
 Informe CorrerTrabajo(const Trabajo& trabajo, const Seguimiento& seguimiento = {},
-                      PintorDeMapas* pintor = nullptr);
+                      PintorDeMapas* pintor = nullptr, Cuadrilla* cuadrilla = nullptr);
 
 } // namespace varo

@@ -26,6 +26,9 @@ public:
     /// Who hears the job; nobody where it is null.
     OyenteDeAvance* oyente = nullptr;
     Avance avance() override { return oyente != nullptr ? Avance{*oyente} : Avance{}; }
+    /// Who helps it to compute.
+    Cuadrilla* ayuda = nullptr;
+    Cuadrilla* cuadrilla() override { return ayuda; }
 
 private:
     std::shared_ptr<ArchivoNuevo> archivo_;
