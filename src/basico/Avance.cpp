@@ -13,11 +13,13 @@ double Marcha::parte() const {
 
 std::optional<seconds> Marcha::queda(std::chrono::steady_clock::time_point ahora) const {
     constexpr double mucho = 1E+9; // s
+    constexpr double bastantes = 1; // s
+    constexpr double bastante = 0.05;
     const double hecha = parte();
-    if (!(hecha > 0)) {
+    const double pasados = duration<double>{ahora - comienzo}.count();
+    if (!(hecha > 0) || (hecha < bastante && pasados < bastantes)) {
         return std::nullopt;
     }
-    const double pasados = duration<double>{ahora - comienzo}.count();
     return seconds{static_cast<seconds::rep>(std::min(mucho, pasados / hecha * (1 - hecha)))};
 }
 

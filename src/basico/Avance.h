@@ -22,7 +22,7 @@ struct Marcha {
 
     /// From 0 to 1.
     [[nodiscard]] double parte() const;
-    /// By the pace so far; nothing while it tells too little.
+    /// By the pace so far; nothing while it tells too little: in the first second of the first twentieth.
     [[nodiscard]] std::optional<std::chrono::seconds>
     queda(std::chrono::steady_clock::time_point ahora) const;
 };

@@ -86,6 +86,15 @@ TEST(Avance, LoQueQuedaSaleDelPasoQueSeLleva) {
     EXPECT_EQ(marcha.queda(marcha.comienzo + seconds{20}), std::nullopt);
 }
 
+TEST(Avance, AlPrincipioNoSeDiceLoQueQueda) {
+    Marcha marcha{"", 4, 100, {}};
+    const std::chrono::milliseconds pocoRato{900};
+    EXPECT_EQ(marcha.queda(marcha.comienzo + pocoRato), std::nullopt);
+    EXPECT_EQ(marcha.queda(marcha.comienzo + seconds{1}), seconds{24});
+    marcha.hechos = 5;
+    EXPECT_EQ(marcha.queda(marcha.comienzo + pocoRato), seconds{17});
+}
+
 TEST(Avance, UnaDuracionSeLee) {
     EXPECT_EQ(TextoDeDuracion(seconds{0}), "menos de 1 s");
     EXPECT_EQ(TextoDeDuracion(seconds{1}), "1 s");
