@@ -12,7 +12,7 @@ double Marcha::parte() const {
 }
 
 std::optional<seconds> Marcha::queda(std::chrono::steady_clock::time_point ahora) const {
-    constexpr double mucho = 1E+9; // s
+    constexpr double mucho = 1E+9;  // s
     constexpr double bastantes = 1; // s
     constexpr double bastante = 0.05;
     const double hecha = parte();

@@ -1,5 +1,6 @@
 #include "indices/apa/APA.h"
 
+#include "basico/Cuadrilla.h"
 #include "basico/Numeros.h"
 #include "indices/apa/APALiteral.h"
 
@@ -62,6 +63,16 @@ void MedirAPA(benchmark::State& estado) {
     }
 }
 
+/// On several threads; by the wall clock.
+void MedirAPAEnVariosHilos(benchmark::State& estado) {
+    const Parcela parcela{static_cast<long>(estado.range(0))};
+    Cuadrilla cuadrilla{static_cast<std::size_t>(estado.range(1))};
+    const ContornoXY contorno{parcela.contornoX, parcela.contornoY};
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(CalcularAPA(parcela.arboles, contorno, 1, {}, {{}, &cuadrilla}));
+    }
+}
+
 /// The same column by the literal procedure.
 void MedirAPALiteral(benchmark::State& estado) {
     const Parcela parcela{static_cast<long>(estado.range(0))};
@@ -76,6 +87,12 @@ BENCHMARK(MedirAPA)
     ->ArgNames({"arboles", "k"})
     ->ArgsProduct({{200, 500, 1000, 5000, 20000}, {0, 1, 2, 4}})
     ->Unit(benchmark::kMillisecond);
+
+BENCHMARK(MedirAPAEnVariosHilos)
+    ->ArgNames({"arboles", "hilos"})
+    ->ArgsProduct({{1000, 20000}, {1, 2, 4}})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 // The time grows with the cube of the trees: some minutes for 2,000.
 BENCHMARK(MedirAPALiteral)

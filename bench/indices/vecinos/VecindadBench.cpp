@@ -7,6 +7,7 @@
 #include "indices/vecinos/ISCDeElipses.h"
 
 #include "SitiosDeParcela.h"
+#include "basico/Cuadrilla.h"
 #include "basico/Numeros.h"
 #include "indices/vecinos/ElipsesLiteral.h"
 #include "plot/calculo/Envolvente.h"
@@ -122,6 +123,20 @@ void DR(benchmark::State& estado, ReglaDeSeleccion regla, double p) {
     }
 }
 
+/// Within 10 m, on several threads.
+void DREnVariosHilos(benchmark::State& estado) {
+    const Parcela parcela{estado.range(0)};
+    Cuadrilla cuadrilla{static_cast<std::size_t>(estado.range(1))};
+    for (auto _ : estado) {
+        Vecindad vecindad{*parcela.arboles, parcela.contorno()};
+        Seleccion seleccion{vecindad, ReglaDeSeleccion::Distancia, OrdenDeRango::PorDistancia};
+        seleccion.poner(10);
+        const EntradaDeDistancia entrada{peso};
+        benchmark::DoNotOptimize(
+            CalcularDR(*parcela.arboles, seleccion, Lado::Bilateral, entrada, 1, {{}, &cuadrilla}));
+    }
+}
+
 void ISCLiteral(benchmark::State& estado) {
     const Parcela parcela{estado.range(0)};
     for (auto _ : estado) {
@@ -179,6 +194,11 @@ BENCHMARK_CAPTURE(IDP, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(Tamano
 BENCHMARK_CAPTURE(DR, diez_metros, ReglaDeSeleccion::Distancia, 10)->Apply(Tamanos);
 BENCHMARK_CAPTURE(DR, baf_1, ReglaDeSeleccion::BAF, 1)->Apply(Tamanos);
 BENCHMARK_CAPTURE(DR, ocho_pies, ReglaDeSeleccion::NumeroFijo, 8)->Apply(Tamanos);
+BENCHMARK(DREnVariosHilos)
+    ->ArgNames({"arboles", "hilos"})
+    ->ArgsProduct({{1000, 20000}, {1, 2, 4}})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 BENCHMARK(ISCLiteral)->Apply(TamanosLiterales);
 BENCHMARK_CAPTURE(ISCDeElipsesLiteral, cuatro_metros, 4)->Arg(200)->Unit(benchmark::kMillisecond);
