@@ -1,23 +1,36 @@
-// The ring that the sides of a cell make about its tree, and what it says about the trees beyond it: how far
-// away a tree can still matter to the cell. docs/apa.md, "The ring".
+// The ring that the sides of a cell make about its tree, and what it says about the other trees: which ones
+// can matter to the cell. docs/apa.md, "The ring".
 #pragma once
 
 #include "indices/apa/APAGiro.h"
 
-#include <optional>
+#include <vector>
 
 namespace varo {
 
 struct AnilloAPA {
-    /// A circle that comes out this many times larger than R is larger than R, whatever was rounded.
-    static constexpr double masAllaDelRadio = 1.025;
+    /// A side, as the way to its virtual neighbour.
+    struct LadoDelAnillo {
+        PuntoAPA vecino;        ///< from the tree (m)
+        double distancia = 0;   ///< its length (m)
+        double inclinacion = 0; ///< the sine between it and the x axis
+        double seno = 0;        ///< nearer than this to its line (the sine of the angle), a circle may fault
+    };
+    /// The circle through the tree, a side and the next one.
+    struct CirculoDelAnillo {
+        PuntoAPA centro; ///< from the tree (m)
+        double radio = 0;
+        double seno = 0; ///< between the two sides
+    };
 
-    double radio = 0;            ///< R: the largest circle through the tree and two neighbours in a row (m)
+    std::vector<LadoDelAnillo> lados;
+    std::vector<CirculoDelAnillo> circulos;
     double vecinoMasCercano = 0; ///< m: the distance of the nearest neighbour (m)
+    double tolerancia = 0;       ///< what stands so far outside of all circles matters to none (m)
 };
 
-/// The ring of a turn that has ended. Nothing where the sides do not close about the tree, or where a
-/// neighbour was taken by a circle beyond R.
-std::optional<AnilloAPA> CerrarAnillo(const VecinosAPA& vecinos, const GiroAPA& giro);
+/// Makes the ring of a turn that has ended; false where the sides do not close about the tree. No coordinate
+/// of a virtual neighbour is larger than `medida` (m).
+bool CerrarAnillo(const VecinosAPA& vecinos, const GiroAPA& giro, double medida, AnilloAPA& anillo);
 
 } // namespace varo

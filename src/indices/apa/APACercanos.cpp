@@ -13,18 +13,18 @@ namespace {
 
 // docs/apa.md derives these, each under the name that it has here.
 constexpr double u = std::numeric_limits<double>::epsilon() / 2; // the unit roundoff, 2^-53
-constexpr double masAllaDelAlcance = 1.05;
 constexpr double senoDesmedido = 0.05;
 constexpr double desmedido = 1E+100;
 constexpr double medidaMaxima = 1E+12; // m
-constexpr double cercaniaMinima = 1E-4;
 
 } // namespace
 
 CercanosAPA::CercanosAPA(const PesosAPA& pesos)
-    : pesos_{pesos}, cuadricula_{pesos}, medida_{cuadricula_.mayorCoordenada() + 2 * cuadricula_.extension()},
+    : pesos_{pesos}, cuadricula_{pesos}, lineas_{pesos.arboles(), cuadricula_.filas()},
+      medida_{cuadricula_.mayorCoordenada() + 2 * cuadricula_.extension()},
       dudoso_(pesos.arboles().cuantos()), presente_(pesos.arboles().cuantos()) {
     marcarDudosos();
+    buscarEsquinas();
 }
 
 /// The subjects that no search by distance serves: those that are not in the grid, those without a weight to
@@ -49,32 +49,54 @@ void CercanosAPA::marcarDudosos() {
     }
 }
 
+/// Andrew's walk over the trees by x, once above and once below. A corner that rounding hides or adds costs
+/// time alone: no ring closes about it, and without it some rings close late.
+void CercanosAPA::buscarEsquinas() {
+    const Arboles& arboles = pesos_.arboles();
+    std::vector<Fila> porX = cuadricula_.filas();
+    std::sort(porX.begin(), porX.end(), [&](Fila a, Fila b) { return arboles.x(a) < arboles.x(b); });
+    for (const double signo : {1.0, -1.0}) {
+        std::vector<Fila> lado;
+        for (const Fila c : porX) {
+            const auto sobra = [&] {
+                const Fila a = lado[lado.size() - 2];
+                const Fila b = lado.back();
+                const double cruz = (arboles.x(b) - arboles.x(a)) * (arboles.y(c) - arboles.y(a)) -
+                                    (arboles.y(b) - arboles.y(a)) * (arboles.x(c) - arboles.x(a));
+                return cruz * signo <= 0;
+            };
+            while (lado.size() > 1 && sobra()) {
+                lado.pop_back();
+            }
+            lado.push_back(c);
+        }
+        esquinas_.insert(esquinas_.end(), lado.begin(), lado.end());
+    }
+    for (const Fila esquina : esquinas_) {
+        dudoso_[esquina] = true;
+    }
+}
+
 bool CercanosAPA::girar(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
     const std::size_t i = pareja.sujeto;
     assert(!pesos_.arboles().sinTamano(i));
     if (dudoso_[i] || medida_ > medidaMaxima) {
         return false;
     }
-    double medioLado = 2 * cuadricula_.lado();
-    empezar(i, medioLado);
+    empezar(i);
     while (girarEntreEllas(pareja, vecinos, giro)) {
-        const auto anillo = CerrarAnillo(vecinos, giro);
         halladas_.clear();
-        if (!anillo) {
-            medioLado *= 2;
-            cuadricula_.cuadro(i, medioLado, halladas_);
+        if (!CerrarAnillo(vecinos, giro, medida_, anillo_)) {
+            alejarse(i);
             anadirHalladas();
             continue;
         }
-        if (!(anillo->vecinoMasCercano > cercaniaMinima * anillo->radio)) {
-            return false;
-        }
         // The lines go through the whole plot, so they are looked along only for a ring that stands so far.
-        cuadricula_.alAlcance(i, 2 * anillo->radio * masAllaDelAlcance, halladas_);
+        cuadricula_.enLosCirculos(i, anillo_, halladas_);
         if (anadirHalladas()) {
             continue;
         }
-        if (!buscarEnLineas(i, *anillo, vecinos, giro.lados())) {
+        if (!buscarEnLineas(i)) {
             return false;
         }
         if (!anadirHalladas()) {
@@ -84,14 +106,23 @@ bool CercanosAPA::girar(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
     return false;
 }
 
-void CercanosAPA::empezar(std::size_t i, double medioLado) {
+void CercanosAPA::empezar(std::size_t i) {
     for (const Fila fila : filas_) {
         presente_[fila] = false;
     }
     filas_.clear();
     halladas_.clear();
-    cuadricula_.cuadro(i, medioLado, halladas_);
+    medioLado_ = 2 * cuadricula_.lado();
+    cuadricula_.cuadro(i, medioLado_, halladas_);
     anadirHalladas();
+}
+
+void CercanosAPA::alejarse(std::size_t i) {
+    if (medioLado_ > 3 * cuadricula_.lado()) {
+        halladas_ = esquinas_;
+    }
+    medioLado_ *= 2;
+    cuadricula_.cuadro(i, medioLado_, halladas_);
 }
 
 bool CercanosAPA::anadirHalladas() {
@@ -120,42 +151,27 @@ bool CercanosAPA::girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& 
     });
 }
 
-bool CercanosAPA::buscarEnLineas(std::size_t i, const AnilloAPA& anillo, const VecinosAPA& vecinos,
-                                 const std::vector<LadoAPA>& lados) {
+bool CercanosAPA::buscarEnLineas(std::size_t i) {
     halladas_.clear();
-    const double senoEjes = senoDeLosEjes(anillo.radio);
-    bool medible = buscarEnLinea(i, {1, 0}, senoEjes) && buscarEnLinea(i, {0, 1}, senoEjes);
-    for (std::size_t v = 0; medible && v < lados.size(); ++v) {
-        const auto [x, y] = vecinos.desdeElSujeto(lados[v].vecino);
-        const double distancia = std::hypot(x, y);
-        medible =
-            buscarEnLinea(i, {x / distancia, y / distancia}, senoDelLado(anillo, std::abs(y) / distancia));
-    }
-    return medible;
-}
-
-bool CercanosAPA::buscarEnLinea(std::size_t i, const DireccionAPA& direccion, double seno) {
-    if (!(seno < senoDesmedido)) {
+    const double senoEjes = senoDeLosEjes();
+    if (!(senoEjes < senoDesmedido)) {
         return false;
     }
-    cuadricula_.enfiladas(i, direccion, 2 * seno, halladas_);
+    lineas_.enLosEjes(i, 2 * senoEjes, halladas_);
+    for (const auto& [vecino, distancia, inclinacion, seno] : anillo_.lados) {
+        if (!(seno < senoDesmedido)) {
+            return false;
+        }
+        lineas_.enfiladas(i, {vecino.x / distancia, vecino.y / distancia}, 2 * seno, halladas_);
+    }
     return true;
 }
 
 /// docs/apa.md, "Directions near an axis".
-double CercanosAPA::senoDeLosEjes(double radio) const {
+double CercanosAPA::senoDeLosEjes() const {
     const auto termino = [](double L) { return (L + 1) * (L + 1) / L; };
-    const double peor = std::max(termino(2 * radio), termino(2 * cuadricula_.extension()));
+    const double peor = std::max(termino(anillo_.vecinoMasCercano), termino(2 * cuadricula_.extension()));
     return std::sqrt(512 * u * (peor + medida_));
-}
-
-/// docs/apa.md, "Circles through a far neighbour".
-double CercanosAPA::senoDelLado(const AnilloAPA& anillo, double inclinacion) const {
-    const auto [R, m] = anillo;
-    const double error = (AnilloAPA::masAllaDelRadio - 1) * m / (4 * R);
-    const double centro = 512 * u * (1 + medida_ / R) / (inclinacion * error);
-    const double mayorCirculo = m * m / (64 * u * R);
-    return std::max(centro, 2 * (cuadricula_.extension() + R) / mayorCirculo);
 }
 
 } // namespace varo

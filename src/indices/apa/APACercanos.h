@@ -6,6 +6,7 @@
 #include "indices/apa/APAAnillo.h"
 #include "indices/apa/APACuadricula.h"
 #include "indices/apa/APAGiro.h"
+#include "indices/apa/APALineas.h"
 
 #include <cstddef>
 #include <vector>
@@ -25,28 +26,29 @@ private:
     using Fila = VecinosAPA::Fila;
 
     void marcarDudosos();
+    void buscarEsquinas();
     /// Makes `filas_` those in a square about tree i.
-    void empezar(std::size_t i, double medioLado);
+    void empezar(std::size_t i);
     /// Adds to `filas_` the ones in `halladas_` that are not there yet; false where all of them are.
     bool anadirHalladas();
     /// Turns over the rows in `filas_`; false where they are too many, or the turn faults.
     bool girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro);
+    /// For a ring that does not close: takes in trees farther away, the more the more often it is asked.
+    void alejarse(std::size_t i);
     /// Leaves in `halladas_` the trees that might fault and that the turn must have had at hand; false where
     /// rounding may be too large to tell.
-    bool buscarEnLineas(std::size_t i, const AnilloAPA& anillo, const VecinosAPA& vecinos,
-                        const std::vector<LadoAPA>& lados);
-    /// Adds to `halladas_` the trees too near to a direction; false where "too near" is no narrow angle.
-    bool buscarEnLinea(std::size_t i, const DireccionAPA& direccion, double seno);
+    bool buscarEnLineas(std::size_t i);
     /// Farther than this from both axes (the sine of the angle), no direction faults.
-    [[nodiscard]] double senoDeLosEjes(double radio) const;
-    /// Farther than this from the line of a side's neighbour (the sine of the angle), the circle through both
-    /// is found well enough. `inclinacion` is the sine between that line and the x axis.
-    [[nodiscard]] double senoDelLado(const AnilloAPA& anillo, double inclinacion) const;
+    [[nodiscard]] double senoDeLosEjes() const;
 
     const PesosAPA& pesos_;
     CuadriculaAPA cuadricula_;
+    LineasAPA lineas_;
     double medida_; ///< no coordinate of a virtual neighbour is larger (m)
     std::vector<bool> dudoso_;
+    std::vector<Fila> esquinas_; ///< the trees at the corners of the plot: every other one stands among them
+    AnilloAPA anillo_;
+    double medioLado_ = 0;       ///< of the square about the subject that is in `filas_` (m)
     std::vector<Fila> filas_;    ///< in ascending order, each one once
     std::vector<Fila> halladas_; ///< in any order, some of them more than once
     std::vector<bool> presente_; ///< whether a row is in `filas_`

@@ -19,69 +19,6 @@ Cuadricula CuadriculaDe(const Arboles& arboles) {
     return {arboles, std::move(filas)};
 }
 
-/// The cells that a band about a line touches. It is walked slice by slice along the axis that the line is
-/// nearer to: by columns if that is x, by rows if it is y. So the line rises by at most one cell in a slice.
-/// Lengths are in cells, from the grid's corner.
-class Franja {
-public:
-    /// The line goes through `punto`; no point of the band is farther than `semiancho` (m) from it.
-    Franja(const Cuadricula& cuadricula, const PuntoAPA& punto, const DireccionAPA& direccion,
-           double semiancho)
-        : cuadricula_{cuadricula}, porColumnas_{std::abs(direccion.x) >= std::abs(direccion.y)} {
-        const double avance = porColumnas_ ? direccion.x : direccion.y;
-        const double subida = porColumnas_ ? direccion.y : direccion.x;
-        pendiente_ = subida / avance;
-        // Measured along a slice, which the line crosses aslant, the band is wider.
-        const double lado = cuadricula.lado();
-        const double holgura = Cuadricula::holgura;
-        const double alLado = semiancho / std::abs(avance) / lado + holgura;
-        const double x = (punto.x - cuadricula.extremos().x0) / lado;
-        const double y = (punto.y - cuadricula.extremos().y0) / lado;
-        const double entra = porColumnas_ ? y - x * pendiente_ : x - y * pendiente_;
-        bajo_ = entra + std::min(pendiente_, 0.0) - alLado;
-        alto_ = entra + std::max(pendiente_, 0.0) + alLado;
-    }
-
-    /// Visits the places of the trees in those cells.
-    template <class Visita>
-    void recorrer(Visita visita) const {
-        const std::size_t rebanadas = porColumnas_ ? cuadricula_.columnas() : cuadricula_.hileras();
-        const std::size_t casillas = porColumnas_ ? cuadricula_.hileras() : cuadricula_.columnas();
-        const auto ultima = static_cast<double>(casillas - 1);
-        for (std::size_t rebanada = 0; rebanada < rebanadas; ++rebanada) {
-            const double subida = static_cast<double>(rebanada) * pendiente_;
-            const double bajo = bajo_ + subida;
-            const double alto = alto_ + subida;
-            if (alto < -1 || bajo > ultima + 2) {
-                continue; // beside the grid
-            }
-            recorrerTramo(rebanada, {casillaEn(bajo, ultima), casillaEn(alto, ultima)}, visita);
-        }
-    }
-
-private:
-    /// What stands beyond the ends is in the cells at the ends.
-    static std::size_t casillaEn(double posicion, double ultima) {
-        return static_cast<std::size_t>(std::clamp(posicion, 0.0, ultima));
-    }
-
-    template <class Visita>
-    void recorrerTramo(std::size_t rebanada, const Cuadricula::Tramo& tramo, Visita visita) const {
-        if (porColumnas_) {
-            cuadricula_.recorrer(rebanada, tramo, visita);
-            return;
-        }
-        for (std::size_t columna = tramo.desde; columna <= tramo.hasta; ++columna) {
-            cuadricula_.recorrer(columna, {rebanada, rebanada}, visita);
-        }
-    }
-
-    const Cuadricula& cuadricula_;
-    bool porColumnas_;
-    double pendiente_ = 0;       ///< rise of the line from one slice to the next, -1 to 1
-    double bajo_ = 0, alto_ = 0; ///< the edges of the band in the first slice
-};
-
 } // namespace
 
 CuadriculaAPA::CuadriculaAPA(const PesosAPA& pesos)
@@ -107,40 +44,33 @@ void CuadriculaAPA::cuadro(std::size_t i, double medioLado, std::vector<Fila>& h
                                [&](std::size_t lugar) { halladas.push_back(cuadricula_.fila(lugar)); });
 }
 
-void CuadriculaAPA::alAlcance(std::size_t i, double alcance, std::vector<Fila>& halladas) const {
-    assert(tiene(i) && alcance >= 0);
-    constexpr double holgura = 1 + 1E-9; // docs/apa.md, "The trees within reach"
+void CuadriculaAPA::enLosCirculos(std::size_t i, const AnilloAPA& anillo, std::vector<Fila>& halladas) const {
+    assert(tiene(i));
     const double xi = pesos_.arboles().x(i);
     const double yi = pesos_.arboles().y(i);
     const double peso = pesos_.de(i);
-    // 2 * W * L <= alcance, as 2 * peso * L <= alcance * (peso + pesoJ): squared, and with no division.
-    const double a = 4 * peso * peso;
-    const double b = alcance * alcance * holgura;
-    const double medioLado = alcance * (peso + mayorPeso_) / (2 * peso);
-    cuadricula_.recorrerCuadro(xi, yi, medioLado, [&](std::size_t lugar) {
+    const double tolerancia = anillo.tolerancia;
+    // The trees whose virtual neighbours may stand in a circle are in one that is so many times as large.
+    const double mayor = (peso + mayorPeso_) / (2 * peso);
+    Cuadricula::Extremos caja;
+    for (const auto& [centro, radio, seno] : anillo.circulos) {
+        const double semilado = radio + 2 * tolerancia;
+        caja.x0 = std::min(caja.x0, (centro.x - semilado) * mayor);
+        caja.y0 = std::min(caja.y0, (centro.y - semilado) * mayor);
+        caja.x1 = std::max(caja.x1, (centro.x + semilado) * mayor);
+        caja.y1 = std::max(caja.y1, (centro.y + semilado) * mayor);
+    }
+    cuadricula_.recorrerCaja(xi, yi, caja, [&](std::size_t lugar) {
         const double dx = cuadricula_.x(lugar) - xi;
         const double dy = cuadricula_.y(lugar) - yi;
-        const double suma = peso + peso_[lugar];
-        if (a * (dx * dx + dy * dy) <= b * (suma * suma)) {
-            halladas.push_back(cuadricula_.fila(lugar));
+        double hacia = anillo.circulos[0].centro.x * dx + anillo.circulos[0].centro.y * dy;
+        for (const auto& [centro, radio, seno] : anillo.circulos) {
+            hacia = std::max(hacia, centro.x * dx + centro.y * dy);
         }
-    });
-}
-
-void CuadriculaAPA::enfiladas(std::size_t i, const DireccionAPA& direccion, double seno,
-                              std::vector<Fila>& halladas) const {
-    assert(tiene(i) && seno >= 0);
-    assert(std::abs(std::hypot(direccion.x, direccion.y) - 1) < 1E-9);
-    const double xi = pesos_.arboles().x(i);
-    const double yi = pesos_.arboles().y(i);
-    const double seno2 = seno * seno;
-    // A tree at a distance L within that angle stands within seno * L of the line, L at most the extension.
-    const Franja franja{cuadricula_, {xi, yi}, direccion, seno * extension_};
-    franja.recorrer([&](std::size_t lugar) {
-        const double dx = cuadricula_.x(lugar) - xi;
-        const double dy = cuadricula_.y(lugar) - yi;
-        const double alejamiento = direccion.x * dy - direccion.y * dx; // from the line
-        if (alejamiento * alejamiento <= seno2 * (dx * dx + dy * dy)) {
+        // With t the tree, L its distance, c a centre and q = 2 * W * t: |q| >= 2 * c * q / |q| +
+        // tolerancia is 2 * W * L * L >= 2 * c * t + tolerancia * L, here with no division and no root.
+        const double dentro = 2 * hacia + tolerancia * (std::abs(dx) + std::abs(dy));
+        if (!(2 * peso * (dx * dx + dy * dy) >= dentro * (peso + peso_[lugar]))) {
             halladas.push_back(cuadricula_.fila(lugar));
         }
     });

@@ -1,7 +1,8 @@
-// The grid of APA: finds the trees near one of them and those along a line through it. A search may add trees
-// that it need not; it never leaves one out.
+// The grid of APA: finds the trees near one of them. A search may add trees that it need not; it never leaves
+// one out.
 #pragma once
 
+#include "indices/apa/APAAnillo.h"
 #include "indices/apa/APAVecinos.h"
 #include "indices/vecinos/Arboles.h"
 #include "plot/calculo/Cuadricula.h"
@@ -10,12 +11,6 @@
 #include <vector>
 
 namespace varo {
-
-/// A direction as a vector of length 1.
-struct DireccionAPA {
-    double x = 0;
-    double y = 0;
-};
 
 /// Holds the trees that can be virtual neighbours: all with a size but those of size 0. Each search starts
 /// from one of them, tree i.
@@ -28,6 +23,8 @@ public:
 
     /// Trees in the grid.
     [[nodiscard]] std::size_t cuantos() const { return cuadricula_.cuantos(); }
+    /// The trees in it.
+    [[nodiscard]] const std::vector<Fila>& filas() const { return cuadricula_.filas(); }
     /// A distance that no two trees exceed (m).
     [[nodiscard]] double extension() const { return extension_; }
     /// The largest coordinate without its sign (m).
@@ -37,11 +34,9 @@ public:
 
     /// Adds the trees in the square of that half side (m) about tree i, itself too.
     void cuadro(std::size_t i, double medioLado, std::vector<Fila>& halladas) const;
-    /// Adds the trees whose virtual neighbour stands within a distance (m) of tree i, itself too.
-    void alAlcance(std::size_t i, double alcance, std::vector<Fila>& halladas) const;
-    /// Adds the trees that tree i sees within an angle (its sine) of a direction or of the opposite one.
-    void enfiladas(std::size_t i, const DireccionAPA& direccion, double seno,
-                   std::vector<Fila>& halladas) const;
+    /// Adds the trees whose virtual neighbour stands in a circle of the ring about tree i, or too near to
+    /// one.
+    void enLosCirculos(std::size_t i, const AnilloAPA& anillo, std::vector<Fila>& halladas) const;
 
 private:
     /// Whether tree i is in the grid.

@@ -30,7 +30,6 @@ void GiroAPA::dar(const VecinosAPA& vecinos, Pareja& pareja) {
     assert(vecinos.x.size() == vecinos.cuantos() && vecinos.y.size() == vecinos.cuantos());
     vecinos_ = &vecinos;
     lados_.clear();
-    mayorRadio_ = 0;
     ultimoCirculo_.reset();
 
     const Vecino primero = masCercano();
@@ -103,7 +102,6 @@ void GiroAPA::probarLosDemas(Vecino primero, Pareja& pareja) {
             [&] { return RadioCircunscrito(xi, yi, x[p], y[p], x[q], y[q]); }));
         if (vacio(circulo, p, q)) {
             anadirLado(q);
-            mayorRadio_ = std::max(mayorRadio_, circulo.radio);
             rueda_.tomar();
             p = q;
         }

@@ -29,8 +29,6 @@ public:
     /// The sides, in the order in which they were taken, after a turn without a fault; the first one is not
     /// repeated at the end.
     [[nodiscard]] const std::vector<LadoAPA>& lados() const { return lados_; }
-    /// The radius of the largest of the empty circles by which neighbours were taken (m).
-    [[nodiscard]] double mayorRadio() const { return mayorRadio_; }
     /// The circle that was looked for last, empty or not; none about a single neighbour.
     [[nodiscard]] const std::optional<CirculoCircunscrito>& ultimoCirculo() const { return ultimoCirculo_; }
 
@@ -48,7 +46,6 @@ private:
 
     const VecinosAPA* vecinos_ = nullptr; ///< of the turn that is being made
     std::vector<LadoAPA> lados_;
-    double mayorRadio_ = 0;
     std::optional<CirculoCircunscrito> ultimoCirculo_;
     double mayorDistancia_ = 0; ///< from the subject to a neighbour (m)
 

@@ -56,11 +56,18 @@ public:
     /// rounding.
     [[nodiscard]] Tramo tramo(double desde, double hasta, std::size_t cuantas) const;
 
+    /// The first place of some cells of a column, and the one behind their last.
+    [[nodiscard]] std::pair<std::size_t, std::size_t> lugares(std::size_t columna,
+                                                              const Tramo& hileras) const {
+        return {comienzo_[columna * hileras_ + hileras.desde],
+                comienzo_[columna * hileras_ + hileras.hasta + 1]};
+    }
+
     /// Visits the places of some cells of a column.
     template <class Visita>
     void recorrer(std::size_t columna, const Tramo& hileras, Visita visita) const {
-        const std::size_t fin = comienzo_[columna * hileras_ + hileras.hasta + 1];
-        for (std::size_t lugar = comienzo_[columna * hileras_ + hileras.desde]; lugar < fin; ++lugar) {
+        const auto [desde, fin] = lugares(columna, hileras);
+        for (std::size_t lugar = desde; lugar < fin; ++lugar) {
             visita(lugar);
         }
     }
@@ -69,10 +76,16 @@ public:
     /// some round it.
     template <class Visita>
     void recorrerCuadro(double x, double y, double medioLado, Visita visita) const {
+        recorrerCaja(x, y, {-medioLado, -medioLado, medioLado, medioLado}, visita);
+    }
+
+    /// The same for a rectangle, whose ends are measured from the point.
+    template <class Visita>
+    void recorrerCaja(double x, double y, const Extremos& caja, Visita visita) const {
         const double dx = x - extremos_.x0;
         const double dy = y - extremos_.y0;
-        const Tramo enX = tramo(dx - medioLado, dx + medioLado, columnas_);
-        const Tramo enY = tramo(dy - medioLado, dy + medioLado, hileras_);
+        const Tramo enX = tramo(dx + caja.x0, dx + caja.x1, columnas_);
+        const Tramo enY = tramo(dy + caja.y0, dy + caja.y1, hileras_);
         for (std::size_t columna = enX.desde; columna <= enX.hasta; ++columna) {
             recorrer(columna, enY, visita);
         }
