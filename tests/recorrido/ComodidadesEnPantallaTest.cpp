@@ -51,7 +51,7 @@ TEST(ComodidadesEnPantalla, ConElTeclado) {
         manos.esperarVentana("VAROMAIN");
         manos.tecla("ctrl+o");
         manos.esperarVentana("DlogoAbrir");
-        manos.teclear((Ejemplos() / "parcela.xls").string());
+        manos.escribir("DlogoAbrir", "fileNameEdit", (Ejemplos() / "parcela.xls").string());
         manos.tecla("Return");
         ElegirHoja(manos);
         CopiarDeLaHoja(manos);
@@ -59,6 +59,7 @@ TEST(ComodidadesEnPantalla, ConElTeclado) {
         manos.esperarVentana("Hojadedatos");
         manos.tecla("ctrl+w");
         manos.esperarQueSeVaya("Hojadedatos");
+        manos.esperarVentana("VAROMAIN");
         manos.tecla("alt+a");
         manos.tecla("1");
         ElegirHoja(manos);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QLineEdit>
 #include <QProcess>
 #include <QScreen>
 #include <QScrollArea>
@@ -86,14 +87,26 @@ QWidget* ControlDe(const QString& ventana, const QString& control) {
     return donde->findChild<QWidget*>(control);
 }
 
-void Manos::esperar(const std::string& que, const std::function<bool()>& condicion) const {
-    const QDeadlineTimer limite{plazo};
+namespace {
+
+/// Tells whether a condition comes to hold within some milliseconds.
+bool Llega(int espera, const std::function<bool()>& condicion) {
+    const QDeadlineTimer limite{espera};
     while (!EnElHiloDeLasVentanas(condicion)) {
         if (limite.hasExpired()) {
-            fotoEnMarcha("fallo");
-            throw std::runtime_error{"no llega: " + que};
+            return false;
         }
         QThread::msleep(pausa);
+    }
+    return true;
+}
+
+} // namespace
+
+void Manos::esperar(const std::string& que, const std::function<bool()>& condicion) const {
+    if (!Llega(plazo, condicion)) {
+        fotoEnMarcha("fallo");
+        throw std::runtime_error{"no llega: " + que};
     }
 }
 
@@ -147,6 +160,27 @@ void Manos::tecla(const std::string& nombre) const {
 
 void Manos::teclear(const std::string& texto) const {
     Xdotool({"type", "--clearmodifiers", "--delay", "5", QString::fromStdString(texto)});
+}
+
+void Manos::escribir(const QString& ventana, const QString& campo, const std::string& texto) const {
+    constexpr int intentos = 8;
+    constexpr int espera = 4'000; // in milliseconds
+    const auto estaEscrito = [&] {
+        const auto* const caja = qobject_cast<QLineEdit*>(ControlDe(ventana, campo));
+        return caja != nullptr && caja->text().toStdString() == texto;
+    };
+    for (int intento = 0; intento < intentos; ++intento) {
+        esperar("el foco en " + campo.toStdString(), [&] {
+            const QWidget* const widget = ControlDe(ventana, campo);
+            return widget != nullptr && widget->hasFocus();
+        });
+        tecla("ctrl+a");
+        teclear(texto);
+        if (Llega(espera, estaEscrito)) {
+            return;
+        }
+    }
+    esperar("«" + texto + "» en " + campo.toStdString(), estaEscrito);
 }
 
 QString Manos::leer(const QString& ventana, const QString& control,

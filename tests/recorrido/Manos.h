@@ -28,6 +28,9 @@ public:
     void tecla(const std::string& nombre) const;
     /// Types a text with the keyboard.
     void teclear(const std::string& texto) const;
+    /// Replaces the text of a field by typing, once the field has the focus. A list that opens below it may
+    /// take the focus away for a moment, and with it some letters: types again then.
+    void escribir(const QString& ventana, const QString& campo, const std::string& texto) const;
 
     /// Waits until a window is visible and active.
     void esperarVentana(const QString& ventana) const;

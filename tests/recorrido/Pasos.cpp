@@ -72,7 +72,7 @@ void AbrirArchivo(const Manos& manos, const std::filesystem::path& archivo) {
     manos.tecla("a");
     manos.esperarVentana("DlogoAbrir");
     manos.foto("02-abrir");
-    manos.teclear(archivo.string());
+    manos.escribir("DlogoAbrir", "fileNameEdit", archivo.string());
     manos.tecla("Return");
 }
 
