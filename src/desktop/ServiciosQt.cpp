@@ -186,7 +186,7 @@ void ServiciosQt::elegirArchivo(DialogoAbrir& dialogo) {
     ventana.setObjectName("DlogoAbrir");
     ventana.setFileMode(QFileDialog::ExistingFile);
     ventana.setDefaultSuffix(AQt(dialogo.DefaultExt));
-    ventana.setProxyModel(new ArchivosEnEspanol{&ventana});
+    PonerArchivosEnEspanol(ventana);
     const QString carpeta = carpetaAlAbrir ? AQt(carpetaAlAbrir()) : QString{};
     if (!carpeta.isEmpty() && QDir{carpeta}.isReadable()) {
         ventana.setDirectory(carpeta);

@@ -44,6 +44,8 @@ public:
     /// A frame with its title, without a layout.
     QGroupBox* crearMarco(Marco& control);
     QLineEdit* crearCaja(CajaTexto& control);
+    /// Ties a field that is there already, such as one of a dialog of Qt.
+    void enlazarCaja(QLineEdit& widget, CajaTexto& control);
     QListWidget* crearLista(Lista& control);
     QComboBox* crearDesplegable(Desplegable& control);
     QTableView* crearRejilla(Rejilla& control);

@@ -99,17 +99,21 @@ void MostrarDesplegable(QComboBox& widget, const Desplegable& control) {
 
 QLineEdit* Vinculos::crearCaja(CajaTexto& control) {
     auto* const widget = new QLineEdit;
-    enlazar(*widget, control, [widget, &control] {
+    enlazarCaja(*widget, control);
+    return widget;
+}
+
+void Vinculos::enlazarCaja(QLineEdit& widget, CajaTexto& control) {
+    enlazar(widget, control, [&widget, &control] {
         const QString texto = AQt(control.Text());
-        if (widget->text() != texto) {
-            const QSignalBlocker sinSenales{widget};
-            widget->setText(texto);
+        if (widget.text() != texto) {
+            const QSignalBlocker sinSenales{&widget};
+            widget.setText(texto);
         }
     });
-    connect(widget, &QLineEdit::textEdited, this, [this, &control](const QString& texto) {
+    connect(&widget, &QLineEdit::textEdited, this, [this, &control](const QString& texto) {
         actuar(control, [&](Usuario& usuario) { usuario.escribir(control, DeQt(texto)); });
     });
-    return widget;
 }
 
 QListWidget* Vinculos::crearLista(Lista& control) {
@@ -120,11 +124,6 @@ QListWidget* Vinculos::crearLista(Lista& control) {
     widget->alElegir = [this, widget, &control] {
         actuar(control, [&](Usuario& usuario) { Elegir(usuario, *widget, control); });
     };
-    if (control.DblClick) {
-        widget->alActivar = [this, &control] {
-            actuar(control, [&](Usuario& usuario) { usuario.dobleClic(control); });
-        };
-    }
     return widget;
 }
 

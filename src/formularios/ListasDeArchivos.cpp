@@ -12,11 +12,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::string PorQueNoSeLee(const std::error_code& error) {
+    if (error == std::errc::permission_denied) {
+        return ": no hay permiso para leerla";
+    }
+    if (error == std::errc::no_such_file_or_directory) {
+        return ": no existe";
+    }
+    return error == std::errc::not_a_directory ? ": no es una carpeta" : "";
+}
+
 /// The names in a folder, sorted, of the entries that pass.
 template <class Condicion>
 std::vector<std::string> Nombres(const std::string& ruta, Condicion condicion) {
     std::error_code error;
-    fs::directory_iterator entrada{fs::path{ruta}, fs::directory_options::skip_permission_denied, error};
+    fs::directory_iterator entrada{fs::path{ruta}, error};
     std::vector<std::string> nombres;
     for (; !error && entrada != fs::directory_iterator{}; entrada.increment(error)) {
         std::error_code sinTipo;
@@ -25,7 +35,8 @@ std::vector<std::string> Nombres(const std::string& ruta, Condicion condicion) {
         }
     }
     if (error) {
-        throw ErrorEjecucion{fallo::dispositivoNoDisponible, "No se puede leer la carpeta «" + ruta + "»"};
+        throw ErrorEjecucion{fallo::dispositivoNoDisponible,
+                             "No se puede leer la carpeta «" + ruta + "»" + PorQueNoSeLee(error)};
     }
     std::sort(nombres.begin(), nombres.end());
     return nombres;
@@ -60,9 +71,13 @@ std::vector<std::string> Carpetas(const std::string& ruta) {
     return carpetas;
 }
 
+/// The folder of the process, or the root where that one cannot be read.
 std::string CarpetaActual() {
     std::error_code error;
     const fs::path actual = fs::current_path(error);
+    if (!error) {
+        const fs::directory_iterator lectura{actual, error};
+    }
     return error ? std::string{"/"} : actual.string();
 }
 

@@ -1,5 +1,7 @@
 #include "formularios/Usuario.h"
 
+#include "formularios/ListasDeArchivos.h"
+
 #include <algorithm>
 
 namespace varo {
@@ -156,6 +158,14 @@ void Usuario::elegir(Lista& lista, int linea, bool seleccionada) {
         ExigirQueTenga(lista, "línea", linea, lista.ListCount());
         lista.Selected(linea, seleccionada);
         Lanzar(lista.Click);
+    });
+}
+
+void Usuario::irA(ListaCarpetas& lista, const std::string& carpeta) {
+    ExigirUsable(lista);
+    ventanas_.atender([&] {
+        llevarActivacion(lista.ventana());
+        lista.Path(carpeta);
     });
 }
 

@@ -14,6 +14,8 @@
 
 namespace varo {
 
+class ListaCarpetas;
+
 /// A person could not do this: the control is disabled or invisible, or its window is not there.
 class ActoImposible : public std::runtime_error {
 public:
@@ -64,6 +66,9 @@ public:
     void elegir(Desplegable& lista, int linea);
     /// Selects or deselects a line of a list.
     void elegir(Lista& lista, int linea, bool seleccionada = true);
+
+    /// Goes to a folder by whatever steps lead there.
+    void irA(ListaCarpetas& lista, const std::string& carpeta);
 
     /// Clicks a column of the grid.
     void seleccionarColumna(Rejilla& rejilla, int columna);

@@ -1,136 +1,188 @@
-// The window that names the results file: folders, files, a name, and the file that it writes.
+// The window that names the results file: places, folders, files, a name, and the file that it writes.
+#include "apoyo/ComoOtraPersona.h"
 #include "desktop/Pantalla.h"
+#include "desktop/widgets/SelectorDeArchivo.h"
+#include "indices/archivo/FrmCrearArchivo.h"
 
-#include <QLabel>
+#include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QTest>
+#include <QToolButton>
+#include <QTreeView>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace varo::prueba {
 
-/// The window comes up in the folder of the test, which holds "viejo.txt" and the folder "dentro" with
-/// "otro.txt".
+/// The window comes up in the folder of the plot, which holds "viejo.txt" and the folder "dentro" with
+/// "otro.txt" and "mapa.svg".
 class CrearArchivoEnPantalla : public Pantalla {
 protected:
     CrearArchivoEnPantalla() {
         std::filesystem::create_directory(carpeta / "dentro");
         carpeta.Escribir("viejo.txt", "lo de antes");
         carpeta.Escribir("dentro/otro.txt", "x");
-        std::filesystem::current_path(carpeta.ruta());
+        carpeta.Escribir("dentro/mapa.svg", "x");
         llegarA(Etapa::CrearArchivo);
     }
-    ~CrearArchivoEnPantalla() override { std::filesystem::current_path(aqui_); }
 
-    QListWidget& lista(const std::string& nombre) const {
-        return widget<QListWidget>("FrmCrearArchivo", nombre);
+    FrmCrearArchivo& ventanaModelo() const {
+        return dynamic_cast<FrmCrearArchivo&>(*modelo("FrmCrearArchivo"));
     }
+    SelectorDeArchivo& selector() const { return widget<SelectorDeArchivo>("FrmCrearArchivo", "DirLista"); }
+    QTreeView& lista() const { return widget<QTreeView>("FrmCrearArchivo", "treeView"); }
     QLineEdit& nombre() const { return widget<QLineEdit>("FrmCrearArchivo", "TxtLista"); }
-    static QStringList lineas(const QListWidget& lista) {
+
+    QStringList lineas() const {
         QStringList textos;
-        for (int i = 0; i < lista.count(); ++i) {
-            textos << lista.item(i)->text();
+        for (int fila = 0; fila < lista().model()->rowCount(lista().rootIndex()); ++fila) {
+            textos << lista().model()->index(fila, 0, lista().rootIndex()).data().toString();
         }
         return textos;
     }
-    static QPoint lugar(const QListWidget& lista, const QString& texto) {
-        return lista.visualItemRect(lista.findItems(texto, Qt::MatchExactly).at(0)).center();
-    }
-    void entrarEn(const QString& texto) const {
-        QListWidget& carpetas = lista("DirLista");
-        QTest::mouseClick(carpetas.viewport(), Qt::LeftButton, Qt::NoModifier, lugar(carpetas, texto));
-        QTest::mouseDClick(carpetas.viewport(), Qt::LeftButton, Qt::NoModifier, lugar(carpetas, texto));
+    /// Qt reads folders beside the thread of the windows.
+    void esperarLineas(const QStringList& esperadas) const {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return lineas() == esperadas; }))
+            << lineas().join(' ').toStdString();
         Reposar();
     }
-    /// The labels of the window that show this path.
-    auto rotulosCon(const std::filesystem::path& ruta) const {
-        const auto rotulos = ventana("FrmCrearArchivo").findChildren<QLabel*>();
-        return std::count_if(rotulos.begin(), rotulos.end(), [&](const QLabel* rotulo) {
-            return rotulo->isVisible() && rotulo->text().toStdString() == ruta.string();
-        });
+    QPoint lugar(const QString& texto) const {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return lineas().contains(texto); })) << texto.toStdString();
+        return lista()
+            .visualRect(
+                lista().model()->index(static_cast<int>(lineas().indexOf(texto)), 0, lista().rootIndex()))
+            .center();
     }
-    void clicArchivo(const QString& texto) const {
-        QListWidget& archivos = lista("FilLista");
-        Clic(*archivos.viewport(), lugar(archivos, texto));
+    void clicEn(const QString& texto) const { Clic(*lista().viewport(), lugar(texto)); }
+    void dobleClicEn(const QString& texto) const {
+        clicEn(texto);
+        QTest::mouseDClick(lista().viewport(), Qt::LeftButton, Qt::NoModifier, lugar(texto));
+        Reposar();
     }
     void entrar() const {
         QTest::keyClick(&nombre(), Qt::Key_Return);
         Reposar();
     }
+    /// Both the chooser and the model stand in this folder.
+    void esperarEn(const std::filesystem::path& ruta) const {
+        EXPECT_EQ(selector().carpeta().toStdString(), ruta.string());
+        EXPECT_EQ(ventanaModelo().DirLista.Path(), ruta.string());
+        EXPECT_EQ(ventanaModelo().FilLista.Path(), ruta.string());
+    }
+    void esperarNombre(const QString& texto) const {
+        EXPECT_EQ(nombre().text(), texto);
+        EXPECT_EQ(ventanaModelo().TxtLista.Text(), texto.toStdString());
+    }
+    bool existe(const std::string& archivo) const { return std::filesystem::exists(carpeta / archivo); }
 
     /// The file of a run without indices: order and number of each tree of the square with its centre.
     const std::string indices = "N\xBAOrden\tN\xBA"
                                 "Arbol\r\n1\t1\r2\t2\r3\t3\r4\t4\r5\t5\r\r\n";
-
-private:
-    std::filesystem::path aqui_ = std::filesystem::current_path();
 };
 
-TEST_F(CrearArchivoEnPantalla, EmpiezaEnLaCarpetaActualConUnNombrePorPoner) {
-    EXPECT_EQ(nombre().text(), "*.txt");
-    EXPECT_TRUE(lineas(lista("FilLista")).contains("viejo.txt"));
-    EXPECT_FALSE(lineas(lista("FilLista")).contains("dentro"));
-    EXPECT_EQ(lineas(lista("DirLista")), (QStringList{"..", "dentro"}));
+TEST_F(CrearArchivoEnPantalla, EmpiezaEnLaCarpetaDeLaParcelaConUnNombrePorPoner) {
+    esperarEn(carpeta.ruta());
+    esperarNombre("*.txt");
+    EXPECT_EQ(nombre().selectedText(), "*.txt");
+    EXPECT_TRUE(nombre().hasFocus());
+    EXPECT_EQ(ventana("FrmCrearArchivo").windowTitle(), "Crear archivo");
+    EXPECT_FALSE(ventana("FrmCrearArchivo").isModal());
+}
+
+TEST_F(CrearArchivoEnPantalla, SeVenLasCarpetasYLosTxtHastaQueSePidenTodos) {
+    esperarLineas({"dentro", "viejo.txt"});
+    auto& tipos = widget<QComboBox>("FrmCrearArchivo", "fileTypeCombo");
+    QTest::keyClick(&tipos, Qt::Key_Down);
+    esperarLineas({"dentro", "parcela.xls", "recientes.ini", "viejo.txt"});
 }
 
 TEST_F(CrearArchivoEnPantalla, UnDobleClicEntraEnLaCarpetaYMuestraSusArchivos) {
-    entrarEn("dentro");
-    EXPECT_EQ(lineas(lista("FilLista")), QStringList{"otro.txt"});
-    EXPECT_EQ(lineas(lista("DirLista")), QStringList{".."});
-    entrarEn("..");
-    EXPECT_TRUE(lineas(lista("FilLista")).contains("viejo.txt"));
+    dobleClicEn("dentro");
+    esperarEn(carpeta / "dentro");
+    esperarLineas({"otro.txt"});
+    QTest::mouseClick(&widget("FrmCrearArchivo", "toParentButton"), Qt::LeftButton);
+    Reposar();
+    esperarEn(carpeta.ruta());
+    QTest::mouseClick(&widget("FrmCrearArchivo", "backButton"), Qt::LeftButton);
+    Reposar();
+    esperarEn(carpeta / "dentro");
 }
 
 TEST_F(CrearArchivoEnPantalla, UnClicSoloNoCambiaDeCarpeta) {
-    QListWidget& carpetas = lista("DirLista");
-    Clic(*carpetas.viewport(), lugar(carpetas, "dentro"));
-    EXPECT_TRUE(lineas(lista("FilLista")).contains("viejo.txt"));
+    clicEn("dentro");
+    esperarEn(carpeta.ruta());
+    esperarNombre("*.txt");
 }
 
 TEST_F(CrearArchivoEnPantalla, EntrarEnUnaCarpetaNoEscribeNada) {
     Escribir(nombre(), "nuevo.txt");
-    QListWidget& carpetas = lista("DirLista");
-    Clic(*carpetas.viewport(), lugar(carpetas, "dentro"));
-    QTest::keyClick(&carpetas, Qt::Key_Return);
+    clicEn("dentro");
+    QTest::keyClick(&lista(), Qt::Key_Return);
     Reposar();
-    EXPECT_EQ(lineas(lista("FilLista")), QStringList{"otro.txt"});
+    esperarEn(carpeta / "dentro");
     EXPECT_TRUE(contestador.cajas().empty());
     EXPECT_TRUE(alaVista("FrmCrearArchivo"));
-    EXPECT_EQ(nombre().text(), "nuevo.txt");
-    EXPECT_FALSE(std::filesystem::exists(carpeta / "nuevo.txt"));
-    EXPECT_FALSE(std::filesystem::exists(carpeta / "dentro/nuevo.txt"));
+    esperarNombre("nuevo.txt");
+    EXPECT_FALSE(existe("nuevo.txt"));
+    EXPECT_FALSE(existe("dentro/nuevo.txt"));
 }
 
-TEST_F(CrearArchivoEnPantalla, LaCarpetaALaVistaEsLaDeLosArchivos) {
-    const auto aqui = std::filesystem::current_path();
-    EXPECT_EQ(rotulosCon(aqui), 1);
-    entrarEn("dentro");
-    EXPECT_EQ(rotulosCon(aqui / "dentro"), 1);
-    EXPECT_EQ(rotulosCon(aqui), 0);
-    entrarEn("..");
-    EXPECT_EQ(rotulosCon(aqui), 1);
+TEST_F(CrearArchivoEnPantalla, UnSitioDelMargenLlevaASuCarpetaSinEscribirNada) {
+    auto& sitios = widget<QListView>("FrmCrearArchivo", "sidebar");
+    const auto casa = sitios.model()->match(sitios.model()->index(0, 0), Qt::UserRole + 1,
+                                            QUrl::fromLocalFile(QDir::homePath()));
+    ASSERT_EQ(casa.size(), 1);
+    Clic(*sitios.viewport(), sitios.visualRect(casa[0]).center());
+    esperarEn(QDir::homePath().toStdString());
+    sitios.setCurrentIndex(casa[0]);
+    QTest::keyClick(&sitios, Qt::Key_Return);
+    Reposar();
+    EXPECT_TRUE(alaVista("FrmCrearArchivo"));
+    EXPECT_TRUE(contestador.cajas().empty());
 }
+
+TEST_F(CrearArchivoEnPantalla, UnaCarpetaNuevaSirveParaGuardar) {
+    QTest::mouseClick(&widget("FrmCrearArchivo", "newFolderButton"), Qt::LeftButton);
+    Reposar();
+    const auto nueva = carpeta / "Nueva carpeta";
+    ASSERT_TRUE(std::filesystem::is_directory(nueva));
+    Escribir(nombre(), "Nueva carpeta/uno.txt");
+    contestador.pulsar("Aceptar");
+    entrar();
+    EXPECT_EQ(LeerArchivo(nueva / "uno.txt"), indices);
+}
+
+// --- The name ---
 
 TEST_F(CrearArchivoEnPantalla, UnArchivoElegidoPoneSuNombre) {
-    clicArchivo("viejo.txt");
-    EXPECT_EQ(nombre().text(), "viejo.txt");
+    clicEn("viejo.txt");
+    esperarNombre("viejo.txt");
+    EXPECT_EQ(ventanaModelo().FilLista.FileName(), "viejo.txt");
+    EXPECT_TRUE(lista().hasFocus());
 }
 
 TEST_F(CrearArchivoEnPantalla, UnClicEnElArchivoYaElegidoDevuelveSuNombre) {
-    clicArchivo("viejo.txt");
+    clicEn("viejo.txt");
     Escribir(nombre(), "nuevo.txt");
-    clicArchivo("viejo.txt");
-    EXPECT_EQ(nombre().text(), "viejo.txt");
+    clicEn("viejo.txt");
+    esperarNombre("viejo.txt");
+}
+
+TEST_F(CrearArchivoEnPantalla, UnArchivoQueLlegaDespuesTambienSeElige) {
+    esperarLineas({"dentro", "viejo.txt"});
+    carpeta.Escribir("reciente.txt", "x");
+    clicEn("reciente.txt");
+    esperarNombre("reciente.txt");
 }
 
 TEST_F(CrearArchivoEnPantalla, EntrarEscribeElArchivoYLoDice) {
-    entrarEn("dentro");
+    dobleClicEn("dentro");
     Escribir(nombre(), "nuevo.txt");
     contestador.pulsar("Aceptar");
     entrar();
-    const auto ruta = std::filesystem::current_path() / "dentro" / "nuevo.txt";
+    const auto ruta = carpeta / "dentro" / "nuevo.txt";
     ASSERT_EQ(contestador.cajas().size(), 1U);
     EXPECT_EQ(contestador.cajas()[0].texto.toStdString(), ruta.string() + " fue creado correctamente");
     EXPECT_EQ(contestador.cajas()[0].titulo, "Creado archivo");
@@ -140,8 +192,62 @@ TEST_F(CrearArchivoEnPantalla, EntrarEscribeElArchivoYLoDice) {
     EXPECT_TRUE(alaVista("FrmMapa"));
 }
 
-TEST_F(CrearArchivoEnPantalla, AnteUnArchivoQueYaExisteSePreguntaYNoLoDejaComoEstaba) {
-    clicArchivo("viejo.txt");
+TEST_F(CrearArchivoEnPantalla, ElNombreQuedaComoSeEscribe) {
+    Escribir(nombre(), "sin final");
+    contestador.pulsar("Aceptar");
+    entrar();
+    EXPECT_EQ(LeerArchivo(carpeta / "sin final"), indices);
+}
+
+TEST_F(CrearArchivoEnPantalla, UnaRutaEnElNombreLlevaASuCarpeta) {
+    for (const std::string& ruta : {std::string{"dentro/uno.txt"}, carpeta.archivo("dentro/dos.txt")}) {
+        Escribir(nombre(), QString::fromStdString(ruta));
+        contestador.pulsar("Aceptar");
+        entrar();
+        clicMenu("FrmMapa", "mnuIndices");
+        ventanaModelo().DirLista.Path(carpeta.ruta().string());
+        Reposar();
+    }
+    EXPECT_EQ(LeerArchivo(carpeta / "dentro/uno.txt"), indices);
+    EXPECT_EQ(LeerArchivo(carpeta / "dentro/dos.txt"), indices);
+}
+
+TEST_F(CrearArchivoEnPantalla, UnaCarpetaEnElNombreSeAbreYNadaSeEscribe) {
+    Escribir(nombre(), "dentro");
+    clic("FrmCrearArchivo", "CmdAceptar");
+    esperarEn(carpeta / "dentro");
+    esperarNombre("");
+    Escribir(nombre(), "..");
+    entrar();
+    esperarEn(carpeta.ruta());
+    EXPECT_TRUE(contestador.cajas().empty());
+    EXPECT_TRUE(alaVista("FrmCrearArchivo"));
+}
+
+TEST_F(CrearArchivoEnPantalla, LoEscritoQuedaCuandoLaListaDeNombresQuitaElFocoUnMomento) {
+    const QString ruta = QString::fromStdString(carpeta.archivo("dentro/nuevo.txt"));
+    Escribir(nombre(), ruta);
+    QApplication::setActiveWindow(nullptr);
+    ASSERT_FALSE(nombre().hasFocus());
+    nombre().setText("nuevo.txt"); // what Qt does then
+    esperarNombre(ruta);
+}
+
+TEST_F(CrearArchivoEnPantalla, ElNombrePropuestoNoValeYSeDice) {
+    for (int caja = 0; caja < 5; ++caja) {
+        contestador.pulsar("Aceptar");
+    }
+    clic("FrmCrearArchivo", "CmdAceptar");
+    ASSERT_EQ(contestador.cajas().size(), 5U);
+    EXPECT_EQ(contestador.cajas()[0].texto, "*.txt no es un nombre correcto");
+    EXPECT_EQ(contestador.cajas()[0].titulo, "Archivo incorrecto");
+    EXPECT_FALSE(existe("*.txt"));
+}
+
+// --- A file that exists ---
+
+TEST_F(CrearArchivoEnPantalla, AnteUnArchivoQueYaExisteSePreguntaUnaVezYNoLoDejaComoEstaba) {
+    clicEn("viejo.txt");
     contestador.pulsar("No");
     clic("FrmCrearArchivo", "CmdAceptar");
     ASSERT_EQ(contestador.cajas().size(), 1U);
@@ -152,8 +258,16 @@ TEST_F(CrearArchivoEnPantalla, AnteUnArchivoQueYaExisteSePreguntaYNoLoDejaComoEs
     EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), "lo de antes");
 }
 
+TEST_F(CrearArchivoEnPantalla, UnDobleClicEnUnArchivoLoAceptaConLaMismaPregunta) {
+    contestador.pulsar(QString::fromUtf8("Sí"));
+    contestador.pulsar("Aceptar");
+    dobleClicEn("viejo.txt");
+    EXPECT_EQ(contestador.cajas().size(), 2U);
+    EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), indices);
+}
+
 TEST_F(CrearArchivoEnPantalla, CancelarLaPreguntaEscribeComoSi) {
-    clicArchivo("viejo.txt");
+    clicEn("viejo.txt");
     contestador.pulsar("Cancelar");
     contestador.pulsar("Aceptar");
     clic("FrmCrearArchivo", "CmdAceptar");
@@ -161,7 +275,7 @@ TEST_F(CrearArchivoEnPantalla, CancelarLaPreguntaEscribeComoSi) {
 }
 
 TEST_F(CrearArchivoEnPantalla, EscaparDeLaPreguntaOCerrarlaDejaElArchivoComoEstaba) {
-    clicArchivo("viejo.txt");
+    clicEn("viejo.txt");
     contestador.tecla(Qt::Key_Escape);
     clic("FrmCrearArchivo", "CmdAceptar");
     contestador.preparar([](QWidget& caja) { caja.close(); });
@@ -173,7 +287,7 @@ TEST_F(CrearArchivoEnPantalla, EscaparDeLaPreguntaOCerrarlaDejaElArchivoComoEsta
 
 TEST_F(CrearArchivoEnPantalla, UnArchivoDeSoloLecturaSeDiceEnLaUltimaCaja) {
     std::filesystem::permissions(carpeta / "viejo.txt", std::filesystem::perms::owner_read);
-    clicArchivo("viejo.txt");
+    clicEn("viejo.txt");
     contestador.pulsar(QString::fromUtf8("Sí"));
     for (int caja = 0; caja < 4; ++caja) {
         contestador.pulsar("Aceptar");
@@ -181,8 +295,7 @@ TEST_F(CrearArchivoEnPantalla, UnArchivoDeSoloLecturaSeDiceEnLaUltimaCaja) {
     clic("FrmCrearArchivo", "CmdAceptar");
     ASSERT_EQ(contestador.cajas().size(), 5U);
     const CajaVista& ultima = contestador.cajas()[4];
-    const auto ruta = std::filesystem::current_path() / "viejo.txt";
-    EXPECT_EQ(ultima.texto.toStdString(), "No se ha escrito «" + ruta.string() +
+    EXPECT_EQ(ultima.texto.toStdString(), "No se ha escrito «" + carpeta.archivo("viejo.txt") +
                                               "»: es de solo lectura. El archivo anterior queda como "
                                               "estaba.");
     EXPECT_EQ(ultima.titulo, "Archivo no escrito");
@@ -190,12 +303,59 @@ TEST_F(CrearArchivoEnPantalla, UnArchivoDeSoloLecturaSeDiceEnLaUltimaCaja) {
     EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), "lo de antes");
 }
 
+// --- Folders that may not be read ---
+
+TEST_F(CrearArchivoEnPantalla, UnaCarpetaQueNoSePuedeLeerLoDiceYElSelectorVuelve) {
+    std::filesystem::permissions(carpeta / "dentro", std::filesystem::perms::none);
+    clicEn("dentro");
+    contestador.preparar([this](QWidget& caja) {
+        EXPECT_EQ(caja.objectName(), "CajaDeFallo");
+        EXPECT_TRUE(dynamic_cast<QMessageBox&>(caja).text().contains(
+            "No se puede leer la carpeta «" + QString::fromStdString(carpeta.archivo("dentro")) +
+            "»: no hay permiso para leerla"));
+        PulsarBoton(caja, "Aceptar");
+    });
+    {
+        const ComoOtraPersona otra;
+        QTest::keyClick(&lista(), Qt::Key_Return);
+        Reposar();
+    }
+    std::filesystem::permissions(carpeta / "dentro", std::filesystem::perms::owner_all);
+    EXPECT_EQ(contestador.cajas().size(), 1U);
+    esperarEn(carpeta.ruta());
+    esperarNombre("*.txt");
+}
+
+TEST_F(CrearArchivoEnPantalla, UnaRutaPorUnaCarpetaQueNoEstaSeDiceYNadaSeEscribe) {
+    Escribir(nombre(), "no-esta/uno.txt");
+    contestador.pulsar("Aceptar");
+    entrar();
+    ASSERT_EQ(contestador.cajas().size(), 1U);
+    EXPECT_TRUE(contestador.cajas()[0].texto.contains("No se puede leer la carpeta «"));
+    EXPECT_TRUE(alaVista("FrmCrearArchivo"));
+    esperarEn(carpeta.ruta());
+    esperarNombre("no-esta/uno.txt");
+}
+
+// --- Leaving ---
+
 TEST_F(CrearArchivoEnPantalla, EscaparSeVaSinEscribirNada) {
     Escribir(nombre(), "nuevo.txt");
     QTest::keyClick(&nombre(), Qt::Key_Escape);
     Reposar();
     EXPECT_EQ(modelo("FrmCrearArchivo"), nullptr);
-    EXPECT_FALSE(std::filesystem::exists(carpeta / "nuevo.txt"));
+    EXPECT_FALSE(existe("nuevo.txt"));
+}
+
+TEST_F(CrearArchivoEnPantalla, EscaparDeLaListaYCerrarTambien) {
+    clicEn("viejo.txt");
+    QTest::keyClick(&lista(), Qt::Key_Escape);
+    Reposar();
+    EXPECT_EQ(modelo("FrmCrearArchivo"), nullptr);
+    clicMenu("FrmMapa", "mnuIndices");
+    cerrar("FrmCrearArchivo");
+    EXPECT_EQ(modelo("FrmCrearArchivo"), nullptr);
+    EXPECT_EQ(LeerArchivo(carpeta / "viejo.txt"), "lo de antes");
 }
 
 } // namespace varo::prueba

@@ -1,6 +1,7 @@
 #include "formularios/ListasDeArchivos.h"
 
 #include "apoyo/CarpetaTemporal.h"
+#include "apoyo/ComoOtraPersona.h"
 #include "apoyo/Fallos.h"
 #include "formularios/Usuario.h"
 #include "formularios/VentanasDePrueba.h"
@@ -83,6 +84,36 @@ TEST(ListasDeArchivos, UnaCarpetaQueNoSePuedeLeerFallaYNadaCambia) {
     EXPECT_EQ(banco.visto(), Diario{});
 }
 
+TEST(ListasDeArchivos, UnaCarpetaSinPermisoFallaYSeDicePorQue) {
+    ConCarpeta banco;
+    ListaCarpetas carpetas{banco.ventana, "DirLista"};
+    ListaArchivos archivos{banco.ventana, "FilLista"};
+    const std::string cerrada = banco.carpeta.archivo("y");
+    std::filesystem::permissions(cerrada, std::filesystem::perms::none);
+    const prueba::ComoOtraPersona otra;
+    const auto seDice = [](const std::string& porque, const auto& sentencia) {
+        EXPECT_TRUE(prueba::FallaCon<ErrorEjecucion>(fallo::dispositivoNoDisponible,
+                                                     "No se puede leer la carpeta «" + porque, sentencia));
+    };
+    seDice(cerrada + "»: no hay permiso para leerla", [&] { carpetas.Path(cerrada); });
+    seDice(cerrada + "»: no hay permiso para leerla", [&] { archivos.Path(cerrada); });
+    seDice("/no-hay»: no existe", [&] { carpetas.Path("/no-hay"); });
+}
+
+TEST(ListasDeArchivos, EnUnaCarpetaActualQueNoSePuedeLeerSeEmpiezaEnLaRaiz) {
+    ConCarpeta banco;
+    const auto aqui = std::filesystem::current_path();
+    std::filesystem::current_path(banco.carpeta / "y");
+    std::filesystem::permissions(banco.carpeta / "y", std::filesystem::perms::none);
+    std::string carpeta;
+    {
+        const prueba::ComoOtraPersona otra;
+        carpeta = ListaCarpetas{banco.ventana, "DirLista"}.Path();
+    }
+    std::filesystem::current_path(aqui);
+    EXPECT_EQ(carpeta, "/");
+}
+
 TEST(ListasDeArchivos, ElArchivoElegidoEsElUltimoQueSePulsa) {
     ConCarpeta banco;
     auto& ventana = banco.programa.tocar<VentanaDeArchivos>();
@@ -113,6 +144,19 @@ TEST(ListasDeArchivos, ElDobleClicEntraEnLaCarpetaElegidaYVuelveASubir) {
     usuario.elegir(ventana.DirLista, 0);
     usuario.dobleClic(ventana.DirLista);
     EXPECT_EQ(ventana.DirLista.Path(), ruta);
+}
+
+TEST(ListasDeArchivos, UnaPersonaVaAUnaCarpetaSinPerderElFoco) {
+    ConCarpeta banco;
+    auto& ventana = banco.programa.tocar<VentanaDeArchivos>();
+    ventana.Show();
+    Usuario usuario{banco.programa};
+    usuario.clic(ventana.FilLista);
+    usuario.irA(ventana.DirLista, banco.carpeta.archivo("z"));
+    EXPECT_EQ(ventana.DirLista.Path(), banco.carpeta.archivo("z"));
+    EXPECT_EQ(banco.programa.foco(), &ventana.FilLista);
+    ventana.DirLista.Enabled = false;
+    EXPECT_THROW(usuario.irA(ventana.DirLista, "/"), ActoImposible);
 }
 
 TEST(ListasDeArchivos, LaRaizNoTieneCarpetaDeArriba) {

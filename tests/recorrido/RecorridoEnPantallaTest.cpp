@@ -6,7 +6,9 @@
 #include "desktop/ventanas/VistaDeMapa.h"
 #include "recorrido/Pasos.h"
 
+#include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include <gtest/gtest.h>
@@ -28,6 +30,10 @@ void MarcarIndices(const Manos& manos) {
     for (const char* casilla : {"ChN", "ChAB", "ChABj", "ChDmed", "ChDmax", "ChDdom", "ChBmed", "ChBmax",
                                 "ChBdom", "ChAPDmed", "ChAPDmax", "ChAPDsum", "ChAPBmed", "ChAPBmax"}) {
         manos.clic("OpcionesPrograma", casilla, EnLaMarca);
+        // A click may make the page scroll: the next one needs it at rest.
+        manos.esperar(std::string{casilla} + " encendida", [&] {
+            return dynamic_cast<QCheckBox&>(*ControlDe("OpcionesPrograma", casilla)).isChecked();
+        });
     }
     manos.tecla("Tab"); // the last check, with the keyboard
     manos.tecla("space");
@@ -41,9 +47,10 @@ void ArrastrarElTitulo(const Manos& manos) {
     const auto mapa = [](QWidget& vista) -> FrmMapa& { return dynamic_cast<VistaDeMapa&>(vista).mapa(); };
     const auto enElTitulo = [&](QWidget& vista) {
         const auto& lienzo = dynamic_cast<VistaDeMapa&>(vista);
-        return LugarDeEtiqueta(mapa(vista).aspecto({"LbTitulo"}), lienzo.encuadre(), lienzo.pluma())
-            .center()
-            .toPoint();
+        const QRectF lugar =
+            LugarDeEtiqueta(mapa(vista).aspecto({"LbTitulo"}), lienzo.encuadre(), lienzo.pluma());
+        // On a small screen the label of a tree may lie over its middle.
+        return QPointF{lugar.left() + lugar.width() / 12, lugar.center().y()}.toPoint();
     };
     const auto sitio = [&] {
         return manos.leer("FrmMapa", "lienzo",
@@ -92,7 +99,11 @@ void GuardarIndices(const Manos& manos, const std::filesystem::path& resultados)
     manos.tecla("alt+i");
     manos.esperarVentana("FrmCrearArchivo");
     manos.foto("13-crear-archivo");
-    manos.teclear(resultados.filename().string());
+    const auto nombre = [] { return qobject_cast<QLineEdit*>(ControlDe("FrmCrearArchivo", "TxtLista")); };
+    manos.esperar("el foco en el nombre", [&] { return nombre()->hasFocus(); });
+    manos.teclear(resultados.filename().string()); // over the name that is proposed
+    manos.esperar("el nombre escrito",
+                  [&] { return nombre()->text().toStdString() == resultados.filename().string(); });
     manos.foto("14-nombre");
     manos.tecla("Return");
     manos.esperarVentana("CajaDeMensaje");

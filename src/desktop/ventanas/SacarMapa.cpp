@@ -24,7 +24,7 @@ std::string ElegirImagen(QWidget& padre, const std::string& titulo) {
     ventana.setObjectName("DlogoGuardarMapa");
     ventana.setAcceptMode(QFileDialog::AcceptSave);
     ventana.setDefaultSuffix("svg");
-    ventana.setProxyModel(new ArchivosEnEspanol{&ventana});
+    PonerArchivosEnEspanol(ventana);
     ventana.selectFile(AQt(titulo));
     QObject::connect(&ventana, &QFileDialog::filterSelected, &ventana, [&ventana](const QString& filtro) {
         ventana.setDefaultSuffix(filtro.section("*.", 1, 1).section(')', 0, 0));

@@ -1,9 +1,12 @@
 #include "desktop/widgets/ArchivosEnEspanol.h"
 
 #include <QDateTime>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QLocale>
+#include <QTreeView>
 
 namespace varo {
 
@@ -27,6 +30,13 @@ QVariant ArchivosEnEspanol::data(const QModelIndex& celda, int papel) const {
     default:
         return QIdentityProxyModel::data(celda, papel);
     }
+}
+
+void PonerArchivosEnEspanol(QFileDialog& dialogo) {
+    dialogo.setProxyModel(new ArchivosEnEspanol{&dialogo});
+    QHeaderView& cabeceras = *dialogo.findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+    cabeceras.setSectionResizeMode(QHeaderView::ResizeToContents);
+    cabeceras.setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 } // namespace varo

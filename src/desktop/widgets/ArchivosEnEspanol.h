@@ -3,6 +3,8 @@
 
 #include <QIdentityProxyModel>
 
+class QFileDialog;
+
 namespace varo {
 
 /// Over the files of a QFileDialog: size, kind and date by the locale of the program, not by that of the
@@ -13,5 +15,8 @@ public:
 
     [[nodiscard]] QVariant data(const QModelIndex& celda, int papel) const override;
 };
+
+/// Gives the dialog these texts, in columns as wide as they are.
+void PonerArchivosEnEspanol(QFileDialog& dialogo);
 
 } // namespace varo

@@ -9,10 +9,6 @@ namespace varo {
 
 namespace {
 
-bool EsEnter(const QKeyEvent& suceso) {
-    return suceso.key() == Qt::Key_Return || suceso.key() == Qt::Key_Enter;
-}
-
 /// The step of an arrow key: back, on, or 0 for any other key.
 int PasoDe(const QKeyEvent& suceso) {
     switch (suceso.key()) {
@@ -29,14 +25,6 @@ int PasoDe(const QKeyEvent& suceso) {
 
 } // namespace
 
-void ListaDeLineas::keyPressEvent(QKeyEvent* suceso) {
-    if (EsEnter(*suceso) && alActivar && currentItem() != nullptr) {
-        alActivar();
-        return;
-    }
-    QListWidget::keyPressEvent(suceso);
-}
-
 void ListaDeLineas::mousePressEvent(QMouseEvent* suceso) {
     {
         const QScopedValueRollback conElRaton{elegidaConElRaton_, true};
@@ -44,13 +32,6 @@ void ListaDeLineas::mousePressEvent(QMouseEvent* suceso) {
     }
     if (alElegir && itemAt(suceso->position().toPoint()) != nullptr) {
         alElegir();
-    }
-}
-
-void ListaDeLineas::mouseDoubleClickEvent(QMouseEvent* suceso) {
-    QListWidget::mouseDoubleClickEvent(suceso);
-    if (alActivar && itemAt(suceso->position().toPoint()) != nullptr) {
-        alActivar();
     }
 }
 

@@ -11,17 +11,13 @@
 
 namespace varo {
 
-/// Tells each click on a line, even on a selected one, and each double click or Enter. An Enter that it tells
-/// goes no further.
+/// Tells each click on a line, even on a selected one.
 class ListaDeLineas : public QListWidget {
 public:
     std::function<void()> alElegir;
-    std::function<void()> alActivar;
 
 protected:
-    void keyPressEvent(QKeyEvent* suceso) override;
     void mousePressEvent(QMouseEvent* suceso) override;
-    void mouseDoubleClickEvent(QMouseEvent* suceso) override;
     void selectionChanged(const QItemSelection& nueva, const QItemSelection& antigua) override;
 
 private:
