@@ -1,5 +1,7 @@
 #include "desktop/Aplicacion.h"
 
+#include "shell/VAROMAIN.h"
+
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -28,7 +30,7 @@ bool Aplicacion::notify(QObject* objeto, QEvent* suceso) {
     try {
         return QApplication::notify(objeto, suceso);
     } catch (const std::exception& error) {
-        QMessageBox::critical(activeWindow(), "VARO 1.0",
+        QMessageBox::critical(activeWindow(), tituloDelPrograma,
                               QString::fromUtf8("Error inesperado: %1").arg(error.what()));
         return true;
     }

@@ -5,6 +5,7 @@
 #include "desktop/widgets/ArchivosEnEspanol.h"
 #include "desktop/widgets/VentanasReales.h"
 #include "pintura/Colores.h"
+#include "shell/VAROMAIN.h"
 #include "sistema/ArchivoEntero.h"
 
 #include <QApplication>
@@ -155,7 +156,7 @@ void ServiciosQt::falloFatal(const ErrorEjecucion& error) {
 
 void ServiciosQt::mostrarFallo(const ErrorEjecucion& error, const QString& cierre) {
     Avisar(alDecir, error.descripcion());
-    QMessageBox caja{QMessageBox::Critical, "VARO 1.0", QString{}, QMessageBox::NoButton, padre()};
+    QMessageBox caja{QMessageBox::Critical, tituloDelPrograma, QString{}, QMessageBox::NoButton, padre()};
     caja.setObjectName("CajaDeFallo");
     caja.setTextFormat(Qt::PlainText);
     QString texto = QString::fromUtf8("Error %1 en tiempo de ejecución:\n\n%2")

@@ -1,6 +1,7 @@
 #include "desktop/VentanaDeAvance.h"
 
 #include "desktop/Texto.h"
+#include "shell/VAROMAIN.h"
 
 #include <QCoreApplication>
 
@@ -28,7 +29,7 @@ QString Texto(const Marcha& marcha, std::chrono::steady_clock::time_point ahora)
 std::unique_ptr<QProgressDialog> CrearDialogo(QWidget* ventana) {
     auto dialogo = std::make_unique<QProgressDialog>(ventana);
     dialogo->setObjectName("VentanaDeAvance");
-    dialogo->setWindowTitle("VARO 1.0");
+    dialogo->setWindowTitle(tituloDelPrograma);
     dialogo->setCancelButtonText("Cancelar");
     dialogo->setWindowModality(Qt::ApplicationModal);
     dialogo->setAutoClose(false);

@@ -45,8 +45,10 @@ void OcultarDialogoDeColumnas(Programa& programa) {
 
 } // namespace
 
+const char* const tituloDelPrograma = "VARO " VARO_VERSION;
+
 VAROMAIN::VAROMAIN(Programa& programa)
-    : Formulario{programa, "VAROMAIN", TipoVentana::Marco, "VARO 1.0"}, programa_{programa} {
+    : Formulario{programa, "VAROMAIN", TipoVentana::Marco, tituloDelPrograma}, programa_{programa} {
     Width = 15000;
     Height = 10851;
     mnuCerrar.Enabled = false;

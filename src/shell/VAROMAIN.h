@@ -11,6 +11,9 @@ namespace varo {
 
 class Programa;
 
+/// The name of the program with its version, as the main window and the boxes about the program have it.
+extern const char* const tituloDelPrograma;
+
 class VAROMAIN : public Formulario {
 public:
     explicit VAROMAIN(Programa& programa);

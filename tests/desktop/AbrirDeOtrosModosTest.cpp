@@ -2,6 +2,7 @@
 #include "desktop/Pantalla.h"
 #include "desktop/Texto.h"
 #include "desktop/widgets/RotuloRecortado.h"
+#include "indices/archivo/FrmCrearArchivo.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -211,6 +212,16 @@ TEST(LosRecientes, QuedanParaLaSesionSiguiente) {
     EXPECT_EQ(Recientes{QString::fromStdString(carpeta.archivo("nadie.ini"))}.carpeta(), "");
 }
 
+TEST(LosRecientes, LaCarpetaDeLosUltimosResultadosEsDeLasParcelasDeUnaCarpeta) {
+    const CarpetaTemporal carpeta;
+    const QString ajustes = QString::fromStdString(carpeta.archivo("recientes.ini"));
+    Recientes{ajustes}.anotarResultados("/datos", "/salida");
+    EXPECT_EQ(Recientes{ajustes}.carpetaDeResultados("/datos"), "/salida");
+    EXPECT_EQ(Recientes{ajustes}.carpetaDeResultados("/otros"), "");
+    EXPECT_EQ(Recientes{QString::fromStdString(carpeta.archivo("nadie.ini"))}.carpetaDeResultados("/datos"),
+              "");
+}
+
 // --- The folder of the results ---
 
 TEST_F(AbrirDeOtrosModos, LosResultadosEmpiezanEnLaCarpetaDeLaParcelaYLuegoEnLaDeLosUltimos) {
@@ -230,6 +241,7 @@ TEST_F(AbrirDeOtrosModos, LosResultadosEmpiezanEnLaCarpetaDeLaParcelaYLuegoEnLaD
     contestador.pulsar("Aceptar");
     clic("FrmCrearArchivo", "CmdAceptar");
     EXPECT_TRUE(std::filesystem::exists(carpeta / "salida/dos.txt"));
+    EXPECT_EQ(recientes.carpetaDeResultados(AQt(carpeta.ruta().string())), AQt(carpeta.archivo("salida")));
 
     clicMenu("FrmMapa", "mnuIndices");
     Escribir(widget("FrmCrearArchivo", "TxtLista"), "tres.txt");
@@ -237,6 +249,14 @@ TEST_F(AbrirDeOtrosModos, LosResultadosEmpiezanEnLaCarpetaDeLaParcelaYLuegoEnLaD
     clic("FrmCrearArchivo", "CmdAceptar");
     EXPECT_TRUE(std::filesystem::exists(carpeta / "salida/tres.txt"));
     EXPECT_EQ(estado("EstadoMensaje"), AQt(carpeta.archivo("salida/tres.txt") + " fue creado correctamente"));
+}
+
+TEST_F(AbrirDeOtrosModos, ParcelasDeLaMismaCarpetaGuardanDondeLaSesionDeAntes) {
+    std::filesystem::create_directory(carpeta / "salida");
+    recientes.anotarResultados(AQt(carpeta.ruta().string()), AQt(carpeta.archivo("salida")));
+    llegarA(Etapa::CrearArchivo);
+    const auto& crear = dynamic_cast<const FrmCrearArchivo&>(*modelo("FrmCrearArchivo"));
+    EXPECT_EQ(crear.DirLista.Path(), carpeta.archivo("salida"));
 }
 
 TEST_F(AbrirDeOtrosModos, SinLaCarpetaDeLosUltimosResultadosSeEmpiezaEnLaDeLaParcela) {

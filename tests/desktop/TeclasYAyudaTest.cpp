@@ -1,4 +1,5 @@
 // The keys of the main window, and its menu Ayuda.
+#include "desktop/OrdenDeArranque.h"
 #include "desktop/Pantalla.h"
 
 #include <QApplication>
@@ -52,6 +53,38 @@ TEST_F(TeclasYAyuda, ControlQPreguntaSiSeSale) {
     ASSERT_EQ(contestador.cajas().size(), 1U);
     EXPECT_EQ(contestador.cajas()[0].texto, "¿Realmente quieres salir del programa?");
     EXPECT_EQ(terminaciones, 0);
+}
+
+TEST_F(TeclasYAyuda, DesdeUnaVentanaSueltaSeAbreYSeSalePeroNoSeCierraElArchivo) {
+    llegarA(Etapa::Opciones);
+    tecla(ventana("OpcionesPrograma"), Qt::Key_W);
+    EXPECT_TRUE(alaVista("Hojadedatos"));
+    EXPECT_TRUE(alaVista("OpcionesPrograma"));
+    contestador.pulsar("No");
+    tecla(ventana("OpcionesPrograma"), Qt::Key_Q);
+    ASSERT_EQ(contestador.cajas().size(), 1U);
+    EXPECT_EQ(contestador.cajas()[0].texto, "¿Realmente quieres salir del programa?");
+}
+
+TEST_F(TeclasYAyuda, BajoUnaPreguntaNingunaTeclaHaceNada) {
+    llegarA(Etapa::Hoja);
+    contestador.preparar([this](QWidget& caja) {
+        for (const Qt::Key pulsada : {Qt::Key_Q, Qt::Key_W, Qt::Key_O}) {
+            QTest::keyClick(&caja, pulsada, Qt::ControlModifier);
+            QTest::keyClick(&escritorio.marco(), pulsada, Qt::ControlModifier);
+        }
+        QTest::keyClick(&caja, Qt::Key_F1);
+        Reposar();
+        PulsarBoton(caja, "No");
+    });
+    tecla(escritorio.marco(), Qt::Key_Q);
+    EXPECT_EQ(contestador.cajas().size(), 1U);
+    EXPECT_TRUE(alaVista("Hojadedatos"));
+    EXPECT_EQ(manual(), nullptr);
+}
+
+TEST_F(TeclasYAyuda, LaVersionEsUnaSolaEnElTituloYEnLaLineaDeOrdenes) {
+    EXPECT_EQ(escritorio.marco().windowTitle().toStdString(), "VARO " + VersionDelPrograma());
 }
 
 TEST_F(TeclasYAyuda, ElMenuAyudaEsElUltimoDeLaBarra) {

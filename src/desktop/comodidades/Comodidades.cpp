@@ -62,21 +62,27 @@ Comodidades::~Comodidades() {
     servicios_.alEscribir = {};
 }
 
-/// A child closes with Ctrl+F4, so Ctrl+W is free for the file.
+/// A child closes with Ctrl+F4, so Ctrl+W is free for the file. In a free window it would be taken for the
+/// key that closes that window, and lose what the file holds. No key acts below a question.
 void Comodidades::ponerTeclas() const {
     const auto& marco = *programa_.cargada<VAROMAIN>();
-    const auto poner = [this](const Menu& menu, Qt::Key tecla) {
-        AccionDe(escritorio_.marco(), menu).setShortcut(Qt::CTRL | tecla);
+    const auto poner = [this](const Menu& menu, Qt::Key tecla, Qt::ShortcutContext donde) {
+        QAction& accion = AccionDe(escritorio_.marco(), menu);
+        accion.setShortcut(Qt::CTRL | tecla);
+        accion.setShortcutContext(donde);
     };
-    poner(marco.mnuAbrir, Qt::Key_O);
-    poner(marco.mnuCerrar, Qt::Key_W);
-    poner(marco.mnuSalir, Qt::Key_Q);
+    poner(marco.mnuAbrir, Qt::Key_O, Qt::ApplicationShortcut);
+    poner(marco.mnuCerrar, Qt::Key_W, Qt::WindowShortcut);
+    poner(marco.mnuSalir, Qt::Key_Q, Qt::ApplicationShortcut);
 }
 
 void Comodidades::atenderServicios() {
     servicios_.carpetaAlAbrir = [this] { return DeQt(recientes_.carpeta()); };
     servicios_.alDecir = [this](const std::string& texto) { barra_->decir(AQt(texto)); };
-    servicios_.alEscribir = [this](const std::string& ruta) { carpetaDeResultados_ = CarpetaDe(ruta); };
+    servicios_.alEscribir = [this](const std::string& ruta) {
+        carpetaDeResultados_ = CarpetaDe(ruta);
+        recientes_.anotarResultados(AQt(CarpetaDe(abierto_)), AQt(carpetaDeResultados_));
+    };
 }
 
 void Comodidades::seguirAlPrograma() {
@@ -112,7 +118,9 @@ void Comodidades::alTerminarActo() {
 
 /// A folder that cannot be listed any more leaves the window where it is.
 void Comodidades::llevarASuCarpeta(FrmCrearArchivo& ventana) const {
-    for (const std::string& carpeta : {carpetaDeResultados_, CarpetaDe(abierto_)}) {
+    const std::string deLaParcela = CarpetaDe(abierto_);
+    const std::string deOtraSesion = DeQt(recientes_.carpetaDeResultados(AQt(deLaParcela)));
+    for (const std::string& carpeta : {carpetaDeResultados_, deOtraSesion, deLaParcela}) {
         if (!carpeta.empty() && !Saltando([&] { ventana.DirLista.Path(carpeta); })) {
             return;
         }

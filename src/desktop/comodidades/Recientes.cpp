@@ -9,6 +9,7 @@ namespace varo {
 namespace {
 
 const char* const claveDeArchivos = "archivos";
+const char* const claveDeResultados = "resultados"; ///< the folder of the plot, that of its results
 
 QString ArchivoDeLaPersona() {
     return QDir{QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)}.filePath(
@@ -36,6 +37,16 @@ void Recientes::anotar(const QString& archivo) {
 QString Recientes::carpeta() const {
     const QStringList lista = archivos();
     return lista.isEmpty() ? QString{} : QFileInfo{lista.front()}.path();
+}
+
+void Recientes::anotarResultados(const QString& deLaParcela, const QString& carpeta) {
+    ajustes_.setValue(claveDeResultados, QStringList{deLaParcela, carpeta});
+    ajustes_.sync();
+}
+
+QString Recientes::carpetaDeResultados(const QString& deLaParcela) const {
+    const QStringList carpetas = ajustes_.value(claveDeResultados).toStringList();
+    return carpetas.value(0) == deLaParcela ? carpetas.value(1) : QString{};
 }
 
 } // namespace varo

@@ -22,6 +22,11 @@ public:
     /// The folder of the file that was opened last; empty when there is none.
     [[nodiscard]] QString carpeta() const;
 
+    /// Results of a plot of one folder were saved in another one.
+    void anotarResultados(const QString& deLaParcela, const QString& carpeta);
+    /// Where the last results went, if their plot was of this folder; empty otherwise.
+    [[nodiscard]] QString carpetaDeResultados(const QString& deLaParcela) const;
+
 private:
     QSettings ajustes_;
 };
