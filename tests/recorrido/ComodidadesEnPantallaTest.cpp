@@ -35,7 +35,14 @@ void CopiarDeLaHoja(const Manos& manos) {
     manos.foto("c2-hoja-copiada");
 }
 
-void VerElManual(const Manos& manos) {
+void VerLaAyuda(const Manos& manos) {
+    manos.tecla("alt+y");
+    manos.tecla("a");
+    manos.esperarVentana("AcercaDe");
+    manos.foto("c3-acerca-de");
+    manos.tecla("Return");
+    manos.esperarQueSeVaya("AcercaDe");
+    manos.esperarVentana("VAROMAIN");
     manos.tecla("F1");
     manos.esperarVentana("Manual");
     manos.foto("c3-manual");
@@ -55,12 +62,14 @@ TEST(ComodidadesEnPantalla, ConElTeclado) {
         manos.tecla("Return");
         ElegirHoja(manos);
         CopiarDeLaHoja(manos);
-        VerElManual(manos);
+        VerLaAyuda(manos);
         manos.esperarVentana("Hojadedatos");
         manos.tecla("ctrl+w");
         manos.esperarQueSeVaya("Hojadedatos");
         manos.esperarVentana("VAROMAIN");
         manos.tecla("alt+a");
+        manos.esperar("el menú Archivo", [] { return QApplication::activePopupWidget() != nullptr; });
+        manos.fotoEnMarcha("c4-recientes");
         manos.tecla("1");
         ElegirHoja(manos);
         manos.tecla("ctrl+q");

@@ -2,7 +2,9 @@
 
 #include "apoyo/Lugares.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QPalette>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
@@ -17,6 +19,11 @@ std::filesystem::path Ejemplos() {
 }
 
 Programado::Programado() {
+    if (qEnvironmentVariableIsSet("VARO_OSCURO")) {
+        QPalette oscura{QColor{50, 50, 50}, QColor{45, 45, 45}};
+        oscura.setColor(QPalette::Highlight, QColor{70, 130, 200});
+        QApplication::setPalette(oscura);
+    }
     escritorio.alTerminar = [this] { terminado = true; };
 }
 
