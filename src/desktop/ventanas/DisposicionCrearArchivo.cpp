@@ -52,7 +52,8 @@ DondeGuardar::DondeGuardar(FrmCrearArchivo& ventana, Vinculos& vinculos)
     columna->addLayout(crearPie(botonAceptar, botonCancelar));
     selector_->alAceptar = [botonAceptar] { botonAceptar->click(); };
     selector_->alRechazar = [botonCancelar] { botonCancelar->click(); };
-    vinculos.alSoltar(*selector_, [this] {
+    vinculos.alSoltar(*selector_, [this, botonAceptar] {
+        botonAceptar->disconnect(this);
         selector_->alCambiarDeCarpeta = {};
         selector_->nombre().disconnect(this);
     });
