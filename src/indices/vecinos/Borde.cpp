@@ -75,7 +75,7 @@ private:
 } // namespace
 
 Borde::Borde(const Arboles& arboles, const ContornoXY& contorno)
-    : arboles_{arboles}, contorno_{contorno}, porArbol_(arboles.cuantos()) {
+    : arboles_{arboles}, contorno_{contorno}, porArbol_(arboles.cuantos()), estimadas_(arboles.cuantos()) {
     assert(contorno.x.size() == contorno.y.size());
     for (std::size_t k = 0; k + 1 < contorno.x.size(); ++k) {
         lados_.push_back(Distancia(contorno.x[k], contorno.y[k], contorno.x[k + 1], contorno.y[k + 1]));
@@ -101,7 +101,7 @@ void Borde::agruparLados() {
         grupo.y[n % aLaVez] = y[k];
         grupo.haciaX[n % aLaVez] = x[k + 1] - x[k];
         grupo.haciaY[n % aLaVez] = y[k + 1] - y[k];
-        grupo.largo[n % aLaVez] = lados_[k];
+        grupo.porLargo[n % aLaVez] = 1 / lados_[k];
     }
 }
 
@@ -110,11 +110,9 @@ void Borde::agruparLados() {
 /// from the tree, so that the half sum s of the sides is at most 2 D, and let u = 2^-53. Each difference of
 /// the formula, such as s - a, is wrong by 10 u s at most, and not below A^2 / s^3, as the other factors are
 /// not above s. With 2 A >= 1E-5 D^2 it is right to 640 u / 1E-10, less than 1 in 1000, and so positive; the
-/// height comes out no more than 2 in 1000 too small. The margin over the limit is 1 in 100, and the rounding
-/// of the cross product is nothing beside it. Beyond the bounds of D a product might leave the range of a
-/// number.
-bool Borde::muyAdentro(std::size_t i, double limite) const {
-    constexpr double holgura = 1.01;
+/// height comes out no more than 2 in 1000 too small or too large; the rounding of the cross product is
+/// nothing beside it. Beyond the bounds of D a product might leave the range of a number.
+double Borde::estimar(std::size_t i) const {
     constexpr double menorD = 1E-60;
     constexpr double mayorD = 1E+60;
     const double x = arboles_.x(i);
@@ -122,26 +120,43 @@ bool Borde::muyAdentro(std::size_t i, double limite) const {
     const double D =
         std::max(std::abs(x - x0_), std::abs(x - x1_)) + std::max(std::abs(y - y0_), std::abs(y - y1_));
     if (lados_.empty() || !(D > menorD && D < mayorD)) {
-        return false;
+        return 0;
     }
-    const double minimo = 1E-5 * D * D;
-    const double alturaMinima = limite * holgura;
-    std::array<double, aLaVez> dudas{};
+    std::array<double, aLaVez> cruces;
+    std::array<double, aLaVez> alturas;
+    cruces.fill(std::numeric_limits<double>::infinity());
+    alturas.fill(std::numeric_limits<double>::infinity());
     for (const Lados& lados : grupos_) {
         for (std::size_t n = 0; n < aLaVez; ++n) {
             const double cruz =
                 std::abs((x - lados.x[n]) * lados.haciaY[n] - (y - lados.y[n]) * lados.haciaX[n]);
-            const double porElLimite = alturaMinima * lados.largo[n];
-            const double exigida = porElLimite > minimo ? porElLimite : minimo;
-            dudas[n] += cruz >= exigida ? 0.0 : 1.0;
+            const double altura = cruz * lados.porLargo[n];
+            cruces[n] = cruz < cruces[n] ? cruz : cruces[n];
+            alturas[n] = altura < alturas[n] ? altura : alturas[n];
         }
     }
-    return std::all_of(dudas.begin(), dudas.end(), [](double duda) { return duda == 0; });
+    const bool sinFallo = *std::min_element(cruces.begin(), cruces.end()) >= 1E-5 * D * D;
+    return sinFallo ? *std::min_element(alturas.begin(), alturas.end()) : 0;
+}
+
+std::optional<bool> Borde::esMenorSinDuda(std::size_t i, double limite) {
+    constexpr double holgura = 1.01;
+    auto& estimada = estimadas_[i];
+    if (!estimada) {
+        estimada = estimar(i);
+    }
+    if (*estimada == 0) {
+        return std::nullopt;
+    }
+    if (*estimada >= limite * holgura) {
+        return false;
+    }
+    return *estimada * holgura < limite ? std::optional{true} : std::nullopt;
 }
 
 bool Borde::algunaAlturaMenor(std::size_t i, double limite) {
-    if (!porArbol_[i].calculadas && muyAdentro(i, limite)) {
-        return false;
+    if (const auto esMenor = esMenorSinDuda(i, limite)) {
+        return *esMenor;
     }
     const Alturas& suyas = alturas(i);
     if (suyas.minima < limite) {
@@ -152,8 +167,8 @@ bool Borde::algunaAlturaMenor(std::size_t i, double limite) {
 }
 
 bool Borde::algunaAlturaMenorOIgual(std::size_t i, double limite) {
-    if (!porArbol_[i].calculadas && muyAdentro(i, limite)) {
-        return false;
+    if (const auto esMenor = esMenorSinDuda(i, limite)) {
+        return *esMenor;
     }
     const Alturas& suyas = alturas(i);
     if (!lados_.empty() && suyas.minima <= limite) {

@@ -39,9 +39,9 @@ private:
 
     static constexpr std::size_t aLaVez = 4;
 
-    /// Some sides: one end, the way to the other end and its length (m).
+    /// Some sides: one end, the way to the other end (m) and the inverse of its length.
     struct Lados {
-        std::array<double, aLaVez> x{}, y{}, haciaX{}, haciaY{}, largo{};
+        std::array<double, aLaVez> x{}, y{}, haciaX{}, haciaY{}, porLargo{};
     };
 
     struct Alturas {
@@ -51,9 +51,11 @@ private:
     };
 
     void agruparLados();
-    /// Whether no height of tree i is near the limit (m) or below, nor can fault. It is right where it says
-    /// so.
-    [[nodiscard]] bool muyAdentro(std::size_t i, double limite) const;
+    /// The least height of tree i (m), told without roots and right to 1 in 200; 0 where some height may
+    /// fault.
+    [[nodiscard]] double estimar(std::size_t i) const;
+    /// Whether the estimate tells on which side of a limit (m) the least height is, well above or well below.
+    [[nodiscard]] std::optional<bool> esMenorSinDuda(std::size_t i, double limite);
     const Alturas& alturas(std::size_t i);
     Alturas calcular(std::size_t i) const;
     Alturas calcularPasoAPaso(double x, double y) const;
@@ -65,6 +67,7 @@ private:
     std::vector<Lados> grupos_; ///< the same sides; the last one again where a group is not full
     double x0_ = 0, y0_ = 0, x1_ = 0, y1_ = 0; ///< the extent of the boundary (m)
     std::vector<Alturas> porArbol_;
+    std::vector<std::optional<double>> estimadas_; ///< the least height of each tree, once it was told
 };
 
 } // namespace varo
