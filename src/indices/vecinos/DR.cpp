@@ -4,7 +4,11 @@
 #include "basico/Saltando.h"
 #include "indices/vecinos/Competidores.h"
 
+#include <algorithm>
 #include <cassert>
+#include <cmath>
+#include <cstddef>
+#include <span>
 
 namespace varo {
 
@@ -25,6 +29,60 @@ struct ColumnaDR {
             [&] { return Dividir(dj, di); });
         return f * Potencia(razon, k);
     }
+};
+
+/// The sum over candidates that the distance alone judges, some at a time. Each step is the one that
+/// IndiceSinFallos takes, but that no test stands between them: where one of them may have given no number,
+/// there is no sum.
+class SumaSinPruebas {
+public:
+    SumaSinPruebas(const FuncionDeDistancia& funcion, double k, double di, double limite)
+        : funcion_{funcion}, k_{k}, di_{di}, limite_{limite} {}
+
+    [[nodiscard]] std::optional<double> de(std::span<const double> d, std::span<const double> L) {
+        std::size_t n = 0;
+        CuatroNumeros deD;
+        CuatroNumeros deL;
+        for (; n + deL.size() <= L.size(); n += deL.size()) {
+            std::copy_n(d.data() + n, deD.size(), deD.begin());
+            std::copy_n(L.data() + n, deL.size(), deL.begin());
+            sumar(deD, deL, deL.size());
+        }
+        if (n < L.size()) { // the last ones, filled up with one of them
+            deD.fill(d[n]);
+            deL.fill(L[n]);
+            std::copy(d.begin() + static_cast<std::ptrdiff_t>(n), d.end(), deD.begin());
+            std::copy(L.begin() + static_cast<std::ptrdiff_t>(n), L.end(), deL.begin());
+            sumar(deD, deL, L.size() - n);
+        }
+        const bool sinFallo =
+            std::all_of(nulos_.begin(), nulos_.end(), [](double nulo) { return nulo == 0; });
+        return sinFallo && std::isfinite(suma_) ? std::optional{suma_} : std::nullopt;
+    }
+
+private:
+    /// Adds the first ones of a block.
+    void sumar(const CuatroNumeros& d, const CuatroNumeros& L, std::size_t cuantos) {
+        CuatroNumeros razones;
+        for (std::size_t n = 0; n < razones.size(); ++n) {
+            razones[n] = d[n] / di_;
+        }
+        const CuatroNumeros f = funcion_.sinPruebas(L);
+        const CuatroNumeros potencias = PotenciasSinPruebas(razones, k_);
+        CuatroNumeros sumandos;
+        for (std::size_t n = 0; n < sumandos.size(); ++n) {
+            nulos_[n] += (f[n] + razones[n]) * 0.0;
+            sumandos[n] = L[n] <= limite_ ? f[n] * potencias[n] : 0.0;
+        }
+        for (std::size_t n = 0; n < cuantos; ++n) {
+            suma_ += sumandos[n];
+        }
+    }
+
+    const FuncionDeDistancia& funcion_;
+    double k_, di_, limite_;
+    double suma_ = 0;
+    CuatroNumeros nulos_{}; ///< no number, once a step gave none
 };
 
 /// The index of a subject none of whose candidates can fault, but for the function of the distance and the
@@ -61,6 +119,12 @@ double IndiceDe(Pareja& pareja, const ColumnaDR& columna) {
     const auto apartados = seleccion.distanciasDeApartados();
     if (apartados && !entrada.sinFallosEntre(apartados->desde, apartados->hasta)) {
         seleccion.mirarTodos();
+    }
+    if (entrada.leida() && seleccion.bastaLaDistancia()) {
+        const auto [d, L, limite] = seleccion.medidas();
+        if (const auto suma = SumaSinPruebas{*entrada.leida(), columna.k, di, limite}.de(d, L)) {
+            return *suma;
+        }
     }
     if (seleccion.sinFallos()) {
         return IndiceSinFallos(pareja, columna, di);

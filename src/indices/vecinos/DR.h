@@ -24,6 +24,8 @@ public:
         }
         return *funcion_;
     }
+    /// The function, once it was read.
+    [[nodiscard]] const std::optional<FuncionDeDistancia>& leida() const { return funcion_; }
     /// True only if the function can be read and does not fault between two distances (m), `desde` <=
     /// `hasta`.
     bool sinFallosEntre(double desde, double hasta);

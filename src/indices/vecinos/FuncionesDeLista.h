@@ -7,11 +7,32 @@
 #include "basico/Aritmetica.h"
 #include "basico/EnLugar.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <string>
 #include <utility>
 
 namespace varo {
+
+/// Some numbers that are worked on side by side.
+using CuatroNumeros = std::array<double, 4>;
+
+/// Potencia of each one without a test: not finite where it faults or the base is not finite, but that
+/// anything raised to 0 is 1.
+inline CuatroNumeros PotenciasSinPruebas(const CuatroNumeros& bases, double exponente) {
+    if (exponente == 1) {
+        return bases;
+    }
+    CuatroNumeros potencias;
+    potencias.fill(1);
+    if (exponente != 0) {
+        for (std::size_t n = 0; n < potencias.size(); ++n) {
+            potencias[n] = std::pow(bases[n], exponente);
+        }
+    }
+    return potencias;
+}
 
 /// x -> a + b x^c + d x^e. Faults of Potencia; overflow throws 6.
 struct SumaDePotencias {
@@ -21,6 +42,16 @@ struct SumaDePotencias {
         const double deC = Potencia(x, c);
         const double deE = Potencia(x, e);
         return ExigirFinito(a + b * deC + d * deE);
+    }
+    /// `en` of each one, none below 0, without a test: not finite exactly where `en` faults.
+    [[nodiscard]] CuatroNumeros sinPruebas(const CuatroNumeros& xs) const {
+        const CuatroNumeros deC = PotenciasSinPruebas(xs, c);
+        const CuatroNumeros deE = PotenciasSinPruebas(xs, e);
+        CuatroNumeros sumas;
+        for (std::size_t n = 0; n < sumas.size(); ++n) {
+            sumas[n] = a + b * deC[n] + d * deE[n];
+        }
+        return sumas;
     }
 };
 
@@ -36,6 +67,21 @@ struct FuncionDeDistancia {
     [[nodiscard]] double en(double L) const {
         const double s = suma.en(L);
         return exponencial ? ExigirFinito(std::exp(-s)) : Dividir(1, s);
+    }
+    /// `en` of each distance without a test: not finite exactly where `en` faults.
+    [[nodiscard]] CuatroNumeros sinPruebas(const CuatroNumeros& L) const {
+        const CuatroNumeros s = suma.sinPruebas(L);
+        CuatroNumeros f;
+        for (std::size_t n = 0; exponencial && n < f.size(); ++n) {
+            f[n] = std::exp(-s[n]);
+        }
+        for (std::size_t n = 0; !exponencial && n < f.size(); ++n) {
+            f[n] = 1 / s[n];
+        }
+        for (std::size_t n = 0; n < f.size(); ++n) {
+            f[n] += s[n] * 0.0; // Meant: a sum that is not finite shows; any other adds a 0.
+        }
+        return f;
     }
     /// Runs `acto`, which asks `en`; a division by zero that has no cause yet gets this one.
     template <class Acto>

@@ -183,6 +183,22 @@ std::span<const Juzgado> Seleccion::juzgados() {
     return {juzgados_.data(), cuantos};
 }
 
+Seleccion::Medidas Seleccion::medidas() {
+    assert(bastaLaDistancia());
+    medirCercanas();
+    const auto& filas = cercanas_.filas;
+    tamanos_.resize(filas.size());
+    std::size_t cuantas = 0;
+    const double suya = arboles_.d(*sujeto_);
+    for (std::size_t n = 0; n < filas.size(); ++n) {
+        const double d = arboles_.d(filas[n]);
+        tamanos_[cuantas] = d;
+        distancias_[cuantas] = distancias_[n];
+        cuantas += PuedeCompetir(lado_, d, suya) ? 1 : 0;
+    }
+    return {{tamanos_.data(), cuantas}, {distancias_.data(), cuantas}, limite()};
+}
+
 /// The roots apart, so that they are taken side by side.
 void Seleccion::medirCercanas() {
     const std::span<const double> x = arboles_.celdas().x.numeros();

@@ -84,6 +84,19 @@ public:
     /// the first that makes the subject a border tree.
     [[nodiscard]] std::span<const Juzgado> juzgados();
 
+    /// Sizes and distances of candidates (m), side by side.
+    struct Medidas {
+        std::span<const double> d, L;
+        double limite = 0; ///< those within this distance are accepted, the others rejected
+    };
+    /// Whether no candidate can fault and the distance alone judges. Then `medidas` serves as `juzgados`
+    /// does.
+    [[nodiscard]] bool bastaLaDistancia() const {
+        return sinFallos() && limita() && orden_ == OrdenDeRango::PorDistancia;
+    }
+    /// Of the candidates that the side rule lets through, in the order of the rows.
+    [[nodiscard]] Medidas medidas();
+
     /// Judges a candidate that the side rule let through.
     Veredicto juzgar(std::size_t j);
 
@@ -144,7 +157,7 @@ private:
     std::vector<double> claves_; ///< of the trees that count in ranks; in order, from the best to the worst
 
     ArbolesCercanos cercanas_;
-    std::vector<double> distancias_; ///< of each of them (m), where nothing faults
+    std::vector<double> distancias_, tamanos_; ///< of each of them (m), where nothing faults
     std::vector<Juzgado> juzgados_;
 };
 

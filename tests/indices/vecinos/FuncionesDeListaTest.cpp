@@ -1,10 +1,14 @@
 #include "indices/vecinos/FuncionesDeLista.h"
 
 #include "apoyo/Fallos.h"
+#include "basico/Saltando.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <optional>
 #include <rapidcheck/gtest.h>
+#include <utility>
+#include <vector>
 
 namespace varo {
 namespace {
@@ -86,6 +90,29 @@ TEST(FuncionesDeLista, LaInversaDeLaDistanciaNoFallaLejosDeCero) {
         LeerFuncionDeDistancia("HIP, a: -6,0000; b: 1,0000; c: 1,0000; d: 0,0000; e: 0,0000");
     EXPECT_FALSE(conCero.sinFallosEntre(1, 10));
     EXPECT_TRUE(conCero.sinFallosEntre(7, 10));
+}
+
+RC_GTEST_PROP(FuncionesDeLista, SinPruebasEsElMismoNumeroYDondeFallaNoEsFinito, ()) {
+    const auto deEstos = [](std::vector<double> numeros) { return *rc::gen::elementOf(std::move(numeros)); };
+    const auto factor = [&] { return deEstos({-2, -1, 0, 0.5, 1, 1E+300}); };
+    const auto exponente = [&] { return deEstos({-2, -0.5, 0, 1, 2, 3.25}); };
+    FuncionDeDistancia funcion;
+    funcion.exponencial = *rc::gen::arbitrary<bool>();
+    funcion.suma = {factor(), factor(), exponente(), factor(), exponente()};
+    CuatroNumeros L;
+    for (double& deUna : L) {
+        deUna = deEstos({0, 1E-200, 0.25, 1, 2, 7.3, 1E+150});
+    }
+    const CuatroNumeros f = funcion.sinPruebas(L);
+    for (std::size_t n = 0; n < L.size(); ++n) {
+        std::optional<double> deUna;
+        Saltando([&] { deUna = funcion.en(L[n]); });
+        RC_ASSERT(std::isfinite(f[n]) == deUna.has_value());
+        if (deUna) {
+            RC_ASSERT(f[n] == *deUna);
+            RC_ASSERT(std::signbit(f[n]) == std::signbit(*deUna));
+        }
+    }
 }
 
 } // namespace
