@@ -32,6 +32,8 @@ private:
     /// From the last side to a direction (degrees).
     [[nodiscard]] double giro(LugarEnRueda lugar) const;
     [[nodiscard]] LugarEnRueda buscarElSiguiente() const;
+    void ordenar(Vecino primero);
+    void repartirEnGajos();
     void enlazar();
 
     struct Direccion {
@@ -40,8 +42,10 @@ private:
     };
 
     const std::vector<double>* angulos_ = nullptr;
-    std::vector<Direccion> porAngulo_;
-    std::vector<Vecino> orden_;                      ///< by angle, then by row
+    std::vector<Direccion> porAngulo_, repartidas_;
+    std::vector<LugarEnRueda> comienzoDeGajo_; ///< among them, of each slice of the turn; one more at the end
+    std::vector<LugarEnRueda> lleno_;          ///< up to where each slice is filled
+    std::vector<Vecino> orden_;                ///< by angle, then by row
     std::vector<LugarEnRueda> siguiente_, anterior_; ///< a circular list of those that are left
     std::size_t quedan_ = 0;
     LugarEnRueda cabeza_ = 0; ///< where the search begins: the first one that is left from the last side on
