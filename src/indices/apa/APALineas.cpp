@@ -4,6 +4,7 @@
 #include <array>
 #include <cassert>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <numeric>
 #include <utility>
@@ -13,6 +14,7 @@ namespace varo {
 namespace {
 
 constexpr std::size_t deUnaVez = 4; ///< trees that are looked at side by side
+constexpr double porCasilla = 16;   ///< a slice costs more than the trees of a cell
 
 struct Sitios {
     const Arboles& arboles;
@@ -33,17 +35,16 @@ struct PrimeraMirada {
     float semiancho;     ///< nothing that is looked for is farther from it (m)
 };
 
-/// The distance of the nearest of so many points. A loop of vectors while it stands apart and its numbers are
-/// copies.
-[[gnu::noinline]] float MenorAlejamiento(const PrimeraMirada& linea, const float* xs, const float* ys) {
-    const float dx = linea.dx;
-    const float dy = linea.dy;
-    const float corte = linea.corte;
-    std::array<float, deUnaVez> todos;
-    for (std::size_t n = 0; n < deUnaVez; ++n) {
-        todos[n] = std::abs(dx * ys[n] - dy * xs[n] - corte);
+/// Whether any point of so many blocks is near a line. A loop of vectors while it stands apart and its
+/// numbers are copies.
+[[gnu::noinline]] bool AlgunoCerca(const PrimeraMirada& linea, const float* xs, const float* ys,
+                                   std::size_t bloques) {
+    const auto [dx, dy, corte, semiancho] = linea;
+    std::uint32_t cerca = 0;
+    for (std::size_t k = 0; k < bloques * deUnaVez; ++k) {
+        cerca |= std::abs(dx * ys[k] - dy * xs[k] - corte) <= semiancho ? 1U : 0U;
     }
-    return std::min(std::min(todos[0], todos[1]), std::min(todos[2], todos[3]));
+    return cerca != 0;
 }
 
 } // namespace
@@ -57,7 +58,7 @@ struct LineasAPA::Rebanadas::LineaDeVista {
 };
 
 LineasAPA::Rebanadas::Rebanadas(const Arboles& arboles, std::vector<Fila> filas, bool cambiadas)
-    : cuadricula_{Sitios{arboles, cambiadas}, std::move(filas)} {
+    : cuadricula_{Sitios{arboles, cambiadas}, std::move(filas), porCasilla} {
     const auto& [x0, y0, x1, y1] = cuadricula_.extremos();
     extension_ = (x1 - x0) + (y1 - y0);
     const std::size_t cuantos = cuadricula_.cuantos();
@@ -115,20 +116,18 @@ void LineasAPA::Rebanadas::enfiladas(double x, double y, const DireccionAPA& dir
     }
 }
 
-/// Nearly no tree is near a line, so some are looked at together, without a branch, and even those that stand
-/// behind the last one.
+/// Nearly no tree is near a line, so those of a slice are looked at together, without a branch, and even some
+/// that stand behind the last one.
 void LineasAPA::Rebanadas::examinar(std::size_t desde, std::size_t fin, const LineaDeVista& linea,
                                     std::vector<Fila>& halladas) const {
-    for (std::size_t bloque = desde; bloque < fin; bloque += deUnaVez) {
-        if (MenorAlejamiento(linea.primera, x_.data() + bloque, y_.data() + bloque) >
-            linea.primera.semiancho) {
-            continue;
-        }
-        for (std::size_t lugar = bloque; lugar < std::min(bloque + deUnaVez, fin); ++lugar) {
-            if (EnLinea(linea.direccion, cuadricula_.x(lugar) - linea.x, cuadricula_.y(lugar) - linea.y,
-                        linea.seno2)) {
-                halladas.push_back(cuadricula_.fila(lugar));
-            }
+    const std::size_t bloques = (fin - desde + deUnaVez - 1) / deUnaVez;
+    if (!AlgunoCerca(linea.primera, x_.data() + desde, y_.data() + desde, bloques)) {
+        return;
+    }
+    for (std::size_t lugar = desde; lugar < fin; ++lugar) {
+        if (EnLinea(linea.direccion, cuadricula_.x(lugar) - linea.x, cuadricula_.y(lugar) - linea.y,
+                    linea.seno2)) {
+            halladas.push_back(cuadricula_.fila(lugar));
         }
     }
 }

@@ -6,15 +6,14 @@
 
 namespace varo {
 
-void Cuadricula::medir() {
+void Cuadricula::medir(double porCasilla) {
     const auto [x0, x1] = std::minmax_element(x_.begin(), x_.end());
     const auto [y0, y1] = std::minmax_element(y_.begin(), y_.end());
     extremos_ = {*x0, *y0, *x1, *y1};
-    constexpr double arbolesPorCasilla = 2;
     const double ancho = extremos_.x1 - extremos_.x0;
     const double alto = extremos_.y1 - extremos_.y0;
     const auto n = static_cast<double>(filas_.size());
-    lado_ = std::max(std::sqrt(ancho * alto * arbolesPorCasilla / n), (ancho + alto) / n);
+    lado_ = std::max(std::sqrt(ancho * alto * porCasilla / n), (ancho + alto) / n);
     if (!(lado_ > 0)) {
         lado_ = 1;
     }
@@ -23,11 +22,11 @@ void Cuadricula::medir() {
     hileras_ = static_cast<std::size_t>(alto / lado_) + 1;
 }
 
-void Cuadricula::repartir() {
+void Cuadricula::repartir(double porCasilla) {
     if (filas_.empty()) {
         return;
     }
-    medir();
+    medir(porCasilla);
     const auto casillaDe = [&](std::size_t k) {
         return casilla(x_[k] - extremos_.x0, columnas_) * hileras_ + casilla(y_[k] - extremos_.y0, hileras_);
     };

@@ -8,8 +8,9 @@
 
 namespace varo {
 
-/// Cells are ordered column by column, upwards; a place is a tree's position in that order. About two trees
-/// per cell; the number of cells stays proportional to the number of trees, however narrow the plot.
+/// Cells are ordered column by column, upwards; a place is a tree's position in that order. Few trees per
+/// cell, on average as many as its owner asks for; the number of cells stays proportional to the number of
+/// trees, however narrow the plot.
 class Cuadricula {
 public:
     using Fila = std::uint32_t; ///< a tree, numbered as its owner numbers it
@@ -29,14 +30,15 @@ public:
     Cuadricula() = default;
     /// Takes these trees. `sitios` gives their coordinates by x(fila) and y(fila); they must be numbers.
     template <class Sitios>
-    Cuadricula(const Sitios& sitios, std::vector<Fila> filas) : filas_{std::move(filas)} {
+    Cuadricula(const Sitios& sitios, std::vector<Fila> filas, double porCasilla = 2)
+        : filas_{std::move(filas)} {
         x_.reserve(filas_.size());
         y_.reserve(filas_.size());
         for (const Fila i : filas_) {
             x_.push_back(sitios.x(i));
             y_.push_back(sitios.y(i));
         }
-        repartir();
+        repartir(porCasilla);
     }
 
     [[nodiscard]] std::size_t cuantos() const { return filas_.size(); }
@@ -105,8 +107,8 @@ public:
     }
 
 private:
-    void repartir();
-    void medir();
+    void repartir(double porCasilla);
+    void medir(double porCasilla);
     [[nodiscard]] std::size_t casilla(double distancia, std::size_t cuantas) const;
 
     Extremos extremos_;

@@ -16,7 +16,7 @@ using Filas = std::vector<Cuadricula::Fila>;
 
 /// Trees at random in a rectangle of 100 m by the height given; every seventh one has no size or size 0.
 inline ParcelaAPA ParcelaAlAzar() {
-    const int cuantos = *rc::gen::inRange(1, 80);
+    const int cuantos = *rc::gen::inRange(1, *rc::gen::element(80, 800));
     const double alto = *rc::gen::element(100.0, 1.0, 0.0);
     std::mt19937 azar{*rc::gen::arbitrary<unsigned>()};
     std::uniform_real_distribution<double> entre{0, 1};
