@@ -2,7 +2,9 @@
 
 #include "apoyo/Lugares.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QPalette>
 #include <QScrollArea>
@@ -92,8 +94,16 @@ void ElegirHoja(const Manos& manos) {
     manos.tecla("Return");
     manos.esperarVentana("FrmSeleccion");
     manos.clic("FrmSeleccion", "CboHoja", [](QWidget& combo) { return QPoint{combo.width() - 10, 10}; });
+    const auto esperarLista = [&](bool abierta) {
+        manos.esperar("que la lista de hojas se abra o se cierre", [&] {
+            return dynamic_cast<QComboBox&>(*ControlDe("FrmSeleccion", "CboHoja")).view()->isVisible() ==
+                   abierta;
+        });
+    };
+    esperarLista(true);
     manos.tecla("Down");
     manos.tecla("Return");
+    esperarLista(false);
     manos.tecla("Return");
     manos.esperarVentana("Hojadedatos");
     manos.foto("05-hoja");
