@@ -20,7 +20,8 @@ void PonerLados(const VecinosAPA& vecinos, const GiroAPA& giro, AnilloAPA& anill
     for (const LadoAPA& lado : giro.lados()) {
         const PuntoAPA vecino = vecinos.desdeElSujeto(lado.vecino);
         const double distancia = std::sqrt(vecino.x * vecino.x + vecino.y * vecino.y);
-        anillo.lados.push_back({vecino, distancia, std::abs(vecino.y) / distancia, 0});
+        anillo.lados.push_back(
+            {vecinos.filas[lado.vecino], vecino, distancia, std::abs(vecino.y) / distancia, 0});
         anillo.vecinoMasCercano = std::min(anillo.vecinoMasCercano, distancia);
     }
 }
@@ -29,8 +30,8 @@ void PonerLados(const VecinosAPA& vecinos, const GiroAPA& giro, AnilloAPA& anill
 bool PonerCirculos(AnilloAPA& anillo) {
     anillo.circulos.clear();
     for (std::size_t v = 0; v < anillo.lados.size(); ++v) {
-        const auto& [a, distanciaA, inclinacionA, senoA] = anillo.lados[v];
-        const auto& [b, distanciaB, inclinacionB, senoB] =
+        const auto& [arbolA, a, distanciaA, inclinacionA, senoA] = anillo.lados[v];
+        const auto& [arbolB, b, distanciaB, inclinacionB, senoB] =
             anillo.lados[v + 1 < anillo.lados.size() ? v + 1 : 0];
         const double cruz = a.x * b.y - a.y * b.x;
         const double seno = cruz / (distanciaA * distanciaB);

@@ -11,10 +11,11 @@ namespace varo {
 struct AnilloAPA {
     /// A side, as the way to its virtual neighbour.
     struct LadoDelAnillo {
-        PuntoAPA vecino;        ///< from the tree (m)
-        double distancia = 0;   ///< its length (m)
-        double inclinacion = 0; ///< the sine between it and the x axis
-        double seno = 0;        ///< nearer than this to its line (the sine of the angle), a circle may fault
+        VecinosAPA::Fila arbol = 0; ///< the tree behind it
+        PuntoAPA vecino;            ///< from the tree (m)
+        double distancia = 0;       ///< its length (m)
+        double inclinacion = 0;     ///< the sine between it and the x axis
+        double seno = 0; ///< nearer than this to its line (the sine of the angle), a circle may fault
     };
     /// The circle through the tree, a side and the next one.
     struct CirculoDelAnillo {

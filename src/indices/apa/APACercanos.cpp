@@ -21,8 +21,8 @@ constexpr double medidaMaxima = 1E+12; // m
 
 CercanosAPA::CercanosAPA(const PesosAPA& pesos)
     : pesos_{pesos}, cuadricula_{pesos}, lineas_{pesos.arboles(), cuadricula_.filas()},
-      medida_{cuadricula_.mayorCoordenada() + 2 * cuadricula_.extension()},
-      dudoso_(pesos.arboles().cuantos()), presente_(pesos.arboles().cuantos()) {
+      calles_{cuadricula_.cuantos()}, medida_{cuadricula_.mayorCoordenada() + 2 * cuadricula_.extension()},
+      dudoso_(pesos.arboles().cuantos()), presente_(cuadricula_.cuantos()) {
     marcarDudosos();
     buscarEsquinas();
 }
@@ -70,10 +70,10 @@ void CercanosAPA::buscarEsquinas() {
             }
             lado.push_back(c);
         }
-        esquinas_.insert(esquinas_.end(), lado.begin(), lado.end());
-    }
-    for (const Fila esquina : esquinas_) {
-        dudoso_[esquina] = true;
+        for (const Fila esquina : lado) {
+            esquinas_.push_back(cuadricula_.lugar(esquina));
+            dudoso_[esquina] = true;
+        }
     }
 }
 
@@ -85,21 +85,21 @@ bool CercanosAPA::girar(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
     }
     empezar(i);
     while (girarEntreEllas(pareja, vecinos, giro)) {
-        halladas_.clear();
+        hallados_.clear();
         if (!CerrarAnillo(vecinos, giro, medida_, anillo_)) {
             alejarse(i);
-            anadirHalladas();
+            anadirHallados();
             continue;
         }
         // The lines go through the whole plot, so they are looked along only for a ring that stands so far.
-        cuadricula_.enLosCirculos(i, anillo_, halladas_);
-        if (anadirHalladas()) {
+        cuadricula_.enLosCirculos(i, anillo_, hallados_);
+        if (anadirHallados()) {
             continue;
         }
         if (!buscarEnLineas(i)) {
             return false;
         }
-        if (!anadirHalladas()) {
+        if (!anadirHallados()) {
             return true;
         }
     }
@@ -107,64 +107,82 @@ bool CercanosAPA::girar(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
 }
 
 void CercanosAPA::empezar(std::size_t i) {
-    for (const Fila fila : filas_) {
-        presente_[fila] = false;
+    for (const LugarAPA lugar : lugares_) {
+        presente_[lugar] = false;
     }
-    filas_.clear();
-    halladas_.clear();
+    lugares_.clear();
+    hallados_.clear();
     medioLado_ = 2 * cuadricula_.lado();
-    cuadricula_.cuadro(i, medioLado_, halladas_);
-    anadirHalladas();
+    cuadricula_.cuadro(i, medioLado_, hallados_);
+    anadirHallados();
 }
 
 void CercanosAPA::alejarse(std::size_t i) {
     if (medioLado_ > 3 * cuadricula_.lado()) {
-        halladas_ = esquinas_;
+        hallados_ = esquinas_;
     }
     medioLado_ *= 2;
-    cuadricula_.cuadro(i, medioLado_, halladas_);
+    cuadricula_.cuadro(i, medioLado_, hallados_);
 }
 
-bool CercanosAPA::anadirHalladas() {
-    const std::size_t habia = filas_.size();
-    for (const Fila fila : halladas_) {
-        if (!presente_[fila]) {
-            presente_[fila] = true;
-            filas_.push_back(fila);
+bool CercanosAPA::anadirHallados() {
+    const std::size_t habia = lugares_.size();
+    for (const LugarAPA lugar : hallados_) {
+        if (!presente_[lugar]) {
+            presente_[lugar] = true;
+            lugares_.push_back(lugar);
         }
     }
-    if (filas_.size() == habia) {
-        return false;
-    }
-    std::sort(filas_.begin(), filas_.end());
-    return true;
+    return lugares_.size() > habia;
 }
 
 bool CercanosAPA::girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro) {
-    if (filas_.size() > cuadricula_.cuantos() / 2) {
+    if (lugares_.size() > cuadricula_.cuantos() / 2) {
         return false;
     }
     // A fault among some of the trees may not be the fault among all of them: the whole turn tells.
     return !Saltando([&] {
-        ReunirVecinos(pesos_, filas_, pareja, vecinos);
+        cuadricula_.reunirVecinos(pareja.sujeto, lugares_, vecinos);
         giro.dar(vecinos, pareja);
     });
 }
 
 bool CercanosAPA::buscarEnLineas(std::size_t i) {
-    halladas_.clear();
+    hallados_.clear();
+    enfiladas_.clear();
     const double senoEjes = senoDeLosEjes();
     if (!(senoEjes < senoDesmedido)) {
         return false;
     }
-    lineas_.enLosEjes(i, 2 * senoEjes, halladas_);
-    for (const auto& [vecino, distancia, inclinacion, seno] : anillo_.lados) {
-        if (!(seno < senoDesmedido)) {
+    lineas_.enLosEjes(i, 2 * senoEjes, enfiladas_);
+    for (const auto& lado : anillo_.lados) {
+        if (!(lado.seno < senoDesmedido)) {
             return false;
         }
-        lineas_.enfiladas(i, {vecino.x / distancia, vecino.y / distancia}, 2 * seno, halladas_);
+        buscarHacia(i, lado);
+    }
+    for (const Fila fila : enfiladas_) {
+        hallados_.push_back(cuadricula_.lugar(fila));
     }
     return true;
+}
+
+/// docs/apa.md, "Streets".
+void CercanosAPA::buscarHacia(std::size_t i, const AnilloAPA::LadoDelAnillo& lado) {
+    const LugarAPA aqui = cuadricula_.lugar(static_cast<Fila>(i));
+    const LugarAPA alli = cuadricula_.lugar(lado.arbol);
+    const DireccionAPA direccion{lado.vecino.x / lado.distancia, lado.vecino.y / lado.distancia};
+    const double semiancho = 2 * lado.seno * cuadricula_.extension();
+    const double deLaCalle = lineas_.semianchoDeBalde();
+    if (semiancho < 0.9 * deLaCalle && calles_.vacia(alli, aqui)) {
+        return;
+    }
+    // The tree and that of the side.
+    if (lineas_.cuantosCerca(i, direccion, std::max(semiancho, deLaCalle)) <= 2) {
+        calles_.anotar(aqui, alli);
+        return;
+    }
+    lineas_.enfiladas(i, direccion, 2 * lado.seno, enfiladas_);
 }
 
 /// docs/apa.md, "Directions near an axis".

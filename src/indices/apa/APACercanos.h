@@ -4,6 +4,7 @@
 #pragma once
 
 #include "indices/apa/APAAnillo.h"
+#include "indices/apa/APACalles.h"
 #include "indices/apa/APACuadricula.h"
 #include "indices/apa/APAGiro.h"
 #include "indices/apa/APALineas.h"
@@ -27,31 +28,36 @@ private:
 
     void marcarDudosos();
     void buscarEsquinas();
-    /// Makes `filas_` those in a square about tree i.
+    /// Makes `lugares_` those of a square about tree i.
     void empezar(std::size_t i);
-    /// Adds to `filas_` the ones in `halladas_` that are not there yet; false where all of them are.
-    bool anadirHalladas();
-    /// Turns over the rows in `filas_`; false where they are too many, or the turn faults.
+    /// Adds to `lugares_` the ones in `hallados_` that are not there yet; false where all of them are.
+    bool anadirHallados();
+    /// Turns over the trees in `lugares_`; false where they are too many, or the turn faults.
     bool girarEntreEllas(Pareja& pareja, VecinosAPA& vecinos, GiroAPA& giro);
     /// For a ring that does not close: takes in trees farther away, the more the more often it is asked.
     void alejarse(std::size_t i);
-    /// Leaves in `halladas_` the trees that might fault and that the turn must have had at hand; false where
+    /// Leaves in `hallados_` the trees that might fault and that the turn must have had at hand; false where
     /// rounding may be too large to tell.
     bool buscarEnLineas(std::size_t i);
+    /// The same for the line of a side.
+    void buscarHacia(std::size_t i, const AnilloAPA::LadoDelAnillo& lado);
     /// Farther than this from both axes (the sine of the angle), no direction faults.
     [[nodiscard]] double senoDeLosEjes() const;
 
     const PesosAPA& pesos_;
     CuadriculaAPA cuadricula_;
     LineasAPA lineas_;
-    double medida_; ///< no coordinate of a virtual neighbour is larger (m)
-    std::vector<bool> dudoso_;
-    std::vector<Fila> esquinas_; ///< the trees at the corners of the plot: every other one stands among them
+    CallesAPA calles_;
+    double medida_;            ///< no coordinate of a virtual neighbour is larger (m)
+    std::vector<bool> dudoso_; ///< by row
+    std::vector<LugarAPA>
+        esquinas_; ///< the trees at the corners of the plot: every other one stands among them
     AnilloAPA anillo_;
-    double medioLado_ = 0;       ///< of the square about the subject that is in `filas_` (m)
-    std::vector<Fila> filas_;    ///< in ascending order, each one once
-    std::vector<Fila> halladas_; ///< in any order, some of them more than once
-    std::vector<bool> presente_; ///< whether a row is in `filas_`
+    double medioLado_ = 0;           ///< of the square about the subject that is in `lugares_` (m)
+    std::vector<LugarAPA> lugares_;  ///< each one once
+    std::vector<LugarAPA> hallados_; ///< some of them more than once
+    std::vector<Fila> enfiladas_;    ///< some of them more than once
+    std::vector<bool> presente_;     ///< whether a place is in `lugares_`
 };
 
 } // namespace varo

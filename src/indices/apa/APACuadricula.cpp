@@ -26,8 +26,10 @@ CuadriculaAPA::CuadriculaAPA(const PesosAPA& pesos)
     const auto& [x0, y0, x1, y1] = cuadricula_.extremos();
     extension_ = (x1 - x0) + (y1 - y0);
     mayorCoordenada_ = std::max({std::abs(x0), std::abs(x1), std::abs(y0), std::abs(y1)});
+    lugares_.resize(pesos.arboles().cuantos());
     peso_.reserve(cuadricula_.cuantos());
     for (const Fila i : cuadricula_.filas()) {
+        lugares_[i] = static_cast<LugarAPA>(peso_.size());
         peso_.push_back(pesos.de(i));
         mayorPeso_ = std::max(mayorPeso_, peso_.back());
     }
@@ -37,14 +39,15 @@ bool CuadriculaAPA::tiene(std::size_t i) const {
     return !pesos_.arboles().sinTamano(i) && pesos_.arboles().d(i) != 0;
 }
 
-void CuadriculaAPA::cuadro(std::size_t i, double medioLado, std::vector<Fila>& halladas) const {
+void CuadriculaAPA::cuadro(std::size_t i, double medioLado, std::vector<LugarAPA>& hallados) const {
     assert(tiene(i) && medioLado >= 0);
     const Arboles& arboles = pesos_.arboles();
     cuadricula_.recorrerCuadro(arboles.x(i), arboles.y(i), medioLado,
-                               [&](std::size_t lugar) { halladas.push_back(cuadricula_.fila(lugar)); });
+                               [&](std::size_t lugar) { hallados.push_back(static_cast<LugarAPA>(lugar)); });
 }
 
-void CuadriculaAPA::enLosCirculos(std::size_t i, const AnilloAPA& anillo, std::vector<Fila>& halladas) const {
+void CuadriculaAPA::enLosCirculos(std::size_t i, const AnilloAPA& anillo,
+                                  std::vector<LugarAPA>& hallados) const {
     assert(tiene(i));
     const double xi = pesos_.arboles().x(i);
     const double yi = pesos_.arboles().y(i);
@@ -71,9 +74,34 @@ void CuadriculaAPA::enLosCirculos(std::size_t i, const AnilloAPA& anillo, std::v
         // tolerancia is 2 * W * L * L >= 2 * c * t + tolerancia * L, here with no division and no root.
         const double dentro = 2 * hacia + tolerancia * (std::abs(dx) + std::abs(dy));
         if (!(2 * peso * (dx * dx + dy * dy) >= dentro * (peso + peso_[lugar]))) {
-            halladas.push_back(cuadricula_.fila(lugar));
+            hallados.push_back(static_cast<LugarAPA>(lugar));
         }
     });
+}
+
+void CuadriculaAPA::reunirVecinos(std::size_t i, std::span<const LugarAPA> lugares,
+                                  VecinosAPA& vecinos) const {
+    assert(tiene(i));
+    const PuntoAPA arbol{pesos_.arboles().x(i), pesos_.arboles().y(i)};
+    const double peso = pesos_.de(i);
+    vecinos.filas.clear();
+    vecinos.x.clear();
+    vecinos.y.clear();
+    vecinos.xSujeto = arbol.x;
+    vecinos.ySujeto = arbol.y;
+    for (const LugarAPA lugar : lugares) {
+        const Fila fila = cuadricula_.fila(lugar);
+        if (fila == i) {
+            continue;
+        }
+        const PuntoAPA otro{cuadricula_.x(lugar), cuadricula_.y(lugar)};
+        const double L = Distancia(arbol.x, arbol.y, otro.x, otro.y);
+        const double W = Dividir(peso, ExigirFinito(peso + peso_[lugar]));
+        const PuntoAPA vecino = ColocarVecino(arbol, otro, L, W);
+        vecinos.filas.push_back(fila);
+        vecinos.x.push_back(vecino.x);
+        vecinos.y.push_back(vecino.y);
+    }
 }
 
 } // namespace varo

@@ -48,7 +48,8 @@ GiroAPA::Vecino GiroAPA::masCercano() {
         const double distancia =
             Distancia(vecinos_->xSujeto, vecinos_->ySujeto, vecinos_->x[j], vecinos_->y[j]);
         mayorDistancia_ = std::max(mayorDistancia_, distancia);
-        if (distancia < menor) {
+        const bool primeraFila = cercano && vecinos_->filas[j] < vecinos_->filas[*cercano];
+        if (distancia < menor || (distancia == menor && primeraFila)) {
             menor = distancia;
             cercano = j;
         }
@@ -88,7 +89,7 @@ void GiroAPA::probarLosDemas(Vecino primero, Pareja& pareja) {
     const double yi = vecinos_->ySujeto;
     prueba_.resize(filas.size());
     std::iota(prueba_.begin(), prueba_.end(), Vecino{0});
-    rueda_.llenar(angulo_, primero);
+    rueda_.llenar(angulo_, filas, primero);
     Vecino p = primero;
     while (!rueda_.vacia()) {
         const Vecino q = rueda_.sacar();

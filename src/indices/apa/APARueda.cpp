@@ -7,9 +7,10 @@
 
 namespace varo {
 
-void RuedaAPA::llenar(const std::vector<double>& angulos, Vecino primero) {
-    assert(primero < angulos.size());
+void RuedaAPA::llenar(const std::vector<double>& angulos, const std::vector<Fila>& filas, Vecino primero) {
+    assert(primero < angulos.size() && filas.size() == angulos.size());
     angulos_ = &angulos;
+    filas_ = &filas;
     ultimoLado_ = angulos[primero];
     ordenar(primero);
     enlazar();
@@ -23,14 +24,14 @@ void RuedaAPA::ordenar(Vecino primero) {
     porAngulo_.clear();
     for (Vecino v = 0; v < angulos_->size(); ++v) {
         if (v != primero) {
-            porAngulo_.push_back({(*angulos_)[v], v});
+            porAngulo_.push_back({(*angulos_)[v], (*filas_)[v], v});
         }
     }
     const auto ordenarDe = [&](std::size_t desde, std::size_t fin) {
         const auto comienzo = porAngulo_.begin();
         std::sort(comienzo + static_cast<std::ptrdiff_t>(desde), comienzo + static_cast<std::ptrdiff_t>(fin),
                   [](const Direccion& a, const Direccion& b) {
-                      return a.angulo < b.angulo || (a.angulo == b.angulo && a.vecino < b.vecino);
+                      return a.angulo < b.angulo || (a.angulo == b.angulo && a.fila < b.fila);
                   });
     };
     if (porAngulo_.size() < muchas) {
@@ -113,7 +114,7 @@ RuedaAPA::LugarEnRueda RuedaAPA::buscarElSiguiente() const {
     LugarEnRueda elegido = cabeza_;
     for (LugarEnRueda lugar = siguiente_[cabeza_]; lugar != cabeza_ && giro(lugar) == menor;
          lugar = siguiente_[lugar]) {
-        if (orden_[lugar] < orden_[elegido]) {
+        if ((*filas_)[orden_[lugar]] < (*filas_)[orden_[elegido]]) {
             elegido = lugar;
         }
     }

@@ -14,10 +14,12 @@ namespace varo {
 class RuedaAPA {
 public:
     using Vecino = std::uint32_t; ///< a position among the virtual neighbours
+    using Fila = std::uint32_t;   ///< of the tree behind it
 
     /// Takes in all neighbours but the first, from which the turn starts. `angulos` has the direction of each
-    /// one, in degrees, and stays as it is for as long as the wheel turns.
-    void llenar(const std::vector<double>& angulos, Vecino primero);
+    /// one, in degrees, `filas` its row, no two the same; both stay as they are for as long as the wheel
+    /// turns.
+    void llenar(const std::vector<double>& angulos, const std::vector<Fila>& filas, Vecino primero);
 
     [[nodiscard]] bool vacia() const { return quedan_ == 0; }
 
@@ -38,10 +40,12 @@ private:
 
     struct Direccion {
         double angulo; ///< degrees
+        Fila fila;
         Vecino vecino;
     };
 
     const std::vector<double>* angulos_ = nullptr;
+    const std::vector<Fila>* filas_ = nullptr;
     std::vector<Direccion> porAngulo_, repartidas_;
     std::vector<LugarEnRueda> comienzoDeGajo_; ///< among them, of each slice of the turn; one more at the end
     std::vector<LugarEnRueda> lleno_;          ///< up to where each slice is filled

@@ -15,15 +15,23 @@ namespace {
 
 PuntoAPA ColocarVecino(const PesosAPA& pesos, std::size_t i, std::size_t j) {
     const Arboles& arboles = pesos.arboles();
-    const double xi = arboles.x(i);
-    const double yi = arboles.y(i);
-    const double xj = arboles.x(j);
-    const double yj = arboles.y(j);
-    const double L = Distancia(xi, yi, xj, yj);
+    const PuntoAPA arbol{arboles.x(i), arboles.y(i)};
+    const PuntoAPA otro{arboles.x(j), arboles.y(j)};
+    const double L = Distancia(arbol.x, arbol.y, otro.x, otro.y);
     const double pesoI = pesos.de(i);
     const double W = Porque(
         fallo::divisionPorCero, [] { return "los tamaños de los dos árboles pesan 0"; },
         [&] { return Dividir(pesoI, ExigirFinito(pesoI + pesos.de(j))); });
+    return ColocarVecino(arbol, otro, L, W);
+}
+
+} // namespace
+
+PuntoAPA ColocarVecino(const PuntoAPA& arbol, const PuntoAPA& otro, double L, double W) {
+    const double xi = arbol.x;
+    const double yi = arbol.y;
+    const double xj = otro.x;
+    const double yj = otro.y;
     const double Lw = 2.0 * W * L;
     const double s = Porque(
         fallo::divisionPorCero, [] { return "los dos árboles tienen la misma X"; },
@@ -34,8 +42,6 @@ PuntoAPA ColocarVecino(const PesosAPA& pesos, std::size_t i, std::size_t j) {
     const bool alaIzquierda = xj < xi && yj != yi;
     return {alaIzquierda ? xi - dx : xi + dx, yj < yi ? yi - dy : yi + dy};
 }
-
-} // namespace
 
 PesosAPA::PesosAPA(const Arboles& arboles, double k)
     : arboles_{arboles}, k_{k}, pesos_(arboles.cuantos(), std::numeric_limits<double>::quiet_NaN()) {

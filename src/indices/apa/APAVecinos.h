@@ -33,7 +33,7 @@ private:
     std::vector<double> pesos_; ///< NaN where it faults
 };
 
-/// The virtual neighbours of one subject, in the order of the rows.
+/// The virtual neighbours of one subject.
 struct VecinosAPA {
     using Fila = Cuadricula::Fila;
 
@@ -47,9 +47,14 @@ struct VecinosAPA {
     }
 };
 
+/// Where a tree sees another one, L metres away, with the share W in the weight of both. Faults: 11 on a tree
+/// of the same x.
+PuntoAPA ColocarVecino(const PuntoAPA& arbol, const PuntoAPA& otro, double L, double W);
+
 /// Places the virtual neighbours of the subject that stand in the given rows: trees with a size, the subject
-/// itself among them, in ascending order and each one once. A size of 0 is placed, with its faults, and left
-/// out. Faults: those of the cells and of the weights; 11 on a tree of the same x.
+/// itself among them, in ascending order and each one once; they come out in that order. A size of 0 is
+/// placed, with its faults, and left out. Faults: those of the cells and of the weights; 11 on a tree of the
+/// same x.
 void ReunirVecinos(const PesosAPA& pesos, std::span<const VecinosAPA::Fila> filas, Pareja& pareja,
                    VecinosAPA& vecinos);
 

@@ -8,8 +8,10 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 #include <numeric>
 #include <random>
 #include <tuple>
@@ -248,17 +250,33 @@ std::vector<Lado> Lados(const VecinosAPA& vecinos, const GiroAPA& giro) {
     return lados;
 }
 
-RC_GTEST_PROP(APACercanos, EnUnaParcelaGrandeElCaminoCortoDaLosLadosDelGiroEntero, ()) {
-    // Larger than what the literal form can judge; it judges the whole turn on the small ones.
-    const int cuantos = *rc::gen::inRange(150, 500);
-    Azar azar{*rc::gen::arbitrary<unsigned>()};
-    const double k = *rc::gen::element(0.0, 1.0, -1.0, 3.0);
-    const double x0 = *rc::gen::element(0.0, 500000.0);
-    const double alto = *rc::gen::element(100.0, 20.0);
-    ParcelaAPA parcela = ParcelaRepartida(azar, cuantos, 100, alto, x0, 9 * x0);
-    for (auto& tamano : parcela.tamano) {
-        tamano = UnTamano(azar);
-    }
+TEST(APACercanos, DeDosVecinosIgualDeCercanosElGiroEmpiezaPorLaPrimeraFila) {
+    // Root 5 away stand the rows 1, 3 and 5, in whatever order they are handed over.
+    const std::map<VecinosAPA::Fila, std::pair<double, double>> sitios{
+        {1, {1, -2}}, {3, {-1, 2}}, {5, {2, 1}}, {8, {-2.25, -1}}};
+    std::vector<VecinosAPA::Fila> filas{1, 3, 5, 8};
+    std::vector<Lado> lados;
+    do {
+        VecinosAPA vecinos;
+        vecinos.filas = filas;
+        for (const auto fila : filas) {
+            vecinos.x.push_back(sitios.at(fila).first);
+            vecinos.y.push_back(sitios.at(fila).second);
+        }
+        Pareja pareja{0, 0};
+        GiroAPA giro;
+        giro.dar(vecinos, pareja);
+        if (lados.empty()) {
+            lados = Lados(vecinos, giro);
+            ASSERT_EQ(lados.size(), 4);
+            EXPECT_EQ(std::get<0>(lados.front()), 1);
+        }
+        EXPECT_EQ(Lados(vecinos, giro), lados);
+    } while (std::next_permutation(filas.begin(), filas.end()));
+}
+
+/// Judges the short turns of a plot by the whole one, which the literal form judges on small plots.
+void CompararConElGiroEntero(const ParcelaAPA& parcela, double k) {
     const Arboles arboles = parcela.arboles();
     const PesosAPA pesos{arboles, k};
     CercanosAPA cercanos{pesos};
@@ -268,25 +286,58 @@ RC_GTEST_PROP(APACercanos, EnUnaParcelaGrandeElCaminoCortoDaLosLadosDelGiroEnter
     VecinosAPA enteros;
     GiroAPA corto;
     GiroAPA entero;
-    int cortos = 0;
+    std::size_t cortos = 0;
     for (std::size_t i = 0; i < arboles.cuantos(); ++i) {
         Pareja pareja{i, i};
         if (cercanos.girar(pareja, cerca, corto)) {
             ++cortos;
             ReunirVecinos(pesos, todas, pareja, enteros);
-            entero.dar(enteros, pareja);
+            RC_ASSERT(!Saltando([&] { entero.dar(enteros, pareja); }));
             RC_ASSERT(Lados(cerca, corto) == Lados(enteros, entero));
         }
     }
-    RC_CLASSIFY(2 * cortos > cuantos, "casi todos por el camino corto");
+    RC_CLASSIFY(2 * cortos > arboles.cuantos(), "casi todos por el camino corto");
 }
 
-/// A thousand trees about one whose cell is a square of its four nearest neighbours; the first tree.
-ParcelaAPA ParcelaGrande() {
+RC_GTEST_PROP(APACercanos, EnUnaParcelaGrandeElCaminoCortoDaLosLadosDelGiroEntero, ()) {
+    const int cuantos = *rc::gen::inRange(150, 500);
+    Azar azar{*rc::gen::arbitrary<unsigned>()};
+    const double k = *rc::gen::element(0.0, 1.0, -1.0, 3.0);
+    const double x0 = *rc::gen::element(0.0, 500000.0);
+    const double alto = *rc::gen::element(100.0, 20.0);
+    ParcelaAPA parcela = ParcelaRepartida(azar, cuantos, 100, alto, x0, 9 * x0);
+    for (auto& tamano : parcela.tamano) {
+        tamano = UnTamano(azar);
+    }
+    CompararConElGiroEntero(parcela, k);
+}
+
+RC_GTEST_PROP(APACercanos, EnUnaReticulaGrandeElCaminoCortoDaLosLadosDelGiroEntero, ()) {
+    // Every line of sight meets trees that are in line, or almost.
+    const int lado = *rc::gen::inRange(12, 20);
+    Azar azar{*rc::gen::arbitrary<unsigned>()};
+    const double k = *rc::gen::element(0.0, 0.0, 1.0);
+    const double temblor = std::pow(10.0, -*rc::gen::inRange(1, 12));
+    ParcelaAPA parcela;
+    for (int a = 0; a < lado; ++a) {
+        for (int b = 0; b < lado; ++b) {
+            parcela.anadir(Escrito(23 * a + b + azar.entre(0, temblor)),
+                           Escrito(23 * b - a + azar.entre(0, temblor)), UnTamano(azar));
+        }
+    }
+    CompararConElGiroEntero(parcela, k);
+}
+
+using Sitios = std::vector<std::pair<double, double>>;
+
+const Sitios enCruz{{2, 1}, {-1, 2}, {-2, -1}, {1, -2}};
+
+/// A thousand trees about one whose cell has its four nearest neighbours for sides; the first tree.
+ParcelaAPA ParcelaGrande(const Sitios& vecinos) {
     Azar azar{3};
     ParcelaAPA parcela;
     parcela.anadir(0, 0);
-    for (const auto& [x, y] : {std::pair{2, 1}, {-1, 2}, {-2, -1}, {1, -2}}) {
+    for (const auto& [x, y] : vecinos) {
         parcela.anadir(x, y);
     }
     const auto xs = azar.repartidos(1000, 80);
@@ -301,8 +352,9 @@ ParcelaAPA ParcelaGrande() {
 }
 
 /// The far tree, added to a plot whose first tree had a cell, makes that very tree fault.
-void EsperarFalloDelPrimero(double x, double y, const std::string& tamano, int fallo) {
-    ParcelaAPA parcela = ParcelaGrande();
+void EsperarFalloDelPrimero(double x, double y, const std::string& tamano, int fallo,
+                            const Sitios& vecinos = enCruz) {
+    ParcelaAPA parcela = ParcelaGrande(vecinos);
     ASSERT_TRUE(VanPorElCaminoCorto(parcela, 0).front());
     ASSERT_FALSE(Rapida(parcela.arboles(), parcela.contorno(), 0).trazos.empty());
 
@@ -316,6 +368,12 @@ TEST(APACercanos, UnArbolLejanoEnLineaConUnVecinoHaceFallarElGiro) {
     // Sixteen times as far as the neighbour at (-2; -1), on its line: it is tried right after that neighbour,
     // and the circle through both and the tree has no centre.
     EsperarFalloDelPrimero(-32, -16, "0,2", fallo::divisionPorCero);
+}
+
+TEST(APACercanos, UnArbolLejanoEnLineaConUnSoloVecinoHaceFallarElGiro) {
+    // Nobody else stands on that line.
+    EsperarFalloDelPrimero(32, 16, "0,2", fallo::divisionPorCero,
+                           {{2, 1}, {-1.125, 2}, {-2.25, -1}, {1, -2.125}});
 }
 
 TEST(APACercanos, UnArbolLejanoDeLaMismaXHaceFallarElGiroAunqueSuTamanoSeaCero) {

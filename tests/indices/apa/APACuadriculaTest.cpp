@@ -12,15 +12,45 @@
 namespace varo {
 namespace {
 
+Filas EnFilas(const CuadriculaAPA& cuadricula, const std::vector<LugarAPA>& lugares) {
+    Filas filas;
+    for (const auto lugar : lugares) {
+        filas.push_back(cuadricula.filas()[lugar]);
+    }
+    return filas;
+}
+
+RC_GTEST_PROP(APACuadricula, ReuneLosMismosVecinosVirtualesQuePorFilas, ()) {
+    const ParcelaAPA parcela = ParcelaAlAzar();
+    const Arboles arboles = parcela.arboles();
+    const PesosAPA pesos{arboles, *rc::gen::element(0.0, 1.0, -2.0)};
+    const CuadriculaAPA cuadricula{pesos};
+    const Filas filas = LasQue(arboles, [](auto) { return true; });
+    std::vector<LugarAPA> lugares;
+    for (const auto fila : filas) {
+        lugares.push_back(cuadricula.lugar(fila));
+    }
+    Pareja pareja{0, 0};
+    VecinosAPA porFilas;
+    VecinosAPA porLugares;
+    ReunirVecinos(pesos, filas, pareja, porFilas);
+    cuadricula.reunirVecinos(0, lugares, porLugares);
+    RC_ASSERT(porLugares.filas == porFilas.filas);
+    RC_ASSERT(porLugares.x == porFilas.x);
+    RC_ASSERT(porLugares.y == porFilas.y);
+    RC_ASSERT(porLugares.xSujeto == arboles.x(0));
+    RC_ASSERT(porLugares.ySujeto == arboles.y(0));
+}
+
 RC_GTEST_PROP(APACuadricula, EncuentraLosArbolesDelCuadro, ()) {
     const ParcelaAPA parcela = ParcelaAlAzar();
     const Arboles arboles = parcela.arboles();
     const PesosAPA pesos{arboles, 0};
     const CuadriculaAPA cuadricula{pesos};
     const double medioLado = *rc::gen::element(0.0, 0.5, 7.0, 60.0, 300.0);
-    Filas halladas;
-    cuadricula.cuadro(0, medioLado, halladas);
-    EsperarQueContenga(halladas, LasQue(arboles, [&](auto j) {
+    std::vector<LugarAPA> hallados;
+    cuadricula.cuadro(0, medioLado, hallados);
+    EsperarQueContenga(EnFilas(cuadricula, hallados), LasQue(arboles, [&](auto j) {
                            return std::abs(arboles.x(j) - arboles.x(0)) <= medioLado &&
                                   std::abs(arboles.y(j) - arboles.y(0)) <= medioLado;
                        }));
@@ -40,10 +70,10 @@ RC_GTEST_PROP(APACuadricula, EncuentraLosVecinosVirtualesEnLosCirculos, ()) {
         const double radio = *rc::gen::element(0.0, 0.5, 7.0, 60.0, 3000.0);
         anillo.circulos.push_back({{radio * std::cos(angulo), radio * std::sin(angulo)}, radio, 0.5});
     }
-    Filas halladas;
-    cuadricula.enLosCirculos(0, anillo, halladas);
+    std::vector<LugarAPA> hallados;
+    cuadricula.enLosCirculos(0, anillo, hallados);
     EsperarQueContenga(
-        halladas, LasQue(arboles, [&](auto j) {
+        EnFilas(cuadricula, hallados), LasQue(arboles, [&](auto j) {
             const double W = pesos.de(0) / (pesos.de(0) + pesos.de(j));
             const double x = 2 * W * (arboles.x(j) - arboles.x(0));
             const double y = 2 * W * (arboles.y(j) - arboles.y(0));

@@ -4,18 +4,23 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <numeric>
 #include <optional>
+#include <random>
 
 namespace varo {
 namespace {
 
 using Vecino = RuedaAPA::Vecino;
 
-/// Looks at all neighbours that are left for the smallest turn from a direction; of a tie the first one.
+using Fila = RuedaAPA::Fila;
+
+/// Looks at all neighbours that are left for the smallest turn from a direction; of a tie the first row.
 class Busqueda {
 public:
-    Busqueda(const std::vector<double>& angulos, Vecino primero)
-        : angulos_{angulos}, visitado_(angulos.size()), desde_{angulos[primero]} {
+    Busqueda(const std::vector<double>& angulos, const std::vector<Fila>& filas, Vecino primero)
+        : angulos_{angulos}, filas_{filas}, visitado_(angulos.size()), desde_{angulos[primero]} {
         visitado_[primero] = true;
     }
 
@@ -25,7 +30,8 @@ public:
         for (Vecino v = 0; v < angulos_.size(); ++v) {
             const double a = angulos_[v];
             const double giro = a < desde_ ? 360.0 - (desde_ - a) : a - desde_;
-            if (!visitado_[v] && giro < menor) {
+            const bool primeraFila = ultimo_ && filas_[v] < filas_[*ultimo_];
+            if (!visitado_[v] && (giro < menor || (giro == menor && primeraFila))) {
                 menor = giro;
                 ultimo_ = v;
             }
@@ -40,6 +46,7 @@ public:
 
 private:
     const std::vector<double>& angulos_;
+    const std::vector<Fila>& filas_;
     std::vector<bool> visitado_;
     double desde_;
     std::optional<Vecino> ultimo_;
@@ -56,9 +63,12 @@ RC_GTEST_PROP(APARueda, SacaLosVecinosEnElOrdenDeLaBusqueda, ()) {
         }
     }
     const auto primero = *rc::gen::inRange<Vecino>(0, static_cast<Vecino>(angulos.size()));
+    std::vector<Fila> filas(angulos.size());
+    std::iota(filas.begin(), filas.end(), Fila{0});
+    std::shuffle(filas.begin(), filas.end(), std::mt19937{*rc::gen::arbitrary<unsigned>()});
     RuedaAPA rueda;
-    rueda.llenar(angulos, primero);
-    Busqueda busqueda{angulos, primero};
+    rueda.llenar(angulos, filas, primero);
+    Busqueda busqueda{angulos, filas, primero};
     while (!rueda.vacia()) {
         RC_ASSERT(rueda.sacar() == busqueda.sacar());
         if (*rc::gen::arbitrary<bool>()) {
@@ -71,8 +81,9 @@ RC_GTEST_PROP(APARueda, SacaLosVecinosEnElOrdenDeLaBusqueda, ()) {
 
 TEST(APARueda, ConUnSoloVecinoEstaVacia) {
     const std::vector<double> angulos{45};
+    const std::vector<Fila> filas{7};
     RuedaAPA rueda;
-    rueda.llenar(angulos, 0);
+    rueda.llenar(angulos, filas, 0);
     EXPECT_TRUE(rueda.vacia());
 }
 
