@@ -70,12 +70,6 @@ std::vector<std::byte> LeerBytes(const std::filesystem::path& archivo, const std
     return bytes;
 }
 
-bool Lleva(Bytes bytes, std::size_t lugar, std::string_view marca) {
-    return bytes.size() >= lugar + marca.size() &&
-           std::ranges::equal(bytes.subspan(lugar, marca.size()), marca, {}, {},
-                              [](char c) { return static_cast<std::byte>(c); });
-}
-
 bool EsBaseDeDatos(Bytes bytes) {
     constexpr std::string_view comienzo{"\0\1\0\0", 4};
     return Lleva(bytes, 0, comienzo) && (Lleva(bytes, comienzo.size(), "Standard Jet DB") ||

@@ -2,6 +2,7 @@
 
 #include "basico/ErrorEjecucion.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace varo {
@@ -28,6 +29,12 @@ Bytes Trozo(Bytes bytes, std::size_t lugar, std::size_t cuantos) {
         ArchivoDanado("faltan bytes");
     }
     return bytes.subspan(lugar, cuantos);
+}
+
+bool Lleva(Bytes bytes, std::size_t lugar, std::string_view marca) {
+    return bytes.size() >= lugar + marca.size() &&
+           std::ranges::equal(bytes.subspan(lugar, marca.size()), marca, {}, {},
+                              [](char c) { return static_cast<std::byte>(c); });
 }
 
 std::uint8_t LeerU8(Bytes bytes, std::size_t lugar) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace varo {
 
@@ -15,6 +16,9 @@ using Bytes = std::span<const std::byte>;
 
 /// `cuantos` bytes from `lugar` on.
 Bytes Trozo(Bytes bytes, std::size_t lugar, std::size_t cuantos);
+
+/// True when this mark stands at that place.
+bool Lleva(Bytes bytes, std::size_t lugar, std::string_view marca);
 
 std::uint8_t LeerU8(Bytes bytes, std::size_t lugar);
 std::uint16_t LeerU16(Bytes bytes, std::size_t lugar);
