@@ -45,6 +45,8 @@ std::string DeWindows1252(std::string_view bytes);
 
 /// Appends one Unicode scalar value as UTF-8 (an invalid one as U+FFFD).
 void AnadirUtf8(std::string& texto, char32_t caracter);
+/// UTF-16 as UTF-8. A half of a pair that stands alone becomes U+FFFD.
+std::string DeUtf16(std::u16string_view unidades);
 /// Takes the first character off a text, which is not empty. A byte that is no UTF-8 counts as U+FFFD.
 char32_t SacarUtf8(std::string_view& texto);
 

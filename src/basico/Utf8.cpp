@@ -80,6 +80,20 @@ void AnadirUtf8(std::string& texto, char32_t caracter) {
     }
 }
 
+std::string DeUtf16(std::u16string_view unidades) {
+    std::string texto;
+    texto.reserve(unidades.size());
+    for (std::size_t i = 0; i < unidades.size(); ++i) {
+        char32_t caracter = unidades[i];
+        const bool alto = caracter >= 0xD800 && caracter < 0xDC00;
+        if (alto && i + 1 < unidades.size() && (unidades[i + 1] & 0xFC00) == 0xDC00) {
+            caracter = 0x10000 + ((caracter - 0xD800) << 10) + (unidades[++i] - 0xDC00U);
+        }
+        AnadirUtf8(texto, caracter);
+    }
+    return texto;
+}
+
 char32_t SacarUtf8(std::string_view& texto) {
     assert(!texto.empty());
     const auto cabecera = LeerCabecera(static_cast<unsigned char>(texto.front()));

@@ -1,10 +1,11 @@
 #include "apoyo/EscritorXls.h"
 
+#include "apoyo/ArchivoDePrueba.h"
 #include "apoyo/BytesDePrueba.h"
 #include "apoyo/EscritorCompuesto.h"
+#include "apoyo/Utf16DePrueba.h"
 
 #include <algorithm>
-#include <fstream>
 #include <stdexcept>
 #include <unordered_map>
 #include <utility>
@@ -21,25 +22,6 @@ constexpr int biffString = 0x0207;
 // The formats of the cells, by their place among the XF records.
 enum Formato : std::uint16_t { general, dia, hora, diaYHora };
 constexpr int formatosPredefinidos[] = {0, 14, 21, 22};
-
-std::u16string AUtf16(std::string_view texto) {
-    std::u16string resultado;
-    for (std::size_t i = 0; i < texto.size();) {
-        const auto cabeza = static_cast<unsigned char>(texto[i++]);
-        const int siguientes = cabeza < 0x80 ? 0 : cabeza < 0xE0 ? 1 : cabeza < 0xF0 ? 2 : 3;
-        auto caracter = static_cast<char32_t>(siguientes == 0 ? cabeza : cabeza & (0x3F >> siguientes));
-        for (int k = 0; k < siguientes && i < texto.size(); ++k) {
-            caracter = (caracter << 6) | (static_cast<unsigned char>(texto[i++]) & 0x3F);
-        }
-        if (caracter < 0x10000) {
-            resultado.push_back(static_cast<char16_t>(caracter));
-        } else {
-            resultado.push_back(static_cast<char16_t>(0xD800 + ((caracter - 0x10000) >> 10)));
-            resultado.push_back(static_cast<char16_t>(0xDC00 + ((caracter - 0x10000) & 0x3FF)));
-        }
-    }
-    return resultado;
-}
 
 bool EsAncho(const std::u16string& texto) {
     return std::any_of(texto.begin(), texto.end(), [](char16_t c) { return c > 0xFF; });
@@ -298,14 +280,7 @@ std::vector<std::byte> EscribirXls(const std::vector<Hoja>& hojas) {
 }
 
 void EscribirArchivoXls(const std::filesystem::path& archivo, const std::vector<Hoja>& hojas) {
-    const auto bytes = EscribirXls(hojas);
-    std::ofstream salida{archivo, std::ios::binary};
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): bytes to the stream's characters
-    salida.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    salida.close();
-    if (!salida) {
-        throw std::runtime_error{"no se puede escribir " + archivo.string()};
-    }
+    EscribirBytes(archivo, EscribirXls(hojas));
 }
 
 } // namespace varo::prueba

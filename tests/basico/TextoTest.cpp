@@ -144,6 +144,15 @@ TEST(Utf8, LosBytesSonLosDeLaNorma) {
     EXPECT_EQ(EnUtf8(U"𐍈"), "\xF0\x90\x8D\x88");
 }
 
+TEST(Utf8, DeUtf16JuntaLosParesYMarcaLosSueltos) {
+    EXPECT_EQ(DeUtf16(u"añ€𐍈"), "añ€𐍈");
+    EXPECT_EQ(DeUtf16(u""), "");
+    constexpr char16_t alta = 0xD800;
+    constexpr char16_t baja = 0xDC00;
+    EXPECT_EQ(DeUtf16(std::u16string{alta, u'a'}), "\uFFFDa");
+    EXPECT_EQ(DeUtf16(std::u16string{baja, alta}), "\uFFFD\uFFFD");
+}
+
 TEST(Utf8, UnCaracterNoValidoEsElDeSustitucion) {
     for (const char32_t c : {char32_t{0xD800}, char32_t{0xDFFF}, char32_t{0x110000}, char32_t{0xFFFFFFFF}}) {
         std::string texto;

@@ -17,20 +17,6 @@ constexpr int banderaAncho = 0x01;
 constexpr int banderaExtension = 0x04;
 constexpr int banderaFormato = 0x08;
 
-std::string DeUtf16(std::u16string_view unidades) {
-    std::string texto;
-    texto.reserve(unidades.size());
-    for (std::size_t i = 0; i < unidades.size(); ++i) {
-        char32_t caracter = unidades[i];
-        const bool alto = caracter >= 0xD800 && caracter < 0xDC00;
-        if (alto && i + 1 < unidades.size() && (unidades[i + 1] & 0xFC00) == 0xDC00) {
-            caracter = 0x10000 + ((caracter - 0xD800) << 10) + (unidades[++i] - 0xDC00U);
-        }
-        AnadirUtf8(texto, caracter);
-    }
-    return texto;
-}
-
 std::string TomarLetras(LectorContinuo& lector, std::size_t cuantas) {
     std::string bytes;
     while (bytes.size() < cuantas) {
