@@ -14,7 +14,7 @@ struct Descrito {
     const char* descripcion;
 };
 
-constexpr std::array<Descrito, 23> descritos{{
+constexpr std::array<Descrito, 24> descritos{{
     {fallo::argumentoNoValido, "Argumento o llamada a procedimiento no válida"},
     {fallo::desbordamiento, "Desbordamiento"},
     {fallo::fueraDeIndice, "El subíndice está fuera del intervalo"},
@@ -36,6 +36,7 @@ constexpr std::array<Descrito, 23> descritos{{
     {fallo::elementoNoEncontrado, "No se encontró el elemento en esta colección"},
     {fallo::nombreDesconocido, "Nombre desconocido en la consulta"},
     {fallo::tablaDesconocida, "No se encuentra la tabla de la consulta"},
+    {fallo::tablaNoAdmitida, "Operación no admitida para este tipo de tabla"},
     {fallo::sintaxisDeConsulta, "Error de sintaxis en la consulta"},
     {fallo::tiposDistintosEnConsulta, "No coinciden los tipos de datos en la consulta"},
 }};

@@ -84,6 +84,7 @@ inline constexpr int archivoCifrado = 3031;
 inline constexpr int elementoNoEncontrado = 3265;
 inline constexpr int nombreDesconocido = 3061;
 inline constexpr int tablaDesconocida = 3078;
+inline constexpr int tablaNoAdmitida = 3251;
 inline constexpr int sintaxisDeConsulta = 3075;
 inline constexpr int elementoRepetido = 3367;
 inline constexpr int tiposDistintosEnConsulta = 3464;

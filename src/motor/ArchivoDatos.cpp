@@ -2,6 +2,7 @@
 
 #include "basico/ErrorEjecucion.h"
 #include "motor/lectores/Bytes.h"
+#include "motor/lectores/LectorMdb.h"
 #include "motor/lectores/LectorXls.h"
 
 #include <algorithm>
@@ -70,12 +71,6 @@ std::vector<std::byte> LeerBytes(const std::filesystem::path& archivo, const std
     return bytes;
 }
 
-bool EsBaseDeDatos(Bytes bytes) {
-    constexpr std::string_view comienzo{"\0\1\0\0", 4};
-    return Lleva(bytes, 0, comienzo) && (Lleva(bytes, comienzo.size(), "Standard Jet DB") ||
-                                         Lleva(bytes, comienzo.size(), "Standard ACE DB"));
-}
-
 bool EsZip(Bytes bytes) {
     return Lleva(bytes, 0, "PK\3\4") || Lleva(bytes, 0, "PK\5\6");
 }
@@ -95,10 +90,6 @@ bool EsTexto(Bytes bytes) {
 
 std::string PorQueNoSeReconoce(Bytes bytes) {
     const std::string consejo = "guárdelo desde la hoja de cálculo como libro de Excel 97-2003 (.xls)";
-    if (EsBaseDeDatos(bytes)) {
-        return "las bases de datos (.mdb) todavía no se pueden leer; guarde la tabla en un libro de Excel "
-               "97-2003 (.xls)";
-    }
     if (EsZip(bytes)) {
         return "es un archivo comprimido, como los .xlsx y los .ods; " + consejo;
     }
@@ -115,6 +106,9 @@ std::vector<Tabla> LeerArchivoDatos(const std::filesystem::path& archivo, const 
     const auto bytes = LeerBytes(archivo, nombre);
     if (PareceXls(bytes)) {
         return LeerXls(bytes, nombre, avance);
+    }
+    if (PareceMdb(bytes)) {
+        return LeerMdb(bytes, nombre, avance);
     }
     NoSeAbre(fallo::formatoNoReconocido, nombre, PorQueNoSeReconoce(bytes));
 }

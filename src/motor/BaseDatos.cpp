@@ -17,6 +17,9 @@ const Tabla& Buscar(const Coleccion<Tabla>& tablas, const std::string& nombre) {
     if (hallada == tablas.end()) {
         throw ErrorMotor{fallo::tablaDesconocida, "No se encuentra la tabla «" + nombre + "»"};
     }
+    if (hallada->defecto) {
+        throw ErrorMotor{*hallada->defecto};
+    }
     return *hallada;
 }
 

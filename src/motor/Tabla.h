@@ -58,6 +58,8 @@ struct Tabla {
     FilasDeTabla filas;
     int primerNumero = 1;          ///< of the first row in its sheet; a table of no sheet counts from 1
     std::vector<int> numeros = {}; ///< of the rows in their sheet where they do not follow each other
+    /// Why the table cannot be read, although its name is known; then it has neither fields nor rows.
+    std::optional<ErrorMotor> defecto = {};
 
     /// The number of a row, counted from 0, as the spreadsheet shows it.
     [[nodiscard]] int numeroDeFila(std::size_t fila) const {

@@ -1,5 +1,6 @@
 #include "data/FrmSeleccion.h"
 
+#include "apoyo/EscritorMdb.h"
 #include "apoyo/Jornada.h"
 #include "apoyo/OyenteDePrueba.h"
 #include "data/Hojadedatos.h"
@@ -163,6 +164,50 @@ TEST(FrmSeleccion, UnaHojaVaciaDaElMismoMensaje) {
         jornada.aceptarHoja(hoja);
         EXPECT_TRUE(seleccion.Visible()) << hoja;
     }
+}
+
+/// A database up to the choice of the table.
+void AbrirBase(Jornada& jornada, const BaseMdb& base) {
+    EscribirArchivoMdb(jornada.carpeta / "parcela.mdb", base);
+    jornada.servicios.prepararArchivo(jornada.carpeta.archivo("parcela.mdb"));
+    jornada.usuario.clic(jornada.marco().mnuAbrir);
+}
+
+TEST(FrmSeleccion, LaTablaDeUnaBaseDeDatosLlenaLaRejilla) {
+    Jornada jornada;
+    const std::vector<CampoMdb> campos{{"Arbol", TipoMdb::EnteroLargo}, {"Copa", TipoMdb::Simple},
+                                       {"Viva", TipoMdb::Booleano},     {"Visita", TipoMdb::FechaHora},
+                                       {"Precio", TipoMdb::Moneda},     {"Nota"}};
+    AbrirBase(jornada, {{{"Otra", {{"a"}}, {}},
+                         {"Parcela 1",
+                          campos,
+                          {{7.0, 12.3, true, Fecha{46022}, 12.5, texto("x")},
+                           {8.0, Nulo{}, Nulo{}, Fecha{46022.25}, Nulo{}, texto("y")}}}}});
+    const auto& seleccion = jornada.programa.tocar<FrmSeleccion>();
+    ASSERT_EQ(seleccion.CboHoja.ListCount(), 2);
+    EXPECT_EQ(seleccion.CboHoja.List(0), "Otra");
+    EXPECT_EQ(seleccion.CboHoja.List(1), "Parcela 1");
+    EXPECT_EQ(seleccion.CboHoja.Text(), "(ninguna)");
+    jornada.aceptarHoja("Parcela 1");
+    auto& hoja = jornada.programa.tocar<Hojadedatos>();
+    EXPECT_EQ(hoja.Caption(), "Parcela 1 parcela.mdb");
+    EXPECT_EQ(
+        Celdas(hoja.MSFlexGrid1),
+        (std::vector<std::vector<T>>{{"Nº de punto", "Arbol", "Copa", "Viva", "Visita", "Precio", "Nota"},
+                                     {"1", "7", "12,3", "Verdadero", "31/12/2025", "12,5", ""},
+                                     {"2", "8", "", "Falso", "31/12/2025 6:00:00", "", ""}}));
+}
+
+TEST(FrmSeleccion, UnaTablaQueNoSePuedeLeerGuardaElPorQue) {
+    Jornada jornada;
+    TablaMdb vinculada{"De otro", {}, {}};
+    vinculada.vinculada = true;
+    AbrirBase(jornada, {{vinculada}});
+    jornada.servicios.esperarMensaje(noEncontrada);
+    jornada.aceptarHoja("De otro");
+    const auto& fallo = jornada.programa.tocar<FrmSeleccion>().ultimoFallo();
+    ASSERT_TRUE(fallo.has_value());
+    EXPECT_NE(fallo->descripcion().find("está vinculada, y sus filas están en otro archivo"), T::npos);
 }
 
 TEST(FrmSeleccion, ElNombreTecleadoNoDistingueMayusculas) {

@@ -1,8 +1,10 @@
 // The command itself, as a person or a script runs it.
+#include "apoyo/EscritorMdb.h"
 #include "apoyo/Lugares.h"
 #include "apoyo/Proceso.h"
 #include "basico/Texto.h"
 #include "lote/TrabajoDePrueba.h"
+#include "motor/BaseDatos.h"
 
 #include <gtest/gtest.h>
 
@@ -284,6 +286,55 @@ TEST(VaroLote, TablasEnumeraLasTablasYSusCampos) {
                             "Sola$ (1 fila)\n"
                             "   1  Nota (última: sus datos no llegan a la rejilla)\n");
     EXPECT_EQ(final.errores, "");
+}
+
+TEST(VaroLote, LasTablasDeUnaBaseDeDatosSeListanYLaQueNoSeLeeDicePorQue) {
+    const ParcelaDePrueba parcela;
+    TablaMdb vinculada{"De otro", {}, {}};
+    vinculada.vinculada = true;
+    EscribirArchivoMdb(parcela.ruta("p.mdb"),
+                       {{{"Parcela", {{"X", TipoMdb::Doble}, {"Nota"}}, {}}, vinculada}});
+    const auto final = VaroLote({"--tablas", parcela.ruta("p.mdb").string()});
+    EXPECT_EQ(final.estado, 0);
+    EXPECT_EQ(final.salida, "Parcela (0 filas)\n"
+                            "   1  X\n"
+                            "   2  Nota (última: sus datos no llegan a la rejilla)\n"
+                            "De otro (no se puede abrir)\n"
+                            "      No se puede leer la tabla «De otro» de «" +
+                                parcela.ruta("p.mdb").string() +
+                                "»: está vinculada, y sus filas están en otro archivo: abra ese archivo\n");
+}
+
+TEST(VaroLote, UnaBaseDeDatosDaLosMismosResultadosQueUnLibro) {
+    const ParcelaDePrueba parcela;
+    const auto libro = BaseDatos::abrir(parcela.ruta("parcela.xls"));
+    EscribirArchivoMdb(parcela.ruta("parcela.mdb"), {{EnTablaMdb(libro.TableDefs()(0))}});
+    const std::string opciones = "Opt4R = true\nChCodigo = 1\nOptCAP = true\nChN = 1\nChAB = 1\nChDmed = 1\n"
+                                 "ChSupCopa = 1\nOptcirc = true\nChISCBil = 1\n";
+    auto texto = ConOpciones(opciones);
+    texto.salida = "resultados = 'xls.txt'\ndatos = 'xls.datos'\n";
+    const auto deLibro = parcela.escribir("xls.toml", texto.texto()).string();
+    texto.parcela = "archivo = 'parcela.mdb'\nhoja = 'Parcela1$'\n";
+    texto.salida = "resultados = 'mdb.txt'\ndatos = 'mdb.datos'\n";
+    const auto deBase = parcela.escribir("mdb.toml", texto.texto()).string();
+    const auto final = VaroLote({deLibro, deBase});
+    EXPECT_EQ(final.estado, 0) << final.errores;
+    EXPECT_NE(LeerArchivo(parcela.ruta("xls.txt")).find("ISC"), std::string::npos);
+    EXPECT_EQ(LeerArchivo(parcela.ruta("xls.txt")), LeerArchivo(parcela.ruta("mdb.txt")));
+    EXPECT_EQ(LeerArchivo(parcela.ruta("xls.datos")), LeerArchivo(parcela.ruta("mdb.datos")));
+}
+
+TEST(VaroLote, UnaTablaQueNoSePuedeLeerDicePorQue) {
+    const ParcelaDePrueba parcela;
+    TablaMdb vinculada{"De otro", {}, {}};
+    vinculada.vinculada = true;
+    EscribirArchivoMdb(parcela.ruta("p.mdb"), {{vinculada}});
+    TextoDeTrabajo texto;
+    texto.parcela = "archivo = 'p.mdb'\nhoja = 'De otro'\n";
+    const auto final = VaroLote({Escribir(parcela, "uno", texto)});
+    EXPECT_EQ(final.estado, 4) << final.errores;
+    EXPECT_NE(final.errores.find("está vinculada, y sus filas están en otro archivo"), std::string::npos)
+        << final.errores;
 }
 
 TEST(VaroLote, LaPlantillaEscritaEnUnArchivoSePuedeCorrer) {

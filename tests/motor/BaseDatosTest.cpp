@@ -2,6 +2,7 @@
 
 #include "apoyo/CarpetaTemporal.h"
 #include "apoyo/EscritorCompuesto.h"
+#include "apoyo/EscritorMdb.h"
 #include "apoyo/EscritorXls.h"
 #include "apoyo/Fallos.h"
 #include "apoyo/Lugares.h"
@@ -190,13 +191,49 @@ TEST(BaseDatosAbrir, UnArchivoDesmesuradoNoSeLee) {
     EsperarFallo(archivo, fallo::formatoNoReconocido, "demasiado grande");
 }
 
-TEST(BaseDatosAbrir, LasBasesDeDatosTodaviaNoSeLeen) {
+/// A database with a plot, a linked table and one with attachments.
+prueba::BaseMdb ConTresTablas() {
+    using prueba::TipoMdb;
+    prueba::TablaMdb vinculada{"De otro", {}, {}};
+    vinculada.vinculada = true;
+    return {{{"Parcela", {{"CAP", TipoMdb::Doble}, {"Nota", TipoMdb::Texto}}, {{62.5, "a"}, {Nulo{}, "b"}}},
+             vinculada,
+             {"Fotos", {{"Foto", TipoMdb::Compleja}}, {}}}};
+}
+
+TEST(BaseDatosAbrir, UnaBaseDeDatosSeLeeConSusTablasEnOrden) {
+    const CarpetaTemporal carpeta;
+    const auto archivo = carpeta / "parcela ñ.xls"; // the name does not count
+    prueba::EscribirArchivoMdb(archivo, ConTresTablas());
+    const auto base = BaseDatos::abrir(archivo);
+    ASSERT_EQ(base.TableDefs().Count(), 3);
+    EXPECT_EQ(base.TableDefs()(0).Name, "Parcela");
+    EXPECT_EQ(base.TableDefs()(2).Name, "Fotos");
+    EXPECT_EQ(base.abrirTabla("parcela").RecordCount(), 2);
+    EXPECT_EQ(base.OpenRecordset("SELECT Sum ( [CAP] ) FROM [Parcela]").Fields(0).Value, Valor{62.5});
+}
+
+TEST(BaseDatosAbrir, UnaTablaQueNoSePuedeLeerLoDiceAlAbrirse) {
+    const CarpetaTemporal carpeta;
+    prueba::EscribirArchivoMdb(carpeta / "parcela.mdb", ConTresTablas());
+    const auto base = BaseDatos::abrir(carpeta / "parcela.mdb");
+    EXPECT_TRUE(FallaCon(fallo::tablaNoAdmitida, "No se puede leer la tabla «De otro»",
+                         [&] { (void)base.abrirTabla("De otro"); }));
+    EXPECT_TRUE(FallaCon(fallo::tablaNoAdmitida, "su campo «Foto» es de datos adjuntos",
+                         [&] { (void)base.OpenRecordset("SELECT [Foto] FROM [Fotos]"); }));
+}
+
+TEST(BaseDatosAbrir, UnaBaseDeDatosConContrasenaOCortadaDiceSuNombre) {
     using namespace std::string_view_literals;
     const CarpetaTemporal carpeta;
-    EsperarFallo(carpeta.Escribir("jet.xls", "\0\1\0\0Standard Jet DB\0\1\0\0\0"sv),
-                 fallo::formatoNoReconocido, "bases de datos (.mdb) todavía no");
-    EsperarFallo(carpeta.Escribir("ace.mdb", "\0\1\0\0Standard ACE DB\0\2\0\0\0"sv),
-                 fallo::formatoNoReconocido, "bases de datos (.mdb) todavía no");
+    auto base = ConTresTablas();
+    base.contrasena = "secreta";
+    prueba::EscribirArchivoMdb(carpeta / "cerrada.mdb", base);
+    EsperarFallo(carpeta / "cerrada.mdb", fallo::archivoCifrado, "está protegida con una contraseña");
+    EsperarFallo(carpeta.Escribir("corta.mdb", "\0\1\0\0Standard Jet DB\0\1\0\0\0"sv), fallo::archivoDanado,
+                 "el archivo está dañado (faltan bytes)");
+    EsperarFallo(carpeta.Escribir("corta.accdb", "\0\1\0\0Standard ACE DB\0\2\0\0\0"sv), fallo::archivoDanado,
+                 "«Compactar y reparar base de datos»");
 }
 
 TEST(BaseDatosAbrir, LosArchivosComprimidosYLosDeTextoSeDicen) {
@@ -265,8 +302,8 @@ TEST(BaseDatosAbrir, LasMuestrasBuenasSeLeenYLasMalasSeRechazan) {
          {"other/s.csv", "other/t.csv", "xls-bad/text.xls", "xls-bad/sjs_xlml.xls"}) {
         EsperarFallo(muestras / otra, fallo::formatoNoReconocido, "archivo de texto");
     }
-    for (const std::string otra : {"mdb-made/jet4_2000.mdb", "mdb-made/ace_2010.accdb"}) {
-        EsperarFallo(muestras / otra, fallo::formatoNoReconocido, "todavía no");
+    for (const std::string buena : {"mdb-made/jet4_2000.mdb", "mdb-made/ace_2010.accdb"}) {
+        EXPECT_EQ(BaseDatos::abrir(muestras / buena).abrirTabla("Zeta data").RecordCount(), 7) << buena;
     }
     EsperarFallo(muestras / "xls-bad/encrypted.xls", fallo::archivoCifrado, "");
 }

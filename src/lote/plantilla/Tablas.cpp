@@ -9,6 +9,10 @@ namespace varo {
 namespace {
 
 std::string BloqueDe(const Tabla& tabla) {
+    if (tabla.defecto) {
+        return EnUnaLinea(tabla.Name) + " (no se puede abrir)\n      " +
+               EnUnaLinea(tabla.defecto->descripcion()) + "\n";
+    }
     const auto filas = static_cast<int>(tabla.filas.size());
     std::string bloque =
         EnUnaLinea(tabla.Name) + " (" + ATexto(filas) + (filas == 1 ? " fila" : " filas") + ")\n";

@@ -54,9 +54,23 @@ void ExigirTabla(const PuestoDeTrabajo& puesto, const FrmSeleccion& seleccion) {
                                   "; tiene " + Enumerar(tablas));
 }
 
+/// A table that is there and cannot be read is a fault of the file, not of a computation.
+void ExigirTablaLegible(PuestoDeTrabajo& puesto) {
+    const auto& tabla =
+        puesto.programa.tocar<Hojadedatos>().Data1.Database().TableDefs()(puesto.trabajo.hoja);
+    if (tabla.defecto) {
+        throw ErrorTrabajo{puesto.trabajo.ruta,
+                           {"hoja"},
+                           tabla.defecto->descripcion(),
+                           Estado::ErrorDeArchivo,
+                           tabla.defecto->numero()};
+    }
+}
+
 void AceptarHoja(PuestoDeTrabajo& puesto) {
     auto& seleccion = puesto.programa.tocar<FrmSeleccion>();
     ExigirTabla(puesto, seleccion);
+    ExigirTablaLegible(puesto);
     puesto.hacer({"hoja"}, [&] {
         puesto.usuario.escribir(seleccion.CboHoja, puesto.trabajo.hoja);
         try {
