@@ -2,6 +2,7 @@
 
 #include "apoyo/Lugares.h"
 #include "motor/TablasDePrueba.h"
+#include "motor/lectores/LectorMdb.h"
 #include "motor/lectores/LectorXls.h"
 
 #include <algorithm>
@@ -42,6 +43,14 @@ std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpe
     }
     std::sort(archivos.begin(), archivos.end());
     return archivos;
+}
+
+/// No cell stands outside of the table.
+void EsperarEntera(const Tabla& tabla) {
+    for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
+        const auto celdas = tabla.filas[fila].celdas();
+        EXPECT_TRUE(celdas.empty() || celdas.back().columna < tabla.Fields.Count());
+    }
 }
 
 } // namespace
@@ -104,19 +113,55 @@ std::vector<std::string> Lineas(const std::vector<Tabla>& tablas) {
     return lineas;
 }
 
+std::vector<std::byte> Mutado(std::vector<std::byte> archivo, std::mt19937& azar) {
+    const std::size_t cuantos = 1 + azar() % 6;
+    for (std::size_t i = 0; i < cuantos; ++i) {
+        auto& byte = archivo[azar() % archivo.size()];
+        switch (azar() % 4) {
+        case 0:
+            byte = static_cast<std::byte>(azar());
+            break;
+        case 1:
+            byte = std::byte{0xFF};
+            break;
+        case 2:
+            byte = std::byte{0};
+            break;
+        default:
+            byte ^= static_cast<std::byte>(1U << azar() % 8);
+        }
+    }
+    return archivo;
+}
+
 bool TablasEnterasOError(std::span<const std::byte> bytes) {
     try {
         for (const auto& tabla : LeerXls(bytes, "mutado.xls")) {
-            for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
-                const auto celdas = tabla.filas[fila].celdas();
-                EXPECT_TRUE(celdas.empty() || celdas.back().columna < tabla.Fields.Count());
-            }
+            EsperarEntera(tabla);
         }
         return true;
     } catch (const ErrorMotor& error) {
         EXPECT_NE(std::string::npos, error.descripcion().find("«mutado.xls»")) << error.what();
         return false;
     }
+}
+
+TablasDeBase BaseEnteraOError(std::span<const std::byte> bytes) {
+    TablasDeBase cuenta;
+    try {
+        for (const auto& tabla : LeerMdb(bytes, "mutada.mdb")) {
+            EsperarEntera(tabla);
+            if (tabla.defecto) {
+                const auto& dicho = tabla.defecto->descripcion();
+                EXPECT_NE(std::string::npos, dicho.find("«" + tabla.Name + "» de «mutada.mdb»")) << dicho;
+                EXPECT_TRUE(tabla.filas.empty() && tabla.Fields.Count() == 0);
+            }
+            ++(tabla.defecto ? cuenta.conDefecto : cuenta.enteras);
+        }
+    } catch (const ErrorMotor& error) {
+        EXPECT_NE(std::string::npos, error.descripcion().find("«mutada.mdb»")) << error.what();
+    }
+    return cuenta;
 }
 
 } // namespace varo::prueba

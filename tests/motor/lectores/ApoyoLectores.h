@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <random>
 #include <span>
 #include <string>
 #include <vector>
@@ -33,7 +34,19 @@ std::vector<std::string> Lineas(const Tabla& tabla);
 /// The lines of all of them.
 std::vector<std::string> Lineas(const std::vector<Tabla>& tablas);
 
+/// Some bytes changed: to anything, to an extreme, or by one bit.
+std::vector<std::byte> Mutado(std::vector<std::byte> archivo, std::mt19937& azar);
+
 /// Reads a whole workbook or faults; a table that is not whole makes the test fail. True when it was read.
 bool TablasEnterasOError(std::span<const std::byte> bytes);
+
+/// How many tables of a database were read, and how many tell a defect. A fault of the whole file is neither.
+struct TablasDeBase {
+    std::size_t enteras = 0;
+    std::size_t conDefecto = 0;
+};
+
+/// Reads a database; a table that is neither whole nor told to be spoilt makes the test fail.
+TablasDeBase BaseEnteraOError(std::span<const std::byte> bytes);
 
 } // namespace varo::prueba

@@ -1,0 +1,26 @@
+// Any bytes as a database: tables, each whole or with its defect, or ErrorMotor.
+#include "motor/lectores/LectorMdb.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <span>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tamano) {
+    try {
+        for (const auto& tabla : varo::LeerMdb(std::as_bytes(std::span{datos, tamano}), "fuzz.mdb")) {
+            if (tabla.defecto && !tabla.filas.empty()) {
+                std::abort();
+            }
+            for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
+                const auto celdas = tabla.filas[fila].celdas();
+                if (!celdas.empty() && celdas.back().columna >= tabla.Fields.Count()) {
+                    std::abort();
+                }
+            }
+        }
+    } catch (
+        const varo::ErrorMotor&) { // NOLINT(bugprone-empty-catch): the answer to bytes that are no database
+    }
+    return 0;
+}
