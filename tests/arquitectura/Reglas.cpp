@@ -13,7 +13,7 @@ namespace {
 
 using Salas = std::set<std::string_view>;
 
-const Salas cimientos{"basico", "formularios", "motor", "lienzo"};
+const Salas cimientos{"basico", "formularios", "motor", "lienzo", "revision"};
 const Salas programa{"shell", "data", "options", "map", "plot", "indices"};
 const Salas conPlataforma{"desktop", "lote", "sistema", "pintura"};
 

@@ -1,0 +1,21 @@
+#include "revision/Revisar.h"
+
+#include "revision/Cuaderno.h"
+#include "revision/Lectura.h"
+#include "revision/RevisarFilas.h"
+#include "revision/RevisarNumeros.h"
+
+#include <utility>
+
+namespace varo {
+
+std::vector<Hallazgo> Revisar(const ParcelaPorRevisar& parcela, std::size_t porClase) {
+    const Lectura lectura{parcela};
+    Cuaderno cuaderno{porClase};
+    RevisarFilas(lectura, cuaderno);
+    RevisarNumeros(lectura, cuaderno);
+    RevisarFaltas(lectura, cuaderno);
+    return std::move(cuaderno).cerrar();
+}
+
+} // namespace varo
