@@ -78,6 +78,10 @@ std::string EnLista(const Indices& nombres) {
     return lista;
 }
 
+std::string PuedenFallar(const Indices& nombres) {
+    return EnLista(nombres) + (nombres.size() == 1 ? " puede" : " pueden") + " terminar en un fallo";
+}
+
 Indices Juntos(Indices unos, const Indices& otros) {
     for (const auto& otro : otros) {
         if (std::ranges::find(unos, otro) == unos.end()) {

@@ -23,6 +23,8 @@ Indices IndicesDeLaCopa(const OpcionesPorRevisar& opciones);
 
 /// "AB, IDP y DR"
 std::string EnLista(const Indices& nombres);
+/// "IDP y DR pueden terminar en un fallo"
+std::string PuedenFallar(const Indices& nombres);
 /// All of them, each one once.
 Indices Juntos(Indices unos, const Indices& otros);
 

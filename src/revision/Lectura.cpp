@@ -133,7 +133,7 @@ std::vector<double> Lectura::radios(Indice i) const {
     const double partes = copa_.size() == 2 ? 2 : 1;
     std::vector<double> radios;
     for (const auto& medida : copa_) {
-        radios.push_back(medida.numero(i) * opciones().metrosPorRadio / partes);
+        radios.push_back(medida.numero(i) / (partes * opciones().radiosPorMetro));
     }
     return radios;
 }
@@ -144,7 +144,7 @@ double Lectura::radioMedio(Indice i) const {
         suma += medida.numero(i);
     }
     const double medidas = copa_.size() == 2 ? 4 : static_cast<double>(copa_.size());
-    return copa_.empty() ? 0 : suma / medidas * opciones().metrosPorRadio;
+    return copa_.empty() ? 0 : suma / (medidas * opciones().radiosPorMetro);
 }
 
 Hallazgo Lectura::enFila(Gravedad gravedad, Sospecha sospecha, Indice i) const {

@@ -88,7 +88,7 @@ struct IndependientesPorRevisar {
 
 /// What a run is asked for, and how it is to read the sheet.
 struct OpcionesPorRevisar {
-    double metrosPorRadio = 0.1;  ///< unit of the crown measures
+    int radiosPorMetro = 10;      ///< unit of the crown measures: 1, 10 or 100 of them in a metre
     double cmPorTamano = 1;       ///< unit of the stem size
     bool circunferencia = true;   ///< the stem size is a girth
     bool copasCirculares = false; ///< circles, not ellipses

@@ -4,6 +4,7 @@
 #include "revision/Lectura.h"
 #include "revision/RevisarFilas.h"
 #include "revision/RevisarNumeros.h"
+#include "revision/RevisarSitios.h"
 
 #include <utility>
 
@@ -15,6 +16,9 @@ std::vector<Hallazgo> Revisar(const ParcelaPorRevisar& parcela, std::size_t porC
     RevisarFilas(lectura, cuaderno);
     RevisarNumeros(lectura, cuaderno);
     RevisarFaltas(lectura, cuaderno);
+    RevisarContorno(lectura, cuaderno);
+    RevisarSitios(lectura, cuaderno);
+    RevisarAlineados(lectura, cuaderno);
     return std::move(cuaderno).cerrar();
 }
 
