@@ -3,6 +3,7 @@
 #include "revision/Cuaderno.h"
 #include "revision/Lectura.h"
 #include "revision/RevisarFilas.h"
+#include "revision/RevisarMedidas.h"
 #include "revision/RevisarNumeros.h"
 #include "revision/RevisarSitios.h"
 
@@ -19,6 +20,9 @@ std::vector<Hallazgo> Revisar(const ParcelaPorRevisar& parcela, std::size_t porC
     RevisarContorno(lectura, cuaderno);
     RevisarSitios(lectura, cuaderno);
     RevisarAlineados(lectura, cuaderno);
+    RevisarTroncos(lectura, cuaderno);
+    RevisarCopas(lectura, cuaderno);
+    RevisarSolapes(lectura, cuaderno);
     return std::move(cuaderno).cerrar();
 }
 
