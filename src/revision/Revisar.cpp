@@ -2,6 +2,7 @@
 
 #include "revision/Cuaderno.h"
 #include "revision/Lectura.h"
+#include "revision/RevisarCodigos.h"
 #include "revision/RevisarFilas.h"
 #include "revision/RevisarMedidas.h"
 #include "revision/RevisarNumeros.h"
@@ -23,6 +24,9 @@ std::vector<Hallazgo> Revisar(const ParcelaPorRevisar& parcela, std::size_t porC
     RevisarTroncos(lectura, cuaderno);
     RevisarCopas(lectura, cuaderno);
     RevisarSolapes(lectura, cuaderno);
+    RevisarNumerosDeArbol(lectura, cuaderno);
+    RevisarCodigos(lectura, cuaderno);
+    RevisarCabeceras(lectura, cuaderno);
     return std::move(cuaderno).cerrar();
 }
 
