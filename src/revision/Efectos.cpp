@@ -1,6 +1,9 @@
 #include "revision/Efectos.h"
 
+#include "basico/Numeros.h"
+
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 namespace varo {
@@ -80,6 +83,10 @@ std::string EnLista(const Indices& nombres) {
 
 std::string PuedenFallar(const Indices& nombres) {
     return EnLista(nombres) + (nombres.size() == 1 ? " puede" : " pueden") + " terminar en un fallo";
+}
+
+std::string NumeroDicho(double numero) {
+    return std::isfinite(numero) ? ATexto(numero) : "incontables";
 }
 
 Indices Juntos(Indices unos, const Indices& otros) {

@@ -25,6 +25,8 @@ Indices IndicesDeLaCopa(const OpcionesPorRevisar& opciones);
 std::string EnLista(const Indices& nombres);
 /// "IDP y DR pueden terminar en un fallo"
 std::string PuedenFallar(const Indices& nombres);
+/// A number in a sentence, also one beyond measure.
+std::string NumeroDicho(double numero);
 /// All of them, each one once.
 Indices Juntos(Indices unos, const Indices& otros);
 

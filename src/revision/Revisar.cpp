@@ -6,6 +6,7 @@
 #include "revision/RevisarFilas.h"
 #include "revision/RevisarMedidas.h"
 #include "revision/RevisarNumeros.h"
+#include "revision/RevisarOpciones.h"
 #include "revision/RevisarSitios.h"
 
 #include <utility>
@@ -27,6 +28,8 @@ std::vector<Hallazgo> Revisar(const ParcelaPorRevisar& parcela, std::size_t porC
     RevisarNumerosDeArbol(lectura, cuaderno);
     RevisarCodigos(lectura, cuaderno);
     RevisarCabeceras(lectura, cuaderno);
+    RevisarOpciones(lectura, cuaderno);
+    RevisarFunciones(lectura, cuaderno);
     return std::move(cuaderno).cerrar();
 }
 

@@ -1,6 +1,5 @@
 #include "revision/RevisarMedidas.h"
 
-#include "basico/Numeros.h"
 #include "revision/Efectos.h"
 
 #include <algorithm>
@@ -88,7 +87,7 @@ private:
     void revisarCopa(std::size_t i, double mayor, bool todasAnchas) {
         if (mayor > ancha && !todasAnchas) {
             anotar(Gravedad::Mirar, Sospecha::CopaEnorme, i,
-                   "Un radio de la copa mide " + ATexto(std::round(mayor * 10) / 10) + " m, más de 15.",
+                   "Un radio de la copa mide " + NumeroDicho(std::round(mayor * 10) / 10) + " m, más de 15.",
                    "Si no es verdad, la superficie de las copas, su cubierta e ISC salen mal.",
                    "Compruebe la coma del número y la unidad.");
         }

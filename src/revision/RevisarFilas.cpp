@@ -1,6 +1,5 @@
 #include "revision/RevisarFilas.h"
 
-#include "basico/Numeros.h"
 #include "basico/Texto.h"
 #include "revision/Efectos.h"
 
@@ -163,8 +162,8 @@ private:
                     cifra.valor == 0 && lectura_.opciones().independientes.areasProporcionales;
                 Hallazgo hallazgo =
                     deCodigo(divide ? Gravedad::Fallo : Gravedad::Numeros, Sospecha::PiesNoPositivos, codigo);
-                hallazgo.texto = ATexto(cifra.valor);
-                hallazgo.que = "Salen " + ATexto(cifra.valor) + " pies por hectárea" + deQuien + ".";
+                hallazgo.texto = NumeroDicho(cifra.valor);
+                hallazgo.que = "Salen " + NumeroDicho(cifra.valor) + " pies por hectárea" + deQuien + ".";
                 hallazgo.efecto = divide
                                       ? "Las áreas ocupadas (AP) dividen por ellos, y el cálculo termina en "
                                         "un fallo."

@@ -1,6 +1,5 @@
 #include "revision/RevisarSitios.h"
 
-#include "basico/Numeros.h"
 #include "revision/Efectos.h"
 #include "revision/Funcion.h"
 
@@ -68,8 +67,8 @@ private:
         Hallazgo hallazgo = EnColumna(Gravedad::Numeros, Sospecha::EnGrados, lectura_.parcela().x);
         hallazgo.que =
             "Las coordenadas parecen grados o kilómetros: leídas como metros, toda la parcela cabe en " +
-            ATexto(std::round((mayorX - menorX) * 1E+6) / 1E+6) + " por " +
-            ATexto(std::round((mayorY - menorY) * 1E+6) / 1E+6) + " m.";
+            NumeroDicho(std::round((mayorX - menorX) * 1E+6) / 1E+6) + " por " +
+            NumeroDicho(std::round((mayorY - menorY) * 1E+6) / 1E+6) + " m.";
         hallazgo.efecto = "La superficie, todas las cifras por hectárea y todas las distancias salen mal.";
         hallazgo.remedio = "Ponga en la hoja coordenadas en metros, por ejemplo UTM.";
         cuaderno_.anotar(hallazgo);
@@ -93,9 +92,9 @@ private:
             const Gravedad gravedad = lejos > muyLejos * grueso ? Gravedad::Numeros : Gravedad::Mirar;
             cuaderno_.anotarFila(gravedad, Sospecha::ArbolLejano, 0, fila(i), [&] {
                 Hallazgo hallazgo = lectura_.enCelda(gravedad, Sospecha::ArbolLejano, i, columna);
-                hallazgo.que = "El árbol está a " + ATexto(std::round(lejos)) +
-                               " m de los demás, que ocupan " + ATexto(std::round(enX.largo())) + " por " +
-                               ATexto(std::round(enY.largo())) + " m.";
+                hallazgo.que = "El árbol está a " + NumeroDicho(std::round(lejos)) +
+                               " m de los demás, que ocupan " + NumeroDicho(std::round(enX.largo())) +
+                               " por " + NumeroDicho(std::round(enY.largo())) + " m.";
                 hallazgo.efecto =
                     "El contorno llega hasta él: la superficie sale demasiado grande, y todas las "
                     "cifras por hectárea, demasiado pequeñas.";

@@ -1,6 +1,5 @@
 #include "revision/RevisarMedidas.h"
 
-#include "basico/Numeros.h"
 #include "revision/Efectos.h"
 
 #include <algorithm>
@@ -18,7 +17,7 @@ constexpr double diminuto = 1; // cm
 constexpr std::size_t pocos = 3;
 
 std::string EnCentimetros(double diametro) {
-    return ATexto(std::round(diametro * 10) / 10) + " cm";
+    return NumeroDicho(std::round(diametro * 10) / 10) + " cm";
 }
 
 class RevisorDeTroncos {
