@@ -21,6 +21,7 @@ public:
     void anotar(Hallazgo hallazgo) { hallazgos_.push_back(std::move(hallazgo)); }
 
     /// A finding about a row of the sheet, of which there may be many: `hacer` makes it where there is room.
+    /// `columna` is any number that tells findings with another effect apart.
     template <class Hacer>
     void anotarFila(Gravedad gravedad, Sospecha sospecha, int columna, int fila, const Hacer& hacer) {
         Cuenta& cuenta = cuentas_[{gravedad, sospecha, columna}];

@@ -25,7 +25,6 @@ Indices Pedidos(const std::vector<IndiceSegun>& indices) {
     return nombres;
 }
 
-constexpr const char* datosDeParcela = "los datos de parcela";
 constexpr const char* areasProporcionales = "las áreas ocupadas (AP)";
 
 } // namespace
@@ -37,24 +36,24 @@ Indices IndicesDelTamano(const OpcionesPorRevisar& opciones) {
                     {ind.maximos, "las razones con el máximo"},
                     {ind.dominantes, "las razones con los árboles dominantes"},
                     {ind.sumas, "las razones con la suma"},
-                    {opciones.datosDeParcela, datosDeParcela}});
+                    {opciones.datosDeParcela, losDatosDeParcela}});
 }
 
 Indices IndicesDeLosPies(const OpcionesPorRevisar& opciones) {
     const auto& ind = opciones.independientes;
     return Pedidos({{ind.pies, "los pies por hectárea (N)"},
                     {ind.areasProporcionales, areasProporcionales},
-                    {opciones.datosDeParcela, datosDeParcela}});
+                    {opciones.datosDeParcela, losDatosDeParcela}});
 }
 
 Indices IndicesDeLaSuperficie(const OpcionesPorRevisar& opciones) {
     const auto& ind = opciones.independientes;
     return Pedidos({{ind.pies, "los pies por hectárea (N)"},
                     {ind.areaBasimetrica, "el área basimétrica (AB)"},
-                    {ind.areaDeMayores, "el área basimétrica de los mayores"},
+                    {ind.areaDeMayores, elAreaDeMayores},
                     {ind.dominantes, "las razones con los árboles dominantes"},
                     {ind.areasProporcionales, areasProporcionales},
-                    {opciones.datosDeParcela, datosDeParcela}});
+                    {opciones.datosDeParcela, losDatosDeParcela}});
 }
 
 Indices FamiliasDeVecinos(const OpcionesPorRevisar& opciones) {
@@ -66,7 +65,7 @@ Indices FamiliasDeVecinos(const OpcionesPorRevisar& opciones) {
 }
 
 Indices IndicesDeLaCopa(const OpcionesPorRevisar& opciones) {
-    return Pedidos({{opciones.ISC.activa, "ISC"}, {opciones.datosDeParcela, datosDeParcela}});
+    return Pedidos({{opciones.ISC.activa, "ISC"}, {opciones.datosDeParcela, losDatosDeParcela}});
 }
 
 std::string EnLista(const Indices& nombres) {
@@ -79,6 +78,11 @@ std::string EnLista(const Indices& nombres) {
         lista += nombres[i];
     }
     return lista;
+}
+
+std::string DeLista(const Indices& nombres) {
+    const std::string lista = EnLista(nombres);
+    return lista.starts_with("el ") ? "d" + lista : "de " + lista;
 }
 
 std::string PuedenFallar(const Indices& nombres) {

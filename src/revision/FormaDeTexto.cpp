@@ -52,7 +52,8 @@ bool LlevaUnidad(std::string_view texto) {
     if (fin == std::string_view::npos || ultimaCifra == std::string_view::npos) {
         return false;
     }
-    return texto.substr(fin).find_first_of(cifras) == std::string_view::npos;
+    return texto.substr(fin).find_first_of("0123456789*?!#+/\\()[]{}<>=:;_~^&|@$\"'") ==
+           std::string_view::npos;
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
+#include "basico/Texto.h"
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <tuple>
@@ -63,6 +65,11 @@ void ColumnaRevisada::redondearComoSeMuestra() {
     }
 }
 
+bool ColumnaRevisada::textoVacio(std::size_t i) const {
+    const auto* const texto = std::get_if<std::string>(&valor(i));
+    return texto != nullptr && texto->empty();
+}
+
 std::string ColumnaRevisada::texto(std::size_t i) const {
     const Valor& suyo = valor(i);
     if (EsNulo(suyo)) {
@@ -93,6 +100,7 @@ Lectura::Lectura(const ParcelaPorRevisar& parcela)
     }
     clasificarFilas();
     marcarVertices();
+    marcarCabeceras();
 }
 
 void Lectura::clasificarFilas() {
@@ -109,6 +117,23 @@ void Lectura::clasificarFilas() {
     }
 }
 
+void Lectura::marcarCabeceras() {
+    constexpr std::size_t deCada = 10; // more of them, and the columns are the wrong ones
+    const auto esPalabra = [](const ColumnaRevisada& columna, Indice i) {
+        const auto* const texto = std::get_if<std::string>(&columna.valor(i));
+        return columna.clase(i) == ClaseDeCelda::SinNumero && texto != nullptr && !Recortar(*texto).empty();
+    };
+    esCabecera_.assign(cuantas(), false);
+    std::size_t halladas = 0;
+    for (const Indice i : arboles_) {
+        esCabecera_[i] = esPalabra(x_, i) && esPalabra(y_, i);
+        halladas += esCabecera_[i] ? 1U : 0U;
+    }
+    if (halladas * deCada > arboles_.size() && halladas > 1) {
+        esCabecera_.assign(cuantas(), false);
+    }
+}
+
 void Lectura::marcarVertices() {
     esVertice_.assign(cuantas(), false);
     if (!parcela_.contorno) {
@@ -122,6 +147,10 @@ void Lectura::marcarVertices() {
     for (const Indice i : situados_) {
         esVertice_[i] = vertices.contains({x_.numero(i), y_.numero(i)});
     }
+}
+
+bool Lectura::hayInteriores() const {
+    return std::ranges::any_of(situados_, [this](Indice i) { return conTamano(i) && !esVertice_[i]; });
 }
 
 double Lectura::diametro(Indice i) const {

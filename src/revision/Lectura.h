@@ -33,6 +33,8 @@ public:
     }
     /// 0 where the cell gives no number.
     [[nodiscard]] double numero(std::size_t i) const { return numeros_[i]; }
+    /// An empty text: the grid shows nothing, and the queries read a cell with something in it.
+    [[nodiscard]] bool textoVacio(std::size_t i) const;
     /// As the grid shows it.
     [[nodiscard]] std::string texto(std::size_t i) const;
     [[nodiscard]] const Valor& valor(std::size_t i) const;
@@ -67,6 +69,8 @@ public:
     /// The rows that the run takes: those of the grid with a coordinate at least.
     [[nodiscard]] const std::vector<Indice>& arboles() const { return arboles_; }
     [[nodiscard]] bool esArbol(Indice i) const { return esArbol_[i]; }
+    /// A row among the trees that repeats the headers or tells the units: words in both coordinates.
+    [[nodiscard]] bool esCabecera(Indice i) const { return esCabecera_[i]; }
     /// The trees whose two coordinates are numbers.
     [[nodiscard]] const std::vector<Indice>& situados() const { return situados_; }
     [[nodiscard]] bool conTamano(Indice i) const { return tamano_.existe() && !tamano_.vacia(i); }
@@ -76,6 +80,9 @@ public:
 
     /// The same, or nobody knows the boundary yet.
     [[nodiscard]] bool puedeSerVertice(Indice i) const { return esVertice_[i] || !parcela_.contorno; }
+
+    /// Whether any tree has a size and is no vertex: the families of neighbours then look at the boundary.
+    [[nodiscard]] bool hayInteriores() const;
 
     /// Diameter of the stem in centimetres.
     [[nodiscard]] double diametro(Indice i) const;
@@ -95,12 +102,13 @@ public:
 private:
     void clasificarFilas();
     void marcarVertices();
+    void marcarCabeceras();
 
     const ParcelaPorRevisar& parcela_;
     ColumnaRevisada x_, y_, numero_, codigo_, tamano_;
     std::vector<ColumnaRevisada> copa_;
     std::vector<Indice> arboles_, situados_;
-    std::vector<bool> esArbol_, esVertice_;
+    std::vector<bool> esArbol_, esVertice_, esCabecera_;
 };
 
 /// A finding about a whole column.

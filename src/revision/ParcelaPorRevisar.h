@@ -129,6 +129,9 @@ struct ParcelaPorRevisar {
     OpcionesPorRevisar opciones;
     std::optional<ContornoPorRevisar> contorno; ///< unknown before it is built
     std::vector<PiesPorRevisar> pies;           ///< empty where nobody has counted
+    /// Whether the trees stand in the sheet as in the grid once the boundary is built: ordered by the first
+    /// field, and no other row between them.
+    bool enOrden = true;
 };
 
 } // namespace varo

@@ -1,8 +1,11 @@
 #include "revision/RevisarSitios.h"
 
+#include "revision/Barrido.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <string>
@@ -46,6 +49,8 @@ public:
         revisarEje({lectura_.x(), lectura_.y(), "X", Sospecha::MismaX, Sospecha::CasiMismaX});
         revisarEje({lectura_.y(), lectura_.x(), "Y", Sospecha::MismaY, Sospecha::CasiMismaY});
         revisarLineas();
+        revisarPocosVecinos();
+        revisarPesos();
     }
 
 private:
@@ -76,8 +81,8 @@ private:
         const std::size_t primero = grupo.front();
         cuaderno_.anotarFila(Gravedad::Fallo, eje.igual, 0, fila(primero), [&] {
             Hallazgo hallazgo = lectura_.enCelda(Gravedad::Fallo, eje.igual, primero, eje.propia);
-            hallazgo.que =
-                "Tiene la misma " + std::string{eje.nombre} + " que " + nombrarALosDemas(grupo) + ".";
+            hallazgo.que = "El árbol tiene la misma " + std::string{eje.nombre} + " que " +
+                           nombrarALosDemas(grupo) + ".";
             explicar(hallazgo);
             return hallazgo;
         });
@@ -87,7 +92,8 @@ private:
         constexpr std::size_t bastantes = 12;
         std::string nombres;
         for (std::size_t n = 1; n < grupo.size() && n <= bastantes; ++n) {
-            nombres += (n == 1 ? "" : ", ") + lectura_.nombrar(grupo[n]);
+            const bool esElUltimo = n + 1 == grupo.size();
+            nombres += (n == 1 ? "" : esElUltimo ? " y " : ", ") + lectura_.nombrar(grupo[n]);
         }
         return grupo.size() - 1 > bastantes
                    ? nombres + " y otros " + std::to_string(grupo.size() - 1 - bastantes)
@@ -124,15 +130,17 @@ private:
     void anotarCasi(const Eje& eje, std::size_t uno, std::size_t otro) {
         cuaderno_.anotarFila(Gravedad::Fallo, eje.casi, 0, fila(uno), [&] {
             Hallazgo hallazgo = lectura_.enCelda(Gravedad::Fallo, eje.casi, uno, eje.propia);
-            hallazgo.que = "Tiene casi la misma " + std::string{eje.nombre} + " que " +
-                           lectura_.nombrar(otro) + ", vistos a la distancia que los separa.";
+            hallazgo.que = "El árbol tiene casi la misma " + std::string{eje.nombre} + " que " +
+                           lectura_.nombrar(otro) +
+                           ": se diferencian demasiado poco para lo lejos que están.";
             explicar(hallazgo);
             return hallazgo;
         });
     }
 
     static void explicar(Hallazgo& hallazgo) {
-        hallazgo.efecto = "APA divide por la diferencia, y el cálculo puede terminar en un fallo.";
+        hallazgo.efecto =
+            "APA divide por la diferencia de las dos coordenadas, y el cálculo puede terminar en un fallo.";
         hallazgo.remedio = "Cambie la coordenada de uno de los árboles en un milímetro, o desactive APA.";
     }
 
@@ -191,7 +199,7 @@ private:
     void anotarLinea(std::size_t sujeto, const ParejaEnLinea& pareja) {
         cuaderno_.anotarFila(Gravedad::Fallo, Sospecha::EnLinea, 0, fila(sujeto), [&] {
             Hallazgo hallazgo = lectura_.enFila(Gravedad::Fallo, Sospecha::EnLinea, sujeto);
-            hallazgo.que = "Está en línea con " + lectura_.nombrar(pareja.first) + " y " +
+            hallazgo.que = "El árbol está en línea con " + lectura_.nombrar(pareja.first) + " y " +
                            lectura_.nombrar(pareja.second) + ".";
             hallazgo.efecto =
                 "Si los dos son vecinos suyos, APA no halla el círculo que pasa por los tres, y el "
@@ -199,6 +207,46 @@ private:
             hallazgo.remedio = "Cambie una coordenada de uno de los tres en un milímetro, o desactive APA.";
             return hallazgo;
         });
+    }
+
+    /// A cell needs two neighbours for two sides that meet.
+    void revisarPocosVecinos() {
+        const auto& tamano = lectura_.tamano();
+        if (arboles_.size() > 2 || !lectura_.hayInteriores()) {
+            return;
+        }
+        Hallazgo hallazgo = EnColumna(Gravedad::Fallo, Sospecha::PocosVecinos, tamano.columna());
+        hallazgo.que =
+            arboles_.size() == 1 ? "Solo un árbol tiene tamaño." : "Solo dos árboles tienen tamaño.";
+        hallazgo.efecto = "APA necesita al menos dos vecinos con tamaño, y el cálculo termina en un fallo.";
+        hallazgo.remedio = "Compruebe que es la columna que quería elegir, o desactive APA.";
+        cuaderno_.anotar(hallazgo);
+    }
+
+    /// Beside a tree that is immense for it, the weight of a tree is lost in rounding.
+    void revisarPesos() {
+        constexpr double cifras = 14;
+        const auto k = LeerBarrido(lectura_.opciones().APA.k);
+        std::vector<std::size_t> conPeso;
+        std::ranges::copy_if(arboles_, std::back_inserter(conPeso),
+                             [&](std::size_t i) { return lectura_.diametro(i) > 0; });
+        if (!k || k->valores == 0 || conPeso.empty()) {
+            return;
+        }
+        const double mayorK = std::max(std::abs(k->desde), std::abs(k->valor(k->valores - 1)));
+        const auto [menor, mayor] =
+            std::ranges::minmax(conPeso, {}, [&](std::size_t i) { return lectura_.diametro(i); });
+        if (mayorK * std::log10(lectura_.diametro(mayor) / lectura_.diametro(menor)) < cifras) {
+            return;
+        }
+        Hallazgo hallazgo =
+            lectura_.enCelda(Gravedad::Fallo, Sospecha::TamanosDesproporcionados, mayor, lectura_.tamano());
+        hallazgo.que = "El tamaño del árbol es inmenso junto al d" + lectura_.nombrar(menor) + ".";
+        hallazgo.efecto =
+            "Con el mayor exponente k de APA el menor no pesa nada, y el cálculo puede terminar en un "
+            "fallo.";
+        hallazgo.remedio = "Compruebe la coma de los dos números.";
+        cuaderno_.anotar(hallazgo);
     }
 
     [[nodiscard]] int fila(std::size_t i) const { return lectura_.parcela().filas[i].numero; }

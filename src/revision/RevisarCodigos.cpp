@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -45,7 +46,7 @@ public:
     RevisorDeCodigos(const Lectura& lectura, Cuaderno& cuaderno) : lectura_{lectura}, cuaderno_{cuaderno} {
         std::unordered_map<std::string, std::size_t> lugares;
         for (std::size_t i = 0; i < lectura.cuantas(); ++i) {
-            if (columna().vacia(i)) {
+            if (columna().vacia(i) || lectura.esCabecera(i)) {
                 continue;
             }
             const std::string texto = columna().texto(i);
@@ -107,13 +108,14 @@ private:
     void revisarConsulta(const CodigoDeLaHoja& codigo) {
         if (const std::string motivo = motivoSinConsulta(codigo); !motivo.empty()) {
             anotar(Gravedad::Fallo, Sospecha::CodigoSinConsulta, codigo, motivo,
-                   "La consulta de los datos de parcela no lo admite, y el cálculo termina en un fallo.",
+                   "Los datos de parcela no admiten ese código, y el cálculo termina en un fallo.",
                    "Cambie el código en la hoja por una palabra.");
         } else if (!codigo.conTamano) {
             anotar(Gravedad::Fallo, Sospecha::CodigoSinTamano, codigo,
                    "Ningún árbol del código " + Cita(codigo.texto) + " tiene tamaño.",
-                   "No hay área basimétrica que sumar de él, y los datos de parcela terminan en un fallo.",
-                   "Escriba el tamaño de alguno, o deje sin código los tocones y los huecos.");
+                   "No hay ningún tamaño con que calcular su área basimétrica, y los datos de parcela "
+                   "terminan en un fallo.",
+                   "Escriba el tamaño de alguno, o dé a los tocones el código de otra especie.");
         }
     }
 
@@ -171,13 +173,62 @@ void AnotarCabecera(Cuaderno& cuaderno, const ColumnaPorRevisar& columna, const 
                                   Sospecha::CabeceraSinConsulta, columna);
     hallazgo.texto = columna.cabecera;
     hallazgo.que =
-        "La cabecera «" + columna.cabecera + "» no es una sola palabra, y las consultas no la admiten.";
-    hallazgo.efecto = indices.empty()
-                          ? "Con las opciones de ahora no se consulta; los pies por hectárea y los "
-                            "datos de parcela terminarían en un fallo."
-                          : "No se puede calcular " + EnLista(indices) + ": el cálculo termina en un fallo.";
+        "La cabecera «" + columna.cabecera +
+        "» no sirve: ha de ser una sola palabra que empiece por una letra, con letras, cifras o _, y no "
+        "una palabra reservada, como Order.";
+    hallazgo.efecto =
+        indices.empty() ? "Con las opciones de ahora no se usa; los pies por hectárea y los datos de parcela "
+                          "terminarían en un fallo."
+                        : "El cálculo termina en un fallo. La usan: " + EnLista(indices) + ".";
     hallazgo.remedio = "Cambie en la hoja la cabecera por una sola palabra, sin blancos ni signos.";
     cuaderno.anotar(hallazgo);
+}
+
+/// Whether a word of a header is one of these.
+bool Dice(const ColumnaPorRevisar& columna, const std::vector<std::string_view>& palabras) {
+    constexpr std::string_view separadores = " _.-()[]:/";
+    for (std::string_view resto = columna.cabecera; !resto.empty();) {
+        const auto fin = std::min(resto.find_first_of(separadores), resto.size());
+        if (std::ranges::find(palabras, EnBruto(resto.substr(0, fin))) != palabras.end()) {
+            return true;
+        }
+        resto.remove_prefix(std::min(fin + 1, resto.size()));
+    }
+    return false;
+}
+
+void AnotarPapel(Cuaderno& cuaderno, const ColumnaPorRevisar& columna, const std::string& que,
+                 const std::string& remedio) {
+    Hallazgo hallazgo = EnColumna(Gravedad::Mirar, Sospecha::CabeceraDeOtroPapel, columna);
+    hallazgo.que = "La cabecera «" + columna.cabecera + "» parece de otra cosa: " + que + ".";
+    hallazgo.efecto = "Si es así, todas las cifras que usan la columna salen mal.";
+    hallazgo.remedio = remedio;
+    cuaderno.anotar(hallazgo);
+}
+
+/// Headers against the roles of their columns and against the options.
+void RevisarPapeles(const Lectura& lectura, Cuaderno& cuaderno) {
+    const std::vector<std::string_view> deX{"x", "este", "east", "easting", "utmx"};
+    const std::vector<std::string_view> deY{"y", "norte", "north", "northing", "utmy"};
+    const std::vector<std::string_view> circunferencias{"cap", "circ", "circunferencia", "perimetro"};
+    const std::vector<std::string_view> diametros{"dap", "dn", "dbh", "diam", "diametro"};
+    const std::string elegir = "Compruebe qué columna tiene cada papel en el diálogo de columnas.";
+    if (Dice(lectura.x().columna(), deY)) {
+        AnotarPapel(cuaderno, lectura.x().columna(), "se ha elegido como coordenada X", elegir);
+    }
+    if (Dice(lectura.y().columna(), deX)) {
+        AnotarPapel(cuaderno, lectura.y().columna(), "se ha elegido como coordenada Y", elegir);
+    }
+    if (!lectura.tamano().existe()) {
+        return;
+    }
+    const bool circunferencia = lectura.opciones().circunferencia;
+    if (Dice(lectura.tamano().columna(), circunferencia ? diametros : circunferencias)) {
+        AnotarPapel(cuaderno, lectura.tamano().columna(),
+                    std::string{"las opciones dicen que el tamaño es "} +
+                        (circunferencia ? "la circunferencia" : "el diámetro"),
+                    "Compruebe en las opciones si el tamaño es circunferencia o diámetro.");
+    }
 }
 
 } // namespace
@@ -197,6 +248,7 @@ void RevisarNumerosDeArbol(const Lectura& lectura, Cuaderno& cuaderno) {
         return;
     }
     std::unordered_map<std::string, std::size_t> vistos;
+    std::vector<std::pair<std::size_t, std::size_t>> repetidos; // a row and the first one with its number
     for (const std::size_t i : arboles) {
         if (columna.vacia(i)) {
             AnotarNumero(lectura, cuaderno, Sospecha::NumeroVacio, i, "El árbol no tiene número.");
@@ -204,10 +256,23 @@ void RevisarNumerosDeArbol(const Lectura& lectura, Cuaderno& cuaderno) {
         }
         const auto [otro, esNuevo] = vistos.try_emplace(columna.texto(i), i);
         if (!esNuevo) {
-            AnotarNumero(lectura, cuaderno, Sospecha::NumeroRepetido, i,
-                         "El número " + Cita(columna.texto(i)) + " ya es el del árbol de la fila " +
-                             std::to_string(lectura.parcela().filas[otro->second].numero) + ".");
+            repetidos.emplace_back(i, otro->second);
         }
+    }
+    constexpr std::size_t unaParte = 3;
+    if (repetidos.size() > 1 && repetidos.size() * unaParte > arboles.size()) {
+        Hallazgo hallazgo = EnColumna(Gravedad::Mirar, Sospecha::NumeroRepetido, columna.columna());
+        hallazgo.que = std::to_string(repetidos.size()) + " números de árbol se repiten.";
+        hallazgo.efecto =
+            "Si en la hoja hay dos parcelas o dos inventarios, se calculan como una sola parcela.";
+        hallazgo.remedio = "Deje en la hoja una sola parcela y un solo inventario.";
+        cuaderno.anotar(hallazgo);
+        return;
+    }
+    for (const auto& [i, primero] : repetidos) {
+        AnotarNumero(lectura, cuaderno, Sospecha::NumeroRepetido, i,
+                     "El número " + Cita(columna.texto(i)) + " ya es el del árbol de la fila " +
+                         std::to_string(lectura.parcela().filas[primero].numero) + ".");
     }
 }
 
@@ -218,12 +283,13 @@ void RevisarCodigos(const Lectura& lectura, Cuaderno& cuaderno) {
 }
 
 void RevisarCabeceras(const Lectura& lectura, Cuaderno& cuaderno) {
+    RevisarPapeles(lectura, cuaderno);
     const auto& opciones = lectura.opciones();
     const Indices deLosPies = IndicesDeLosPies(opciones);
     if (lectura.codigo().existe() && !lectura.codigo().columna().unaPalabra) {
         AnotarCabecera(cuaderno, lectura.codigo().columna(), deLosPies);
     }
-    const Indices deLasCopas = opciones.datosDeParcela ? Indices{"los datos de parcela"} : Indices{};
+    const Indices deLasCopas = opciones.datosDeParcela ? Indices{losDatosDeParcela} : Indices{};
     for (std::size_t medida = 0; medida < lectura.copa().size(); ++medida) {
         const auto& columna = lectura.copa()[medida].columna();
         const bool esLaContada = medida == 0 && !lectura.codigo().existe();
@@ -236,7 +302,7 @@ void RevisarCabeceras(const Lectura& lectura, Cuaderno& cuaderno) {
         lectura.tamano().existe() && lectura.tamano().columna().cabecera.find(']') != std::string::npos;
     Indices delTamano = IndicesDelTamano(opciones);
     if (opciones.independientes.areaDeMayores) {
-        delTamano.emplace_back("el área basimétrica de los mayores");
+        delTamano.emplace_back(elAreaDeMayores);
     }
     if (conCorchete && !delTamano.empty()) {
         AnotarCabecera(cuaderno, lectura.tamano().columna(), delTamano);

@@ -81,9 +81,9 @@ private:
                            ? "La parcela tiene solo dos árboles con coordenadas, y su superficie es 0."
                            : "Todos los árboles están en una línea, y la superficie de la parcela "
                              "es 0.";
-        hallazgo.efecto = afectados_.empty() ? "Las cifras por hectárea no se podrían calcular."
-                                             : "No se puede calcular " + EnLista(afectados_) +
-                                                   ": el cálculo termina en un fallo.";
+        hallazgo.efecto = afectados_.empty()
+                              ? "Las cifras por hectárea no se podrían calcular."
+                              : "El cálculo termina en un fallo. La necesitan: " + EnLista(afectados_) + ".";
         hallazgo.remedio =
             "Compruebe las columnas de las coordenadas; hacen falta al menos tres árboles que no "
             "estén en una línea.";
@@ -94,7 +94,11 @@ private:
         const bool dominantes = lectura_.opciones().independientes.dominantes;
         const bool pequena = dominantes && superficie <= sinDominantes;
         const bool inmensa = dominantes && superficie >= demasiadosDominantes;
-        if (!std::isfinite(superficie) || (!pequena && superficie <= hectareasDeMas * metrosPorHectarea)) {
+        if (!std::isfinite(superficie)) {
+            return;
+        }
+        if (!pequena && superficie <= hectareasDeMas * metrosPorHectarea) {
+            revisarDensidad(superficie);
             return;
         }
         Hallazgo hallazgo =
@@ -114,31 +118,58 @@ private:
         cuaderno_.anotar(hallazgo);
     }
 
+    /// Trees in another unit of length, without being too many hectares.
+    void revisarDensidad(double superficie) {
+        constexpr std::size_t pocos = 10;
+        constexpr double rala = 20;
+        constexpr double apretada = 20'000;
+        const double densidad =
+            static_cast<double>(lectura_.situados().size()) / superficie * metrosPorHectarea;
+        if (lectura_.situados().size() < pocos || (densidad >= rala && densidad <= apretada)) {
+            return;
+        }
+        Hallazgo hallazgo = nuevo(Gravedad::Mirar, Sospecha::DensidadRara);
+        hallazgo.texto = Formato(superficie, "###0.0") + " m2";
+        hallazgo.que = "Hay " + std::string{densidad < rala ? "muy pocos" : "muchísimos"} +
+                       " árboles para la superficie de la parcela, " + hallazgo.texto + ": " +
+                       Formato(densidad, "###0") + " por hectárea.";
+        hallazgo.efecto = "Si la superficie no es la verdadera, todas las cifras por hectárea salen mal.";
+        hallazgo.remedio = "Compruebe que las coordenadas están en metros.";
+        cuaderno_.anotar(hallazgo);
+    }
+
     void revisarLadoVertical(const ContornoPorRevisar& contorno) {
         const auto& opciones = lectura_.opciones();
         const bool elipses = opciones.ISC.activa && !opciones.copasCirculares;
-        const bool falla = (elipses || opciones.APA.activa) && hayInteriores();
-        if (!TieneLadoVertical(contorno) || (!falla && !opciones.datosDeParcela)) {
+        const bool falla = (elipses || opciones.APA.activa) && lectura_.hayInteriores();
+        const auto lado = LadoVertical(contorno, falla);
+        if (!lado || (!falla && !opciones.datosDeParcela)) {
             return;
         }
         const Indices afectados =
             Juntos(elipses ? Indices{"ISC"} : Indices{}, opciones.APA.activa ? Indices{"APA"} : Indices{});
-        Hallazgo hallazgo = EnColumna(falla ? Gravedad::Fallo : Gravedad::Numeros, Sospecha::LadoVertical,
-                                      lectura_.parcela().x);
-        hallazgo.que =
-            "Un lado del contorno es vertical: dos árboles seguidos del contorno tienen la misma X.";
+        const std::size_t uno = arbolEn(contorno.x[*lado], contorno.y[*lado]);
+        const std::size_t otro = arbolEn(contorno.x[*lado + 1], contorno.y[*lado + 1]);
+        Hallazgo hallazgo = lectura_.enCelda(falla ? Gravedad::Fallo : Gravedad::Numeros,
+                                             Sospecha::LadoVertical, uno, lectura_.x());
+        hallazgo.que = "Un lado del contorno es vertical: el árbol y " + lectura_.nombrar(otro) +
+                       ", que le sigue en el contorno, tienen la misma X.";
         hallazgo.efecto =
-            falla ? "No se puede saber qué queda dentro de la parcela: " + PuedenFallar(afectados) + "."
-                  : "En los datos de parcela no se puede medir la cubierta, ni lo que sale de las copas del "
-                    "borde.";
+            falla
+                ? "No se puede saber qué queda dentro de la parcela: " + PuedenFallar(afectados) + "."
+                : "En los datos de parcela la cubierta de las copas (Fcc) no se puede medir y sale 0 o la de "
+                  "antes; con copas de elipse sale mal también su superficie dentro de la parcela.";
         hallazgo.remedio = "Cambie la X de uno de los dos árboles en un milímetro.";
         cuaderno_.anotar(hallazgo);
     }
 
-    [[nodiscard]] bool hayInteriores() const {
-        return std::ranges::any_of(lectura_.situados(), [&](std::size_t i) {
-            return lectura_.conTamano(i) && !lectura_.esVertice(i);
+    /// The first tree that stands there.
+    [[nodiscard]] std::size_t arbolEn(double x, double y) const {
+        const auto& arboles = lectura_.situados();
+        const auto hallado = std::ranges::find_if(arboles, [&](std::size_t i) {
+            return lectura_.x().numero(i) == x && lectura_.y().numero(i) == y;
         });
+        return hallado == arboles.end() ? arboles.front() : *hallado;
     }
 
     /// By rounding, the area of a triangle without height may have no root.
@@ -154,15 +185,15 @@ private:
         const double largo = std::hypot(mayor - menor, mayorY - menorY);
         for (const std::size_t i : lectura_.situados()) {
             if (lectura_.esVertice(i) || !lectura_.conTamano(i) ||
-                AlturaMinima(contorno, lectura_.x().numero(i), lectura_.y().numero(i)) > casiNada * largo) {
+                !FallaLaAltura(contorno, lectura_.x().numero(i), lectura_.y().numero(i), casiNada * largo)) {
                 continue;
             }
             const int fila = lectura_.parcela().filas[i].numero;
             cuaderno_.anotarFila(Gravedad::Fallo, Sospecha::SobreUnLado, 0, fila, [&] {
                 Hallazgo hallazgo = lectura_.enFila(Gravedad::Fallo, Sospecha::SobreUnLado, i);
                 hallazgo.que = "El árbol está justo sobre un lado del contorno, sin ser un vértice.";
-                hallazgo.efecto =
-                    "Su distancia al lado es 0, y por el redondeo " + PuedenFallar(conBorde) + ".";
+                hallazgo.efecto = "Su distancia al lado es 0 y, por el redondeo de los números, " +
+                                  PuedenFallar(conBorde) + ".";
                 hallazgo.remedio = "Mueva el árbol un centímetro hacia dentro o hacia fuera.";
                 return hallazgo;
             });

@@ -1,6 +1,8 @@
 // Sizes and crown measures that are missing, zero or negative.
 #include "revision/RevisarNumeros.h"
 
+#include "revision/Efectos.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <string>
@@ -27,10 +29,11 @@ public:
         for (const std::size_t i : lectura_.arboles()) {
             if (tamano.vacia(i)) {
                 anotar(Gravedad::Mirar, Sospecha::TamanoVacio, i, tamano, [&](Hallazgo& hallazgo) {
-                    hallazgo.que = "El árbol no tiene tamaño.";
+                    hallazgo.que =
+                        "El árbol no tiene tamaño: la celda está vacía o tiene un error, como #N/A.";
                     hallazgo.efecto =
-                        "Cuenta como un pie y como límite de la parcela, pero no como competidor: "
-                        "los índices de vecinos le dan -3 y las razones, 0.";
+                        "Cuenta para el contorno y los pies, pero no como competidor: los índices de "
+                        "vecinos le ponen la marca -3, y las razones valen 0.";
                     hallazgo.remedio = "Mídalo si está vivo; si es un tocón o un hueco, puede quedar así.";
                 });
             } else if (tamano.esNumero(i) && tamano.numero(i) <= 0) {
@@ -97,15 +100,27 @@ private:
         const bool falla = opciones().APA.activa ||
                            (opciones().AOI.activa && (otroCero || BajaDeCero(opciones().AOI.k))) ||
                            (opciones().DR.activa && (otroCero || BajaDeCero(opciones().DR.k)));
-        const Gravedad gravedad = falla ? Gravedad::Fallo : Gravedad::Mirar;
+        const Indices vecinos = entranComoVecinos();
+        const Gravedad gravedad = falla              ? Gravedad::Fallo
+                                  : !vecinos.empty() ? Gravedad::Numeros
+                                                     : Gravedad::Mirar;
         anotar(gravedad, Sospecha::TamanoCero, i, tamano, [&](Hallazgo& hallazgo) {
             hallazgo.que = "El tamaño del árbol es 0.";
             hallazgo.efecto =
                 falla ? "Los índices de vecinos dividen por el tamaño: el cálculo puede terminar en "
                         "un fallo."
-                      : "El árbol cuenta como un pie, no suma área basimétrica, y no compite.";
+                : vecinos.empty() ? "No suma área basimétrica, y las razones le dan 0."
+                                  : "Un 0 no es una celda vacía: el árbol entra como vecino en " +
+                                        EnLista(vecinos) + ", y cambia los índices de los que tiene cerca.";
             hallazgo.remedio = "Escriba el tamaño, o deje la celda vacía si no se conoce.";
         });
+    }
+
+    /// The families where a tree of no size is a neighbour like others.
+    [[nodiscard]] Indices entranComoVecinos() const {
+        Indices familias = FamiliasDeVecinos(opciones());
+        std::erase(familias, "APA");
+        return familias;
     }
 
     void anotarNegativo(std::size_t i) {
@@ -127,7 +142,8 @@ private:
                                   : opciones().datosDeParcela ? Gravedad::Numeros
                                                               : Gravedad::Mirar;
         anotar(gravedad, Sospecha::CopaVacia, i, medida, [&](Hallazgo& hallazgo) {
-            hallazgo.que = "Falta una medida de la copa del árbol.";
+            hallazgo.que =
+                "Falta una medida de la copa del árbol: la celda está vacía o tiene un error, como #N/A.";
             if (vertice) {
                 hallazgo.efecto =
                     "El árbol está, o puede estar, en el contorno de la parcela, que necesita su "

@@ -1,5 +1,6 @@
 #include "revision/RevisarFilas.h"
 
+#include "basico/Numeros.h"
 #include "basico/Texto.h"
 #include "revision/Efectos.h"
 
@@ -14,12 +15,24 @@ namespace {
 
 constexpr std::size_t masFilas = 32'766;
 
-/// A row below the trees that sums them up.
-bool PareceTotal(const std::string& texto) {
-    constexpr std::array<std::string_view, 8> palabras{"total",  "suma",   "media",  "promedio",
-                                                       "máximo", "mínimo", "maximo", "minimo"};
-    const std::string minusculas = Minusculas(Recortar(texto));
-    return std::ranges::any_of(palabras, [&](auto palabra) { return minusculas.starts_with(palabra); });
+/// Whether a word of a text says that its row sums the others up.
+bool PareceSuma(const std::string& texto) {
+    constexpr std::array<std::string_view, 19> palabras{
+        "total", "totales", "subtotal", "suma", "sumas", "sum",    "media", "medias", "medio",     "promedio",
+        "prom",  "mediana", "máximo",   "máx",  "max",   "mínimo", "mín",   "min",    "desviación"};
+    const std::string minusculas = Minusculas(texto);
+    const auto esLetra = [](char c) {
+        return static_cast<unsigned char>(c) >= 0x80 || (c >= 'a' && c <= 'z');
+    };
+    for (auto desde = minusculas.begin(); desde != minusculas.end();) {
+        desde = std::find_if(desde, minusculas.end(), esLetra);
+        const auto hasta = std::find_if_not(desde, minusculas.end(), esLetra);
+        if (std::ranges::find(palabras, std::string_view{desde, hasta}) != palabras.end()) {
+            return true;
+        }
+        desde = hasta;
+    }
+    return false;
 }
 
 class RevisorDeFilas {
@@ -33,10 +46,15 @@ public:
         for (std::size_t i = 0; i < lectura_.cuantas(); ++i) {
             if (!lectura_.esArbol(i)) {
                 revisarFilaSinSitio(i);
+            } else if (esSuma(i)) {
+                anotarArbolQueSuma(i);
+            } else if (lectura_.esCabecera(i)) {
+                anotarCabecera(i);
             } else {
                 revisarMediaCoordenada(i);
             }
         }
+        revisarOrden();
         revisarCodigos();
         revisarPies();
     }
@@ -63,40 +81,119 @@ private:
 
     /// A row that the run leaves out while the queries read it.
     void revisarFilaSinSitio(std::size_t i) {
-        const auto& contada = columnaContada();
-        const bool seCuenta = contada.existe() && !contada.vacia(i);
         const bool tieneCodigo = lectura_.codigo().existe() && !lectura_.codigo().vacia(i);
-        const bool seSuma = lectura_.conTamano(i);
-        if (!seCuenta && !tieneCodigo && !seSuma) {
+        if (!seCuenta(i) && !tieneCodigo && !lectura_.conTamano(i) && !sumaCopa(i)) {
             return;
         }
-        const Indices alterados = Juntos(seSuma ? delTamano_ : Indices{}, seCuenta ? deLosPies_ : Indices{});
+        const Indices alterados = alteradosPor(i, tieneCodigo);
         const Gravedad gravedad = alterados.empty() ? Gravedad::Mirar : Gravedad::Numeros;
         cuaderno_.anotarFila(gravedad, Sospecha::FilaSinSitio, 0, fila(i), [&] {
             Hallazgo hallazgo = lectura_.enFila(gravedad, Sospecha::FilaSinSitio, i);
-            if (seSuma) {
-                hallazgo.columna = lectura_.tamano().columna().cabecera;
-                hallazgo.numeroDeColumna = lectura_.tamano().columna().numero;
-                hallazgo.texto = lectura_.tamano().texto(i);
+            if (lectura_.conTamano(i)) {
+                hallazgo = lectura_.enCelda(gravedad, Sospecha::FilaSinSitio, i, lectura_.tamano());
             }
-            hallazgo.que = pareceTotal(i)
+            const bool esSuma = pareceSuma(i);
+            hallazgo.que = esSuma
                                ? "La fila parece una suma o una media de las demás, y no un árbol: no tiene "
                                  "coordenadas y sí otros datos."
                                : "La fila no tiene coordenadas y sí " +
-                                     std::string{seSuma ? "tamaño del tronco." : "código o copa."};
+                                     std::string{lectura_.conTamano(i) ? "tamaño del tronco."
+                                                 : tieneCodigo         ? "código."
+                                                                       : "medidas de copa."};
             hallazgo.efecto = alterados.empty()
                                   ? "No se dibuja ni recibe índices; los cálculos pedidos no la leen."
                                   : "No se dibuja ni recibe índices, pero cuenta como un árbol más en " +
                                         EnLista(alterados) + ".";
-            hallazgo.remedio = pareceTotal(i) ? "Borre la fila de la hoja, o llévela a otra hoja."
-                                              : "Escriba sus coordenadas, o borre la fila.";
+            hallazgo.remedio = esSuma ? "Borre la fila de la hoja, o llévela a otra hoja."
+                                      : "Escriba sus coordenadas, o borre la fila.";
             return hallazgo;
         });
     }
 
-    [[nodiscard]] bool pareceTotal(std::size_t i) const {
-        return PareceTotal(lectura_.numero().texto(i)) ||
-               (lectura_.codigo().existe() && PareceTotal(lectura_.codigo().texto(i)));
+    /// The count takes an empty text for something.
+    [[nodiscard]] bool seCuenta(std::size_t i) const {
+        const auto& contada = columnaContada();
+        return contada.existe() && (!contada.vacia(i) || contada.textoVacio(i));
+    }
+
+    /// The figures that a row without coordinates changes.
+    [[nodiscard]] Indices alteradosPor(std::size_t i, bool tieneCodigo) const {
+        const auto& tamano = lectura_.tamano();
+        // A size of 0 adds nothing and is no maximum.
+        const bool seSuma = lectura_.conTamano(i) && !(tamano.esNumero(i) && tamano.numero(i) == 0);
+        Indices alterados = Juntos(seSuma ? sumanTamanos() : Indices{}, seCuenta(i) ? deLosPies_ : Indices{});
+        if (lectura_.codigo().existe() && !tieneCodigo) {
+            std::erase(alterados, losDatosDeParcela); // they count and add code by code
+        }
+        return sumaCopa(i) && lectura_.opciones().datosDeParcela ? Juntos(alterados, {losDatosDeParcela})
+                                                                 : alterados;
+    }
+
+    /// Whether the row adds to the area of the crowns: all its measures are numbers, and not all of them 0.
+    [[nodiscard]] bool sumaCopa(std::size_t i) const {
+        const auto& copa = lectura_.copa();
+        return !copa.empty() &&
+               std::ranges::all_of(copa, [&](const auto& medida) { return medida.esNumero(i); }) &&
+               std::ranges::any_of(copa, [&](const auto& medida) { return medida.numero(i) != 0; });
+    }
+
+    [[nodiscard]] Indices sumanTamanos() const {
+        return Juntos(delTamano_, lectura_.opciones().independientes.areaDeMayores ? Indices{elAreaDeMayores}
+                                                                                   : Indices{});
+    }
+
+    [[nodiscard]] bool pareceSuma(std::size_t i) const {
+        return PareceSuma(lectura_.numero().texto(i)) ||
+               (lectura_.codigo().existe() && PareceSuma(lectura_.codigo().texto(i)));
+    }
+
+    /// A tree, by its coordinates, that its number calls a sum.
+    [[nodiscard]] bool esSuma(std::size_t i) const {
+        return lectura_.numero().clase(i) == ClaseDeCelda::SinNumero &&
+               PareceSuma(lectura_.numero().texto(i));
+    }
+
+    void anotarArbolQueSuma(std::size_t i) {
+        cuaderno_.anotarFila(Gravedad::Numeros, Sospecha::FilaDeSuma, 0, fila(i), [&] {
+            Hallazgo hallazgo =
+                lectura_.enCelda(Gravedad::Numeros, Sospecha::FilaDeSuma, i, lectura_.numero());
+            hallazgo.que = "La fila se llama " + Cita(lectura_.numero().texto(i)) +
+                           " y parece una suma o una media de las demás, y no un árbol.";
+            hallazgo.efecto = "Se dibuja y cuenta como un árbol más en todo lo que se calcule.";
+            hallazgo.remedio = "Borre la fila de la hoja, o llévela a otra hoja.";
+            return hallazgo;
+        });
+    }
+
+    void anotarCabecera(std::size_t i) {
+        cuaderno_.anotarFila(Gravedad::Fallo, Sospecha::FilaDeCabecera, 0, fila(i), [&] {
+            Hallazgo hallazgo = lectura_.enCelda(Gravedad::Fallo, Sospecha::FilaDeCabecera, i, lectura_.x());
+            hallazgo.que = "La fila repite las cabeceras o dice las unidades: no es un árbol.";
+            hallazgo.efecto = "Todo el cálculo termina en un fallo al dibujarla.";
+            hallazgo.remedio = "Borre la fila de la hoja.";
+            return hallazgo;
+        });
+    }
+
+    /// Clipped ellipses take the crown areas of the query, which come in the order of the sheet.
+    void revisarOrden() {
+        const auto& opciones = lectura_.opciones();
+        if (lectura_.parcela().enOrden || !opciones.datosDeParcela || opciones.copasCirculares) {
+            return;
+        }
+        Hallazgo hallazgo;
+        hallazgo.gravedad = Gravedad::Numeros;
+        hallazgo.sospecha = Sospecha::FilasDesordenadas;
+        hallazgo.que =
+            "Las filas de la hoja no están ordenadas por su primera columna, o hay otras filas entre "
+            "los árboles.";
+        hallazgo.efecto =
+            "En los datos de parcela, la superficie de las copas de elipse dentro de la parcela se "
+            "calcula con la copa de otro árbol.";
+        hallazgo.remedio =
+            "Ordene la hoja por su primera columna, con un número distinto en cada fila, y quite las "
+            "filas vacías; o elija copas de círculo.";
+        cuaderno_.anotar(hallazgo);
     }
 
     void revisarMediaCoordenada(std::size_t i) {
@@ -109,9 +206,9 @@ private:
                 Hallazgo hallazgo =
                     lectura_.enCelda(Gravedad::Fallo, Sospecha::FilaConMediaCoordenada, i, vacia);
                 hallazgo.que = "El árbol tiene una sola coordenada: la celda de «" +
-                               vacia.columna().cabecera + "» está vacía.";
+                               vacia.columna().cabecera + "» está vacía o tiene un error, como #N/A.";
                 hallazgo.efecto = "No se puede dibujar, y todo el cálculo termina en un fallo.";
-                hallazgo.remedio = "Escriba la coordenada que falta; si no se conoce, borre también la otra.";
+                hallazgo.remedio = "Escriba la coordenada que falta; si no se conoce, borre la fila entera.";
                 return hallazgo;
             });
     }
@@ -128,16 +225,17 @@ private:
             return; // the column as a whole is told with the codes
         }
         for (const std::size_t i : lectura_.arboles()) {
-            if (columna.vacia(i)) {
+            if (columna.vacia(i) && !esSuma(i)) {
                 cuaderno_.anotarFila(
                     gravedad, Sospecha::ArbolSinCodigo, columna.columna().numero, fila(i), [&] {
                         Hallazgo hallazgo = lectura_.enCelda(gravedad, Sospecha::ArbolSinCodigo, i, columna);
                         hallazgo.que = "El árbol no tiene código.";
-                        hallazgo.efecto = deLosPies_.empty()
-                                              ? "Sale en el mapa y en los índices, sin leyenda; los pies por "
-                                                "hectárea no lo contarían."
-                                              : "No se cuenta en " + EnLista(deLosPies_) +
-                                                    ", que salen menores de lo que son, o negativos.";
+                        hallazgo.efecto =
+                            deLosPies_.empty()
+                                ? "Sale en el mapa y en los índices, sin leyenda; los pies por "
+                                  "hectárea no lo contarían."
+                                : "No se cuenta en " + EnLista(deLosPies_) +
+                                      ", y las cifras salen menores de lo que son, o negativas.";
                         hallazgo.remedio =
                             "Escriba un código, aunque sea uno para los desconocidos; o quite en "
                             "las opciones la marca de que el archivo tiene códigos.";
@@ -158,22 +256,27 @@ private:
                 hallazgo.remedio = "Corrija en la hoja lo que dice el fallo.";
                 cuaderno_.anotar(hallazgo);
             } else if (std::isfinite(cifra.valor) && cifra.valor <= 0) {
-                const bool divide =
-                    cifra.valor == 0 && lectura_.opciones().independientes.areasProporcionales;
-                Hallazgo hallazgo =
-                    deCodigo(divide ? Gravedad::Fallo : Gravedad::Numeros, Sospecha::PiesNoPositivos, codigo);
-                hallazgo.texto = NumeroDicho(cifra.valor);
-                hallazgo.que = "Salen " + NumeroDicho(cifra.valor) + " pies por hectárea" + deQuien + ".";
-                hallazgo.efecto = divide
-                                      ? "Las áreas ocupadas (AP) dividen por ellos, y el cálculo termina en "
-                                        "un fallo."
-                                      : "La cuenta quita medio pie por cada vértice del contorno, y hay más "
-                                        "que quitar que árboles contados: la cifra no vale.";
-                hallazgo.remedio = "Revise que todos los árboles tengan código y coordenadas; con pocos "
-                                   "árboles de un código, no use su cifra.";
-                cuaderno_.anotar(hallazgo);
+                anotarPiesNoPositivos(codigo, cifra.valor, deQuien);
             }
         }
+    }
+
+    void anotarPiesNoPositivos(const std::string& codigo, double pies, const std::string& deQuien) {
+        const bool divide =
+            pies == 0 && codigo.empty() && lectura_.opciones().independientes.areasProporcionales;
+        Hallazgo hallazgo =
+            deCodigo(divide ? Gravedad::Fallo : Gravedad::Numeros, Sospecha::PiesNoPositivos, codigo);
+        hallazgo.texto = Formato(pies, "###0.0");
+        hallazgo.que = "Salen ";
+        hallazgo.que += hallazgo.texto + " pies por hectárea" + deQuien + ".";
+        hallazgo.efecto =
+            divide ? "Las áreas ocupadas (AP) dividen por ellos, y el cálculo termina en un fallo."
+                   : "Por cada árbol de un vértice del contorno se quita medio pie, también por los de los "
+                     "códigos anteriores, y se quita tanto como se cuenta o más: la cifra no vale.";
+        hallazgo.remedio =
+            "Revise que todos los árboles tengan código y coordenadas; con pocos árboles de un "
+            "código, no use su cifra.";
+        cuaderno_.anotar(hallazgo);
     }
 
     [[nodiscard]] Hallazgo deCodigo(Gravedad gravedad, Sospecha sospecha, const std::string& codigo) const {

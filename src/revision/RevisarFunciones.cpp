@@ -64,7 +64,8 @@ private:
                 anotar(Gravedad::Fallo, Sospecha::FuncionQueFalla, lista, linea,
                        "La línea " + std::to_string(funciones.size()) + " de la lista de " + lista.familia +
                            " no es una función" + (Recortar(linea).empty() ? ": está en blanco." : "."),
-                       "El cálculo termina en un fallo al leerla.", "Quite la línea de la lista.");
+                       "El cálculo termina en un fallo al leerla.",
+                       "Quite esa línea de la lista de funciones de " + lista.familia + " en las opciones.");
                 continue;
             }
             revisarRepetida(lista, funciones, linea);
@@ -104,7 +105,7 @@ private:
             const bool noEsSujeto = lectura_.tamano().texto(i) == "0";
             if (!radio || (*radio == 0 && !noEsSujeto)) {
                 anotar(Gravedad::Fallo, Sospecha::FuncionQueFalla, lista, linea,
-                       "El radio de influencia de " + lectura_.nombrar(i) +
+                       "El radio de influencia d" + lectura_.nombrar(i) +
                            (radio ? " sale 0 con esta función." : " no se puede calcular con esta función."),
                        "AOI divide por él, y puede terminar en un fallo.",
                        "Cambie los parámetros de la función.");
@@ -112,8 +113,7 @@ private:
             }
             if (*radio < 0) {
                 anotar(Gravedad::Numeros, Sospecha::FuncionQueFalla, lista, linea,
-                       "El radio de influencia de " + lectura_.nombrar(i) +
-                           " sale negativo con esta función.",
+                       "El radio de influencia d" + lectura_.nombrar(i) + " sale negativo con esta función.",
                        "Los solapes de ese árbol no valen.", "Cambie los parámetros de la función.");
                 return;
             }
@@ -149,11 +149,10 @@ private:
             constexpr double cmPorMetro = 100;
             const auto limite = ValorDeLimite(funcion, lectura_.diametro(i) / cmPorMetro);
             if (!limite) {
-                anotar(Gravedad::Fallo, Sospecha::FuncionQueFalla, lista, linea,
-                       "La distancia límite de " + lectura_.nombrar(i) +
-                           " no se puede calcular con esta función.",
-                       lista.familia + " puede terminar en un fallo.",
-                       "Cambie los parámetros de la función.");
+                anotar(
+                    Gravedad::Fallo, Sospecha::FuncionQueFalla, lista, linea,
+                    "La distancia límite d" + lectura_.nombrar(i) + " no se puede calcular con esta función.",
+                    lista.familia + " puede terminar en un fallo.", "Cambie los parámetros de la función.");
                 return;
             }
             alguno = true;
@@ -162,7 +161,8 @@ private:
         if (alguno && !algunoPositivo) {
             anotar(Gravedad::Numeros, Sospecha::FuncionQueFalla, lista, linea,
                    "La distancia límite no es mayor que 0 para ningún árbol con esta función.",
-                   "Ningún árbol tendrá competidores, y " + lista.familia + " dará 0 a todos.",
+                   "Ningún árbol tendrá competidores, " + std::string{lista.familia == "IDP" ? "e " : "y "} +
+                       lista.familia + " dará 0 a todos.",
                    "Cambie los parámetros de la función; el diámetro entra en metros.");
         }
     }

@@ -21,7 +21,7 @@ enum class ClaseDeColumna { Coordenada, Tamano, Copa };
 /// What is the matter with a cell, before anybody asks what it does.
 std::optional<Sospecha> SospechaDe(const ColumnaRevisada& columna, std::size_t i) {
     if (columna.vacia(i)) {
-        return std::nullopt;
+        return columna.textoVacio(i) ? std::optional{Sospecha::TextoVacio} : std::nullopt;
     }
     if (columna.esNumero(i) && std::abs(columna.numero(i)) >= desmedido) {
         return Sospecha::NumeroDesmedido;
@@ -62,12 +62,15 @@ std::string QueDe(Sospecha sospecha, const ColumnaRevisada& columna, std::size_t
     switch (sospecha) {
     case Sospecha::CeldaEnBlanco:
         return "La celda parece vacía, pero guarda un blanco, que no es un número.";
+    case Sospecha::TextoVacio:
+        return "La celda parece vacía, pero guarda un texto vacío, como el que deja una fórmula que da "
+               "\"\".";
     case Sospecha::TextoConUnidad:
         return cita + ": lleva la unidad, y así es un texto y no un número.";
     case Sospecha::CeldaDeOtraClase:
         return cita + ": es una fecha o un valor lógico, y no un número.";
     case Sospecha::NumeroDesmedido:
-        return cita + ", un número desmedido.";
+        return cita + ", un número demasiado grande para el cálculo.";
     case Sospecha::TextoConPunto:
         return cita +
                ", un texto con punto. La separación decimal es la coma y los puntos se pasan por alto: "
@@ -82,10 +85,14 @@ std::string QueDe(Sospecha sospecha, const ColumnaRevisada& columna, std::size_t
     }
 }
 
-std::string RemedioDe(Sospecha sospecha) {
+std::string RemedioDe(Sospecha sospecha, ClaseDeColumna clase) {
     switch (sospecha) {
+    case Sospecha::NumeroDesmedido:
+        return "Compruebe la coma del número.";
     case Sospecha::CeldaEnBlanco:
-        return "Borre el contenido de la celda, o escriba el número.";
+    case Sospecha::TextoVacio:
+        return clase == ClaseDeColumna::Tamano ? "Escriba el número, o borre el contenido de la celda."
+                                               : "Escriba el número.";
     case Sospecha::TextoConUnidad:
         return "Deje en la celda solo el número; la unidad se elige en las opciones.";
     case Sospecha::TextoConPunto:
@@ -93,10 +100,19 @@ std::string RemedioDe(Sospecha sospecha) {
     case Sospecha::TextoConGrupos:
         return "Escriba el número sin puntos de millar, como número y no como texto.";
     case Sospecha::NumeroComoTexto:
-        return "Dé a la columna formato de número y vuelva a escribir las celdas.";
+        return "Convierta los textos de la columna en números: formato de número, y volver a escribirlos.";
     default:
-        return "Escriba el número, o deje la celda vacía si no se conoce.";
+        break;
     }
+    switch (clase) {
+    case ClaseDeColumna::Coordenada:
+        return "Escriba la coordenada; si no se conoce, borre la fila entera.";
+    case ClaseDeColumna::Copa:
+        return "Escriba la medida; si el árbol no tiene copa por ese lado, escriba 0.";
+    case ClaseDeColumna::Tamano:
+        break;
+    }
+    return "Escriba el número, o deje la celda vacía si no se conoce.";
 }
 
 class RevisorDeColumna {
@@ -112,7 +128,8 @@ public:
         }
         contar();
         for (std::size_t i = 0; i < lectura_.cuantas(); ++i) {
-            if (const auto sospecha = SospechaDe(columna_, i); sospecha && !esDeTodaLaColumna(*sospecha)) {
+            const auto sospecha = lectura_.esCabecera(i) ? std::nullopt : SospechaDe(columna_, i);
+            if (sospecha && hayQueDecirlo(*sospecha)) {
                 const Gravedad gravedad = gravedadDe(*sospecha, i);
                 cuaderno_.anotarFila(gravedad, *sospecha, columna_.columna().numero,
                                      lectura_.parcela().filas[i].numero,
@@ -157,10 +174,10 @@ private:
             hallazgo.efecto =
                 "No hay nada que sumar en " + EnLista(delTamano_) + ", y el cálculo termina en un fallo.";
         } else {
-            hallazgo.efecto = "Ningún árbol tiene tamaño: los índices de vecinos dan -3 a todos.";
+            hallazgo.efecto = "Ningún árbol tiene tamaño: los índices de vecinos ponen a todos la marca -3.";
         }
-        hallazgo.remedio = "Elija otra columna para ese papel. Si es la última de la hoja, ponga detrás otra "
-                           "con solo una cabecera: los datos de la última columna no se leen.";
+        hallazgo.remedio = "Elija otra columna. Si es la última de la hoja, añada otra detrás, aunque solo "
+                           "tenga cabecera: los datos de la última no se leen.";
         return hallazgo;
     }
 
@@ -181,7 +198,8 @@ private:
         std::size_t llenas = 0;
         for (std::size_t i = 0; i < lectura_.cuantas(); ++i) {
             llenas += columna_.vacia(i) ? 0U : 1U;
-            if (const auto sospecha = SospechaDe(columna_, i)) {
+            if (const auto sospecha = SospechaDe(columna_, i);
+                sospecha && *sospecha != Sospecha::TextoVacio) {
                 primero.try_emplace(*sospecha, i);
                 ++cuantos[*sospecha];
             }
@@ -208,22 +226,30 @@ private:
         return una;
     }
 
-    [[nodiscard]] bool esDeTodaLaColumna(Sospecha sospecha) const { return deTodaLaColumna_ == sospecha; }
+    /// An empty text is a cell like others for all but the queries.
+    [[nodiscard]] bool hayQueDecirlo(Sospecha sospecha) const {
+        return sospecha == Sospecha::TextoVacio ? laConsultan() : deTodaLaColumna_ != sospecha;
+    }
 
     [[nodiscard]] Gravedad gravedadDe(Sospecha sospecha, std::size_t i) const {
+        if (sospecha == Sospecha::TextoVacio) {
+            return laConsultan() ? Gravedad::Fallo : Gravedad::Mirar;
+        }
         if (NoDaNumero(sospecha)) {
             return terminaEnFallo(i) ? Gravedad::Fallo : seUsa(i) ? Gravedad::Numeros : Gravedad::Mirar;
         }
         if (sospecha == Sospecha::TextoConPunto) {
-            return Gravedad::Numeros;
+            return estropeaElVertice(i) || rompeLaConsulta(i) ? Gravedad::Fallo : Gravedad::Numeros;
         }
         const bool esTamano = clase_ == ClaseDeColumna::Tamano;
-        const auto& ind = lectura_.opciones().independientes;
         if (sospecha == Sospecha::TextoConGrupos && esTamano) {
+            if (rompeLaConsulta(i)) {
+                return Gravedad::Fallo;
+            }
             // Some ratios read the point as a decimal one, and others as a group.
-            return delTamano_.empty() && !ind.areaDeMayores ? Gravedad::Mirar : Gravedad::Numeros;
+            return delTamano_.empty() ? Gravedad::Mirar : Gravedad::Numeros;
         }
-        return estropeaElVertice(i) ? Gravedad::Numeros : Gravedad::Mirar;
+        return estropeaElVertice(i) ? Gravedad::Fallo : Gravedad::Mirar;
     }
 
     [[nodiscard]] bool terminaEnFallo(std::size_t i) const {
@@ -239,9 +265,25 @@ private:
         return !delTamano_.empty() || (arbol && (!vecinos_.empty() || lectura_.puedeSerVertice(i)));
     }
 
+    /// Whether a query adds up the cells of the column.
+    [[nodiscard]] bool laConsultan() const {
+        return clase_ == ClaseDeColumna::Tamano
+                   ? !delTamano_.empty()
+                   : clase_ == ClaseDeColumna::Copa && lectura_.opciones().datosDeParcela;
+    }
+
     [[nodiscard]] bool seUsa(std::size_t i) const {
         return clase_ == ClaseDeColumna::Tamano && lectura_.esArbol(i) &&
                lectura_.opciones().independientes.areaDeMayores;
+    }
+
+    /// The basal area of the larger trees asks with the text itself, each comma a point: two of them are no
+    /// number.
+    [[nodiscard]] bool rompeLaConsulta(std::size_t i) const {
+        const std::string texto = columna_.texto(i);
+        return clase_ == ClaseDeColumna::Tamano && lectura_.opciones().independientes.areaDeMayores &&
+               lectura_.esArbol(i) &&
+               std::ranges::count_if(texto, [](char c) { return c == '.' || c == ','; }) > 1;
     }
 
     /// A tree of the boundary is known by the texts of its cells: another text of the same number is no
@@ -254,26 +296,38 @@ private:
     [[nodiscard]] Hallazgo hallazgo(Gravedad gravedad, Sospecha sospecha, std::size_t i) const {
         Hallazgo nuevo = lectura_.enCelda(gravedad, sospecha, i, columna_);
         nuevo.que = QueDe(sospecha, columna_, i);
-        nuevo.efecto = efectoDe(gravedad, sospecha, i);
-        nuevo.remedio = RemedioDe(sospecha);
+        nuevo.efecto = efectoDe(gravedad, sospecha);
+        nuevo.remedio = RemedioDe(sospecha, clase_);
         return nuevo;
     }
 
-    [[nodiscard]] std::string efectoDe(Gravedad gravedad, Sospecha sospecha, std::size_t i) const {
+    [[nodiscard]] std::string efectoDe(Gravedad gravedad, Sospecha sospecha) const {
+        if (gravedad == Gravedad::Fallo && !NoDaNumero(sospecha) && clase_ == ClaseDeColumna::Coordenada) {
+            return std::string{
+                       sospecha == Sospecha::TextoConPunto
+                           ? "El árbol se dibuja en otro sitio, y cambian el contorno y la superficie. "
+                           : ""} +
+                   "El árbol está, o puede estar, en el contorno, y no se reconocerá porque su coordenada no "
+                   "está escrita como un número corriente: en lugar de la marca -1 recibirá otro valor en " +
+                   EnLista(vecinos_) + ", o el cálculo terminará en un fallo.";
+        }
+        if (gravedad == Gravedad::Fallo && sospecha == Sospecha::TextoVacio) {
+            return "Termina en un fallo el cálculo " +
+                   (clase_ == ClaseDeColumna::Tamano ? DeLista(delTamano_) : "de los datos de parcela") + ".";
+        }
+        if (gravedad == Gravedad::Fallo &&
+            (sospecha == Sospecha::TextoConGrupos || sospecha == Sospecha::TextoConPunto)) {
+            return "El área basimétrica de los mayores pregunta por ese texto y termina en un fallo.";
+        }
         if (gravedad == Gravedad::Fallo) {
             return clase_ == ClaseDeColumna::Tamano
-                       ? "Termina en un fallo " + quienLee() + "."
+                       ? quienLee()
                        : "Todo el cálculo termina en un fallo al dibujar el árbol o al medir su copa.";
         }
         if (gravedad == Gravedad::Mirar) {
             return NoDaNumero(sospecha)
                        ? "Con las opciones de ahora no la lee ningún cálculo."
                        : "El número se lee bien; conviene saberlo por si otro programa no lo lee.";
-        }
-        if (estropeaElVertice(i) && sospecha != Sospecha::TextoConPunto) {
-            return "El árbol está, o puede estar, en el contorno y no se reconocerá, porque se comparan los "
-                   "textos: en lugar de -1 recibirá otro valor en " +
-                   EnLista(vecinos_) + ".";
         }
         switch (clase_) {
         case ClaseDeColumna::Coordenada:
@@ -290,7 +344,8 @@ private:
 
     [[nodiscard]] std::string quienLee() const {
         const Indices quienes = Juntos(delTamano_, vecinos_);
-        return quienes.empty() ? "el contorno, si el árbol está en él" : "el cálculo de " + EnLista(quienes);
+        return quienes.empty() ? "Si el árbol está en el contorno, el dibujo termina en un fallo."
+                               : "Terminan en un fallo: " + EnLista(quienes) + ".";
     }
 
     const Lectura& lectura_;

@@ -24,7 +24,7 @@ std::size_t Pasadas(const LadosPorRevisar& lados) {
 }
 
 std::string Dicho(const BarridoPorRevisar& barrido) {
-    return "de " + Cita(barrido.desde) + " a " + Cita(barrido.hasta) + " con paso " + Cita(barrido.paso);
+    return "de " + Cita(barrido.desde) + " a " + Cita(barrido.hasta) + " con intervalo " + Cita(barrido.paso);
 }
 
 class RevisorDeOpciones {
@@ -56,17 +56,17 @@ private:
     void revisarColumnaDelTamano() {
         Indices consultas = IndicesDelTamano(opciones_);
         if (opciones_.independientes.areaDeMayores) {
-            consultas.emplace_back("el área basimétrica de los mayores");
+            consultas.emplace_back(elAreaDeMayores);
         }
         const Indices vecinos = FamiliasDeVecinos(opciones_);
         if (lectura_.tamano().existe() || (consultas.empty() && vecinos.empty())) {
             return;
         }
         const bool falla = !consultas.empty();
-        anotar(falla ? Gravedad::Fallo : Gravedad::Numeros, Sospecha::SinColumnaDelTamano, "DAP",
+        anotar(falla ? Gravedad::Fallo : Gravedad::Numeros, Sospecha::SinColumnaDelTamano, "",
                "No se ha elegido la columna del tamaño del tronco.",
                falla ? "Hace falta en " + EnLista(consultas) + ", y el cálculo termina en un fallo."
-                     : "Se tomaría por tamaño el número de la fila en " + EnLista(vecinos) + ".",
+                     : "Se tomará por tamaño el número de la fila, y saldrá mal " + EnLista(vecinos) + ".",
                "Elija la columna en el diálogo de columnas.");
     }
 
@@ -104,32 +104,44 @@ private:
         double caben = static_cast<double>(veces);
         double recorridas = caben;
         bool correctos = veces > 0; // an empty list has its own finding
+        const BarridoPorRevisar* masLargo = nullptr;
+        const BarridoPorRevisar* desigual = nullptr;
+        std::size_t masValores = 0;
         for (const auto& barrido : barridos) {
             const auto leido = revisarBarrido(familia, barrido);
             correctos = correctos && leido;
             caben *= leido ? leido->caben : 0;
             recorridas *= leido ? static_cast<double>(leido->valores) : 0;
+            if (leido && leido->valores > masValores) {
+                masValores = leido->valores;
+                masLargo = &barrido;
+            }
+            if (leido && leido->caben != static_cast<double>(leido->valores)) {
+                desigual = &barrido;
+            }
         }
+        if (correctos && masLargo != nullptr) {
+            compararColumnas(familia, std::nearbyint(caben), recorridas, *masLargo,
+                             desigual != nullptr ? *desigual : *masLargo);
+        }
+    }
+
+    void compararColumnas(const std::string& familia, double columnas, double recorridas,
+                          const BarridoPorRevisar& masLargo, const BarridoPorRevisar& desigual) {
         constexpr double masColumnas = 32'767;
-        if (!correctos || barridos.empty()) {
-            return;
-        }
-        const double columnas = std::nearbyint(caben);
         if (columnas > masColumnas) {
-            anotar(Gravedad::Fallo, Sospecha::BarridoQueNoCabe, barridos.front().campo,
-                   "Los barridos de " + familia + " piden más de 32.767 columnas.",
+            anotar(Gravedad::Fallo, Sospecha::BarridoQueNoCabe, masLargo.campo,
+                   "Los valores de " + familia + ", " + Dicho(masLargo) + ", piden más de 32.767 columnas.",
                    "No caben, y el cálculo termina en un fallo.",
-                   "Ponga pasos mayores o intervalos más cortos.");
+                   "Ponga intervalos mayores, o un último valor menor.");
         } else if (columnas != recorridas) {
             anotar(
-                Gravedad::Numeros, Sospecha::BarridoConColumnaDeSobra, barridos.front().campo,
-                "Los barridos de " + familia +
-                    " no son un número entero de pasos, o el redondeo pierde su "
-                    "último valor: " +
-                    Dicho(barridos.front()) + ".",
+                Gravedad::Numeros, Sospecha::BarridoConColumnaDeSobra, desigual.campo,
+                "En los valores de " + familia + ", " + Dicho(desigual) +
+                    ", no hay un número exacto de intervalos, o por el redondeo no se llega al último.",
                 "Los resultados llevan alguna columna de ceros sin cabecera, y los títulos no caen sobre sus "
                 "números.",
-                "Ponga un paso que divida el intervalo, o corra los valores uno a uno.");
+                "Ponga un intervalo que quepa un número exacto de veces, o haga un cálculo para cada valor.");
         }
     }
 
@@ -138,23 +150,23 @@ private:
         auto leido = LeerBarrido(barrido);
         if (!leido) {
             anotar(Gravedad::Fallo, Sospecha::BarridoIlegible, barrido.campo,
-                   "El barrido de " + familia + " " + Dicho(barrido) + " tiene algo que no es un número.",
+                   "En los valores de " + familia + ", " + Dicho(barrido) + ", hay algo que no es un número.",
                    "El cálculo termina en un fallo al leerlo.",
                    "Escriba los tres números, con coma decimal.");
             return std::nullopt;
         }
         if (leido->paso == 0 || leido->caben <= 0.5 || leido->valores == 0) {
             anotar(Gravedad::Fallo, Sospecha::BarridoSinValores, barrido.campo,
-                   "El barrido de " + familia + " " + Dicho(barrido) + " no pasa por ningún valor.",
+                   "Los valores de " + familia + ", " + Dicho(barrido) + ", no son ninguno.",
                    "No hay columna que calcular, y el cálculo termina en un fallo.",
-                   "Ponga un último valor mayor que el primero y un paso mayor que 0.");
+                   "Ponga un último valor mayor que el primero y un intervalo mayor que 0.");
             return std::nullopt;
         }
         if (!leido->avanza) {
             anotar(Gravedad::Fallo, Sospecha::BarridoQueNoCabe, barrido.campo,
-                   "El paso del barrido de " + familia + " " + Dicho(barrido) +
-                       " es tan pequeño que no lo hace avanzar.",
-                   "El cálculo termina en un fallo.", "Ponga un paso mayor.");
+                   "En los valores de " + familia + ", " + Dicho(barrido) +
+                       ", el intervalo es tan pequeño que se pierde en el redondeo.",
+                   "El cálculo termina en un fallo.", "Ponga un intervalo mayor.");
             return std::nullopt;
         }
         return leido;
@@ -172,7 +184,7 @@ private:
         anotar(Gravedad::Fallo, Sospecha::BafNoPositivo, barrido.campo,
                "El factor de área basimétrica (BAF) de " + familia + " es 0 o negativo: " + Dicho(barrido) +
                    ".",
-               "Se divide por su raíz, y el cálculo termina en un fallo.",
+               "Los competidores se eligen dividiendo por su raíz, y el cálculo termina en un fallo.",
                "Ponga un primer valor mayor que 0, por ejemplo 2.");
     }
 
@@ -246,9 +258,9 @@ private:
             const auto otros = static_cast<double>(conTamano()) - 1;
             if (leido->valor(leido->valores - 2) >= otros) {
                 anotar(Gravedad::Mirar, Sospecha::ColumnasIguales, barrido.campo,
-                       "El barrido de " + familia + " pide " + NumeroDicho(leido->valor(leido->valores - 1)) +
-                           " competidores, y solo hay " + NumeroDicho(otros) +
-                           " árboles con tamaño además del sujeto.",
+                       "Los valores de " + familia + " llegan a " +
+                           NumeroDicho(leido->valor(leido->valores - 1)) + " competidores, y solo hay " +
+                           NumeroDicho(otros) + " árboles con tamaño además del sujeto.",
                        "Las últimas columnas saldrán iguales.", "Ponga un último valor menor.");
             }
         };

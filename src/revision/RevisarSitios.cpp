@@ -1,5 +1,6 @@
 #include "revision/RevisarSitios.h"
 
+#include "revision/Contorno.h"
 #include "revision/Efectos.h"
 #include "revision/Funcion.h"
 
@@ -36,6 +37,8 @@ public:
     void revisar() {
         revisarUnidad();
         revisarLejanos();
+        revisarSignos(lectura_.x());
+        revisarSignos(lectura_.y());
         revisarMismoSitio();
     }
 
@@ -96,11 +99,46 @@ private:
                                " m de los demás, que ocupan " + NumeroDicho(std::round(enX.largo())) +
                                " por " + NumeroDicho(std::round(enY.largo())) + " m.";
                 hallazgo.efecto =
-                    "El contorno llega hasta él: la superficie sale demasiado grande, y todas las "
-                    "cifras por hectárea, demasiado pequeñas.";
+                    "Si está mal, el contorno llega hasta él: la superficie sale demasiado grande, y todas "
+                    "las cifras por hectárea, demasiado pequeñas.";
                 hallazgo.remedio = "Compruebe la coma y el signo de la coordenada.";
                 return hallazgo;
             });
+        }
+    }
+
+    /// A few coordinates with another sign than all others, and not near the origin, where both are at home.
+    void revisarSignos(const ColumnaRevisada& columna) {
+        constexpr std::size_t deCada = 20;
+        constexpr double cercaDelOrigen = 0.1;
+        const auto negativas = static_cast<std::size_t>(
+            std::ranges::count_if(arboles_, [&](std::size_t i) { return columna.numero(i) < 0; }));
+        const auto positivas = static_cast<std::size_t>(
+            std::ranges::count_if(arboles_, [&](std::size_t i) { return columna.numero(i) > 0; }));
+        const bool rarasNegativas = negativas < positivas;
+        const std::size_t raras = std::min(negativas, positivas);
+        if (raras == 0 || raras * deCada > arboles_.size()) {
+            return;
+        }
+        const double mayor = std::abs(columna.numero(*std::ranges::max_element(
+            arboles_, {}, [&](std::size_t i) { return std::abs(columna.numero(i)); })));
+        for (const std::size_t i : arboles_) {
+            const double suya = rarasNegativas ? -columna.numero(i) : columna.numero(i);
+            if (suya <= cercaDelOrigen * mayor) {
+                continue;
+            }
+            cuaderno_.anotarFila(
+                Gravedad::Mirar, Sospecha::SignoRaro, columna.columna().numero, fila(i), [&] {
+                    Hallazgo hallazgo = lectura_.enCelda(Gravedad::Mirar, Sospecha::SignoRaro, i, columna);
+                    hallazgo.que = "La coordenada es " +
+                                   std::string{rarasNegativas ? "negativa" : "positiva"} +
+                                   ", y casi todas las demás no lo son.";
+                    hallazgo.efecto =
+                        "Si el signo está mal, el árbol se dibuja en otro sitio y cambian el contorno, la "
+                        "superficie y las cifras por hectárea.";
+                    hallazgo.remedio = "Compruebe el signo.";
+                    return hallazgo;
+                });
         }
     }
 
@@ -121,15 +159,21 @@ private:
     }
 
     void anotarMismoSitio(std::size_t uno, std::size_t otro) {
+        const Indices porElLado = fallanEnElContorno(uno);
         const Indices fallan =
             lectura_.conTamano(uno) && lectura_.conTamano(otro) ? fallanEnUnSitio() : Indices{};
-        const Gravedad gravedad = fallan.empty() ? Gravedad::Mirar : Gravedad::Fallo;
-        cuaderno_.anotarFila(gravedad, Sospecha::MismoSitio, 0, fila(otro), [&] {
+        const Gravedad gravedad = fallan.empty() && porElLado.empty() ? Gravedad::Mirar : Gravedad::Fallo;
+        const int efecto = porElLado.empty() ? 0 : 1; // of one gravity, and not the same
+        cuaderno_.anotarFila(gravedad, Sospecha::MismoSitio, efecto, fila(otro), [&] {
             Hallazgo hallazgo = lectura_.enFila(gravedad, Sospecha::MismoSitio, otro);
             hallazgo.texto = lectura_.x().texto(otro) + "; " + lectura_.y().texto(otro);
             hallazgo.que = "El árbol está en el mismo sitio que " + lectura_.nombrar(uno) + ".";
             hallazgo.efecto =
-                fallan.empty()
+                !porElLado.empty() ? "Los dos son vértices del contorno, y el lado entre ellos no tiene "
+                                     "longitud: al dividir "
+                                     "por ella " +
+                                         PuedenFallar(porElLado) + "."
+                : fallan.empty()
                     ? "Los dos cuentan; si son el mismo árbol, uno sobra en todas las cifras."
                     : "La distancia entre los dos es 0, y al dividir por ella " + PuedenFallar(fallan) + ".";
             hallazgo.remedio =
@@ -137,6 +181,14 @@ private:
                 "coordenadas un centímetro.";
             return hallazgo;
         });
+    }
+
+    /// The families that divide by the length of a side of the boundary, where two trees make one without
+    /// any.
+    [[nodiscard]] Indices fallanEnElContorno(std::size_t i) const {
+        const auto& contorno = lectura_.parcela().contorno;
+        const bool seDetiene = contorno && SeDetieneEn(*contorno, x(i), y(i)) && lectura_.hayInteriores();
+        return seDetiene ? FamiliasDeVecinos(lectura_.opciones()) : Indices{};
     }
 
     /// The families that divide by the distance of two trees.

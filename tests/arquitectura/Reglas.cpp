@@ -13,13 +13,13 @@ namespace {
 
 using Salas = std::set<std::string_view>;
 
-const Salas cimientos{"basico", "formularios", "motor", "lienzo", "revision"};
-const Salas programa{"shell", "data", "options", "map", "plot", "indices"};
+const Salas cimientos{"basico", "formularios", "motor", "lienzo"};
+const Salas programa{"shell", "data", "options", "map", "plot", "indices", "revision", "avisos"};
 const Salas conPlataforma{"desktop", "lote", "sistema", "pintura"};
 
 /// What computes: plain values in, plain values out.
-constexpr std::array<std::string_view, 4> calculo{"plot/calculo/", "indices/independientes/",
-                                                  "indices/vecinos/", "indices/apa/"};
+constexpr std::array<std::string_view, 5> calculo{"plot/calculo/", "indices/independientes/",
+                                                  "indices/vecinos/", "indices/apa/", "revision/"};
 const Salas ventanas{"formularios", "options", "data", "map"};
 
 bool Conocida(const std::string& sala) {

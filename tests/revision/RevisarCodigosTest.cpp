@@ -119,5 +119,30 @@ TEST(RevisarCabeceras, UnCorcheteEnLaDelTamanoRompeLasConsultas) {
     EXPECT_EQ(De(Sospecha::CabeceraSinConsulta, parcela).at(0).gravedad, Gravedad::Fallo);
 }
 
+TEST(RevisarCodigos, DosInventariosEnUnaHojaSonUnHallazgo) {
+    auto parcela = ParcelaSana();
+    for (std::size_t i = 6; i < 12; ++i) {
+        parcela.numero.celdas[i] = static_cast<double>(i - 5);
+    }
+    const auto hallazgos = De(Sospecha::NumeroRepetido, parcela);
+    ASSERT_EQ(hallazgos.size(), 1U);
+    EXPECT_EQ(hallazgos[0].que, "6 números de árbol se repiten.");
+}
+
+TEST(RevisarCodigos, UnaCabeceraQueDiceOtroPapelSeMira) {
+    auto parcela = ParcelaSana();
+    EXPECT_FALSE(Tiene(Sospecha::CabeceraDeOtroPapel, parcela));
+    parcela.x.cabecera = "UTM_Y";
+    EXPECT_EQ(De(Sospecha::CabeceraDeOtroPapel, parcela).at(0).gravedad, Gravedad::Mirar);
+    parcela.x.cabecera = "UTM_X";
+    EXPECT_FALSE(Tiene(Sospecha::CabeceraDeOtroPapel, parcela));
+    parcela.tamano->cabecera = "Diámetro cm";
+    EXPECT_TRUE(Tiene(Sospecha::CabeceraDeOtroPapel, parcela));
+    parcela.opciones.circunferencia = false;
+    EXPECT_FALSE(Tiene(Sospecha::CabeceraDeOtroPapel, parcela));
+    parcela.tamano->cabecera = "CAP";
+    EXPECT_TRUE(Tiene(Sospecha::CabeceraDeOtroPapel, parcela));
+}
+
 } // namespace
 } // namespace varo

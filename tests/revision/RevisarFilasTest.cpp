@@ -80,7 +80,7 @@ TEST(RevisarFilas, UnArbolSinCodigoNoSeCuenta) {
     ASSERT_EQ(hallazgos.size(), 1U);
     EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Numeros);
     EXPECT_EQ(hallazgos[0].efecto,
-              "No se cuenta en los datos de parcela, que salen menores de lo que son, o negativos.");
+              "No se cuenta en los datos de parcela, y las cifras salen menores de lo que son, o negativas.");
     parcela.codigo.reset();
     EXPECT_FALSE(Tiene(Sospecha::ArbolSinCodigo, parcela));
 }
@@ -91,7 +91,78 @@ TEST(RevisarFilas, LosPiesNegativosNoValen) {
     const auto hallazgos = De(Sospecha::PiesNoPositivos, parcela);
     ASSERT_EQ(hallazgos.size(), 1U);
     EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Numeros);
-    EXPECT_EQ(hallazgos[0].que, "Salen -33 pies por hectárea del código «Qi».");
+    EXPECT_EQ(hallazgos[0].que, "Salen -33,0 pies por hectárea del código «Qi».");
+}
+
+TEST(RevisarFilas, UnaFilaSinSitioSoloCuentaDondeSuma) {
+    auto parcela = ParcelaSana();
+    const auto fila = AnadirFila(parcela);
+    parcela.tamano->celdas[fila] = 0.0;
+    parcela.opciones.independientes.areaBasimetrica = true;
+    EXPECT_EQ(De(Sospecha::FilaSinSitio, parcela).at(0).gravedad, Gravedad::Mirar) << "0 no suma nada";
+    parcela.tamano->celdas[fila] = 900.0;
+    EXPECT_EQ(De(Sospecha::FilaSinSitio, parcela).at(0).gravedad, Gravedad::Numeros);
+    parcela.opciones.independientes = {};
+    parcela.opciones.independientes.areaDeMayores = true;
+    EXPECT_EQ(De(Sospecha::FilaSinSitio, parcela).at(0).gravedad, Gravedad::Numeros);
+    parcela.opciones.independientes = {};
+    parcela.opciones.datosDeParcela = true;
+    EXPECT_EQ(De(Sospecha::FilaSinSitio, parcela).at(0).gravedad, Gravedad::Mirar) << "se suma por códigos";
+    parcela.codigo->celdas[fila] = std::string{"Ps"};
+    EXPECT_EQ(De(Sospecha::FilaSinSitio, parcela).at(0).gravedad, Gravedad::Numeros);
+}
+
+TEST(RevisarFilas, UnaFilaSinSitioConCopaSumaEnLosDatosDeParcela) {
+    auto parcela = ParcelaSana();
+    const auto fila = AnadirFila(parcela);
+    for (auto& medida : parcela.copa) {
+        medida.celdas[fila] = 20.0;
+    }
+    EXPECT_EQ(De(Sospecha::FilaSinSitio, parcela).at(0).gravedad, Gravedad::Mirar);
+    parcela.opciones.datosDeParcela = true;
+    EXPECT_EQ(De(Sospecha::FilaSinSitio, parcela).at(0).efecto,
+              "No se dibuja ni recibe índices, pero cuenta como un árbol más en los datos de parcela.");
+    parcela.copa[1].celdas[fila] = Nulo{};
+    EXPECT_FALSE(Tiene(Sospecha::FilaSinSitio, parcela)) << "sin una medida no hay área";
+}
+
+TEST(RevisarFilas, UnArbolLlamadoTotalNoEsUnArbol) {
+    auto parcela = ParcelaSana();
+    for (const char* const nombre : {"Total", "Nº medio", "SUMA:", "media"}) {
+        parcela.numero.celdas[5] = std::string{nombre};
+        parcela.codigo->celdas[5] = Nulo{};
+        EXPECT_EQ(De(Sospecha::FilaDeSuma, parcela).at(0).gravedad, Gravedad::Numeros) << nombre;
+        EXPECT_FALSE(Tiene(Sospecha::ArbolSinCodigo, parcela));
+    }
+    for (const char* const nombre : {"7b", "Totalán", "Maximiliano"}) {
+        parcela.numero.celdas[5] = std::string{nombre};
+        EXPECT_FALSE(Tiene(Sospecha::FilaDeSuma, parcela)) << nombre;
+    }
+}
+
+TEST(RevisarFilas, UnaCabeceraRepetidaEsUnSoloHallazgo) {
+    auto parcela = ParcelaSana();
+    for (auto* const columna : {&parcela.x, &parcela.y, &*parcela.tamano, &*parcela.codigo}) {
+        columna->celdas[5] = columna->cabecera;
+    }
+    for (auto& medida : parcela.copa) {
+        medida.celdas[5] = medida.cabecera;
+    }
+    const auto hallazgos = Revisar(parcela);
+    ASSERT_EQ(hallazgos.size(), 1U);
+    EXPECT_EQ(hallazgos[0].sospecha, Sospecha::FilaDeCabecera);
+    EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Fallo);
+    EXPECT_EQ(hallazgos[0].fila, 7);
+}
+
+TEST(RevisarFilas, ConElipsesCuentaElOrdenDeLaHoja) {
+    auto parcela = ParcelaSana();
+    parcela.enOrden = false;
+    EXPECT_FALSE(Tiene(Sospecha::FilasDesordenadas, parcela));
+    parcela.opciones.datosDeParcela = true;
+    EXPECT_EQ(De(Sospecha::FilasDesordenadas, parcela).at(0).gravedad, Gravedad::Numeros);
+    parcela.opciones.copasCirculares = true;
+    EXPECT_FALSE(Tiene(Sospecha::FilasDesordenadas, parcela));
 }
 
 TEST(RevisarFilas, CeroPiesTerminanEnFalloDondeSeDividePorEllos) {
@@ -100,6 +171,9 @@ TEST(RevisarFilas, CeroPiesTerminanEnFalloDondeSeDividePorEllos) {
     EXPECT_EQ(De(Sospecha::PiesNoPositivos, parcela).at(0).gravedad, Gravedad::Numeros);
     parcela.opciones.independientes.areasProporcionales = true;
     EXPECT_EQ(De(Sospecha::PiesNoPositivos, parcela).at(0).gravedad, Gravedad::Fallo);
+    parcela.pies = {{"Ps", {0, ""}}};
+    EXPECT_EQ(De(Sospecha::PiesNoPositivos, parcela).at(0).gravedad, Gravedad::Numeros)
+        << "se divide por los de todos";
 }
 
 TEST(RevisarFilas, LaCuentaQueFallaSeDice) {

@@ -1,6 +1,10 @@
+#include "basico/Saltando.h"
+#include "plot/calculo/AreaInterseccionCirculos.h"
 #include "revision/ParcelaDePrueba.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace varo {
 namespace {
@@ -123,6 +127,38 @@ TEST(RevisarCopas, UnaCopaEntreLasMuestrasAcabaConISCDeElipses) {
     EXPECT_FALSE(Tiene(Sospecha::CopaEntreMuestras, parcela));
 }
 
+TEST(RevisarCopas, UnaCopaDesmedidaYEstrechaNoTieneMuestrasSinFin) {
+    auto parcela = ParcelaSana();
+    parcela.opciones.ISC.activa = true;
+    PonerCopa(parcela, 5, 0.4);
+    parcela.copa[1].celdas[5] = 1E+300;
+    EXPECT_EQ(De(Sospecha::CopaEnorme, parcela).at(0).gravedad, Gravedad::Fallo);
+    parcela.copa[1].celdas[5] = 300.0;
+    EXPECT_EQ(De(Sospecha::CopaEnorme, parcela).at(0).gravedad, Gravedad::Mirar);
+}
+
+TEST(RevisarTroncos, UnAreaBasimetricaDesmedidaSeMira) {
+    auto parcela = ParcelaSana();
+    EXPECT_FALSE(Tiene(Sospecha::AreaBasimetricaRara, parcela));
+    parcela.opciones.circunferencia = false; // girths read as diameters
+    parcela.contorno->superficie.valor = 300;
+    const auto hallazgos = De(Sospecha::AreaBasimetricaRara, parcela);
+    ASSERT_EQ(hallazgos.size(), 1U);
+    EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Mirar);
+    parcela.contorno->superficie.valor = 5670;
+    EXPECT_FALSE(Tiene(Sospecha::AreaBasimetricaRara, parcela));
+}
+
+TEST(RevisarCopas, LasCopasYLosTroncosVanJuntos) {
+    auto parcela = ParcelaSana();
+    EXPECT_FALSE(Tiene(Sospecha::CopasDesproporcionadas, parcela));
+    parcela.opciones.radiosPorMetro = 100; // a unit one step too small
+    EXPECT_EQ(De(Sospecha::CopasDesproporcionadas, parcela).at(0).gravedad, Gravedad::Mirar);
+    parcela.opciones.radiosPorMetro = 10;
+    parcela.opciones.cmPorTamano = 0.1;
+    EXPECT_TRUE(Tiene(Sospecha::CopasDesproporcionadas, parcela));
+}
+
 TEST(RevisarSolapes, DosCopasIgualesEnUnSitioAcabanConISC) {
     auto parcela = ParcelaSana();
     parcela.opciones.ISC.activa = true;
@@ -142,17 +178,30 @@ TEST(RevisarSolapes, DosCopasIgualesEnUnSitioAcabanConISC) {
     EXPECT_FALSE(Tiene(Sospecha::CirculosIguales, parcela));
 }
 
-TEST(RevisarSolapes, DosCirculosTangentesPuedenFallar) {
+// By rounding, few circles that touch have no area in common.
+TEST(RevisarSolapes, DosCirculosTangentesSeDicenDondeSuAreaFalla) {
     auto parcela = ParcelaSana();
     parcela.opciones.ISC.activa = true;
     parcela.opciones.copasCirculares = true;
-    parcela.x.celdas[6] = 14.03;
-    parcela.y.celdas[6] = 15.47; // 3 and 4 away: 5 m
-    PonerCopa(parcela, 5, 20);
-    PonerCopa(parcela, 6, 30.5);
-    EXPECT_FALSE(Tiene(Sospecha::CirculosTangentes, parcela));
-    PonerCopa(parcela, 6, 30);
-    EXPECT_EQ(De(Sospecha::CirculosTangentes, parcela).at(0).gravedad, Gravedad::Fallo);
+    const double x = 24.83; // 23 m away from tree 6
+    const double y = 29.87;
+    parcela.x.celdas[6] = x;
+    parcela.y.celdas[6] = y;
+    int fallan = 0;
+    constexpr int radios = 20;
+    for (int radio = 1; radio < radios; ++radio) {
+        PonerCopa(parcela, 5, radio);
+        PonerCopa(parcela, 6, 230.0 - radio);
+        const double r1 = static_cast<float>(radio / 10.0);
+        const double r2 = static_cast<float>((230.0 - radio) / 10.0);
+        const bool falla =
+            Saltando([&] { AreaInterseccionCirculos(11.03, 11.47, x, y, r1, r2); }).has_value() ||
+            Saltando([&] { AreaInterseccionCirculos(x, y, 11.03, 11.47, r2, r1); }).has_value();
+        EXPECT_EQ(Tiene(Sospecha::CirculosTangentes, parcela), falla) << radio;
+        fallan += falla ? 1 : 0;
+    }
+    EXPECT_GT(fallan, 0);
+    EXPECT_LT(fallan, radios - 1);
 }
 
 TEST(RevisarSolapes, LasAreasDeInfluenciaTambienSonCirculos) {

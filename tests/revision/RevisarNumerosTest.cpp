@@ -58,7 +58,7 @@ TEST(RevisarNumeros, LaUnidadEnLaCeldaTerminaEnFallo) {
     const auto hallazgos = De(Sospecha::TextoConUnidad, parcela);
     ASSERT_EQ(hallazgos.size(), 1U);
     EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Fallo);
-    EXPECT_EQ(hallazgos[0].efecto, "Termina en un fallo el cálculo de DR.");
+    EXPECT_EQ(hallazgos[0].efecto, "Terminan en un fallo: DR.");
 }
 
 TEST(RevisarNumeros, UnaPalabraEnElTamanoDeUnVerticeTerminaEnFallo) {
@@ -93,6 +93,35 @@ TEST(RevisarNumeros, UnBlancoNoEsUnaCeldaVacia) {
     EXPECT_EQ(De(Sospecha::CeldaEnBlanco, parcela).at(0).gravedad, Gravedad::Fallo);
 }
 
+TEST(RevisarNumeros, UnTextoSinLetrasSoloEstorbaALasConsultas) {
+    auto parcela = ParcelaSana();
+    parcela.copa[1].celdas[5] = std::string{};
+    parcela.tamano->celdas[5] = std::string{};
+    EXPECT_FALSE(Tiene(Sospecha::TextoVacio, parcela));
+    parcela.opciones.independientes.medias = true;
+    auto hallazgos = De(Sospecha::TextoVacio, parcela);
+    ASSERT_EQ(hallazgos.size(), 1U);
+    EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Fallo);
+    EXPECT_EQ(hallazgos[0].columna, "CAP");
+    EXPECT_EQ(hallazgos[0].efecto, "Termina en un fallo el cálculo de las razones con la media.");
+    parcela.opciones.independientes.medias = false;
+    parcela.opciones.datosDeParcela = true;
+    EXPECT_EQ(De(Sospecha::TextoVacio, parcela).size(), 2U);
+    parcela.tamano->celdas[5] = Nulo{};
+    EXPECT_EQ(De(Sospecha::TextoVacio, parcela).at(0).columna, "RE");
+}
+
+TEST(RevisarNumeros, ElTamanoConPuntosDeMillarRompeLaConsultaDeLosMayores) {
+    auto parcela = ParcelaSana();
+    parcela.tamano->celdas[5] = std::string{"1.234,5"};
+    parcela.opciones.independientes.areaDeMayores = true;
+    EXPECT_EQ(De(Sospecha::TextoConGrupos, parcela).at(0).gravedad, Gravedad::Fallo);
+    parcela.tamano->celdas[5] = std::string{"1.2.3"};
+    EXPECT_EQ(De(Sospecha::TextoConPunto, parcela).at(0).gravedad, Gravedad::Fallo);
+    parcela.tamano->celdas[5] = std::string{"12.3"};
+    EXPECT_EQ(De(Sospecha::TextoConPunto, parcela).at(0).gravedad, Gravedad::Numeros);
+}
+
 TEST(RevisarNumeros, UnaFechaNoEsUnTamano) {
     auto parcela = ParcelaSana();
     parcela.tamano->celdas[5] = Fecha{45000};
@@ -125,7 +154,7 @@ TEST(RevisarNumeros, ElVerticeEscritoDeOtroModoNoSeReconoce) {
     parcela.x.celdas[0] = std::string{"0,13"};
     EXPECT_EQ(De(Sospecha::NumeroComoTexto, parcela).at(0).gravedad, Gravedad::Mirar);
     parcela.x.celdas[0] = std::string{"0,130"};
-    EXPECT_EQ(De(Sospecha::NumeroComoTexto, parcela).at(0).gravedad, Gravedad::Numeros);
+    EXPECT_EQ(De(Sospecha::NumeroComoTexto, parcela).at(0).gravedad, Gravedad::Fallo) << "tiene altura 0";
     parcela.x.celdas[0] = 0.13;
     parcela.x.celdas[5] = std::string{"11,030"};
     EXPECT_EQ(De(Sospecha::NumeroComoTexto, parcela).at(0).gravedad, Gravedad::Mirar);
@@ -186,9 +215,9 @@ TEST(RevisarFaltas, UnTamanoCeroTerminaEnFalloDondeSeDividePorEl) {
     auto parcela = ParcelaSana();
     parcela.tamano->celdas[5] = 0.0;
     parcela.opciones.IDP.activa = true;
-    EXPECT_EQ(De(Sospecha::TamanoCero, parcela).at(0).gravedad, Gravedad::Mirar);
+    EXPECT_EQ(De(Sospecha::TamanoCero, parcela).at(0).gravedad, Gravedad::Numeros) << "entra como vecino";
     parcela.opciones.DR.activa = true;
-    EXPECT_EQ(De(Sospecha::TamanoCero, parcela).at(0).gravedad, Gravedad::Mirar);
+    EXPECT_EQ(De(Sospecha::TamanoCero, parcela).at(0).gravedad, Gravedad::Numeros);
     parcela.opciones.DR.k.desde = "-1";
     EXPECT_EQ(De(Sospecha::TamanoCero, parcela).at(0).gravedad, Gravedad::Fallo);
     parcela.opciones.DR.k.desde = "0";

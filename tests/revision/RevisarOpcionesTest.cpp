@@ -54,7 +54,7 @@ TEST(RevisarOpciones, SinColumnaDelTamanoSeTomaElNumeroDeLaFila) {
     const auto hallazgos = De(Sospecha::SinColumnaDelTamano, parcela);
     ASSERT_EQ(hallazgos.size(), 1U);
     EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Numeros);
-    EXPECT_EQ(hallazgos[0].efecto, "Se tomaría por tamaño el número de la fila en ISC.");
+    EXPECT_EQ(hallazgos[0].efecto, "Se tomará por tamaño el número de la fila, y saldrá mal ISC.");
     parcela.opciones.independientes.areaDeMayores = true;
     EXPECT_EQ(De(Sospecha::SinColumnaDelTamano, parcela).at(0).gravedad, Gravedad::Fallo);
 }
@@ -66,7 +66,7 @@ TEST(RevisarOpciones, UnBAFDeCeroDivide) {
     EXPECT_EQ(hallazgos[0].columna, "TxtBAF1(0)");
     EXPECT_EQ(hallazgos[0].que,
               "El factor de área basimétrica (BAF) de IDP es 0 o negativo: de «0,00» a «4» con "
-              "paso «2».");
+              "intervalo «2».");
     EXPECT_FALSE(Tiene(Sospecha::BafNoPositivo, ConIDP({"TxtBAF1(0)", "2", "4", "2"})));
     auto distancia = ConIDP({"TxtBAF1(0)", "0", "4", "2"});
     distancia.opciones.IDP.regla = ReglaDeCompetidores::Distancia;

@@ -1,6 +1,11 @@
+#include "basico/Numeros.h"
+#include "basico/Saltando.h"
+#include "plot/calculo/Module1.h"
 #include "revision/ParcelaDePrueba.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 #include <string>
 
@@ -93,19 +98,72 @@ TEST(RevisarContorno, UnLadoVerticalAcabaConLasElipsesYConAPA) {
     EXPECT_FALSE(Tiene(Sospecha::LadoVertical, parcela));
 }
 
-TEST(RevisarContorno, UnArbolSobreUnLadoTieneAlturaCero) {
+TEST(RevisarContorno, ElLadoVerticalQueCierraNoEstorbaALaCubierta) {
     auto parcela = ParcelaSana();
-    Poner(parcela, 4, 0.37, 10.12); // half way between the first two vertices
-    EXPECT_FALSE(Tiene(Sospecha::SobreUnLado, parcela));
+    parcela.contorno->x[5] = 0.13;
+    parcela.opciones.datosDeParcela = true;
+    EXPECT_FALSE(Tiene(Sospecha::LadoVertical, parcela));
     parcela.opciones.APA.activa = true;
-    EXPECT_FALSE(Tiene(Sospecha::SobreUnLado, parcela));
-    parcela.opciones.DR.activa = true;
-    const auto hallazgos = De(Sospecha::SobreUnLado, parcela);
+    EXPECT_EQ(De(Sospecha::LadoVertical, parcela).at(0).gravedad, Gravedad::Fallo);
+}
+
+TEST(RevisarContorno, UnArbolSobreUnLadoSeDiceDondeSuAlturaFalla) {
+    auto parcela = ParcelaSana();
+    const auto& contorno = *parcela.contorno;
+    int fallan = 0;
+    constexpr int puntos = 48; // from the second vertex to the third one
+    for (int n = 1; n < puntos; ++n) {
+        const double x = ANumero(ATexto(0.61 + (10.57 - 0.61) * n / puntos));
+        const double y = ANumero(ATexto(19.87 + (20.51 - 19.87) * n / puntos));
+        Poner(parcela, 4, x, y);
+        parcela.opciones.DR.activa = false;
+        parcela.opciones.APA.activa = true;
+        EXPECT_FALSE(Tiene(Sospecha::SobreUnLado, parcela)) << "APA no mide alturas";
+        parcela.opciones.DR.activa = true;
+        const bool falla =
+            Saltando([&] {
+                AlturaTriangulo(x, y, contorno.x[1], contorno.y[1], contorno.x[2], contorno.y[2]);
+            }).has_value();
+        const auto hallazgos = De(Sospecha::SobreUnLado, parcela);
+        ASSERT_EQ(hallazgos.size(), falla ? 1U : 0U) << n;
+        if (falla) {
+            ++fallan;
+            EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Fallo);
+            EXPECT_EQ(hallazgos[0].fila, 6);
+        }
+    }
+    EXPECT_GT(fallan, 0);
+    EXPECT_LT(fallan, puntos - 1);
+}
+
+TEST(RevisarContorno, PocosArbolesODemasiadosParaSuSuperficieSeMiran) {
+    auto parcela = ParcelaSana();
+    EXPECT_FALSE(Tiene(Sospecha::DensidadRara, parcela));
+    parcela.contorno->superficie.valor = 56'700;
+    EXPECT_EQ(De(Sospecha::DensidadRara, parcela).at(0).que,
+              "Hay muy pocos árboles para la superficie de la parcela, 56700,0 m2: 2 por hectárea.");
+    parcela.contorno->superficie.valor = 5.67;
+    EXPECT_EQ(De(Sospecha::DensidadRara, parcela).at(0).gravedad, Gravedad::Mirar);
+}
+
+TEST(RevisarSitios, UnaCoordenadaDeOtroSignoSeMira) {
+    auto parcela = ParcelaSana();
+    for (int otra = 0; otra < 10; ++otra) {
+        const auto fila = AnadirFila(parcela);
+        Poner(parcela, fila, 5.13 + 2 * otra, 6.41 + 1.1 * otra);
+    }
+    EXPECT_FALSE(Tiene(Sospecha::SignoRaro, parcela));
+    Poner(parcela, 5, -1.03, 11.47);
+    EXPECT_FALSE(Tiene(Sospecha::SignoRaro, parcela)) << "junto al origen";
+    Poner(parcela, 5, -11.03, 11.47);
+    const auto hallazgos = De(Sospecha::SignoRaro, parcela);
     ASSERT_EQ(hallazgos.size(), 1U);
-    EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Fallo);
-    EXPECT_EQ(hallazgos[0].fila, 6);
-    Poner(parcela, 4, 0.38, 10.12);
-    EXPECT_FALSE(Tiene(Sospecha::SobreUnLado, parcela));
+    EXPECT_EQ(hallazgos[0].fila, 7);
+    EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Mirar);
+    for (std::size_t i = 0; i < 8; ++i) {
+        Poner(parcela, i, -std::get<double>(parcela.x.celdas[i]), 3.7 + static_cast<double>(i));
+    }
+    EXPECT_FALSE(Tiene(Sospecha::SignoRaro, parcela)) << "el origen está en medio";
 }
 
 TEST(RevisarSitios, DosArbolesEnUnSitioSeMiranODividenPorCero) {
@@ -125,6 +183,23 @@ TEST(RevisarSitios, DosArbolesEnUnSitioSeMiranODividenPorCero) {
         "La distancia entre los dos es 0, y al dividir por ella IDP y APA pueden terminar en un fallo.");
     parcela.tamano->celdas[6] = Nulo{};
     EXPECT_EQ(De(Sospecha::MismoSitio, parcela).at(0).gravedad, Gravedad::Mirar);
+}
+
+TEST(RevisarSitios, DosArbolesEnUnVerticeDejanUnLadoSinLongitud) {
+    auto parcela = ParcelaSana();
+    Poner(parcela, 6, 0.61, 19.87);
+    auto& contorno = *parcela.contorno;
+    contorno.x.insert(contorno.x.begin() + 1, 0.61);
+    contorno.y.insert(contorno.y.begin() + 1, 19.87);
+    EXPECT_EQ(De(Sospecha::MismoSitio, parcela).at(0).gravedad, Gravedad::Mirar);
+    parcela.opciones.ISC.activa = true;
+    auto hallazgos = De(Sospecha::MismoSitio, parcela);
+    ASSERT_EQ(hallazgos.size(), 1U);
+    EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Fallo);
+    EXPECT_TRUE(hallazgos[0].efecto.starts_with("Los dos son vértices del contorno")) << hallazgos[0].efecto;
+    contorno.x.erase(contorno.x.begin() + 1);
+    contorno.y.erase(contorno.y.begin() + 1);
+    EXPECT_EQ(De(Sospecha::MismoSitio, parcela).at(0).gravedad, Gravedad::Mirar) << "ISC no divide por ella";
 }
 
 TEST(RevisarSitios, DRDivideSegunSuReglaYSuPeso) {
@@ -181,7 +256,7 @@ TEST(RevisarAlineados, APANombraLosArbolesDeUnaMismaX) {
     ASSERT_EQ(hallazgos.size(), 1U);
     EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Fallo);
     EXPECT_EQ(hallazgos[0].fila, 7);
-    EXPECT_EQ(hallazgos[0].que, "Tiene la misma X que el árbol 7 (fila 8), el árbol 10 (fila 11).");
+    EXPECT_EQ(hallazgos[0].que, "El árbol tiene la misma X que el árbol 7 (fila 8) y el árbol 10 (fila 11).");
     EXPECT_FALSE(Tiene(Sospecha::MismaY, parcela));
 }
 
@@ -192,6 +267,21 @@ TEST(RevisarAlineados, SinTamanoNoSonVecinos) {
     EXPECT_TRUE(Tiene(Sospecha::MismaY, parcela));
     parcela.tamano->celdas[5] = Nulo{};
     EXPECT_FALSE(Tiene(Sospecha::MismaY, parcela));
+}
+
+TEST(RevisarAlineados, UnaCeldaNecesitaDosVecinos) {
+    auto parcela = ParcelaSana();
+    parcela.opciones.APA.activa = true;
+    const auto tamanos = parcela.tamano->celdas;
+    parcela.tamano->celdas.assign(12, Nulo{});
+    parcela.tamano->celdas[5] = tamanos[5];
+    EXPECT_EQ(De(Sospecha::PocosVecinos, parcela).at(0).que, "Solo un árbol tiene tamaño.");
+    parcela.tamano->celdas[0] = tamanos[0];
+    EXPECT_EQ(De(Sospecha::PocosVecinos, parcela).at(0).que, "Solo dos árboles tienen tamaño.");
+    parcela.tamano->celdas[3] = tamanos[3];
+    EXPECT_FALSE(Tiene(Sospecha::PocosVecinos, parcela));
+    parcela.tamano->celdas[5] = Nulo{};
+    EXPECT_FALSE(Tiene(Sospecha::PocosVecinos, parcela)) << "ningún árbol con celda";
 }
 
 TEST(RevisarAlineados, DosVerticesNoSeMiranElUnoAlOtro) {
@@ -211,9 +301,23 @@ TEST(RevisarAlineados, CasiLaMismaCoordenadaTambienFalla) {
     ASSERT_EQ(hallazgos.size(), 1U);
     EXPECT_EQ(hallazgos[0].fila, 7);
     EXPECT_EQ(hallazgos[0].que,
-              "Tiene casi la misma Y que el árbol 7 (fila 8), vistos a la distancia que los separa.");
+              "El árbol tiene casi la misma Y que el árbol 7 (fila 8): se diferencian demasiado poco para "
+              "lo lejos que están.");
     parcela.y.celdas[5] = 8.71 + 1E-4;
     EXPECT_FALSE(Tiene(Sospecha::CasiMismaY, parcela));
+}
+
+TEST(RevisarAlineados, JuntoAUnTroncoInmensoOtroNoPesaNada) {
+    auto parcela = ParcelaSana();
+    parcela.opciones.APA.activa = true;
+    parcela.opciones.APA.k = {"TxtBAF1(8)", "2", "4", "1"};
+    parcela.tamano->celdas[5] = 180'000.0;
+    EXPECT_FALSE(Tiene(Sospecha::TamanosDesproporcionados, parcela));
+    parcela.tamano->celdas[5] = 1E+7;
+    EXPECT_EQ(De(Sospecha::TamanosDesproporcionados, parcela).at(0).que,
+              "El tamaño del árbol es inmenso junto al del árbol 1 (fila 2).");
+    parcela.opciones.APA.k.hasta = "2";
+    EXPECT_FALSE(Tiene(Sospecha::TamanosDesproporcionados, parcela));
 }
 
 TEST(RevisarAlineados, TresEnLineaSeNombran) {
@@ -226,7 +330,7 @@ TEST(RevisarAlineados, TresEnLineaSeNombran) {
     const auto hallazgos = De(Sospecha::EnLinea, parcela);
     ASSERT_EQ(hallazgos.size(), 3U);
     EXPECT_EQ(hallazgos[0].fila, 6);
-    EXPECT_EQ(hallazgos[0].que, "Está en línea con el árbol 6 (fila 7) y el árbol 7 (fila 8).");
+    EXPECT_EQ(hallazgos[0].que, "El árbol está en línea con el árbol 6 (fila 7) y el árbol 7 (fila 8).");
     parcela.opciones.APA.activa = false;
     EXPECT_FALSE(Tiene(Sospecha::EnLinea, parcela));
 }
