@@ -121,11 +121,8 @@ std::string Reemplazar(std::string_view texto, std::string_view buscado, std::st
 
 std::string EnUnaLinea(std::string_view texto) {
     std::string plano = Reemplazar(texto, "\r\n", " ");
-    for (char& caracter : plano) {
-        if (caracter == '\t' || caracter == '\n' || caracter == '\r') {
-            caracter = ' ';
-        }
-    }
+    std::ranges::replace_if(
+        plano, [](char caracter) { return static_cast<unsigned char>(caracter) < ' '; }, ' ');
     return plano;
 }
 

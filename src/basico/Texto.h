@@ -29,7 +29,7 @@ std::string Recortar(std::string_view texto);
 /// Every `buscado`, from left to right, becomes `nuevo`; an empty `buscado` is nowhere.
 std::string Reemplazar(std::string_view texto, std::string_view buscado, std::string_view nuevo);
 
-/// Each tab and each end of a line becomes a blank.
+/// Each tab, end of a line and other control character becomes a blank.
 std::string EnUnaLinea(std::string_view texto);
 
 /// Lower case of the Latin letters, accents included: for names compared without regard to case.

@@ -27,8 +27,9 @@ std::string EnUtf8(const std::u32string& caracteres) {
     return texto;
 }
 
-TEST(Texto, EnUnaLineaCambiaTabuladoresYFinesDeLineaPorBlancos) {
+TEST(Texto, EnUnaLineaCambiaPorBlancosLosTabuladoresFinesDeLineaYOtrosControles) {
     EXPECT_EQ(EnUnaLinea("Pinus\tsylvestris\r\nL.\n"), "Pinus sylvestris L. ");
+    EXPECT_EQ(EnUnaLinea("Pinus\x1B[31m\x01"), "Pinus [31m ");
     EXPECT_EQ(EnUnaLinea("Roble"), "Roble");
 }
 

@@ -2,16 +2,9 @@
 
 #include "basico/Texto.h"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace varo {
-
-std::string EnUnaLinea(std::string texto) {
-    std::replace_if(
-        texto.begin(), texto.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
-    return texto;
-}
 
 std::string Acortado(const std::string& texto) {
     constexpr std::size_t bastantes = 120;

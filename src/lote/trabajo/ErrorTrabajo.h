@@ -16,7 +16,8 @@ enum class Estado {
     ErrorInterno = 1,
     Rechazado = 2, ///< the job or the command line is wrong
     FalloDeCalculo = 3,
-    ErrorDeArchivo = 4 ///< a file cannot be read or written
+    ErrorDeArchivo = 4,   ///< a file cannot be read or written
+    CifrasEquivocadas = 5 ///< of a revision alone: a run would end well, with wrong numbers
 };
 
 /// A place in a job: its key ("opciones.ChN"), its line in the job file, 0 when it has none, and the value
@@ -30,9 +31,6 @@ struct Lugar {
         return {clave, linea, std::move(valorTecleado)};
     }
 };
-
-/// The text with a blank for each line end and other control character.
-std::string EnUnaLinea(std::string texto);
 
 /// The text up to 120 characters: long enough for a function with its parameters, and for every message of
 /// the program.
@@ -50,13 +48,17 @@ class ErrorTrabajo : public std::runtime_error {
 public:
     ErrorTrabajo(const std::filesystem::path& trabajo, const Lugar& lugar, const std::string& motivo,
                  Estado estado = Estado::Rechazado, std::optional<int> fallo = std::nullopt)
-        : std::runtime_error{LineaDeAviso(trabajo, lugar, motivo)}, estado_{estado}, fallo_{fallo} {}
+        : std::runtime_error{LineaDeAviso(trabajo, lugar, motivo)}, motivo_{motivo}, estado_{estado},
+          fallo_{fallo} {}
 
+    /// What happened, without the job and the place in it.
+    [[nodiscard]] const std::string& motivo() const { return motivo_; }
     [[nodiscard]] Estado estado() const { return estado_; }
     /// The number of the run-time fault behind it, when there is one.
     [[nodiscard]] const std::optional<int>& fallo() const { return fallo_; }
 
 private:
+    std::string motivo_;
     Estado estado_;
     std::optional<int> fallo_;
 };
