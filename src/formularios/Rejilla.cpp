@@ -4,7 +4,6 @@
 #include "basico/Numeros.h"
 
 #include <algorithm>
-#include <cassert>
 #include <compare>
 #include <numeric>
 #include <utility>
@@ -143,22 +142,28 @@ void Rejilla::RemoveItem(int fila) {
     avisar();
 }
 
-void Rejilla::ordenarAscendente() {
-    assert(Rows() >= filasFijas && columna_ < Cols());
+std::vector<int> Rejilla::filasEnOrden(int columna) const {
+    const auto posicion = columnaComprobada(columna);
     std::vector<ClaveDeCelda> claves;
     claves.reserve(filas_.size());
     for (const auto& fila : filas_) {
-        claves.emplace_back(Celda(fila, static_cast<std::size_t>(columna_)));
+        claves.emplace_back(Celda(fila, posicion));
     }
-    std::vector<std::size_t> orden(filas_.size());
-    std::iota(orden.begin(), orden.end(), std::size_t{0});
-    std::stable_sort(orden.begin() + filasFijas, orden.end(),
-                     [&claves](std::size_t a, std::size_t b) { return claves[a] < claves[b]; });
+    std::vector<int> orden(filas_.size() - filasFijas);
+    std::iota(orden.begin(), orden.end(), filasFijas);
+    std::ranges::stable_sort(
+        orden, [](const ClaveDeCelda* a, const ClaveDeCelda* b) { return *a < *b; },
+        [&claves](int fila) { return &claves[static_cast<std::size_t>(fila)]; });
+    return orden;
+}
 
+void Rejilla::ordenarAscendente() {
+    const std::vector<int> orden = filasEnOrden(columna_);
     std::vector<CeldasDeFila> ordenadas;
     ordenadas.reserve(filas_.size());
-    for (const std::size_t fila : orden) {
-        ordenadas.push_back(std::move(filas_[fila]));
+    ordenadas.push_back(std::move(filas_.front()));
+    for (const int fila : orden) {
+        ordenadas.push_back(std::move(filas_[static_cast<std::size_t>(fila)]));
     }
     filas_ = std::move(ordenadas);
     avisar();

@@ -52,8 +52,10 @@ public:
     /// Removes a row; the header and the last remaining row refuse (30015).
     void RemoveItem(int fila);
 
-    /// The generic ascending sort of the rows on the current column. It is stable: empty cells first, then
-    /// numbers by value, then texts by code point.
+    /// The rows below the header in the ascending order of a column, those that are equal as they stand:
+    /// empty cells first, then numbers by value, then texts by code point.
+    [[nodiscard]] std::vector<int> filasEnOrden(int columna) const;
+    /// Puts the rows in that order of the current column.
     void ordenarAscendente();
 
 private:

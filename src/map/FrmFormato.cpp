@@ -5,6 +5,7 @@
 #include "basico/Numeros.h"
 #include "basico/Saltando.h"
 #include "basico/Texto.h"
+#include "data/CodigosDeLaRejilla.h"
 #include "data/FilasDeArboles.h"
 #include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
@@ -108,18 +109,9 @@ void FrmFormato::Form_Load() {
 
 void FrmFormato::ListaCodigos() {
     auto& sesion = programa_.sesion;
-    const auto& rejilla = programa_.tocar<Hojadedatos>().MSFlexGrid1;
-    const int columna = sesion.Columnas(sesion.UltimaColumna.valor()).valor();
-    sesion.NumCodigos = 0;
-    sesion.Codigos.clear();
-    // Meant: the first data row is compared with the header, so a code equal to it is not taken there.
-    for (int fila = 0; fila + 1 < rejilla.Rows(); ++fila) {
-        const std::string& siguiente = rejilla.TextMatrix(fila + 1, columna);
-        if (siguiente != rejilla.TextMatrix(fila, columna) && !siguiente.empty()) {
-            sesion.Codigos.push_back(siguiente);
-            ++sesion.NumCodigos;
-        }
-    }
+    sesion.Codigos = CodigosDeLaRejilla(programa_.tocar<Hojadedatos>().MSFlexGrid1,
+                                        sesion.Columnas(sesion.UltimaColumna.valor()).valor());
+    sesion.NumCodigos = static_cast<int>(sesion.Codigos.size());
 }
 
 void FrmFormato::FilasCodigos() {
@@ -275,10 +267,7 @@ void FrmFormato::dibujarYMedir() {
         // Meant: no step sets the colour, so it is that of the last tree.
         DibujarContorno(programa_.tocar<FrmMapa>().lienzo, sesion.Poligono.contorno());
     }
-    sesion.SupPoligono = Porque(
-        fallo::argumentoNoValido,
-        [] { return "no se puede hallar la superficie: los árboles del contorno están casi en una línea"; },
-        [&] { return AreaPoligono(sesion.Poligono.contorno(), sesion.NumPuntosPoligono.valor()); });
+    sesion.SupPoligono = SuperficieDelContorno(sesion.Poligono.contorno(), sesion.NumPuntosPoligono.valor());
 }
 
 void FrmFormato::CmdAceptar_Click() {

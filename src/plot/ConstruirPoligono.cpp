@@ -114,4 +114,11 @@ void ConstruirPoligono(Programa& programa) {
     OrdenarPor(rejilla, 1);
 }
 
+double SuperficieDelContorno(const ContornoXY& contorno, int n) {
+    return Porque(
+        fallo::argumentoNoValido,
+        [] { return "no se puede hallar la superficie: los árboles del contorno están casi en una línea"; },
+        [&] { return AreaPoligono(contorno, n); });
+}
+
 } // namespace varo

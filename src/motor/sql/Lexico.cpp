@@ -176,6 +176,16 @@ bool EsPalabraReservada(std::string_view palabra) {
                                [&](std::string_view reservada) { return MismoNombre(palabra, reservada); });
 }
 
+bool EsNombreSinCorchetes(std::string_view nombre) {
+    bool esPalabra = !nombre.empty() && !EsPalabraReservada(nombre);
+    for (auto resto = nombre; esPalabra && !resto.empty();) {
+        const bool esLaPrimera = resto.size() == nombre.size();
+        const char32_t c = SacarUtf8(resto);
+        esPalabra = EsLetra(c) || (!esLaPrimera && ((c >= U'0' && c <= U'9') || c == U'_'));
+    }
+    return esPalabra;
+}
+
 ErrorMotor SintaxisRota(std::string_view consulta, std::size_t byte, const std::string& motivo) {
     const auto lugar = std::min(byte, consulta.size());
     const auto resto = consulta.substr(lugar);

@@ -33,6 +33,9 @@ std::vector<Pieza> Trocear(std::string_view consulta);
 /// Without regard to case.
 bool EsPalabraReservada(std::string_view palabra);
 
+/// Whether a name can stand in a query without brackets.
+bool EsNombreSinCorchetes(std::string_view nombre);
+
 /// Fault 3075 that tells what is wrong, at which character and the text near it.
 ErrorMotor SintaxisRota(std::string_view consulta, std::size_t byte, const std::string& motivo);
 
