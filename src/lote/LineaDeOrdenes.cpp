@@ -13,7 +13,8 @@ const char* const pie =
 escriben. Para empezar uno:  varo-lote --plantilla parcela.xls > trabajo.toml
 
 Acaba con 0 si todo se ha hecho; 2 si un trabajo o una orden no es correcta; 3 si falla un cálculo; 4 si un
-archivo no se puede leer o escribir. Con varios trabajos cuenta el primero que falla.)";
+archivo no se puede leer o escribir. Con varios trabajos cuenta el primero que falla. Con --revisar, 3 es que el cálculo
+falla o puede fallar, y 5 que daría cifras equivocadas; cuenta lo más grave.)";
 
 /// The options as they are written.
 struct Escritas {
@@ -25,6 +26,8 @@ struct Escritas {
     std::optional<std::string> hilos;
     std::optional<std::string> tablas;
     std::optional<std::string> plantilla;
+    bool revisar = false;
+    bool tsv = false;
     bool ayuda = false;
     bool version = false;
 };
@@ -43,6 +46,8 @@ void Declarar(CLI::App& app, Escritas& escritas) {
     declarar("--hilos", escritas.hilos, "N", "Con cuántos hilos calcula cada uno (se reparten los núcleos)");
     declarar("--tablas", escritas.tablas, "F", "Enumera las tablas y los campos de una parcela");
     declarar("--plantilla", escritas.plantilla, "F", "Escribe un trabajo comentado para una parcela");
+    app.add_flag("--revisar", escritas.revisar, "Dice lo que parece mal en las parcelas, sin calcular nada");
+    app.add_flag("--tsv", escritas.tsv, "Con --revisar, una línea por aviso con tabuladores");
     app.add_flag("--version", escritas.version, "Dice la versión");
     app.add_flag("-h,--help", escritas.ayuda, "Muestra esta ayuda");
     app.footer(pie);
@@ -99,7 +104,7 @@ void ExigirNoVacio(const char* nombre, const std::optional<std::string>& valor) 
 void ExigirUnaSolaCosa(const Escritas& escritas) {
     const int preguntas = (escritas.tablas ? 1 : 0) + (escritas.plantilla ? 1 : 0);
     const bool deTrabajos = !escritas.trabajos.empty() || escritas.archivo || escritas.hoja ||
-                            escritas.salida || escritas.aLaVez || escritas.hilos;
+                            escritas.salida || escritas.aLaVez || escritas.hilos || escritas.revisar;
     if (preguntas > 1 || (preguntas == 1 && deTrabajos)) {
         throw ErrorDeOrden{"--tablas y --plantilla van solas, sin trabajos ni otras opciones"};
     }
@@ -108,12 +113,25 @@ void ExigirUnaSolaCosa(const Escritas& escritas) {
     }
 }
 
+/// A revision writes no file and computes nothing.
+void ExigirLoDeRevisar(const Escritas& escritas) {
+    if (escritas.tsv && !escritas.revisar) {
+        throw ErrorDeOrden{"--tsv va con --revisar"};
+    }
+    if (escritas.revisar && (escritas.salida || escritas.aLaVez || escritas.hilos)) {
+        throw ErrorDeOrden{"--revisar no calcula ni escribe nada: sobran --salida, --trabajos y --hilos"};
+    }
+}
+
 Ordenes Interpretar(const Escritas& escritas) {
     ExigirNoVacio("--archivo", escritas.archivo);
     ExigirNoVacio("--hoja", escritas.hoja);
     ExigirNoVacio("--salida", escritas.salida);
     ExigirUnaSolaCosa(escritas);
+    ExigirLoDeRevisar(escritas);
     Ordenes ordenes;
+    ordenes.revisar = escritas.revisar;
+    ordenes.tsv = escritas.tsv;
     ordenes.trabajos.assign(escritas.trabajos.begin(), escritas.trabajos.end());
     ordenes.cambios = {escritas.archivo, escritas.hoja, escritas.salida};
     ordenes.aLaVez = escritas.aLaVez ? LeerCuantos("--trabajos", *escritas.aLaVez) : 1;

@@ -22,6 +22,8 @@ struct Ordenes {
     Cambios cambios;
     int aLaVez = 1;           ///< jobs that run at once
     std::optional<int> hilos; ///< on which each of them computes; by default they share the cores
+    bool revisar = false;     ///< says what looks wrong with the plots, and computes nothing
+    bool tsv = false;         ///< says it to another program
     std::optional<std::filesystem::path> tablas;
     std::optional<std::filesystem::path> plantilla;
     /// The answer to --help or --version; nothing else is done then.

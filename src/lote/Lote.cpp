@@ -3,11 +3,13 @@
 #include "basico/AlSalir.h"
 #include "basico/Cuadrilla.h"
 #include "basico/ErrorEjecucion.h"
+#include "lote/FinalDeTrabajo.h"
 #include "lote/LineaDeAvance.h"
 #include "lote/LineaDeOrdenes.h"
 #include "lote/plantilla/Plantilla.h"
 #include "lote/plantilla/Tablas.h"
 #include "lote/recorrido/Recorrido.h"
+#include "lote/revision/RevisarTrabajos.h"
 #include "lote/trabajo/Salidas.h"
 
 #include <algorithm>
@@ -21,28 +23,7 @@ namespace varo {
 
 namespace {
 
-/// How one job ended, and what it has to say, line by line.
-struct Final {
-    Estado estado = Estado::Hecho;
-    std::string resumen;
-    std::vector<std::string> errores; ///< warnings, and at most one error behind them
-};
-
-using TrabajoLeido = std::variant<Trabajo, Final>;
-
-/// Runs a piece of a job; how it fails becomes part of its end.
-template <class Acto>
-void Terminar(Final& final, const std::filesystem::path& trabajo, Acto&& acto) {
-    try {
-        std::forward<Acto>(acto)();
-    } catch (const ErrorTrabajo& error) {
-        final.estado = error.estado();
-        final.errores.emplace_back(error.what());
-    } catch (const std::exception& error) {
-        final.estado = Estado::ErrorInterno;
-        final.errores.push_back(LineaDeAviso(trabajo, {}, std::string{"error interno: "} + error.what()));
-    }
-}
+using TrabajoLeido = std::variant<Trabajo, FinalDeTrabajo>;
 
 class Lote {
 public:
@@ -53,8 +34,8 @@ public:
     Estado correr() {
         leer();
         RechazarSalidasEnConflicto(correctos());
-        std::vector<std::promise<Final>> promesas(leidos_.size());
-        std::vector<std::future<Final>> finales;
+        std::vector<std::promise<FinalDeTrabajo>> promesas(leidos_.size());
+        std::vector<std::future<FinalDeTrabajo>> finales;
         finales.reserve(promesas.size());
         for (auto& promesa : promesas) {
             finales.push_back(promesa.get_future());
@@ -76,7 +57,7 @@ public:
 private:
     void leer() {
         for (const auto& ruta : ordenes_.trabajos) {
-            Final final;
+            FinalDeTrabajo final;
             Terminar(final, ruta, [&] { leidos_.emplace_back(LeerTrabajo(ruta, ordenes_.cambios)); });
             if (final.estado != Estado::Hecho) {
                 leidos_.emplace_back(std::move(final));
@@ -100,13 +81,13 @@ private:
                               : std::max<std::size_t>(1, Cuadrilla::losDeLaMaquina() / aLaVez);
     }
 
-    Final finalDe(std::size_t numero, Cuadrilla& cuadrilla) {
+    FinalDeTrabajo finalDe(std::size_t numero, Cuadrilla& cuadrilla) {
         const AlSalir contarlo{[&] { linea_.acabado(numero); }};
-        if (const auto* const final = std::get_if<Final>(&leidos_[numero])) {
+        if (const auto* const final = std::get_if<FinalDeTrabajo>(&leidos_[numero])) {
             return *final;
         }
         const auto& trabajo = std::get<Trabajo>(leidos_[numero]);
-        Final final;
+        FinalDeTrabajo final;
         Seguimiento seguimiento;
         seguimiento.aviso = [&](const std::string& aviso) { final.errores.push_back(aviso); };
         if (linea_.seVe()) {
@@ -123,10 +104,10 @@ private:
     }
 
     /// Tells the ends of the jobs in their order, each as soon as it is known.
-    Estado contar(std::vector<std::future<Final>>& finales) {
+    Estado contar(std::vector<std::future<FinalDeTrabajo>>& finales) {
         Estado estado = Estado::Hecho;
         for (auto& futuro : finales) {
-            const Final final = futuro.get();
+            const FinalDeTrabajo final = futuro.get();
             for (const auto& linea : final.errores) {
                 linea_.decir(linea);
             }
@@ -153,6 +134,8 @@ Estado Ejecutar(const Ordenes& ordenes, const Consola& consola, PintorDeMapas* p
         consola.salida << ListaDeTablas(*ordenes.tablas);
     } else if (ordenes.plantilla) {
         consola.salida << PlantillaDeTrabajo(*ordenes.plantilla);
+    } else if (ordenes.revisar) {
+        return RevisarTrabajos(ordenes, consola);
     } else {
         return Lote{ordenes, consola, pintor}.correr();
     }

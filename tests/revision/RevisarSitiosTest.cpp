@@ -305,6 +305,9 @@ TEST(RevisarAlineados, CasiLaMismaCoordenadaTambienFalla) {
               "lo lejos que están.");
     parcela.y.celdas[5] = 8.71 + 1E-4;
     EXPECT_FALSE(Tiene(Sospecha::CasiMismaY, parcela));
+    EXPECT_FALSE(Tiene(Sospecha::CasiMismaX, parcela));
+    parcela.x.celdas[5] = 10.57 + 1E-7;
+    EXPECT_EQ(De(Sospecha::CasiMismaX, parcela).at(0).gravedad, Gravedad::Fallo);
 }
 
 TEST(RevisarAlineados, JuntoAUnTroncoInmensoOtroNoPesaNada) {
