@@ -27,6 +27,8 @@ struct FilaPorRevisar {
 struct BarridoPorRevisar {
     std::string campo; ///< where its first value is typed: "TxtBAF1(0)"
     std::string desde = "0", hasta = "0", paso = "0";
+
+    bool operator==(const BarridoPorRevisar&) const = default;
 };
 
 enum class ReglaDeCompetidores { BAF, NumeroFijo, Distancia, Funcion };
@@ -35,11 +37,15 @@ enum class ReglaDeCompetidores { BAF, NumeroFijo, Distancia, Funcion };
 struct LadosPorRevisar {
     bool bilateral = true;
     bool unilateral = false;
+
+    bool operator==(const LadosPorRevisar&) const = default;
 };
 
 struct FamiliaISC {
     bool activa = false;
     LadosPorRevisar lados;
+
+    bool operator==(const FamiliaISC&) const = default;
 };
 
 struct FamiliaAOI {
@@ -47,6 +53,8 @@ struct FamiliaAOI {
     LadosPorRevisar lados;
     BarridoPorRevisar k;
     std::vector<std::string> funciones; ///< the lines of its list of radii
+
+    bool operator==(const FamiliaAOI&) const = default;
 };
 
 struct FamiliaIDP {
@@ -57,6 +65,8 @@ struct FamiliaIDP {
     ReglaDeCompetidores regla = ReglaDeCompetidores::BAF;
     BarridoPorRevisar parametro;      ///< not with functions
     std::vector<std::string> limites; ///< the lines of its list of limit functions
+
+    bool operator==(const FamiliaIDP&) const = default;
 };
 
 struct FamiliaDR {
@@ -67,11 +77,15 @@ struct FamiliaDR {
     ReglaDeCompetidores regla = ReglaDeCompetidores::BAF;
     BarridoPorRevisar parametro;
     std::vector<std::string> limites;
+
+    bool operator==(const FamiliaDR&) const = default;
 };
 
 struct FamiliaAPA {
     bool activa = false;
     BarridoPorRevisar k;
+
+    bool operator==(const FamiliaAPA&) const = default;
 };
 
 /// The families that look at no neighbour, by the figure of the whole sheet that they need.
@@ -84,6 +98,8 @@ struct IndependientesPorRevisar {
     bool dominantes = false;          ///< any ratio to the dominant trees
     bool sumas = false;               ///< any ratio to a sum
     bool areasProporcionales = false; ///< any area proportional to size, which needs the stems per hectare
+
+    bool operator==(const IndependientesPorRevisar&) const = default;
 };
 
 /// What a run is asked for, and how it is to read the sheet.
@@ -99,6 +115,8 @@ struct OpcionesPorRevisar {
     FamiliaIDP IDP;
     FamiliaDR DR;
     FamiliaAPA APA;
+
+    bool operator==(const OpcionesPorRevisar&) const = default;
 };
 
 /// A figure that the caller has worked out, or the fault that it ended in.

@@ -1,6 +1,7 @@
 #include "lote/revision/InformeDeRevision.h"
 
 #include "basico/Texto.h"
+#include "revision/CuentaDeHallazgos.h"
 
 #include <algorithm>
 #include <array>
@@ -19,24 +20,12 @@ using CeldasDeAviso = std::array<std::string, columnas>;
 
 const CeldasDeAviso cabecera{"GRAVEDAD", "FILA", "ÁRBOL", "COLUMNA", "TEXTO"};
 
-const char* NombreDe(Gravedad gravedad) {
-    switch (gravedad) {
-    case Gravedad::Fallo:
-        return "fallo";
-    case Gravedad::Numeros:
-        return "cifras";
-    case Gravedad::Mirar:
-        break;
-    }
-    return "mirar";
-}
-
 std::string NumeroDeFila(const Hallazgo& hallazgo) {
     return hallazgo.fila > 0 ? std::to_string(hallazgo.fila) : std::string{};
 }
 
 CeldasDeAviso CeldasDe(const Hallazgo& hallazgo) {
-    CeldasDeAviso celdas{NombreDe(hallazgo.gravedad), NumeroDeFila(hallazgo), hallazgo.arbol,
+    CeldasDeAviso celdas{PalabraDe(hallazgo.gravedad), NumeroDeFila(hallazgo), hallazgo.arbol,
                          hallazgo.columna, hallazgo.texto};
     for (std::string& celda : celdas) {
         celda = Acortado(EnUnaLinea(celda));
@@ -97,23 +86,6 @@ const char* const leyenda =
 
 } // namespace
 
-std::string CuentaDeHallazgos(std::span<const Hallazgo> hallazgos) {
-    if (hallazgos.empty()) {
-        return "sin avisos";
-    }
-    std::string texto = std::to_string(hallazgos.size()) + (hallazgos.size() == 1 ? " aviso" : " avisos");
-    const char* separador = ": ";
-    for (const auto& [gravedad, nombre] :
-         {std::pair{Gravedad::Fallo, " de fallo"}, std::pair{Gravedad::Numeros, " de cifras equivocadas"},
-          std::pair{Gravedad::Mirar, " por mirar"}}) {
-        if (const auto cuantos = std::ranges::count(hallazgos, gravedad, &Hallazgo::gravedad); cuantos > 0) {
-            texto += separador + std::to_string(cuantos) + nombre;
-            separador = ", ";
-        }
-    }
-    return texto;
-}
-
 std::string TablaDeHallazgos(const std::filesystem::path& trabajo, std::span<const Hallazgo> hallazgos) {
     std::string tabla = LineaDeAviso(trabajo, {}, CuentaDeHallazgos(hallazgos)) + "\n";
     if (hallazgos.empty()) {
@@ -149,7 +121,7 @@ std::string LineasDeHallazgos(const std::filesystem::path& trabajo, std::span<co
     for (const Hallazgo& hallazgo : hallazgos) {
         lineas += EnUnaLinea(trabajo.string());
         for (const std::string& campo :
-             {std::string{NombreDe(hallazgo.gravedad)}, NumeroDeFila(hallazgo), hallazgo.arbol,
+             {std::string{PalabraDe(hallazgo.gravedad)}, NumeroDeFila(hallazgo), hallazgo.arbol,
               hallazgo.columna, hallazgo.texto, hallazgo.que, hallazgo.efecto, hallazgo.remedio}) {
             lineas += "\t" + EnUnaLinea(campo);
         }

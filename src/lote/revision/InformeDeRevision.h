@@ -12,9 +12,6 @@
 
 namespace varo {
 
-/// "6 avisos: 1 de fallo, 2 de cifras equivocadas, 3 por mirar"; "sin avisos" for none.
-std::string CuentaDeHallazgos(std::span<const Hallazgo> hallazgos);
-
 /// The count in a first line, then the findings: the places of those that say the same, and their three
 /// sentences.
 std::string TablaDeHallazgos(const std::filesystem::path& trabajo, std::span<const Hallazgo> hallazgos);

@@ -24,12 +24,6 @@ Hallazgo UnHallazgo(Gravedad gravedad, int fila) {
 const std::vector<Hallazgo> tres{UnHallazgo(Gravedad::Fallo, 12), UnHallazgo(Gravedad::Numeros, 7),
                                  UnHallazgo(Gravedad::Mirar, 0)};
 
-TEST(InformeDeRevision, LaCuentaDiceCuantosDeCadaGravedad) {
-    EXPECT_EQ(CuentaDeHallazgos({}), "sin avisos");
-    EXPECT_EQ(CuentaDeHallazgos(tres), "3 avisos: 1 de fallo, 1 de cifras equivocadas, 1 por mirar");
-    EXPECT_EQ(CuentaDeHallazgos(std::span{tres}.last(1)), "1 aviso: 1 por mirar");
-}
-
 TEST(InformeDeRevision, LaTablaPoneCadaCosaBajoSuCabecera) {
     EXPECT_EQ(TablaDeHallazgos("t.toml", {}), "t.toml: sin avisos\n");
     const std::string tabla = TablaDeHallazgos("t.toml", tres);
