@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace varo::prueba {
 
 class LaHojaQueSeRevisa : public testing::Test, protected Jornada {
@@ -41,6 +45,33 @@ TEST_F(LaHojaQueSeRevisa, ElDibujoDelMapaNoLaCambia) {
     const HojaPorRevisar antes = hoja();
     usuario.clic(dialogo().CmdDibujar);
     EXPECT_EQ(hoja(), antes);
+}
+
+TEST(LosAvisosDeLaHoja, SonLosMismosAntesYDespuesDelMapa) {
+    Jornada jornada;
+    Filas filas = CuadradoConCentro();
+    filas.emplace_back(filas[0].size());
+    filas.back()[0] = std::string{"Total"};
+    filas.back()[8] = 330.0;
+    filas[2][1] =
+        0.5; // with two trees of the least x, the walk of the boundary begins at the first one in the grid
+    filas[4][1] = 10.3;
+    std::swap(filas[1], filas[3]);
+    jornada.abrirParcela(filas);
+    jornada.dibujarCuadrado();
+    const auto dichos = [&] {
+        std::vector<std::string> frases;
+        for (const Hallazgo& hallazgo : AvisosDeLaHoja(jornada.programa, {})) {
+            frases.push_back(std::to_string(hallazgo.fila) + hallazgo.que);
+        }
+        return frases;
+    };
+    const auto despues = dichos();
+    jornada.usuario.clic(jornada.marco().mnuCerrar);
+    jornada.abrirParcela(filas);
+    jornada.pedirColumnas(); // the roles are still those of before
+    EXPECT_FALSE(despues.empty());
+    EXPECT_EQ(dichos(), despues);
 }
 
 TEST_F(LaHojaQueSeRevisa, OtraColumnaLaCambia) {
