@@ -279,6 +279,11 @@ void Escritorio::alTerminarActo() {
     darFoco();
 }
 
+void Escritorio::alzar(Formulario& modelo) {
+    const QScopedValueRollback desdeElModelo{desdeElModelo_, true};
+    vistas_.de(modelo).ventana->raise();
+}
+
 void Escritorio::darActivacion() {
     Formulario* const activa = programa_.activa();
     if (activa == nullptr) {
@@ -412,6 +417,8 @@ void Escritorio::medir(Formulario& modelo) {
 bool Escritorio::eventFilter(QObject* objeto, QEvent* suceso) {
     switch (suceso->type()) {
     case QEvent::MouseButtonPress:
+        alzarLaActiva(objeto);
+        [[fallthrough]];
     case QEvent::KeyPress:
         pedida_ = nullptr; // from now on the person decides which window is active
         break;
@@ -435,6 +442,15 @@ bool Escritorio::eventFilter(QObject* objeto, QEvent* suceso) {
         break;
     }
     return QObject::eventFilter(objeto, suceso);
+}
+
+/// Qt raises a child that becomes active, and one that is active already only here.
+void Escritorio::alzarLaActiva(const QObject* pulsado) const {
+    QMdiSubWindow* const activa = zona_->activeSubWindow();
+    const auto* const widget = qobject_cast<const QWidget*>(pulsado);
+    if (activa != nullptr && widget != nullptr && (widget == activa || activa->isAncestorOf(widget))) {
+        activa->raise();
+    }
 }
 
 /// A click on the frame activates the child that was active last in it; null once the frame is closed.

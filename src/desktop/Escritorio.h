@@ -34,6 +34,9 @@ public:
     /// The widget of a control, null when it has none.
     [[nodiscard]] QWidget* widgetDe(const Control& control) const { return vistas_.widgetDe(control); }
 
+    /// Puts the real window of a loaded model above its sisters. No window becomes active by it.
+    void alzar(Formulario& modelo);
+
     /// Told when the program is over. Ends the event loop, with status 1 after a fatal fault.
     std::function<void()> alTerminar = [this] {
         QCoreApplication::exit(programa_.conFalloFatal() ? EXIT_FAILURE : EXIT_SUCCESS);
@@ -59,6 +62,7 @@ private:
     void aplicarMedidas(const Formulario& modelo, Vista& vista);
     void separarHijas();
 
+    void alzarLaActiva(const QObject* pulsado) const;
     void alEnfocarse(const QWidget* widget);
     void alActivarse(const QObject* ventana);
     bool alPedirCierre(const QObject* ventana);

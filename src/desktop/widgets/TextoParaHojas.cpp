@@ -2,8 +2,6 @@
 
 #include "basico/Texto.h"
 
-#include <vector>
-
 namespace varo {
 
 namespace {
@@ -18,17 +16,27 @@ std::string Celda(const std::string& texto) {
 std::string Columnas(const Rejilla& rejilla, const std::vector<int>& columnas) {
     std::string texto;
     for (int fila = 0; fila < rejilla.Rows(); ++fila) {
-        const char* separador = "";
+        std::vector<std::string> celdas;
+        celdas.reserve(columnas.size());
         for (const int columna : columnas) {
-            texto += separador + Celda(rejilla.TextMatrix(fila, columna));
-            separador = "\t";
+            celdas.push_back(rejilla.TextMatrix(fila, columna));
         }
-        texto += '\n';
+        texto += LineaParaHojas(celdas) + '\n';
     }
     return texto;
 }
 
 } // namespace
+
+std::string LineaParaHojas(const std::vector<std::string>& celdas) {
+    std::string linea;
+    const char* separador = "";
+    for (const std::string& celda : celdas) {
+        linea += separador + Celda(celda);
+        separador = "\t";
+    }
+    return linea;
+}
 
 std::string ColumnaParaHojas(const Rejilla& rejilla, int columna) {
     return Columnas(rejilla, {columna});

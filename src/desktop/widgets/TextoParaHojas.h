@@ -4,8 +4,12 @@
 #include "formularios/Rejilla.h"
 
 #include <string>
+#include <vector>
 
 namespace varo {
+
+/// Cells of one line, with tabs between them and without an end of the line.
+std::string LineaParaHojas(const std::vector<std::string>& celdas);
 
 /// One column of the grid, its header first, a line for each row.
 std::string ColumnaParaHojas(const Rejilla& rejilla, int columna);

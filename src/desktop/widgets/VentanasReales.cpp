@@ -8,6 +8,10 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
+#include <limits>
+
 namespace varo {
 
 namespace {
@@ -28,6 +32,27 @@ public:
 QSize SitioEnPantalla(const QWidget& ventana) {
     constexpr QSize marcos{40, 80};
     return ventana.screen()->availableGeometry().size() - marcos;
+}
+
+QPoint LugarAlLado(QSize tamano, const QRect& marco, const QRect& aLaVista, const QRect& pantalla) {
+    constexpr QSize borde{12, 40}; // of the window, which is not known before it shows
+    const QSize conBorde = tamano + borde;
+    const int derecha = pantalla.right() + 1 - conBorde.width();
+    const int abajo = pantalla.bottom() + 1 - conBorde.height();
+    const int aLaAltura = std::clamp(aLaVista.top(), pantalla.top(), std::max(pantalla.top(), abajo));
+    const std::array lugares{QPoint{marco.right() + 1, aLaAltura},
+                             QPoint{marco.left() - conBorde.width(), aLaAltura},
+                             QPoint{derecha, abajo},
+                             QPoint{pantalla.left(), abajo},
+                             QPoint{derecha, pantalla.top()},
+                             QPoint{pantalla.left(), pantalla.top()}};
+    const auto tapado = [&](const QPoint& lugar) {
+        const QRect suyo{lugar, conBorde};
+        const QSize comun = suyo.intersected(aLaVista).size();
+        return pantalla.contains(suyo) ? comun.width() * comun.height() : std::numeric_limits<int>::max();
+    };
+    const auto mejor = std::ranges::min_element(lugares, {}, tapado);
+    return tapado(*mejor) == std::numeric_limits<int>::max() ? pantalla.topLeft() : *mejor;
 }
 
 namespace {

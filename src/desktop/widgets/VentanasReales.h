@@ -1,6 +1,8 @@
 // Real windows around a content: a child of the main window, or a free window over it.
 #pragma once
 
+#include <QPoint>
+#include <QRect>
 #include <QSize>
 
 class QMdiArea;
@@ -11,6 +13,10 @@ namespace varo {
 
 /// The largest size of a window on its screen: the rest is for the frame and the panels of the system.
 QSize SitioEnPantalla(const QWidget& ventana);
+
+/// Where a window of that size covers least of what it stands beside: beside the frame, or else in a corner
+/// of the screen.
+QPoint LugarAlLado(QSize tamano, const QRect& marco, const QRect& aLaVista, const QRect& pantalla);
 
 /// A hidden child. Its buttons to minimise and maximise it are there on demand.
 QMdiSubWindow* CrearHija(QMdiArea& zona, QWidget& contenido, bool sePuedeAgrandar);

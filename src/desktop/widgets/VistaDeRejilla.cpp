@@ -9,9 +9,13 @@
 #include <QFontMetricsF>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QScopedValueRollback>
 #include <QStatusTipEvent>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace varo {
 
@@ -34,6 +38,35 @@ public:
     }
 };
 
+/// A cell that is pointed out is seen in the chosen column too.
+class DelegadoDeRejilla : public QStyledItemDelegate {
+public:
+    DelegadoDeRejilla(const ModeloDeRejilla& modelo, QObject* padre)
+        : QStyledItemDelegate{padre}, modelo_{modelo} {}
+
+    void paint(QPainter* pintor, const QStyleOptionViewItem& opcion,
+               const QModelIndex& celda) const override {
+        QStyledItemDelegate::paint(pintor, opcion, celda);
+        if (modelo_.esLaSenalada(celda)) {
+            pintor->save();
+            pintor->setPen(opcion.palette.color(QPalette::Text));
+            pintor->drawRect(opcion.rect.adjusted(0, 0, -1, -1));
+            pintor->restore();
+        }
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* opcion, const QModelIndex& celda) const override {
+        QStyledItemDelegate::initStyleOption(opcion, celda);
+        if (modelo_.esLaSenalada(celda)) {
+            opcion->state.setFlag(QStyle::State_Selected, false);
+        }
+    }
+
+private:
+    const ModeloDeRejilla& modelo_;
+};
+
 } // namespace
 
 VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
@@ -50,6 +83,7 @@ VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     setModel(modelo_);
+    setItemDelegate(new DelegadoDeRejilla{*modelo_, this});
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectColumns);
     setSelectionMode(SingleSelection);
@@ -72,9 +106,13 @@ VistaDeRejilla::VistaDeRejilla(const Rejilla& rejilla)
 
 void VistaDeRejilla::mostrar() {
     if (!rejilla_.Visible()) {
+        quitarSenal();
         anchos_.clear();
         aMano_.clear();
         return; // a grid is hidden while it is filled
+    }
+    if (apoyoDeLaSenal() != apoyo_) {
+        quitarSenal();
     }
     modelo_->ponerAlDia();
     medirSiHaCambiado();
@@ -91,6 +129,30 @@ void VistaDeRejilla::mostrarSeleccion() {
         (currentIndex().column() != columna || !selectionModel()->isColumnSelected(columna))) {
         selectColumn(columna);
     }
+}
+
+void VistaDeRejilla::senalar(const LugarSenalado& lugar) {
+    const bool conFila = lugar.fila && *lugar.fila >= 1 && *lugar.fila < rejilla_.Rows();
+    const bool conColumna = lugar.columna && *lugar.columna >= 0 && *lugar.columna < rejilla_.Cols();
+    if (model() == nullptr || !rejilla_.Visible() || !(conFila || conColumna)) {
+        quitarSenal();
+        return;
+    }
+    modelo_->senalar(lugar);
+    apoyo_ = apoyoDeLaSenal();
+    const bool seVe = conColumna && !isColumnHidden(*lugar.columna);
+    const int fila = conFila ? *lugar.fila - 1 : std::max(0, rowAt(0));
+    scrollTo(modelo_->index(fila, seVe ? *lugar.columna : std::max(0, columnAt(0))));
+}
+
+void VistaDeRejilla::quitarSenal() {
+    modelo_->senalar({});
+}
+
+VistaDeRejilla::Apoyo VistaDeRejilla::apoyoDeLaSenal() const {
+    const auto& fila = modelo_->senalado().fila;
+    return {rejilla_.Rows(), rejilla_.Cols(), rejilla_.ColSel(),
+            fila && *fila < rejilla_.Rows() ? rejilla_.TextMatrix(*fila, 0) : std::string{}};
 }
 
 QItemSelectionModel::SelectionFlags VistaDeRejilla::selectionCommand(const QModelIndex& celda,
@@ -138,7 +200,10 @@ void VistaDeRejilla::seguirLosAnchosAMano() {
                     aMano_[columna] = ancho;
                 }
             });
-    connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this] { todoElegido_ = false; });
+    connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this] {
+        todoElegido_ = false;
+        quitarSenal();
+    });
     connect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this, [this](int columna) {
         aMano_.erase(columna);
         mostrarAnchos();
@@ -181,6 +246,7 @@ void VistaDeRejilla::keyPressEvent(QKeyEvent* suceso) {
 
 void VistaDeRejilla::mousePressEvent(QMouseEvent* suceso) {
     todoElegido_ = false;
+    quitarSenal();
     QTableView::mousePressEvent(suceso);
 }
 

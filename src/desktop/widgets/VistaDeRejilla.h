@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <string>
 #include <vector>
 
 namespace varo {
@@ -24,6 +25,11 @@ public:
     /// Brings the cells, the widths and the selected column up to date.
     void mostrar();
 
+    /// Scrolls to a place and points it out, until the grid changes or a person chooses a column. The chosen
+    /// column stays, and so does the current cell.
+    void senalar(const LugarSenalado& lugar);
+    void quitarSenal();
+
 protected:
     /// Whatever a person presses, one column is selected.
     [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& celda,
@@ -33,6 +39,13 @@ protected:
     void focusOutEvent(QFocusEvent* suceso) override;
 
 private:
+    /// What has to stay as it is for a place to stay pointed out.
+    struct Apoyo {
+        int filas = 0, columnas = 0, elegida = 0;
+        std::string registro; ///< in column 0 of the row
+        bool operator==(const Apoyo&) const = default;
+    };
+    [[nodiscard]] Apoyo apoyoDeLaSenal() const;
     void copiar();
     void decir(const QString& texto);
     void seguirLosAnchosAMano();
@@ -46,6 +59,7 @@ private:
     std::vector<int> anchos_; ///< of the columns with the texts that they hold, in pixels
     int filasMedidas_ = 0;
     std::map<int, int> aMano_;   ///< the widths that a person gave, in pixels
+    Apoyo apoyo_;                ///< of the place that is pointed out
     bool ponemosAnchos_ = false; ///< the widths that change now are ours
     bool todoElegido_ = false;   ///< Ctrl+A was the last key
 };
