@@ -170,7 +170,7 @@ void Puesto::clicColumna(int columna) const {
     Clic(*tabla.viewport(), tabla.visualRect(celda).center());
 }
 
-void Puesto::elegirColumnas() const {
+void Puesto::darPapeles() const {
     const auto elegir = [this](int columna, const std::string& boton) {
         clicColumna(columna);
         clic("SelCol4R", boton);
@@ -181,6 +181,10 @@ void Puesto::elegirColumnas() const {
     elegir(1, "Command1(6)");
     elegir(8, "Command1(7)");
     elegir(9, "CmdDAP");
+}
+
+void Puesto::elegirColumnas() const {
+    darPapeles();
     clic("SelCol4R", "CmdDibujar");
 }
 

@@ -89,6 +89,8 @@ struct Puesto {
     [[nodiscard]] QTableView& rejilla() const { return widget<QTableView>("Hojadedatos", "MSFlexGrid1"); }
     /// Clicks on a cell of a column of the grid.
     void clicColumna(int columna) const;
+    /// Gives the columns their roles in the dialog for four radii.
+    void darPapeles() const;
     /// Goes from the column dialog for four radii to the format of the map.
     void elegirColumnas() const;
     /// Goes from the start of a session to that stage.

@@ -22,6 +22,12 @@ Ayuda::Ayuda(QMainWindow& marco) : marco_{marco} {
     manual->setObjectName(QStringLiteral("AyudaManual"));
     manual->setShortcut(QKeySequence{Qt::Key_F1});
     manual->setShortcutContext(Qt::ApplicationShortcut);
+    QAction* const avisos = menu->addAction(QStringLiteral("A&visos de la hoja"), this, [this] {
+        if (alPedirAvisos) {
+            alPedirAvisos();
+        }
+    });
+    avisos->setObjectName(QStringLiteral("AyudaAvisos"));
     QAction* const acerca =
         menu->addAction(QStringLiteral("&Acerca de VARO"), this, [this] { mostrarAcercaDe(); });
     acerca->setObjectName(QStringLiteral("AyudaAcercaDe"));

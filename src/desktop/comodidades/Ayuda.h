@@ -1,9 +1,11 @@
-// The menu Ayuda: the manual and what program this is.
+// The menu Ayuda: the manual, the findings about the sheet and what program this is.
 #pragma once
 
 #include <QMainWindow>
 #include <QObject>
 #include <QPointer>
+
+#include <functional>
 
 class QDialog;
 
@@ -13,6 +15,9 @@ class Ayuda : public QObject {
 public:
     /// Puts the menu at the end of the bar of the window.
     explicit Ayuda(QMainWindow& marco);
+
+    /// Told when a person asks for the findings.
+    std::function<void()> alPedirAvisos;
 
     /// The manual has a window of its own beside the others, which may stay open.
     void mostrarManual();

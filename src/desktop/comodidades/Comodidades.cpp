@@ -6,6 +6,7 @@
 #include "desktop/Intentar.h"
 #include "desktop/ServiciosQt.h"
 #include "desktop/Texto.h"
+#include "desktop/comodidades/AvisosEnPantalla.h"
 #include "desktop/comodidades/Ayuda.h"
 #include "desktop/comodidades/BarraDeEstado.h"
 #include "desktop/comodidades/MenuDeRecientes.h"
@@ -44,7 +45,11 @@ Comodidades::Comodidades(Escritorio& escritorio, ServiciosQt& servicios, Recient
       barra_{std::make_unique<BarraDeEstado>(*escritorio.marco().statusBar())},
       menuDeRecientes_{std::make_unique<MenuDeRecientes>(
           *AccionDe(escritorio.marco(), programa_.tocar<VAROMAIN>().mnuArchivo).menu(), recientes)},
-      ayuda_{std::make_unique<Ayuda>(escritorio.marco())} {
+      ayuda_{std::make_unique<Ayuda>(escritorio.marco())}, avisos_{std::make_unique<AvisosEnPantalla>(
+                                                               escritorio, [this](const QString& texto) {
+                                                                   barra_->decir(texto);
+                                                               })} {
+    ayuda_->alPedirAvisos = [this] { avisos_->mostrarVentana(); };
     menuDeRecientes_->alElegir = [this](const QString& archivo) { abrir(archivo); };
     escritorio_.marco().setAcceptDrops(true);
     escritorio_.marco().installEventFilter(this);
@@ -114,6 +119,7 @@ void Comodidades::alTerminarActo() {
     }
     barra_->mostrar(programa_);
     menuDeRecientes_->mostrar(programa_.tocar<VAROMAIN>().mnuAbrir.Enabled());
+    avisos_->seguir();
 }
 
 /// A folder that cannot be listed any more leaves the window where it is.

@@ -1,5 +1,5 @@
 // What stands on the desktop beside the windows of the program: files by other ways, recent files, status
-// bar.
+// bar, findings about the sheet.
 #pragma once
 
 #include <QList>
@@ -14,6 +14,7 @@ class QUrl;
 
 namespace varo {
 
+class AvisosEnPantalla;
 class Ayuda;
 class BarraDeEstado;
 class Escritorio;
@@ -53,6 +54,7 @@ private:
     std::unique_ptr<BarraDeEstado> barra_;
     std::unique_ptr<MenuDeRecientes> menuDeRecientes_;
     std::unique_ptr<Ayuda> ayuda_;
+    std::unique_ptr<AvisosEnPantalla> avisos_;
     std::string abierto_;             ///< the plot file that was open at the end of the last act
     std::string carpetaDeResultados_; ///< of the last results file of this session
     std::function<void(Formulario&)> alCargarAntes_;
