@@ -49,7 +49,9 @@ public:
             }
             for (const std::size_t i : lectura_.arboles()) {
                 if (medida.vacia(i)) {
-                    anotarCopaVacia(i, medida);
+                    if (!sinCopa(i) || &medida == &lectura_.copa().front()) {
+                        anotarCopaVacia(i, medida);
+                    }
                 } else if (medida.esNumero(i) && medida.numero(i) < 0) {
                     anotarCopaNegativa(i, medida);
                 }
@@ -58,6 +60,11 @@ public:
     }
 
 private:
+    /// Whether the tree has no crown at all, which is one finding.
+    [[nodiscard]] bool sinCopa(std::size_t i) const {
+        return std::ranges::all_of(lectura_.copa(), [&](const auto& medida) { return medida.vacia(i); });
+    }
+
     [[nodiscard]] const OpcionesPorRevisar& opciones() const { return lectura_.opciones(); }
 
     [[nodiscard]] bool todasVacias(const ColumnaRevisada& columna) const {
@@ -138,12 +145,17 @@ private:
     void anotarCopaVacia(std::size_t i, const ColumnaRevisada& medida) {
         const bool vertice = lectura_.puedeSerVertice(i);
         const bool enISC = opciones().ISC.activa && lectura_.conTamano(i);
-        const Gravedad gravedad = vertice || enISC            ? Gravedad::Fallo
-                                  : opciones().datosDeParcela ? Gravedad::Numeros
-                                                              : Gravedad::Mirar;
+        // Ellipses of trees without a size are passed over.
+        const bool enLosDatos =
+            opciones().datosDeParcela && (opciones().copasCirculares || lectura_.conTamano(i));
+        const Gravedad gravedad = vertice || enISC ? Gravedad::Fallo
+                                  : enLosDatos     ? Gravedad::Numeros
+                                                   : Gravedad::Mirar;
         anotar(gravedad, Sospecha::CopaVacia, i, medida, [&](Hallazgo& hallazgo) {
             hallazgo.que =
-                "Falta una medida de la copa del árbol: la celda está vacía o tiene un error, como #N/A.";
+                sinCopa(i) ? "Falta la copa del árbol: sus celdas están vacías o tienen un error, como #N/A."
+                           : "Falta una medida de la copa del árbol: la celda está vacía o tiene un error, "
+                             "como #N/A.";
             if (vertice) {
                 hallazgo.efecto =
                     "El árbol está, o puede estar, en el contorno de la parcela, que necesita su "
@@ -151,7 +163,7 @@ private:
             } else if (enISC) {
                 hallazgo.efecto = "ISC termina en un fallo.";
             } else {
-                hallazgo.efecto = opciones().datosDeParcela
+                hallazgo.efecto = enLosDatos
                                       ? "En los datos de parcela se toma por ella la copa de otro árbol."
                                       : "El mapa la dibuja como 0.";
             }

@@ -147,18 +147,37 @@ private:
                (lectura_.codigo().existe() && PareceSuma(lectura_.codigo().texto(i)));
     }
 
+    /// The last tree, when its size is that of all the others together.
+    [[nodiscard]] bool sumaTamanos(std::size_t i) const {
+        constexpr std::size_t bastantes = 5;
+        constexpr double casiNada = 1E-9;
+        const auto& tamano = lectura_.tamano();
+        const auto& arboles = lectura_.arboles();
+        if (!tamano.existe() || arboles.size() <= bastantes || i != arboles.back()) {
+            return false;
+        }
+        double suma = 0;
+        for (const std::size_t otro : arboles) {
+            suma += otro == i ? 0 : tamano.numero(otro);
+        }
+        return suma > 0 && std::abs(tamano.numero(i) - suma) <= casiNada * suma;
+    }
+
     /// A tree, by its coordinates, that its number calls a sum.
     [[nodiscard]] bool esSuma(std::size_t i) const {
-        return lectura_.numero().clase(i) == ClaseDeCelda::SinNumero &&
-               PareceSuma(lectura_.numero().texto(i));
+        return sumaTamanos(i) || (lectura_.numero().clase(i) == ClaseDeCelda::SinNumero &&
+                                  PareceSuma(lectura_.numero().texto(i)));
     }
 
     void anotarArbolQueSuma(std::size_t i) {
         cuaderno_.anotarFila(Gravedad::Numeros, Sospecha::FilaDeSuma, 0, fila(i), [&] {
             Hallazgo hallazgo =
                 lectura_.enCelda(Gravedad::Numeros, Sospecha::FilaDeSuma, i, lectura_.numero());
-            hallazgo.que = "La fila se llama " + Cita(lectura_.numero().texto(i)) +
-                           " y parece una suma o una media de las demás, y no un árbol.";
+            hallazgo.que = sumaTamanos(i)
+                               ? "El tamaño de la última fila es la suma de los demás: parece un total, y "
+                                 "no un árbol."
+                               : "La fila se llama " + Cita(lectura_.numero().texto(i)) +
+                                     " y parece una suma o una media de las demás, y no un árbol.";
             hallazgo.efecto = "Se dibuja y cuenta como un árbol más en todo lo que se calcule.";
             hallazgo.remedio = "Borre la fila de la hoja, o llévela a otra hoja.";
             return hallazgo;

@@ -140,6 +140,20 @@ TEST(RevisarFilas, UnArbolLlamadoTotalNoEsUnArbol) {
     }
 }
 
+TEST(RevisarFilas, LaUltimaFilaQueSumaLasDemasNoEsUnArbol) {
+    auto parcela = ParcelaSana();
+    double suma = 0;
+    for (std::size_t i = 0; i < 11; ++i) {
+        suma += std::get<double>(parcela.tamano->celdas[i]);
+    }
+    parcela.tamano->celdas[11] = suma;
+    const auto hallazgos = De(Sospecha::FilaDeSuma, parcela);
+    ASSERT_EQ(hallazgos.size(), 1U);
+    EXPECT_EQ(hallazgos[0].fila, 13);
+    parcela.tamano->celdas[11] = suma + 0.1;
+    EXPECT_FALSE(Tiene(Sospecha::FilaDeSuma, parcela));
+}
+
 TEST(RevisarFilas, UnaCabeceraRepetidaEsUnSoloHallazgo) {
     auto parcela = ParcelaSana();
     for (auto* const columna : {&parcela.x, &parcela.y, &*parcela.tamano, &*parcela.codigo}) {

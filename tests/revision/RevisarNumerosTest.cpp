@@ -258,6 +258,22 @@ TEST(RevisarFaltas, UnaCopaVaciaFallaEnElContornoYEnISC) {
     EXPECT_EQ(De(Sospecha::CopaVacia, parcela).at(0).gravedad, Gravedad::Fallo);
 }
 
+TEST(RevisarFaltas, UnToconSinCopaNiTamanoSeDiceUnaVez) {
+    auto parcela = ParcelaSana();
+    parcela.opciones.datosDeParcela = true;
+    for (auto& medida : parcela.copa) {
+        medida.celdas[5] = Nulo{};
+    }
+    auto hallazgos = De(Sospecha::CopaVacia, parcela);
+    ASSERT_EQ(hallazgos.size(), 1U);
+    EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Numeros);
+    EXPECT_EQ(hallazgos[0].columna, "RN");
+    parcela.tamano->celdas[5] = Nulo{};
+    EXPECT_EQ(De(Sospecha::CopaVacia, parcela).at(0).gravedad, Gravedad::Mirar) << "sin elipse";
+    parcela.opciones.copasCirculares = true;
+    EXPECT_EQ(De(Sospecha::CopaVacia, parcela).at(0).gravedad, Gravedad::Numeros);
+}
+
 TEST(RevisarFaltas, UnaCopaNegativaSeDice) {
     auto parcela = ParcelaSana();
     parcela.copa[1].celdas[5] = -20.0;
