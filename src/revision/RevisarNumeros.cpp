@@ -94,7 +94,9 @@ std::string RemedioDe(Sospecha sospecha, ClaseDeColumna clase) {
         return clase == ClaseDeColumna::Tamano ? "Escriba el número, o borre el contenido de la celda."
                                                : "Escriba el número.";
     case Sospecha::TextoConUnidad:
-        return "Deje en la celda solo el número; la unidad se elige en las opciones.";
+        return clase == ClaseDeColumna::Coordenada
+                   ? "Deje en la celda solo el número, en metros."
+                   : "Deje en la celda solo el número; la unidad se elige en las opciones.";
     case Sospecha::TextoConPunto:
         return "Escriba el número con coma, como número y no como texto.";
     case Sospecha::TextoConGrupos:

@@ -59,6 +59,10 @@ TEST(RevisarNumeros, LaUnidadEnLaCeldaTerminaEnFallo) {
     ASSERT_EQ(hallazgos.size(), 1U);
     EXPECT_EQ(hallazgos[0].gravedad, Gravedad::Fallo);
     EXPECT_EQ(hallazgos[0].efecto, "Terminan en un fallo: DR.");
+    EXPECT_EQ(hallazgos[0].remedio, "Deje en la celda solo el número; la unidad se elige en las opciones.");
+    parcela.x.celdas[5] = std::string{"11,03 m"};
+    EXPECT_EQ(De(Sospecha::TextoConUnidad, parcela).at(0).remedio,
+              "Deje en la celda solo el número, en metros.");
 }
 
 TEST(RevisarNumeros, UnaPalabraEnElTamanoDeUnVerticeTerminaEnFallo) {
