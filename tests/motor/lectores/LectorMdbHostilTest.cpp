@@ -115,7 +115,7 @@ TEST(LectorMdbHostil, UnaBaseMutadaDaTablasEnterasODiceLoQueTiene) {
     // All of it happens: the mutations neither miss the file nor wreck it all.
     EXPECT_GT(enteras, 500U);
     EXPECT_GT(conDefecto, 50U);
-    EXPECT_GT(sinNada, 10U);
+    EXPECT_GT(sinNada, 2U);
 }
 
 TEST(LectorMdbHostil, UnaBaseConOtraCosaDetrasDeSuCabeceraEstaDanada) {
