@@ -13,8 +13,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tam
                 std::abort();
             }
             for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
-                const auto celdas = tabla.filas[fila].celdas();
-                if (!celdas.empty() && celdas.back().columna >= tabla.Fields.Count()) {
+                const auto celdas = tabla.filas[fila];
+                if (celdas.celdas() > 0 && celdas.ultima().columna >= tabla.Fields.Count()) {
                     std::abort();
                 }
             }

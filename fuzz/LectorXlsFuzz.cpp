@@ -10,8 +10,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tam
     try {
         for (const auto& tabla : varo::LeerXls(std::as_bytes(std::span{datos, tamano}), "fuzz.xls")) {
             for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
-                const auto celdas = tabla.filas[fila].celdas();
-                if (!celdas.empty() && celdas.back().columna >= tabla.Fields.Count()) {
+                const auto celdas = tabla.filas[fila];
+                if (celdas.celdas() > 0 && celdas.ultima().columna >= tabla.Fields.Count()) {
                     std::abort();
                 }
             }

@@ -59,7 +59,7 @@ private:
         celdas.reserve(tabla_.filas.size());
         for (std::size_t i = 0; i < tabla_.filas.size(); ++i) {
             celdas.push_back(columna == 0 ? Valor{static_cast<double>(i + 1)}
-                                          : tabla_.filas[i][static_cast<std::size_t>(columna) - 1]);
+                                          : Valor{tabla_.filas[i][static_cast<std::size_t>(columna) - 1]});
         }
         return celdas;
     }

@@ -74,13 +74,14 @@ std::string PorQueNoCabe(const Tabla& tabla) {
     const auto cuantas = tabla.filas.size();
     std::string causa = "la hoja tiene " + ConMiles(static_cast<int>(cuantas)) + " filas; el límite es " +
                         ConMiles(filasQueCaben);
-    const auto celdas = tabla.filas[cuantas - 1].celdas();
-    if (tabla.filas.conContenido() <= filasQueCaben && !celdas.empty()) {
+    const auto ultimaFila = tabla.filas[cuantas - 1];
+    if (tabla.filas.conContenido() <= filasQueCaben && ultimaFila.celdas() > 0) {
+        const auto celda = ultimaFila.ultima();
         causa += ". Solo " + ATexto(static_cast<int>(tabla.filas.conContenido())) +
                  " tienen algo: mire si sobra la última, la fila " +
                  std::to_string(tabla.numeroDeFila(cuantas - 1)) + ", con " +
-                 Cita(ATexto(celdas.back().valor)) + " en la columna «" +
-                 tabla.Fields(celdas.back().columna).Name + "»";
+                 Cita(ATexto(Valor{celda.valor})) + " en la columna «" + tabla.Fields(celda.columna).Name +
+                 "»";
     }
     return causa;
 }

@@ -2,77 +2,82 @@
 
 #include <algorithm>
 #include <cassert>
-#include <iterator>
-#include <utility>
 
 namespace varo {
 
-const Valor& FilaDeTabla::operator[](std::size_t columna) const {
-    static const Valor nada{};
+ValorDeCelda FilaDeTabla::operator[](std::size_t columna) const {
     // Without gaps a cell stands at the place of its column.
-    if (columna < celdas_.size() && celdas_[columna].columna == columna) {
-        return celdas_[columna].valor;
+    if (columna < celdas() && celdas_->columna(comienzo_ + columna) == columna) {
+        return celdas_->valor(comienzo_ + columna);
     }
-    const auto celda = std::ranges::lower_bound(celdas_, columna, {}, &CeldaDeFila::columna);
-    return celda != celdas_.end() && celda->columna == columna ? celda->valor : nada;
+    if (celdas() == 0) {
+        return {};
+    }
+    const auto i = celdas_->buscar(comienzo_, celdas_->fila(comienzo_), columna);
+    return i < fin_ && celdas_->columna(i) == columna ? celdas_->valor(i) : ValorDeCelda{};
 }
 
-FilasDeTabla::FilasDeTabla(std::vector<std::vector<Valor>> filas) {
-    for (auto& fila : filas) {
-        anadir(std::move(fila));
+FilasDeTabla::FilasDeTabla(const std::vector<std::vector<Valor>>& filas) {
+    for (const auto& fila : filas) {
+        anadir(fila);
     }
 }
 
 FilaDeTabla FilasDeTabla::operator[](std::size_t fila) const {
     assert(fila < cuantas_);
+    const auto enFila = [this](std::uint32_t comienzo) { return std::size_t{celdas_.fila(comienzo)}; };
     // Without empty rows a row stands at the place of its number.
-    const auto llena = fila < llenas_.size() && llenas_[fila].fila == fila
-                           ? llenas_.begin() + static_cast<std::ptrdiff_t>(fila)
-                           : std::ranges::lower_bound(llenas_, fila, {}, &FilaLlena::fila);
-    if (llena == llenas_.end() || llena->fila != fila) {
-        return FilaDeTabla{{}};
+    auto llena = static_cast<std::ptrdiff_t>(fila);
+    if (fila >= comienzos_.size() || enFila(comienzos_[fila]) != fila) {
+        llena = std::ranges::lower_bound(comienzos_, fila, {}, enFila) - comienzos_.begin();
     }
-    const auto siguiente = std::next(llena);
-    const auto fin = siguiente == llenas_.end() ? celdas_.size() : siguiente->comienzo;
-    return FilaDeTabla{std::span{celdas_}.subspan(llena->comienzo, fin - llena->comienzo)};
+    const auto lugar = static_cast<std::size_t>(llena);
+    if (lugar == comienzos_.size() || enFila(comienzos_[lugar]) != fila) {
+        return {celdas_, 0, 0};
+    }
+    return {celdas_, comienzos_[lugar],
+            lugar + 1 == comienzos_.size() ? celdas_.size() : comienzos_[lugar + 1]};
 }
 
 void FilasDeTabla::alargar(std::size_t cuantas) {
     cuantas_ = std::max(cuantas_, cuantas);
 }
 
-void FilasDeTabla::anadir(std::vector<Valor> valores) {
+void FilasDeTabla::anadir(const std::vector<Valor>& valores) {
     const auto fila = cuantas_;
     alargar(fila + 1);
     for (std::size_t columna = 0; columna < valores.size(); ++columna) {
-        poner(fila, columna, std::move(valores[columna]));
+        poner(fila, columna, valores[columna]);
     }
 }
 
-void FilasDeTabla::poner(std::size_t fila, std::size_t columna, Valor valor) {
-    assert(llenas_.empty() || llenas_.back().fila <= fila);
+void FilasDeTabla::poner(std::size_t fila, std::size_t columna, const ValorDeCelda& valor) {
+    const auto enUltima = [&] { return !celdas_.empty() && celdas_.fila(celdas_.size() - 1) == fila; };
+    assert(celdas_.empty() || celdas_.fila(celdas_.size() - 1) <= fila);
     alargar(fila + 1);
-    if (!llenas_.empty() && llenas_.back().fila == fila && celdas_.back().columna == columna) {
-        celdas_.pop_back();
-        if (llenas_.back().comienzo == celdas_.size()) {
-            llenas_.pop_back();
+    if (enUltima() && celdas_.columna(celdas_.size() - 1) == columna) {
+        celdas_.quitarUltima();
+        if (comienzos_.back() == celdas_.size()) {
+            comienzos_.pop_back();
         }
     }
     if (EsNulo(valor)) {
         return;
     }
-    if (llenas_.empty() || llenas_.back().fila != fila) {
-        llenas_.push_back({fila, celdas_.size()});
+    if (!enUltima()) {
+        comienzos_.push_back(static_cast<std::uint32_t>(celdas_.size()));
     }
-    celdas_.push_back({static_cast<std::uint16_t>(columna), std::move(valor)});
+    celdas_.anadir(fila, columna, valor);
 }
 
 bool operator==(const FilasDeTabla& una, const FilasDeTabla& otra) {
-    if (una.size() != otra.size()) {
+    if (una.size() != otra.size() || una.celdas_.size() != otra.celdas_.size()) {
         return false;
     }
-    for (std::size_t fila = 0; fila < una.size(); ++fila) {
-        if (!std::ranges::equal(una[fila].celdas(), otra[fila].celdas())) {
+    for (std::size_t i = 0; i < una.celdas_.size(); ++i) {
+        const auto celda = una.celdas_[i];
+        const auto suya = otra.celdas_[i];
+        if (celda.fila != suya.fila || celda.columna != suya.columna || celda.valor != suya.valor) {
             return false;
         }
     }

@@ -2,33 +2,34 @@
 #pragma once
 
 #include "basico/Valor.h"
+#include "motor/CeldasJuntas.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
+#include <deque>
 #include <vector>
 
 namespace varo {
 
-struct CeldaDeFila {
-    std::uint16_t columna = 0;
-    Valor valor;
-
-    friend bool operator==(const CeldaDeFila&, const CeldaDeFila&) = default;
-};
-
 /// One row of a table, which must outlive it.
 class FilaDeTabla {
 public:
-    explicit FilaDeTabla(std::span<const CeldaDeFila> celdas) : celdas_{celdas} {}
+    FilaDeTabla(const CeldasJuntas& celdas, std::size_t comienzo, std::size_t fin)
+        : celdas_{&celdas}, comienzo_{comienzo}, fin_{fin} {}
 
     /// The value of a column, counted from 0; null where the row has no cell.
-    const Valor& operator[](std::size_t columna) const;
+    [[nodiscard]] ValorDeCelda operator[](std::size_t columna) const;
 
-    [[nodiscard]] std::span<const CeldaDeFila> celdas() const { return celdas_; }
+    /// The cells that hold something, by columns.
+    [[nodiscard]] std::size_t celdas() const { return fin_ - comienzo_; }
+    [[nodiscard]] CeldaConSitio celda(std::size_t i) const { return (*celdas_)[comienzo_ + i]; }
+    /// The last of them; there must be one.
+    [[nodiscard]] CeldaConSitio ultima() const { return (*celdas_)[fin_ - 1]; }
 
 private:
-    std::span<const CeldaDeFila> celdas_;
+    const CeldasJuntas* celdas_;
+    std::size_t comienzo_;
+    std::size_t fin_;
 };
 
 /// A note in row 60000 makes a sheet that long and takes the room of one cell.
@@ -36,32 +37,30 @@ class FilasDeTabla {
 public:
     FilasDeTabla() = default;
     // NOLINTNEXTLINE(google-explicit-constructor): rows that are written out are rows
-    FilasDeTabla(std::vector<std::vector<Valor>> filas);
+    FilasDeTabla(const std::vector<std::vector<Valor>>& filas);
 
     [[nodiscard]] std::size_t size() const { return cuantas_; }
     [[nodiscard]] bool empty() const { return cuantas_ == 0; }
     [[nodiscard]] FilaDeTabla operator[](std::size_t fila) const;
     /// How many rows hold anything.
-    [[nodiscard]] std::size_t conContenido() const { return llenas_.size(); }
+    [[nodiscard]] std::size_t conContenido() const { return comienzos_.size(); }
 
     /// Adds empty rows behind the last one, up to so many in all.
     void alargar(std::size_t cuantas);
     /// Adds a row behind the last one.
-    void anadir(std::vector<Valor> valores);
+    void anadir(const std::vector<Valor>& valores);
     /// Puts a cell into the last row that has one, or into a row below, and to the right of what stands
     /// there. The same place again replaces the value.
-    void poner(std::size_t fila, std::size_t columna, Valor valor);
+    void poner(std::size_t fila, std::size_t columna, const ValorDeCelda& valor);
+    void poner(std::size_t fila, std::size_t columna, const Valor& valor) {
+        poner(fila, columna, ValorDeCelda{valor});
+    }
 
     friend bool operator==(const FilasDeTabla& una, const FilasDeTabla& otra);
 
 private:
-    struct FilaLlena {
-        std::size_t fila = 0;
-        std::size_t comienzo = 0; // in celdas_
-    };
-
-    std::vector<CeldaDeFila> celdas_;
-    std::vector<FilaLlena> llenas_;
+    CeldasJuntas celdas_;
+    std::deque<std::uint32_t> comienzos_; // in celdas_, of each row that holds anything
     std::size_t cuantas_ = 0;
 };
 

@@ -15,7 +15,7 @@ public:
     /// A field of the current row.
     struct CampoActual {
         const std::string& Name;
-        const Valor& Value;
+        Valor Value;
     };
 
     explicit Recordset(std::shared_ptr<const Tabla> filas);

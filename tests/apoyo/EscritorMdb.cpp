@@ -232,7 +232,10 @@ TablaMdb EnTablaMdb(const Tabla& tabla) {
     std::vector<bool> conNumeros(copia.campos.size());
     for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
         auto& valores = copia.filas.emplace_back(copia.campos.size());
-        for (const auto& [columna, valor] : tabla.filas[fila].celdas()) {
+        for (std::size_t i = 0; i < tabla.filas[fila].celdas(); ++i) {
+            const auto celda = tabla.filas[fila].celda(i);
+            const auto columna = celda.columna;
+            const Valor valor = celda.valor;
             const bool texto = std::holds_alternative<std::string>(valor);
             if (!texto && !std::holds_alternative<double>(valor)) {
                 throw std::invalid_argument{"solo números y textos"};

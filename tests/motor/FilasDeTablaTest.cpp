@@ -28,10 +28,10 @@ TEST(FilasDeTabla, SoloOcupaLoQueContiene) {
     filas.poner(60000, 250, texto);
     filas.alargar(65535);
     ASSERT_EQ(filas.size(), 65535U);
-    EXPECT_EQ(filas[60000].celdas().size(), 1U);
+    EXPECT_EQ(filas[60000].celdas(), 1U);
     EXPECT_EQ(filas[60000][250], texto);
     EXPECT_TRUE(EsNulo(filas[60000][249]));
-    EXPECT_TRUE(filas[65534].celdas().empty());
+    EXPECT_EQ(filas[65534].celdas(), 0U);
     EXPECT_EQ(filas.conContenido(), 2U);
 }
 

@@ -3,11 +3,11 @@
 #include "motor/lectores/FechasBiff.h"
 #include "motor/lectores/RegistrosBiff.h"
 
-#include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstdint>
 #include <string>
-#include <tuple>
+#include <string_view>
 #include <utility>
 
 namespace varo {
@@ -28,39 +28,6 @@ double NumeroRk(std::uint32_t rk) {
     return (rk & enCentesimas) != 0 ? valor / 100 : valor;
 }
 
-/// Formulas that give an empty text, or an error, are often filled down far below the last tree.
-bool SeVe(const Valor& valor) {
-    const auto* texto = std::get_if<std::string>(&valor);
-    return !EsNulo(valor) && (texto == nullptr || !texto->empty());
-}
-
-std::optional<ZonaDeHoja> ZonaConContenido(const std::vector<CeldaDeHoja>& celdas) {
-    std::optional<ZonaDeHoja> zona;
-    for (const auto& celda : celdas) {
-        if (SeVe(celda.valor)) {
-            zona = zona.value_or(
-                ZonaDeHoja{celdas.front().fila, celda.fila, celdas.front().columna, celda.columna});
-            zona->ultimaFila = celda.fila;
-            zona->ultimaColumna = std::max<std::size_t>(zona->ultimaColumna, celda.columna);
-        }
-    }
-    for (const auto& celda : celdas) {
-        if (zona && celda.fila <= zona->ultimaFila) {
-            zona->primeraColumna = std::min<std::size_t>(zona->primeraColumna, celda.columna);
-        }
-    }
-    return zona;
-}
-
-void Ordenar(std::vector<CeldaDeHoja>& celdas) {
-    const auto antes = [](const CeldaDeHoja& a, const CeldaDeHoja& b) {
-        return std::tie(a.fila, a.columna) < std::tie(b.fila, b.columna);
-    };
-    if (!std::is_sorted(celdas.begin(), celdas.end(), antes)) {
-        std::stable_sort(celdas.begin(), celdas.end(), antes);
-    }
-}
-
 class LectorDeHoja {
 public:
     LectorDeHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites,
@@ -77,8 +44,7 @@ public:
             avance_.paso(registro->datos.size());
         }
         comprobarTextoPendiente(biff::eof);
-        Ordenar(hoja_.celdas);
-        hoja_.zonaUsada = ZonaConContenido(hoja_.celdas);
+        hoja_.cerrar();
         hoja_.bytes = registros_.leidos();
         return std::move(hoja_);
     }
@@ -101,7 +67,7 @@ private:
             break;
         case biff::label:
         case biff::rString:
-            anadir(datos, leerTexto(registro, tamanoComienzo));
+            anadir(datos, ValorDeCelda{leerTexto(registro, tamanoComienzo)});
             break;
         case biff::boolErr:
             anadir(datos, verdadOError(LeerU8(datos, 6), LeerU8(datos, 7) != 0));
@@ -117,27 +83,32 @@ private:
         }
     }
 
-    void anadir(Bytes comienzo, Valor valor) { anadirEn(LeerU16(comienzo, 2), comienzo, std::move(valor)); }
+    void anadir(Bytes comienzo, const ValorDeCelda& valor) {
+        anadirEn(LeerU16(comienzo, 2), comienzo, valor);
+    }
 
-    void anadirEn(std::uint16_t columna, Bytes comienzo, Valor valor) {
+    void anadirEn(std::size_t columna, Bytes comienzo, const ValorDeCelda& valor) {
         if (columna >= columnasDeUnaHoja) {
             ArchivoDanado("una celda está fuera de la hoja");
         }
-        hoja_.celdas.push_back({LeerU16(comienzo, 0), columna, std::move(valor)});
+        hoja_.celdas.anadir(LeerU16(comienzo, 0), columna, valor);
     }
 
     void anadirNumero(Bytes datos, double numero) { anadir(datos, valorNumerico(numero, LeerU16(datos, 4))); }
 
     /// What is no finite number shows as an error in a sheet, and is null like one.
-    [[nodiscard]] Valor valorNumerico(double numero, std::size_t formato) const {
+    [[nodiscard]] ValorDeCelda valorNumerico(double numero, std::size_t formato) const {
         if (!std::isfinite(numero)) {
-            return Nulo{};
+            return {};
         }
         const bool esFecha = formato < libro_.formatoEsFecha.size() && libro_.formatoEsFecha[formato];
-        return esFecha ? FechaDeSerie(numero, libro_.calendario1904) : Valor{numero};
+        return esFecha ? ValorDeCelda{FechaDeSerie(numero, libro_.calendario1904)}
+                       : ValorDeCelda{ValorDeCelda::Clase::Numero, numero};
     }
 
-    static Valor verdadOError(int valor, bool esError) { return esError ? Valor{} : Valor{valor != 0}; }
+    static ValorDeCelda verdadOError(int valor, bool esError) {
+        return esError ? ValorDeCelda{} : ValorDeCelda{ValorDeCelda::Clase::Verdad, valor != 0 ? 1.0 : 0.0};
+    }
 
     /// Row and first column, a format and a number for each column, and the last column.
     void leerMulRk(Bytes datos) {
@@ -150,7 +121,7 @@ private:
         }
         for (std::size_t i = 0; i < cuantas; ++i) {
             const std::size_t lugar = 4 + i * tamanoNumero;
-            anadirEn(static_cast<std::uint16_t>(primera + i), datos,
+            anadirEn(primera + i, datos,
                      valorNumerico(NumeroRk(LeerU32(datos, lugar + 2)), LeerU16(datos, lugar)));
         }
     }
@@ -161,7 +132,7 @@ private:
             ArchivoDanado("una celda pide un texto que no hay");
         }
         limites_.contarTexto(libro_.textos[numero].size());
-        anadir(datos, libro_.textos[numero]);
+        anadir(datos, ValorDeCelda{libro_.textos[numero]});
     }
 
     std::string leerTexto(const Registro& registro, std::size_t lugar) {
@@ -181,17 +152,17 @@ private:
         enum { texto, verdad, error, textoVacio };
         switch (LeerU8(resultado, 0)) {
         case texto:
-            anadir(datos, std::string{});
+            anadir(datos, ValorDeCelda{std::string_view{}});
             faltaTexto_ = true;
             break;
         case verdad:
             anadir(datos, verdadOError(LeerU8(resultado, 2), false));
             break;
         case error:
-            anadir(datos, Nulo{});
+            anadir(datos, ValorDeCelda{});
             break;
         case textoVacio:
-            anadir(datos, std::string{});
+            anadir(datos, ValorDeCelda{std::string_view{}});
             break;
         default:
             ArchivoDanado("el resultado de una fórmula no es válido");
@@ -200,7 +171,7 @@ private:
 
     void leerTextoDeFormula(const Registro& registro) {
         if (faltaTexto_) {
-            hoja_.celdas.back().valor = leerTexto(registro, 0);
+            hoja_.celdas.cambiarUltima(ValorDeCelda{leerTexto(registro, 0)});
             faltaTexto_ = false;
         }
     }

@@ -2,30 +2,15 @@
 #pragma once
 
 #include "basico/Avance.h"
-#include "basico/Valor.h"
+#include "motor/lectores/HojaDeCalculo.h"
 #include "motor/lectores/LibroBiff.h"
 #include "motor/lectores/LimitesDeLectura.h"
 
 #include <cstddef>
-#include <cstdint>
-#include <optional>
-#include <vector>
 
 namespace varo {
 
-struct CeldaDeHoja {
-    std::uint16_t fila = 0;
-    std::uint16_t columna = 0;
-    Valor valor;
-};
-
-struct HojaBiff {
-    /// The cells that hold something, by rows and within a row by columns. A formatted cell without content
-    /// is not one of them; one that holds an error is, with a null. Of two in one place the last one counts.
-    std::vector<CeldaDeHoja> celdas;
-    /// From the first of them, by rows and by columns, to the last that a person sees: nulls and empty texts
-    /// make no sheet longer. Nothing where there is none to see.
-    std::optional<ZonaDeHoja> zonaUsada;
+struct HojaBiff : HojaDeCalculo {
     /// Length of the sheet in the stream.
     std::size_t bytes = 0;
 };

@@ -92,7 +92,7 @@ private:
         tabla.saltar(4);
         const std::size_t cuantos = tabla.u32();
         while (libro_.textos.size() < cuantos) {
-            libro_.textos.push_back(libro_.cadenas.leerLarga(tabla));
+            libro_.textos.anadir(libro_.cadenas.leerLarga(tabla));
         }
     }
 

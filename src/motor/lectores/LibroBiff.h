@@ -1,6 +1,7 @@
 // What a workbook says for all its sheets: the list of them, shared texts, formats, calendar and names.
 #pragma once
 
+#include "motor/TextosGuardados.h"
 #include "motor/lectores/CadenasBiff.h"
 #include "motor/lectores/NombresBiff.h"
 
@@ -20,7 +21,7 @@ struct LibroBiff {
     CadenasBiff cadenas;
     bool calendario1904 = false;
     std::vector<Hoja> hojas;
-    std::vector<std::string> textos;
+    ListaDeTextos textos;
     /// By a cell's format number: whether its numbers are dates.
     std::vector<bool> formatoEsFecha;
     std::vector<NombreDeZona> nombres;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "motor/lectores/CadenasBiff.h"
+#include "motor/lectores/HojaDeCalculo.h"
 
 #include <cstddef>
 #include <optional>
@@ -9,14 +10,6 @@
 #include <vector>
 
 namespace varo {
-
-/// First and last rows and columns, counted from 0.
-struct ZonaDeHoja {
-    std::size_t primeraFila = 0;
-    std::size_t ultimaFila = 0;
-    std::size_t primeraColumna = 0;
-    std::size_t ultimaColumna = 0;
-};
 
 struct NombreDeZona {
     std::string nombre;

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 namespace varo {
@@ -13,44 +12,40 @@ namespace {
 /// Hands over the cells of a rectangle, by rows. What costs time is counted: each cell, and each row that
 /// reaches beyond the rectangle.
 template <class Accion>
-void EnCadaCelda(const HojaBiff& hoja, const ZonaDeHoja& zona, LimitesDeLectura& limites, Accion accion) {
-    using Sitio = std::pair<std::size_t, std::size_t>;
-    const auto desde = [&](auto celda, Sitio sitio) {
-        return std::lower_bound(celda, hoja.celdas.end(), sitio, [](const CeldaDeHoja& una, Sitio otro) {
-            return Sitio{una.fila, una.columna} < otro;
-        });
-    };
-    auto celda = desde(hoja.celdas.begin(), {zona.primeraFila, zona.primeraColumna});
-    while (celda != hoja.celdas.end() && celda->fila <= zona.ultimaFila) {
+void EnCadaCelda(const HojaDeCalculo& hoja, const ZonaDeHoja& zona, LimitesDeLectura& limites,
+                 Accion accion) {
+    const auto& celdas = hoja.celdas;
+    std::size_t i = celdas.buscar(0, zona.primeraFila, zona.primeraColumna);
+    while (i < celdas.size() && celdas.fila(i) <= zona.ultimaFila) {
         limites.contarCeldas(1);
-        if (celda->columna < zona.primeraColumna) {
-            celda = desde(celda, {celda->fila, zona.primeraColumna});
-        } else if (celda->columna > zona.ultimaColumna) {
-            celda = desde(celda, {celda->fila + 1U, zona.primeraColumna});
+        if (celdas.columna(i) < zona.primeraColumna) {
+            i = celdas.buscar(i, celdas.fila(i), zona.primeraColumna);
+        } else if (celdas.columna(i) > zona.ultimaColumna) {
+            i = celdas.buscar(i, celdas.fila(i) + 1U, zona.primeraColumna);
         } else {
-            if (const auto* texto = std::get_if<std::string>(&celda->valor)) {
-                limites.contarTexto(texto->size());
-            }
-            accion(celda->fila - zona.primeraFila, celda->columna - zona.primeraColumna, celda->valor);
-            ++celda;
+            const auto celda = celdas[i];
+            limites.contarTexto(celda.valor.texto().size());
+            accion(celda.fila - zona.primeraFila, celda.columna - zona.primeraColumna, celda.valor);
+            ++i;
         }
     }
 }
 
-std::vector<Valor> CabeceraDeZona(const HojaBiff& hoja, ZonaDeHoja zona, LimitesDeLectura& limites) {
+std::vector<Valor> CabeceraDeZona(const HojaDeCalculo& hoja, ZonaDeHoja zona, LimitesDeLectura& limites) {
     zona.ultimaFila = zona.primeraFila;
     const auto columnas = zona.ultimaColumna - zona.primeraColumna + 1;
     limites.contarCeldas(columnas);
     std::vector<Valor> cabecera(columnas);
-    EnCadaCelda(hoja, zona, limites,
-                [&](std::size_t, std::size_t columna, const Valor& valor) { cabecera[columna] = valor; });
+    EnCadaCelda(hoja, zona, limites, [&](std::size_t, std::size_t columna, const ValorDeCelda& valor) {
+        cabecera[columna] = valor;
+    });
     return cabecera;
 }
 
-FilasDeTabla FilasDeZona(const HojaBiff& hoja, ZonaDeHoja zona, LimitesDeLectura& limites) {
+FilasDeTabla FilasDeZona(const HojaDeCalculo& hoja, ZonaDeHoja zona, LimitesDeLectura& limites) {
     ++zona.primeraFila; // behind the header
     FilasDeTabla filas;
-    EnCadaCelda(hoja, zona, limites, [&](std::size_t fila, std::size_t columna, const Valor& valor) {
+    EnCadaCelda(hoja, zona, limites, [&](std::size_t fila, std::size_t columna, const ValorDeCelda& valor) {
         filas.poner(fila, columna, valor);
     });
     filas.alargar(zona.ultimaFila + 1 - zona.primeraFila);
@@ -59,14 +54,14 @@ FilasDeTabla FilasDeZona(const HojaBiff& hoja, ZonaDeHoja zona, LimitesDeLectura
 
 } // namespace
 
-Tabla TablaDeHoja(const HojaBiff& hoja, const std::string& nombre, LimitesDeLectura& limites) {
+Tabla TablaDeHoja(const HojaDeCalculo& hoja, const std::string& nombre, LimitesDeLectura& limites) {
     if (!hoja.zonaUsada) {
         return {nombre, {}, {}};
     }
     return TablaDeZona(hoja, *hoja.zonaUsada, nombre, limites);
 }
 
-Tabla TablaDeZona(const HojaBiff& hoja, const ZonaDeHoja& zona, const std::string& nombre,
+Tabla TablaDeZona(const HojaDeCalculo& hoja, const ZonaDeHoja& zona, const std::string& nombre,
                   LimitesDeLectura& limites) {
     Tabla tabla{nombre, {}, {}};
     if (!hoja.zonaUsada || zona.primeraFila > hoja.zonaUsada->ultimaFila ||

@@ -21,7 +21,7 @@ Evaluador::Evaluador(const ExpresionPostfija& expresion, const Tabla& tabla) : e
         columnas_.push_back({static_cast<std::size_t>(hallado - tabla.Fields.begin()), &hallado->Name});
     }
     for (const auto& constante : expresion.constantes) {
-        constantes_.push_back(DeValor(constante));
+        constantes_.push_back(DeCelda(ValorDeCelda{constante}));
     }
     pila_.resize(expresion.pasos.size());
 }
@@ -40,7 +40,7 @@ Operando Evaluador::operator()(FilaDeTabla fila) {
 }
 
 Valor Evaluador::entero(FilaDeTabla fila) {
-    return expresion_.esCampo() ? fila[columnas_.front().posicion] : AValor((*this)(fila));
+    return expresion_.esCampo() ? Valor{fila[columnas_.front().posicion]} : AValor((*this)(fila));
 }
 
 void Evaluador::situar(ErrorEjecucion& error) const {
@@ -60,7 +60,7 @@ Operando Evaluador::calculado(FilaDeTabla fila) {
         switch (paso.operacion) {
         case Operacion::Campo: {
             const auto& columna = columnas_[paso.indice];
-            pila_[altura++] = DeValor(fila[columna.posicion], columna.nombre);
+            pila_[altura++] = DeCelda(fila[columna.posicion], columna.nombre);
             break;
         }
         case Operacion::Constante:

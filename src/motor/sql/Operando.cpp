@@ -70,20 +70,17 @@ Operando DeNumero(double numero) {
     return {.clase = Clase::Numero, .numero = numero};
 }
 
-Operando DeValor(const Valor& valor, const std::string* campo) {
-    if (const auto* numero = std::get_if<double>(&valor)) {
-        return DeNumero(*numero);
+Operando DeCelda(const ValorDeCelda& valor, const std::string* campo) {
+    switch (valor.clase()) {
+    case ValorDeCelda::Clase::Vacia:
+        return {};
+    case ValorDeCelda::Clase::Texto:
+        return {.clase = Clase::Texto, .texto = valor.texto(), .campo = campo};
+    case ValorDeCelda::Clase::Verdad:
+        return DeVerdad(valor.numero() != 0);
+    default: // a date is its serial
+        return DeNumero(valor.numero());
     }
-    if (const auto* texto = std::get_if<std::string>(&valor)) {
-        return {.clase = Clase::Texto, .texto = *texto, .campo = campo};
-    }
-    if (const auto* fecha = std::get_if<Fecha>(&valor)) {
-        return DeNumero(fecha->serie);
-    }
-    if (const auto* verdad = std::get_if<bool>(&valor)) {
-        return DeVerdad(*verdad);
-    }
-    return {};
 }
 
 Valor AValor(const Operando& operando) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "basico/Valor.h"
+#include "motor/ValorDeCelda.h"
 #include "motor/sql/Consulta.h"
 
 #include <compare>
@@ -24,7 +25,7 @@ struct Operando {
 };
 
 Operando DeNumero(double numero);
-Operando DeValor(const Valor& valor, const std::string* campo = nullptr);
+Operando DeCelda(const ValorDeCelda& valor, const std::string* campo = nullptr);
 Valor AValor(const Operando& operando);
 
 /// The number that it counts as: a text where it reads as one in Spanish notation. Nothing for other texts

@@ -48,8 +48,8 @@ std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpe
 /// No cell stands outside of the table.
 void EsperarEntera(const Tabla& tabla) {
     for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
-        const auto celdas = tabla.filas[fila].celdas();
-        EXPECT_TRUE(celdas.empty() || celdas.back().columna < tabla.Fields.Count());
+        const auto celdas = tabla.filas[fila];
+        EXPECT_TRUE(celdas.celdas() == 0 || celdas.ultima().columna < tabla.Fields.Count());
     }
 }
 

@@ -84,7 +84,9 @@ public:
     HojaBiff leer(bool calendario1904 = false) const {
         auto flujo = flujo_;
         AnadirRegistro(flujo, biff::eof, {});
-        const LibroBiff libro{CadenasBiff{true}, calendario1904, {}, {"uno", "dos"}, {false, true}, {}};
+        LibroBiff libro{CadenasBiff{true}, calendario1904, {}, {}, {false, true}, {}};
+        libro.textos.anadir("uno");
+        libro.textos.anadir("dos");
         LimitesDeLectura limites{flujo.size()};
         return LeerHoja(flujo, 0, libro, limites);
     }
@@ -92,9 +94,11 @@ public:
     /// The cells as "row,column=value", parted by blanks.
     std::string celdas(bool calendario1904 = false) const {
         std::string celdas;
-        for (const auto& celda : leer(calendario1904).celdas) {
+        const auto hoja = leer(calendario1904);
+        for (std::size_t i = 0; i < hoja.celdas.size(); ++i) {
+            const auto celda = hoja.celdas[i];
             celdas += (celdas.empty() ? "" : " ") + std::to_string(celda.fila) + "," +
-                      std::to_string(celda.columna) + "=" + prueba::Escrito(celda.valor);
+                      std::to_string(celda.columna) + "=" + prueba::Escrito(Valor{celda.valor});
         }
         return celdas;
     }
