@@ -1,5 +1,7 @@
 #include "desktop/OrdenDeArranque.h"
 
+#include "motor/FormatosDeArchivo.h"
+
 #include <algorithm>
 #include <initializer_list>
 #include <string_view>
@@ -13,7 +15,7 @@ const char* const ayuda = R"(Uso: varo [ARCHIVO]
 Abre la ventana del programa y, si se da, el archivo de la parcela, como hace Archivo, Abrir.
 
   -h, --help   Muestra esta ayuda
-  --version    Dice la versión
+  --version    Dice la versión y los archivos que abre
 
 El manual está en el menú Ayuda (F1). Los trabajos sin ventanas los corre varo-lote.
 )";
@@ -53,7 +55,8 @@ OrdenDeArranque LeerOrden(const std::vector<std::string>& argumentos) {
         return {OrdenDeArranque::Clase::Decir, ayuda};
     }
     if (PideVersion(argumentos)) {
-        return {OrdenDeArranque::Clase::Decir, "varo " + VersionDelPrograma() + "\n"};
+        return {OrdenDeArranque::Clase::Decir,
+                "varo " + VersionDelPrograma() + "\nAbre: " + FormatosQueSeAbren() + "\n"};
     }
     OrdenDeArranque orden;
     bool quedanOpciones = true;

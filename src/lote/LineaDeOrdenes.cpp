@@ -1,5 +1,7 @@
 #include "lote/LineaDeOrdenes.h"
 
+#include "motor/FormatosDeArchivo.h"
+
 #include <CLI/CLI.hpp>
 
 #include <charconv>
@@ -48,7 +50,7 @@ void Declarar(CLI::App& app, Escritas& escritas) {
     declarar("--plantilla", escritas.plantilla, "F", "Escribe un trabajo comentado para una parcela");
     app.add_flag("--revisar", escritas.revisar, "Dice lo que parece mal en las parcelas, sin calcular nada");
     app.add_flag("--tsv", escritas.tsv, "Con --revisar, una línea por aviso con tabuladores");
-    app.add_flag("--version", escritas.version, "Dice la versión");
+    app.add_flag("--version", escritas.version, "Dice la versión y los archivos que abre");
     app.add_flag("-h,--help", escritas.ayuda, "Muestra esta ayuda");
     app.footer(pie);
     const auto formato = app.get_formatter();
@@ -157,7 +159,8 @@ Ordenes LeerOrdenes(const std::vector<std::string>& argumentos) {
     }
     if (escritas.ayuda || escritas.version) {
         Ordenes ordenes;
-        ordenes.texto = escritas.ayuda ? app.help() : "varo-lote " VARO_VERSION "\n";
+        ordenes.texto =
+            escritas.ayuda ? app.help() : "varo-lote " VARO_VERSION "\nAbre: " + FormatosQueSeAbren() + "\n";
         return ordenes;
     }
     return Interpretar(escritas);

@@ -1,6 +1,7 @@
 #include "motor/ArchivoDatos.h"
 
 #include "basico/ErrorEjecucion.h"
+#include "motor/FormatosDeArchivo.h"
 #include "motor/lectores/Bytes.h"
 #include "motor/lectores/LectorMdb.h"
 #include "motor/lectores/LectorXls.h"
@@ -109,6 +110,9 @@ std::vector<Tabla> LeerArchivoDatos(const std::filesystem::path& archivo, const 
     }
     if (PareceMdb(bytes)) {
         return LeerMdb(bytes, nombre, avance);
+    }
+    if (const auto* const formato = FormatoRegistrado(bytes)) {
+        return formato->leer(bytes, nombre, avance);
     }
     NoSeAbre(fallo::formatoNoReconocido, nombre, PorQueNoSeReconoce(bytes));
 }

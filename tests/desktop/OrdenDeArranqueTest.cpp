@@ -26,7 +26,8 @@ TEST(LaOrdenDeArranque, LaAyudaYLaVersionNoPidenVentana) {
     EXPECT_FALSE(SoloPregunta({"--", "--help"}));
     EXPECT_EQ(LeerOrden({"--", "--help"}).texto, "--help");
     EXPECT_TRUE(LeerOrden({"--help"}).texto.starts_with("Uso: varo [ARCHIVO]\n"));
-    EXPECT_TRUE(LeerOrden({"--version"}).texto.starts_with("varo "));
+    EXPECT_TRUE(LeerOrden({"--version"})
+                    .texto.starts_with("varo " + VersionDelPrograma() + "\nAbre: .xls, .mdb, .accdb"));
     EXPECT_EQ(LeerOrden({"-h"}).clase, Clase::Decir);
 }
 

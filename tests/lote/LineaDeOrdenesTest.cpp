@@ -90,11 +90,13 @@ TEST(LineaDeOrdenes, LaAyudaNombraTodasLasOpciones) {
     }
 }
 
-TEST(LineaDeOrdenes, LaVersionEsLaDelProyecto) {
+TEST(LineaDeOrdenes, LaVersionEsLaDelProyectoYDiceLosFormatos) {
     const auto cmake = LeerArchivo(Proyecto() / "CMakeLists.txt");
     std::smatch version;
     ASSERT_TRUE(std::regex_search(cmake, version, std::regex{R"(project\(varo\s+VERSION ([0-9.]+))"}));
-    EXPECT_EQ(LeerOrdenes({"--version"}).texto, "varo-lote " + version.str(1) + "\n");
+    const auto texto = LeerOrdenes({"--version"}).texto;
+    ASSERT_TRUE(texto);
+    EXPECT_TRUE(texto->starts_with("varo-lote " + version.str(1) + "\nAbre: .xls, .mdb, .accdb")) << *texto;
 }
 
 } // namespace
