@@ -78,15 +78,23 @@ BotonesYRespuestas::const_iterator BotonDeSalida(const BotonesYRespuestas& boton
     return no == botones.end() ? std::prev(no) : no;
 }
 
-/// Takes pairs of name and pattern, "Hoja de cálculo (*.xls)|*.xls|...", and leaves the names: Qt reads the
-/// pattern from their brackets.
-QString Filtros(const std::string& filtro) {
-    const QStringList partes = AQt(filtro).split('|', Qt::SkipEmptyParts);
-    QStringList nombres;
-    for (qsizetype i = 0; i < partes.size(); i += 2) {
-        nombres << partes[i];
+/// A pattern of the program, and those of the later formats of its kind, which open as well.
+QString ConLosPosteriores(const QString& patron) {
+    if (patron == "*.xls") {
+        return patron + " *.xlsx *.ods *.csv";
     }
-    return nombres.join(";;");
+    return patron == "*.mdb" ? patron + " *.accdb" : patron;
+}
+
+/// Takes pairs of name and pattern, "Hoja de cálculo (*.xls)|*.xls|...". Qt reads the patterns from the last
+/// brackets, which it does not show.
+QStringList Filtros(const std::string& filtro) {
+    const QStringList partes = AQt(filtro).split('|', Qt::SkipEmptyParts);
+    QStringList filtros;
+    for (qsizetype i = 0; i + 1 < partes.size(); i += 2) {
+        filtros << partes[i] + " (" + ConLosPosteriores(partes[i + 1]) + ")";
+    }
+    return filtros;
 }
 
 void Avisar(const std::function<void(const std::string&)>& aviso, const std::string& texto) {
@@ -183,7 +191,9 @@ void ServiciosQt::elegirArchivo(DialogoAbrir& dialogo) {
         dialogo.FileName = std::exchange(preparado_, {});
         return;
     }
-    QFileDialog ventana{padre(), AQt(dialogo.DialogTitle), QString{}, Filtros(dialogo.Filter)};
+    QFileDialog ventana{padre(), AQt(dialogo.DialogTitle)};
+    ventana.setOption(QFileDialog::HideNameFilterDetails);
+    ventana.setNameFilters(Filtros(dialogo.Filter));
     ventana.setObjectName("DlogoAbrir");
     ventana.setFileMode(QFileDialog::ExistingFile);
     ventana.setDefaultSuffix(AQt(dialogo.DefaultExt));

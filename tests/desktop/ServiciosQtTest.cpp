@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDateTime>
 #include <QFile>
 #include <QFileDialog>
@@ -220,14 +221,48 @@ TEST_F(LaPlataforma, ElDialogoDeArchivosLlevaSuTituloYSusDosFiltros) {
     contestador.preparar([](QWidget& modal) {
         auto& ventana = dynamic_cast<QFileDialog&>(modal);
         EXPECT_EQ(ventana.windowTitle(), "Abrir fichero de datos");
-        EXPECT_EQ(ventana.nameFilters(),
-                  (QStringList{QString::fromUtf8("Hoja de cálculo (*.xls)"), "Base de datos (*.mdb)"}));
+        const auto& filtros = *ventana.findChild<QComboBox*>("fileTypeCombo");
+        ASSERT_EQ(filtros.count(), 2);
+        EXPECT_EQ(filtros.itemText(0).toStdString(), "Hoja de cálculo (*.xls)");
+        EXPECT_EQ(filtros.itemText(1).toStdString(), "Base de datos (*.mdb)");
         EXPECT_EQ(ventana.fileMode(), QFileDialog::ExistingFile);
         EXPECT_EQ(ventana.acceptMode(), QFileDialog::AcceptOpen);
         QTest::keyClick(&modal, Qt::Key_Escape);
     });
     servicios.elegirArchivo(dialogo);
     EXPECT_EQ(dialogo.FileName, "");
+}
+
+/// The names in the list of the dialog.
+QStringList Listados(const QFileDialog& ventana) {
+    const auto& lista = *ventana.findChild<QListView*>("listView");
+    QStringList nombres;
+    for (int i = 0; i < lista.model()->rowCount(lista.rootIndex()); ++i) {
+        nombres << lista.model()->index(i, 0, lista.rootIndex()).data().toString();
+    }
+    nombres.sort();
+    return nombres;
+}
+
+TEST_F(LaPlataforma, CadaFiltroMuestraTambienLosFormatosPosterioresDeSuClase) {
+    for (const auto* nombre : {"a.xls", "b.XLSX", "c.ods", "d.csv", "e.mdb", "f.accdb", "g.txt", "h.xlsb"}) {
+        carpeta.Escribir(nombre, "x");
+    }
+    servicios.carpetaAlAbrir = [this] { return carpeta.ruta().string(); };
+    DialogoAbrir dialogo = AbrirDatos();
+    contestador.preparar([](QWidget& modal) {
+        auto& ventana = dynamic_cast<QFileDialog&>(modal);
+        const QStringList hojas{"a.xls", "b.XLSX", "c.ods", "d.csv"};
+        const QStringList bases{"e.mdb", "f.accdb"};
+        // The list fills from a thread of its own.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Listados(ventana) == hojas; }))
+            << Listados(ventana).join(' ').toStdString();
+        ventana.selectNameFilter(ventana.nameFilters().at(1));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Listados(ventana) == bases; }))
+            << Listados(ventana).join(' ').toStdString();
+        QTest::keyClick(&modal, Qt::Key_Escape);
+    });
+    servicios.elegirArchivo(dialogo);
 }
 
 TEST_F(LaPlataforma, UnArchivoElegidoDaSuRutaEntera) {
