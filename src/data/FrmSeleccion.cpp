@@ -103,8 +103,7 @@ void FrmSeleccion::CmdAceptar_Click() {
     } catch (const ErrorEjecucion& error) {
         ultimoFallo_ = error;
         MousePointer = punteroNormal;
-        programa_.servicios().mensaje("No se ha encontrado la hoja seleccionada. Intente de nuevo",
-                                      "Hoja no encontrada", mensaje::exclamacion);
+        programa_.servicios().mensaje(hojaNoEncontrada, "Hoja no encontrada", mensaje::exclamacion);
         CboHoja.SetFocus();
     }
 }

@@ -33,7 +33,10 @@ public:
     /// were.
     void RellenarGrid(const std::string& hoja);
 
-    /// The fault behind the last "Hoja no encontrada"; one message serves them all.
+    /// Told whatever the fault is.
+    static constexpr const char* hojaNoEncontrada =
+        "No se ha encontrado la hoja seleccionada. Intente de nuevo";
+    /// The fault behind the last one of these messages.
     [[nodiscard]] const std::optional<ErrorEjecucion>& ultimoFallo() const { return ultimoFallo_; }
 
 private:

@@ -1,4 +1,5 @@
 // A plot file by other ways than the dialog: the command line, a drop on the window, the list of recent ones.
+#include "apoyo/EscritorMdb.h"
 #include "desktop/Pantalla.h"
 #include "desktop/Texto.h"
 #include "desktop/widgets/RotuloRecortado.h"
@@ -283,13 +284,28 @@ TEST_F(AbrirDeOtrosModos, LaBarraDiceElArchivoLaHojaYCuantosArboles) {
     EXPECT_EQ(estado("EstadoArchivo") + estado("EstadoHoja") + estado("EstadoArboles"), "");
 }
 
-TEST_F(AbrirDeOtrosModos, LaBarraGuardaElMensajeDeLaUltimaCaja) {
+TEST_F(AbrirDeOtrosModos, LaBarraGuardaLaCausaDeUnaHojaNoEncontrada) {
     llegarA(Etapa::Seleccion);
     contestador.pulsar("Aceptar");
     clic("FrmSeleccion", "CmdAceptar");
-    EXPECT_EQ(estado("EstadoMensaje"), "No se ha encontrado la hoja seleccionada. Intente de nuevo");
+    EXPECT_EQ(contestador.cajas().back().texto, "No se ha encontrado la hoja seleccionada. Intente de nuevo");
+    EXPECT_EQ(estado("EstadoMensaje").toStdString(),
+              "Hoja no encontrada. No se encuentra «(ninguna)» en esta colección");
     aceptarHoja();
     EXPECT_EQ(estado("EstadoMensaje"), "");
+}
+
+TEST_F(AbrirDeOtrosModos, LaBarraDicePorQueNoSeLeeUnaTabla) {
+    TablaMdb parcela{"Parcela1", {{"X", TipoMdb::Doble}, {"Y", TipoMdb::Doble}}, {{1.0, 2.0}}};
+    TablaMdb vinculada{"Censo", {}, {}};
+    vinculada.vinculada = true;
+    EscribirArchivoMdb(carpeta / "monte.mdb", {{parcela, vinculada}});
+    abrir(QString::fromStdString(carpeta.archivo("monte.mdb")));
+    Escribir(*widget<QComboBox>("FrmSeleccion", "CboHoja").lineEdit(), "Censo");
+    contestador.pulsar("Aceptar");
+    clic("FrmSeleccion", "CmdAceptar");
+    EXPECT_TRUE(estado("EstadoMensaje").contains(AQt("está vinculada, y sus filas están en otro archivo")))
+        << estado("EstadoMensaje").toStdString();
 }
 
 } // namespace varo::prueba

@@ -1,6 +1,7 @@
 #include "desktop/comodidades/Comodidades.h"
 
 #include "basico/Saltando.h"
+#include "data/FrmSeleccion.h"
 #include "data/Hojadedatos.h"
 #include "desktop/Escritorio.h"
 #include "desktop/Intentar.h"
@@ -32,6 +33,16 @@ namespace {
 
 QAction& AccionDe(const QMainWindow& marco, const Menu& menu) {
     return *marco.findChild<QAction*>(AQt(menu.nombreCompleto()));
+}
+
+/// What the status bar keeps of a message: the cause, where one message serves them all.
+std::string ParaLaBarra(const std::string& mensaje, const Programa& programa) {
+    const auto* const seleccion = programa.cargada<FrmSeleccion>();
+    if (mensaje != FrmSeleccion::hojaNoEncontrada || seleccion == nullptr || !seleccion->ultimoFallo()) {
+        return mensaje;
+    }
+    const ErrorEjecucion& fallo = *seleccion->ultimoFallo();
+    return "Hoja no encontrada. " + fallo.descripcion() + (fallo.causa().empty() ? "" : ": ") + fallo.causa();
 }
 
 std::string CarpetaDe(const std::string& archivo) {
@@ -83,7 +94,9 @@ void Comodidades::ponerTeclas() const {
 
 void Comodidades::atenderServicios() {
     servicios_.carpetaAlAbrir = [this] { return DeQt(recientes_.carpeta()); };
-    servicios_.alDecir = [this](const std::string& texto) { barra_->decir(AQt(texto)); };
+    servicios_.alDecir = [this](const std::string& texto) {
+        barra_->decir(AQt(ParaLaBarra(texto, programa_)));
+    };
     servicios_.alEscribir = [this](const std::string& ruta) {
         carpetaDeResultados_ = CarpetaDe(ruta);
         recientes_.anotarResultados(AQt(CarpetaDe(abierto_)), AQt(carpetaDeResultados_));
