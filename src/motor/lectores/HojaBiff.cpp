@@ -1,7 +1,6 @@
 #include "motor/lectores/HojaBiff.h"
 
 #include "motor/lectores/FechasBiff.h"
-#include "motor/lectores/RegistrosBiff.h"
 
 #include <bit>
 #include <cmath>
@@ -30,11 +29,10 @@ double NumeroRk(std::uint32_t rk) {
 
 class LectorDeHoja {
 public:
-    LectorDeHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites,
-                 const Avance& avance)
-        : registros_{flujo, comienzo}, libro_{libro}, limites_{limites}, avance_{avance} {}
+    LectorDeHoja(Subflujo& registros, const LibroBiff& libro, LimitesDeLectura& limites, const Avance& avance)
+        : registros_{registros}, libro_{libro}, limites_{limites}, avance_{avance} {}
 
-    HojaBiff leer() {
+    HojaDeCalculo leer() {
         if (registros_.clase() != biff::hojaDeCalculo) {
             ArchivoDanado("una hoja no es de la clase que el libro dice");
         }
@@ -45,7 +43,6 @@ public:
         }
         comprobarTextoPendiente(biff::eof);
         hoja_.cerrar();
-        hoja_.bytes = registros_.leidos();
         return std::move(hoja_);
     }
 
@@ -185,19 +182,19 @@ private:
         }
     }
 
-    Subflujo registros_;
+    Subflujo& registros_;
     const LibroBiff& libro_;
     LimitesDeLectura& limites_;
     const Avance& avance_;
-    HojaBiff hoja_;
+    HojaDeCalculo hoja_;
     bool faltaTexto_ = false;
 };
 
 } // namespace
 
-HojaBiff LeerHoja(Bytes flujo, std::size_t comienzo, const LibroBiff& libro, LimitesDeLectura& limites,
-                  const Avance& avance) {
-    return LectorDeHoja{flujo, comienzo, libro, limites, avance}.leer();
+HojaDeCalculo LeerHoja(Subflujo& registros, const LibroBiff& libro, LimitesDeLectura& limites,
+                       const Avance& avance) {
+    return LectorDeHoja{registros, libro, limites, avance}.leer();
 }
 
 } // namespace varo

@@ -1,5 +1,6 @@
 #include "motor/lectores/LectorXls.h"
 
+#include "basico/AlSalir.h"
 #include "motor/lectores/ArchivoCompuesto.h"
 #include "motor/lectores/HojaBiff.h"
 #include "motor/lectores/LibroBiff.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace varo {
@@ -68,37 +70,100 @@ void ComprobarVersion(Bytes flujo) {
     }
 }
 
-std::vector<Tabla> TablasDelLibro(Bytes flujo, LimitesDeLectura& limites, const Avance& avance) {
-    avance.empezar(flujo.size());
-    const auto libro = LeerLibro(flujo);
-    std::multimap<std::size_t, std::size_t> nombresPorHoja;
-    for (std::size_t i = 0; i < libro.nombres.size(); ++i) {
-        nombresPorHoja.emplace(libro.nombres[i].hoja, i);
-    }
-    std::vector<Tabla> tablas;
-    std::map<std::size_t, Tabla> tablasDeNombres;
-    std::size_t leidos = 0;
-    for (std::size_t i = 0; i < libro.hojas.size(); ++i) {
-        if (!libro.hojas[i].deCalculo) {
-            continue;
+/// A damaged workbook has a cure that its owner can try.
+std::string ConRemedio(const ErrorMotor& error) {
+    return error.numero() == fallo::archivoDanado
+               ? error.descripcion() + ": ábralo en la hoja de cálculo y guárdelo de nuevo, o tome otra copia"
+               : error.descripcion();
+}
+
+/// Makes the tables sheet by sheet: what is wrong with one leaves the others alone.
+class TablasDelLibro {
+public:
+    TablasDelLibro(Bytes flujo, const std::string& archivo, LimitesDeLectura& limites, const Avance& avance)
+        : flujo_{flujo}, archivo_{archivo}, limites_{limites}, avance_{avance}, libro_{LeerLibro(flujo)} {
+        for (std::size_t i = 0; i < libro_.nombres.size(); ++i) {
+            nombresPorHoja_.emplace(libro_.nombres[i].hoja, i);
         }
-        const auto hoja = LeerHoja(flujo, libro.hojas[i].comienzo, libro, limites, avance);
-        leidos += hoja.bytes;
-        if (leidos > flujo.size()) {
+    }
+
+    std::vector<Tabla> leer() {
+        for (std::size_t i = 0; i < libro_.hojas.size(); ++i) {
+            if (libro_.hojas[i].deCalculo) {
+                leerHoja(i);
+                comprobarQueNoSePisan();
+            }
+        }
+        if (primerFallo_ && std::ranges::all_of(tablas_, &EsDefectuosa)) {
+            throw ErrorMotor{*primerFallo_};
+        }
+        for (auto& [lugar, tabla] : tablasDeNombres_) {
+            tablas_.push_back(std::move(tabla));
+        }
+        return std::move(tablas_);
+    }
+
+private:
+    static bool EsDefectuosa(const Tabla& tabla) { return tabla.defecto.has_value(); }
+
+    void leerHoja(std::size_t i) {
+        const auto& [nombreDeHoja, comienzo, deCalculo] = libro_.hojas[i];
+        const auto [primero, fin] = nombresPorHoja_.equal_range(i);
+        try {
+            const auto hoja = celdas(comienzo);
+            Tabla tabla = TablaDeHoja(hoja, nombreDeHoja + "$", limites_);
+            for (auto lugar = primero; lugar != fin; ++lugar) {
+                const auto& nombre = libro_.nombres[lugar->second];
+                tablasDeNombres_[lugar->second] = TablaDeZona(hoja, nombre.zona, nombre.nombre, limites_);
+            }
+            tablas_.push_back(std::move(tabla));
+        } catch (const ErrorMotor& error) {
+            primerFallo_ = primerFallo_.value_or(error);
+            tablas_.push_back(defectuosa(nombreDeHoja + "$", nombreDeHoja, error));
+            for (auto lugar = primero; lugar != fin; ++lugar) {
+                tablasDeNombres_[lugar->second] =
+                    defectuosa(libro_.nombres[lugar->second].nombre, nombreDeHoja, error);
+            }
+        }
+    }
+
+    HojaDeCalculo celdas(std::size_t comienzo) {
+        Subflujo registros{flujo_, comienzo};
+        const AlSalir contar{[&] { recorridos_ += registros.leidos(); }};
+        auto hoja = LeerHoja(registros, libro_, limites_, avance_);
+        deHojas_ += registros.leidos();
+        return hoja;
+    }
+
+    /// Sheets do not share bytes, and nobody knows which one a shared byte belongs to. A damaged one may run
+    /// on into others; many of them would take long.
+    void comprobarQueNoSePisan() const {
+        constexpr std::size_t vecesQueSeRecorre = 8;
+        if (deHojas_ > flujo_.size() || recorridos_ / vecesQueSeRecorre > flujo_.size()) {
             ArchivoDanado("unas hojas pisan a otras");
         }
-        tablas.push_back(TablaDeHoja(hoja, libro.hojas[i].nombre + "$", limites));
-        const auto [primero, fin] = nombresPorHoja.equal_range(i);
-        for (auto lugar = primero; lugar != fin; ++lugar) {
-            const auto& nombre = libro.nombres[lugar->second];
-            tablasDeNombres[lugar->second] = TablaDeZona(hoja, nombre.zona, nombre.nombre, limites);
-        }
     }
-    for (auto& [lugar, tabla] : tablasDeNombres) {
-        tablas.push_back(std::move(tabla));
+
+    [[nodiscard]] Tabla defectuosa(const std::string& nombre, const std::string& hoja,
+                                   const ErrorMotor& error) const {
+        Tabla tabla{nombre, {}, {}};
+        tabla.defecto.emplace(error.numero(), "No se puede leer la hoja «" + hoja + "» de «" + archivo_ +
+                                                  "»: " + ConRemedio(error));
+        return tabla;
     }
-    return tablas;
-}
+
+    Bytes flujo_;
+    const std::string& archivo_;
+    LimitesDeLectura& limites_;
+    const Avance& avance_;
+    LibroBiff libro_;
+    std::multimap<std::size_t, std::size_t> nombresPorHoja_;
+    std::vector<Tabla> tablas_;
+    std::map<std::size_t, Tabla> tablasDeNombres_;
+    std::optional<ErrorMotor> primerFallo_;
+    std::size_t deHojas_ = 0;    ///< bytes of the sheets that were read whole
+    std::size_t recorridos_ = 0; ///< bytes of all sheets
+};
 
 } // namespace
 
@@ -112,9 +177,10 @@ std::vector<Tabla> LeerXls(std::span<const std::byte> bytes, const std::string& 
         const auto flujo = FlujoDelLibro(bytes);
         ComprobarVersion(flujo);
         LimitesDeLectura limites{bytes.size()};
-        return TablasDelLibro(flujo, limites, avance);
+        avance.empezar(flujo.size());
+        return TablasDelLibro{flujo, archivo, limites, avance}.leer();
     } catch (const ErrorMotor& error) {
-        throw ErrorMotor{error.numero(), "No se puede leer «" + archivo + "»: " + error.descripcion()};
+        throw ErrorMotor{error.numero(), "No se puede leer «" + archivo + "»: " + ConRemedio(error)};
     }
 }
 

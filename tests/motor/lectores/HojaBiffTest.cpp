@@ -81,14 +81,15 @@ public:
         return registro(biff::rk, contenido);
     }
 
-    HojaBiff leer(bool calendario1904 = false) const {
+    HojaDeCalculo leer(bool calendario1904 = false) const {
         auto flujo = flujo_;
         AnadirRegistro(flujo, biff::eof, {});
         LibroBiff libro{CadenasBiff{true}, calendario1904, {}, {}, {false, true}, {}};
         libro.textos.anadir("uno");
         libro.textos.anadir("dos");
         LimitesDeLectura limites{flujo.size()};
-        return LeerHoja(flujo, 0, libro, limites);
+        Subflujo registros{flujo, 0};
+        return LeerHoja(registros, libro, limites);
     }
 
     /// The cells as "row,column=value", parted by blanks.
@@ -305,8 +306,10 @@ TEST(HojaBiff, UnSubflujoDeOtraClaseEstaDanado) {
     AnadirRegistro(flujo, biff::eof, {});
     LimitesDeLectura limites{flujo.size()};
     const LibroBiff libro{CadenasBiff{true}, false, {}, {}, {}, {}};
-    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "una hoja no es de la clase que el libro dice",
-                         [&] { LeerHoja(flujo, 0, libro, limites); }));
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "una hoja no es de la clase que el libro dice", [&] {
+        Subflujo registros{flujo, 0};
+        LeerHoja(registros, libro, limites);
+    }));
 }
 
 } // namespace

@@ -307,20 +307,24 @@ TEST(LectorXls, UnaHojaFueraDeSuSitioEstaDanada) {
     }
 }
 
+/// What a damaged workbook says, and what to do.
+std::pair<int, std::string> Danado(const std::string& defecto) {
+    return {fallo::archivoDanado,
+            "el archivo está dañado (" + defecto +
+                "): ábralo en la hoja de cálculo y guárdelo de nuevo, o tome otra copia"};
+}
+
 TEST(LectorXls, UnaCuentaQueNoCuadraConSuRegistroEstaDanada) {
     const auto flujo = prueba::EscribirFlujoXls({{"Hoja", {{"X"}}}});
-    const std::string cortado = "el archivo está dañado (un texto está cortado)";
+    const std::string cortado = "un texto está cortado";
     for (const auto& [que, lugar, defecto] :
          {std::tuple{"la cuenta de textos", LugarDelRegistro(flujo, biff::sst) + 8, cortado},
           {"la longitud de un texto", LugarDelRegistro(flujo, biff::sst) + 12, cortado},
           {"la longitud de un nombre de hoja", LugarDelRegistro(flujo, biff::boundSheet) + 10, cortado},
-          {"la longitud de un registro", LugarDelRegistro(flujo, biff::codePage) + 3,
-           "el archivo está dañado (faltan bytes)"}}) {
+          {"la longitud de un registro", LugarDelRegistro(flujo, biff::codePage) + 3, "faltan bytes"}}) {
         auto roto = flujo;
         roto.at(static_cast<std::size_t>(lugar)) = std::byte{0xFF};
-        EXPECT_EQ((std::pair{fallo::archivoDanado, std::string{defecto}}),
-                  FalloDe(prueba::EscribirCompuesto({{"Workbook", roto}})))
-            << que;
+        EXPECT_EQ(Danado(defecto), FalloDe(prueba::EscribirCompuesto({{"Workbook", roto}}))) << que;
     }
 }
 
@@ -330,9 +334,29 @@ TEST(LectorXls, DosHojasEnElMismoSitioEstanDanadas) {
     const auto primera = flujo.begin() + LugarDelRegistro(flujo, biff::boundSheet) + 4;
     const auto segunda = primera + 8 + 3 + 4; // the record has eight bytes and the name
     std::copy_n(segunda, 4, primera);
-    EXPECT_EQ(
-        (std::pair{fallo::archivoDanado, std::string{"el archivo está dañado (unas hojas pisan a otras)"}}),
-        FalloDe(prueba::EscribirCompuesto({{"Workbook", flujo}})));
+    EXPECT_EQ(Danado("unas hojas pisan a otras"), FalloDe(prueba::EscribirCompuesto({{"Workbook", flujo}})));
+}
+
+TEST(LectorXls, UnaHojaDanadaDejaLeerLasDemas) {
+    auto flujo = prueba::EscribirFlujoXls(
+        {{"Uno", {{"X"}, {1.0}}}, {"Dos", {{"X"}, {2.0}}}, {"Tres", {{"X"}, {3.0}}}});
+    const auto primera = LugarDelRegistro(flujo, biff::boundSheet) + 4;
+    const auto dos = LeerU32(flujo, static_cast<std::size_t>(primera) + 8 + 3 + 4);
+    auto numero = static_cast<std::size_t>(dos);
+    while (LeerU16(flujo, numero) != biff::numero) {
+        numero += 4 + LeerU16(flujo, numero + 2);
+    }
+    flujo[numero + 2] = std::byte{6}; // a cell without its number, and eight bytes that are no record
+    const auto tablas = LeerXls(prueba::EscribirCompuesto({{"Workbook", flujo}}), "parcela.xls");
+    ASSERT_EQ(tablas.size(), 3U);
+    EXPECT_EQ((Texto{"[Uno$]", "X", "1"}), Lineas(tablas[0]));
+    EXPECT_EQ((Texto{"[Tres$]", "X", "3"}), Lineas(tablas[2]));
+    EXPECT_EQ(tablas[1].Name, "Dos$");
+    EXPECT_EQ(tablas[1].Fields.Count(), 0);
+    ASSERT_TRUE(tablas[1].defecto);
+    EXPECT_EQ(tablas[1].defecto->numero(), fallo::archivoDanado);
+    EXPECT_EQ(tablas[1].defecto->descripcion(),
+              "No se puede leer la hoja «Dos» de «parcela.xls»: " + Danado("faltan bytes").second);
 }
 
 } // namespace
