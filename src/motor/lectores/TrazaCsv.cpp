@@ -1,0 +1,127 @@
+#include "motor/lectores/TrazaCsv.h"
+
+#include "basico/ErrorEjecucion.h"
+#include "motor/lectores/Bytes.h"
+#include "motor/lectores/FilasCsv.h"
+#include "motor/lectores/MarcasCsv.h"
+#include "motor/lectores/SeparadorCsv.h"
+#include "motor/lectores/ValoresCsv.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace varo {
+namespace {
+
+// The largest sheet that spreadsheets have.
+constexpr std::size_t filasMaximas = 1'048'576;
+/// A table of 32,766 rows and 300 columns.
+constexpr std::size_t celdasMaximas = 10'000'000;
+
+[[noreturn]] void NoSeAdmite(const std::string& motivo) {
+    throw ErrorMotor{fallo::tablaNoAdmitida, motivo};
+}
+
+class Trazador {
+public:
+    void mirar(const FilasCsv& filas) {
+        const auto& celdas = filas.celdas();
+        comprobarTamano(filas);
+        const auto llenas = CeldasConAlgo(celdas);
+        if (llenas == 0) {
+            return;
+        }
+        for (std::size_t i = 0; i < llenas; ++i) {
+            if (TieneValor(celdas[i])) {
+                ++cuantasCeldas_;
+                traza_.primeraColumna = traza_.columnas == 0 ? i : std::min(traza_.primeraColumna, i);
+                traza_.columnas = std::max(traza_.columnas, i + 1);
+            }
+        }
+        if (traza_.filaDeNombres == 0) {
+            traza_.filaDeNombres = filas.numero();
+            nombres_.assign(celdas.begin(), celdas.end());
+        } else {
+            mirarDatos(celdas, llenas, filas.numero());
+        }
+    }
+
+    [[nodiscard]] TrazaDeTabla traza(char separador) {
+        if (buenas_ * 2 < cuantas_) {
+            NoEsUnaTabla(
+                "la primera fila ha de llevar los nombres de las columnas, y las demás, tantas celdas "
+                "como ella. Quite lo que haya encima, o guárdela desde la hoja de cálculo como libro de "
+                "Excel 97-2003 (.xls)");
+        }
+        if (traza_.columnas == 0) {
+            NoEsUnaTabla("no tiene más que errores de una hoja de cálculo");
+        }
+        if (larga_) {
+            NoSeAdmite("la fila " + std::to_string(larga_->first) + " tiene " +
+                       std::to_string(larga_->second) + " celdas, y la de los nombres, " +
+                       std::to_string(nombres_.size()) +
+                       ": quite el separador que sobra, o ponga entre comillas la celda que lo lleva");
+        }
+        indicios_.resize(traza_.columnas);
+        traza_.marcas = MarcasDeColumnas(indicios_, nombres_, separador);
+        return traza_;
+    }
+
+private:
+    void comprobarTamano(const FilasCsv& filas) const {
+        const auto fila = [&filas] { return "la fila " + std::to_string(filas.numero()); };
+        if (filas.sinCerrar()) {
+            ArchivoDanado(fila() + " abre unas comillas que nadie cierra: ciérrelas o quítelas");
+        }
+        if (filas.numero() > filasMaximas || filas.celdas().size() > FilasCsv::celdasDeUnaHoja ||
+            cuantasCeldas_ > celdasMaximas) {
+            NoSeAdmite("en " + fila() + " pasa de lo que cabe en una hoja (" + std::to_string(filasMaximas) +
+                       " filas, " + std::to_string(FilasCsv::celdasDeUnaHoja) + " columnas, " +
+                       std::to_string(celdasMaximas) + " celdas): reparta las parcelas en varios archivos");
+        }
+    }
+
+    void mirarDatos(const std::vector<std::string_view>& celdas, std::size_t llenas, std::size_t fila) {
+        indicios_.resize(std::max(indicios_.size(), llenas));
+        for (std::size_t i = 0; i < llenas; ++i) {
+            if (TieneValor(celdas[i])) {
+                indicios_[i].mirar(celdas[i], fila);
+                traza_.diaAntesQueMes = traza_.diaAntesQueMes && !LlevaElMesDelante(celdas[i]);
+            }
+        }
+        ++cuantas_;
+        buenas_ += celdas.size() > 1 && llenas <= nombres_.size() ? 1 : 0;
+        if (llenas > nombres_.size() && !larga_) {
+            larga_ = {fila, llenas};
+        }
+    }
+
+    TrazaDeTabla traza_;
+    std::vector<IndiciosDeColumna> indicios_;
+    std::vector<std::string> nombres_; ///< the row of names, empty ones too
+    std::size_t cuantas_ = 0;          ///< rows that hold something
+    std::size_t buenas_ = 0;           ///< those of them with cells enough and not too many
+    std::size_t cuantasCeldas_ = 0;
+    std::optional<std::pair<std::size_t, std::size_t>> larga_; ///< the first row with too many, and how many
+};
+
+} // namespace
+
+void NoEsUnaTabla(const std::string& motivo) {
+    throw ErrorMotor{fallo::formatoNoReconocido,
+                     "es un archivo de texto y no se ve en él una tabla: " + motivo};
+}
+
+TrazaDeTabla Trazar(std::string_view texto, char separador, const Avance& avance) {
+    Trazador trazador;
+    FilasCsv filas{texto, separador};
+    std::size_t leidos = 0;
+    while (filas.siguiente()) {
+        trazador.mirar(filas);
+        avance.paso(filas.leidos() - std::exchange(leidos, filas.leidos()));
+    }
+    return trazador.traza(separador);
+}
+
+} // namespace varo
