@@ -2,16 +2,15 @@
 
 #include "basico/ErrorEjecucion.h"
 #include "motor/FormatosDeArchivo.h"
-#include "motor/lectores/Bytes.h"
+#include "motor/lectores/LectorCsv.h"
 #include "motor/lectores/LectorMdb.h"
 #include "motor/lectores/LectorXls.h"
+#include "motor/lectores/OtrosFormatos.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
 #include <string>
-#include <string_view>
 #include <system_error>
 
 namespace varo {
@@ -72,34 +71,6 @@ std::vector<std::byte> LeerBytes(const std::filesystem::path& archivo, const std
     return bytes;
 }
 
-bool EsZip(Bytes bytes) {
-    return Lleva(bytes, 0, "PK\3\4") || Lleva(bytes, 0, "PK\5\6");
-}
-
-/// True when no control character but those of plain texts stands at the beginning, and for UTF-16 with its
-/// mark.
-bool EsTexto(Bytes bytes) {
-    constexpr std::size_t loMirado = 4096;
-    constexpr std::string_view controlesDeTexto = "\t\n\r\f";
-    const auto esDeTexto = [&](std::byte byte) {
-        const auto c = static_cast<char>(byte);
-        return byte >= std::byte{' '} || controlesDeTexto.find(c) != std::string_view::npos;
-    };
-    return Lleva(bytes, 0, "\xFF\xFE") || Lleva(bytes, 0, "\xFE\xFF") ||
-           std::ranges::all_of(bytes.first(std::min(loMirado, bytes.size())), esDeTexto);
-}
-
-std::string PorQueNoSeReconoce(Bytes bytes) {
-    const std::string consejo = "guárdelo desde la hoja de cálculo como libro de Excel 97-2003 (.xls)";
-    if (EsZip(bytes)) {
-        return "es un archivo comprimido, como los .xlsx y los .ods; " + consejo;
-    }
-    if (EsTexto(bytes)) {
-        return "es un archivo de texto; " + consejo;
-    }
-    return "no se reconoce su formato";
-}
-
 } // namespace
 
 std::vector<Tabla> LeerArchivoDatos(const std::filesystem::path& archivo, const Avance& avance) {
@@ -114,7 +85,10 @@ std::vector<Tabla> LeerArchivoDatos(const std::filesystem::path& archivo, const 
     if (const auto* const formato = FormatoRegistrado(bytes)) {
         return formato->leer(bytes, nombre, avance);
     }
-    NoSeAbre(fallo::formatoNoReconocido, nombre, PorQueNoSeReconoce(bytes));
+    if (const auto ajeno = QueArchivoEs(bytes)) {
+        NoSeAbre(fallo::formatoNoReconocido, nombre, *ajeno);
+    }
+    return LeerCsv(bytes, nombre, NombreDe(archivo.stem()), avance);
 }
 
 } // namespace varo

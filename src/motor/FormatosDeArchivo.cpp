@@ -8,7 +8,7 @@ namespace varo {
 namespace {
 
 /// What the readers of the core open.
-constexpr const char* propios = ".xls, .mdb, .accdb";
+constexpr const char* propios = ".xls, .mdb, .accdb, .csv";
 
 std::vector<FormatoDeArchivo>& Registrados() {
     static std::vector<FormatoDeArchivo> formatos;

@@ -27,7 +27,7 @@ void RegistrarFormato(FormatoDeArchivo formato);
 /// The first registered format that takes these bytes; null for none.
 const FormatoDeArchivo* FormatoRegistrado(std::span<const std::byte> bytes);
 
-/// ".xls, .mdb, .accdb" and what is registered: all that opens here.
+/// ".xls, .mdb, .accdb, .csv" and what is registered: all that opens here.
 std::string FormatosQueSeAbren();
 
 } // namespace varo

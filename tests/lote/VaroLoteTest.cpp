@@ -346,23 +346,69 @@ TEST(VaroLote, LasTablasDeUnaBaseDeDatosSeListanYLaQueNoSeLeeDicePorQue) {
                                 "»: está vinculada, y sus filas están en otro archivo: abra ese archivo\n");
 }
 
-TEST(VaroLote, UnaBaseDeDatosDaLosMismosResultadosQueUnLibro) {
-    const ParcelaDePrueba parcela;
-    const auto libro = BaseDatos::abrir(parcela.ruta("parcela.xls"));
-    EscribirArchivoMdb(parcela.ruta("parcela.mdb"), {{EnTablaMdb(libro.TableDefs()(0))}});
+/// Runs the job of the plot's workbook, and the same one with this file of the same folder. Their files are
+/// the same.
+void DaLosMismosResultados(const ParcelaDePrueba& parcela, const std::string& archivo,
+                           const std::string& hoja) {
     const std::string opciones = "Opt4R = true\nChCodigo = 1\nOptCAP = true\nChN = 1\nChAB = 1\nChDmed = 1\n"
                                  "ChSupCopa = 1\nOptcirc = true\nChISCBil = 1\n";
     auto texto = ConOpciones(opciones);
     texto.salida = "resultados = 'xls.txt'\ndatos = 'xls.datos'\n";
     const auto deLibro = parcela.escribir("xls.toml", texto.texto()).string();
-    texto.parcela = "archivo = 'parcela.mdb'\nhoja = 'Parcela1$'\n";
-    texto.salida = "resultados = 'mdb.txt'\ndatos = 'mdb.datos'\n";
-    const auto deBase = parcela.escribir("mdb.toml", texto.texto()).string();
-    const auto final = VaroLote({deLibro, deBase});
+    texto.parcela = "archivo = '" + archivo + "'\nhoja = '" + hoja + "'\n";
+    texto.salida = "resultados = 'otro.txt'\ndatos = 'otro.datos'\n";
+    const auto deOtro = parcela.escribir("otro.toml", texto.texto()).string();
+    const auto final = VaroLote({deLibro, deOtro});
     EXPECT_EQ(final.estado, 0) << final.errores;
     EXPECT_NE(LeerArchivo(parcela.ruta("xls.txt")).find("ISC"), std::string::npos);
-    EXPECT_EQ(LeerArchivo(parcela.ruta("xls.txt")), LeerArchivo(parcela.ruta("mdb.txt")));
-    EXPECT_EQ(LeerArchivo(parcela.ruta("xls.datos")), LeerArchivo(parcela.ruta("mdb.datos")));
+    EXPECT_EQ(LeerArchivo(parcela.ruta("xls.txt")), LeerArchivo(parcela.ruta("otro.txt")));
+    EXPECT_EQ(LeerArchivo(parcela.ruta("xls.datos")), LeerArchivo(parcela.ruta("otro.datos")));
+}
+
+TEST(VaroLote, UnaBaseDeDatosDaLosMismosResultadosQueUnLibro) {
+    const ParcelaDePrueba parcela;
+    const auto libro = BaseDatos::abrir(parcela.ruta("parcela.xls"));
+    EscribirArchivoMdb(parcela.ruta("parcela.mdb"), {{EnTablaMdb(libro.TableDefs()(0))}});
+    DaLosMismosResultados(parcela, "parcela.mdb", "Parcela1$");
+}
+
+/// A table as a text of cells, with the decimal mark that its separator goes with.
+std::string EnCsv(const Tabla& tabla, char separador) {
+    std::string texto;
+    for (const auto& campo : tabla.Fields) {
+        texto += (texto.empty() ? "" : std::string{separador}) + campo.Name;
+    }
+    for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
+        texto += "\r\n";
+        for (std::size_t i = 0; i < static_cast<std::size_t>(tabla.Fields.Count()); ++i) {
+            const auto& valor = tabla.filas[fila][i];
+            const auto celda = EsNulo(valor) ? "" : ATexto(valor);
+            texto += (i == 0 ? "" : std::string{separador}) +
+                     (separador == ',' ? Reemplazar(celda, ",", ".") : celda);
+        }
+    }
+    return texto;
+}
+
+TEST(VaroLote, UnTextoDeCeldasDaLosMismosResultadosQueUnLibro) {
+    const ParcelaDePrueba parcela;
+    const auto libro = BaseDatos::abrir(parcela.ruta("parcela.xls"));
+    for (const char separador : {',', ';', '\t'}) {
+        parcela.escribir("Parcela1.csv", EnCsv(libro.TableDefs()(0), separador));
+        DaLosMismosResultados(parcela, "Parcela1.csv", "Parcela1$");
+    }
+}
+
+TEST(VaroLote, LaTablaDeUnTextoDeCeldasSeLista) {
+    const ParcelaDePrueba parcela;
+    const auto archivo = parcela.escribir("de campo.csv", "X;Y;Nota\n1,5;2;\n\n2,5;3;fin\n").string();
+    const auto final = VaroLote({"--tablas", archivo});
+    EXPECT_EQ(final.estado, 0);
+    EXPECT_EQ(final.salida, "de campo$ (3 filas)\n"
+                            "   1  X\n"
+                            "   2  Y\n"
+                            "   3  Nota (última: sus datos no llegan a la rejilla)\n");
+    EXPECT_EQ(final.errores, "");
 }
 
 TEST(VaroLote, UnaTablaQueNoSePuedeLeerDicePorQue) {

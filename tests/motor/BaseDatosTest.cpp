@@ -236,7 +236,7 @@ TEST(BaseDatosAbrir, UnaBaseDeDatosConContrasenaOCortadaDiceSuNombre) {
                  "«Compactar y reparar base de datos»");
 }
 
-TEST(BaseDatosAbrir, LosArchivosComprimidosYLosDeTextoSeDicen) {
+TEST(BaseDatosAbrir, LosArchivosComprimidosYLosTextosSinTablaSeDicen) {
     using namespace std::string_view_literals;
     const CarpetaTemporal carpeta;
     EsperarFallo(carpeta.Escribir("hoja.xlsx", "PK\3\4\x14\0\6\0"sv), fallo::formatoNoReconocido, ".xlsx");
@@ -245,23 +245,54 @@ TEST(BaseDatosAbrir, LosArchivosComprimidosYLosDeTextoSeDicen) {
                                   "PK\3\4\x14\0\0\x08"
                                   "mimetypeapplication/vnd.oasis.opendocument.spreadsheet"sv),
                  fallo::formatoNoReconocido, "archivo comprimido, como los .xlsx y los .ods");
-    EsperarFallo(carpeta.Escribir("corto.xls", "a,b\n"), fallo::formatoNoReconocido, "archivo de texto");
     EsperarFallo(carpeta.Escribir("xml.xls",
                                   "<?xml version=\"1.0\"?>\r\n<?mso-application progid=\"Excel.Sheet\"?>"
                                   "<Workbook xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\"/>"),
                  fallo::formatoNoReconocido, "archivo de texto");
-    EsperarFallo(carpeta.Escribir("hoja.csv", "Árbol;CAP\r\n1;12,5\r\n"), fallo::formatoNoReconocido,
-                 "archivo de texto");
     EsperarFallo(carpeta.Escribir("una.csv", "1"), fallo::formatoNoReconocido, "archivo de texto");
     EsperarFallo(carpeta.Escribir("utf16.txt", "\xFF\xFE"
-                                               "1\0;\0"sv),
+                                               "1\0.\0"sv),
                  fallo::formatoNoReconocido, "archivo de texto");
+}
+
+TEST(BaseDatosAbrir, UnTextoDeCeldasEsUnaTablaConElNombreDelArchivo) {
+    using namespace std::string_view_literals;
+    const CarpetaTemporal carpeta;
+    const auto base =
+        BaseDatos::abrir(carpeta.Escribir("parcela ñ.2025.csv", "Árbol;CAP\r\n1;12,5\r\n2;1.000,5\r\n"));
+    ASSERT_EQ(base.TableDefs().Count(), 1);
+    EXPECT_EQ(base.TableDefs()(0).Name, "parcela ñ.2025$");
+    EXPECT_EQ(base.abrirTabla("parcela ñ.2025$").RecordCount(), 2);
+    EXPECT_EQ(base.OpenRecordset("SELECT Sum ( [CAP] ) FROM [parcela ñ.2025$]").Fields(0).Value,
+              Valor{1013.0});
+    // The name of the file says nothing about its content.
+    EXPECT_EQ(BaseDatos::abrir(carpeta.Escribir("corto.xls", "a,b\n")).TableDefs()(0).Name, "corto$");
+    EXPECT_EQ(BaseDatos::abrir(carpeta.Escribir("sin extension", "\xFF\xFE"
+                                                                 "a\0\t\0b\0"sv))
+                  .TableDefs()(0)
+                  .Fields.Count(),
+              2);
+}
+
+TEST(BaseDatosAbrir, LosArchivosDeOtrosProgramasSeDicen) {
+    using namespace std::string_view_literals;
+    const CarpetaTemporal carpeta;
+    EsperarFallo(carpeta.Escribir("hoja.csv", "%PDF-1.4\n1,2\n3,4\n"), fallo::formatoNoReconocido,
+                 "es un documento PDF");
+    EsperarFallo(carpeta.Escribir("que.xls", "\x89PNG\r\n\x1A\n\0\0"sv), fallo::formatoNoReconocido,
+                 "es una imagen");
+    EsperarFallo(carpeta.Escribir("p.mdb", "SQLite format 3\0\x10"sv), fallo::formatoNoReconocido,
+                 "es una base de datos de SQLite");
+    EsperarFallo(carpeta.Escribir("p.shp", "\0\0\x27\x0A\0\0\0\0\0"sv), fallo::formatoNoReconocido,
+                 "es una capa de un SIG");
+    EsperarFallo(carpeta.Escribir("hoja.xls", "<html><body><table><tr><td>X,Y</td></tr></table>"),
+                 fallo::formatoNoReconocido, "es una página web");
 }
 
 TEST(BaseDatosAbrir, LoQueNadieConoceSeRechaza) {
     using namespace std::string_view_literals;
     const CarpetaTemporal carpeta;
-    EsperarFallo(carpeta.Escribir("que.xls", "\x89PNG\r\n\x1A\n\0\0"sv), fallo::formatoNoReconocido,
+    EsperarFallo(carpeta.Escribir("que.xls", "\x07\x89\r\n\x1A\n\0\0"sv), fallo::formatoNoReconocido,
                  "no se reconoce su formato");
     // A header of a database that is cut short is none.
     EsperarFallo(carpeta.Escribir("corto.mdb", "\0\1\0\0Standard Jet"sv), fallo::formatoNoReconocido,
@@ -298,9 +329,9 @@ TEST(BaseDatosAbrir, LasMuestrasBuenasSeLeenYLasMalasSeRechazan) {
     for (const std::string otra : {"other/lo.xlsx", "other/lo.ods", "xls-bad/xlsx_renamed.xls"}) {
         EsperarFallo(muestras / otra, fallo::formatoNoReconocido, "archivo comprimido");
     }
-    for (const std::string otra :
-         {"other/s.csv", "other/t.csv", "xls-bad/text.xls", "xls-bad/sjs_xlml.xls"}) {
-        EsperarFallo(muestras / otra, fallo::formatoNoReconocido, "archivo de texto");
+    EsperarFallo(muestras / "xls-bad/sjs_xlml.xls", fallo::formatoNoReconocido, "archivo de texto");
+    for (const std::string buena : {"other/s.csv", "other/t.csv", "xls-bad/text.xls"}) {
+        EXPECT_EQ(BaseDatos::abrir(muestras / buena).TableDefs()(0).Fields.Count(), 2) << buena;
     }
     for (const std::string buena : {"mdb-made/jet4_2000.mdb", "mdb-made/ace_2010.accdb"}) {
         EXPECT_EQ(BaseDatos::abrir(muestras / buena).abrirTabla("Zeta data").RecordCount(), 7) << buena;

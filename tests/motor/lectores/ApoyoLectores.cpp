@@ -2,6 +2,7 @@
 
 #include "apoyo/Lugares.h"
 #include "motor/TablasDePrueba.h"
+#include "motor/lectores/LectorCsv.h"
 #include "motor/lectores/LectorMdb.h"
 #include "motor/lectores/LectorXls.h"
 
@@ -50,6 +51,20 @@ void EsperarEntera(const Tabla& tabla) {
     for (std::size_t fila = 0; fila < tabla.filas.size(); ++fila) {
         const auto celdas = tabla.filas[fila];
         EXPECT_TRUE(celdas.celdas() == 0 || celdas.ultima().columna < tabla.Fields.Count());
+    }
+}
+
+/// True when the tables of the file are read, and then they are whole; a fault tells its name.
+template <class Lectura>
+bool EnterasOError(const std::string& archivo, Lectura leer) {
+    try {
+        for (const auto& tabla : leer()) {
+            EsperarEntera(tabla);
+        }
+        return true;
+    } catch (const ErrorMotor& error) {
+        EXPECT_NE(std::string::npos, error.descripcion().find("«" + archivo + "»")) << error.what();
+        return false;
     }
 }
 
@@ -135,15 +150,11 @@ std::vector<std::byte> Mutado(std::vector<std::byte> archivo, std::mt19937& azar
 }
 
 bool TablasEnterasOError(std::span<const std::byte> bytes) {
-    try {
-        for (const auto& tabla : LeerXls(bytes, "mutado.xls")) {
-            EsperarEntera(tabla);
-        }
-        return true;
-    } catch (const ErrorMotor& error) {
-        EXPECT_NE(std::string::npos, error.descripcion().find("«mutado.xls»")) << error.what();
-        return false;
-    }
+    return EnterasOError("mutado.xls", [bytes] { return LeerXls(bytes, "mutado.xls"); });
+}
+
+bool TextoEnteroOError(std::span<const std::byte> bytes) {
+    return EnterasOError("mutado.csv", [bytes] { return LeerCsv(bytes, "mutado.csv", "mutado"); });
 }
 
 TablasDeBase BaseEnteraOError(std::span<const std::byte> bytes) {

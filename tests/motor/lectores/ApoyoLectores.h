@@ -40,6 +40,9 @@ std::vector<std::byte> Mutado(std::vector<std::byte> archivo, std::mt19937& azar
 /// Reads a whole workbook or faults; a table that is not whole makes the test fail. True when it was read.
 bool TablasEnterasOError(std::span<const std::byte> bytes);
 
+/// The same for a text of cells.
+bool TextoEnteroOError(std::span<const std::byte> bytes);
+
 /// How many tables of a database were read, and how many tell a defect. A fault of the whole file is neither.
 struct TablasDeBase {
     std::size_t enteras = 0;
