@@ -94,7 +94,7 @@ public:
                 comprobarQueNoSePisan();
             }
         }
-        if (primerFallo_ && std::ranges::all_of(tablas_, &EsDefectuosa)) {
+        if (primerFallo_ && std::ranges::all_of(tablas_, &esDefectuosa)) {
             throw ErrorMotor{*primerFallo_};
         }
         for (auto& [lugar, tabla] : tablasDeNombres_) {
@@ -104,7 +104,7 @@ public:
     }
 
 private:
-    static bool EsDefectuosa(const Tabla& tabla) { return tabla.defecto.has_value(); }
+    static bool esDefectuosa(const Tabla& tabla) { return tabla.defecto.has_value(); }
 
     void leerHoja(std::size_t i) {
         const auto& [nombreDeHoja, comienzo, deCalculo] = libro_.hojas[i];
