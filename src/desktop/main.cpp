@@ -5,6 +5,7 @@
 #include "desktop/Texto.h"
 #include "desktop/comodidades/Comodidades.h"
 #include "desktop/comodidades/Recientes.h"
+#include "libros/RegistrarLibros.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -33,6 +34,7 @@ std::vector<std::string> SinElPrograma(const QStringList& argumentos) {
 } // namespace
 
 int main(int argc, char** argv) {
+    varo::RegistrarLibros();
     const std::vector<std::string> escritos{argv + 1, argv + argc};
     if (varo::SoloPregunta(escritos)) {
         return Responder(varo::LeerOrden(escritos));

@@ -1,3 +1,4 @@
+#include "libros/RegistrarLibros.h"
 #include "lote/Lote.h"
 #include "lote/PintorAparte.h"
 #include "sistema/Senales.h"
@@ -28,6 +29,7 @@ std::size_t AnchoDeTerminal() {
 
 int main(int cuantos, char** argumentos) {
     try {
+        varo::RegistrarLibros();
         const varo::VigiaDeSenales vigia;
         const std::vector<std::string> propios{argumentos + 1, argumentos + cuantos};
         varo::PintorAparte pintor;

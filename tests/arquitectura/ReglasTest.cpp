@@ -51,6 +51,8 @@ TEST(Reglas, LasFlechasVanEnUnSoloSentido) {
                                  {"formularios/A.h", "#include \"lienzo/B.h\"\n"},
                                  {"sistema/A.h", "#include \"formularios/B.h\"\n"},
                                  {"desktop/A.h", "#include \"sistema/B.h\"\n"},
+                                 {"desktop/main.cpp", "#include \"libros/B.h\"\n"},
+                                 {"libros/A.h", "#include \"motor/B.h\"\n#include \"libros/C.h\"\n"},
                                  {"lote/A.h", "#include \"data/B.h\"\n#include \"sistema/C.h\"\n"}}),
               Lineas{});
     EXPECT_EQ(FlechasProhibidas({{"basico/A.h", "#include \"motor/B.h\"\n"},
@@ -58,12 +60,16 @@ TEST(Reglas, LasFlechasVanEnUnSoloSentido) {
                                  {"lienzo/A.h", "#include \"map/B.h\"\n#include \"formularios/C.h\"\n"},
                                  {"data/A.h", "#include \"lote/B.h\"\n#include \"sistema/C.h\"\n"},
                                  {"sistema/A.h", "#include \"lote/B.h\"\n#include \"data/C.h\"\n"},
+                                 {"libros/A.h", "#include \"formularios/B.h\"\n"},
+                                 {"motor/A.h", "#include \"libros/B.h\"\n"},
+                                 {"lote/A.cpp", "#include \"libros/B.h\"\n"},
                                  {"desktop/A.h", "#include \"lote/B.h\"\n"}}),
               (Lineas{"basico/A.h no puede conocer motor/B.h", "formularios/A.h no puede conocer motor/B.h",
                       "lienzo/A.h no puede conocer map/B.h", "lienzo/A.h no puede conocer formularios/C.h",
                       "data/A.h no puede conocer lote/B.h", "data/A.h no puede conocer sistema/C.h",
                       "sistema/A.h no puede conocer lote/B.h", "sistema/A.h no puede conocer data/C.h",
-                      "desktop/A.h no puede conocer lote/B.h"}));
+                      "libros/A.h no puede conocer formularios/B.h", "motor/A.h no puede conocer libros/B.h",
+                      "lote/A.cpp no puede conocer libros/B.h", "desktop/A.h no puede conocer lote/B.h"}));
 }
 
 TEST(Reglas, FueraDeDesktopLoteYSistemaSoloEntranCabecerasDeCpp) {

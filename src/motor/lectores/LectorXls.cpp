@@ -56,6 +56,11 @@ std::vector<std::byte> FlujoDelLibro(Bytes bytes) {
             return std::move(*flujo);
         }
     }
+    if (archivo.flujo("EncryptedPackage")) {
+        throw ErrorMotor{fallo::archivoCifrado,
+                         "es un libro cifrado (.xlsx con contraseña): ábralo con ella en "
+                         "la hoja de cálculo y guárdelo sin contraseña"};
+    }
     FormatoNoReconocido("no contiene un libro de Excel");
 }
 

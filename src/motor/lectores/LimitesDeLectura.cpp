@@ -24,8 +24,14 @@ void Gastar(std::size_t& queda, std::size_t gasto, const char* que) {
 } // namespace
 
 LimitesDeLectura::LimitesDeLectura(std::size_t bytesDeArchivo)
-    : celdasQueQuedan_{celdasDeTodoArchivo + bytesDeArchivo / bytesPorCelda},
-      textoQueQueda_{textoDeTodoArchivo + bytesDeArchivo * textoPorByte} {}
+    : celdasQueQuedan_{celdasDeTodoArchivo}, textoQueQueda_{textoDeTodoArchivo} {
+    crecer(bytesDeArchivo);
+}
+
+void LimitesDeLectura::crecer(std::size_t bytesDeArchivo) {
+    celdasQueQuedan_ += bytesDeArchivo / bytesPorCelda;
+    textoQueQueda_ += bytesDeArchivo * textoPorByte;
+}
 
 void LimitesDeLectura::contarCeldas(std::size_t cuantas) {
     Gastar(celdasQueQuedan_, cuantas, "sus tablas ocupan");

@@ -11,6 +11,9 @@ class LimitesDeLectura {
 public:
     explicit LimitesDeLectura(std::size_t bytesDeArchivo);
 
+    /// More of the file is there than was known.
+    void crecer(std::size_t bytesDeArchivo);
+
     /// Call before making them.
     void contarCeldas(std::size_t cuantas);
     void contarTexto(std::size_t bytes);

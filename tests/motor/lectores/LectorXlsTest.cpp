@@ -263,6 +263,17 @@ TEST(LectorXls, UnArchivoCompuestoSinLibroLoDice) {
               FalloDe(documento));
 }
 
+TEST(LectorXls, UnLibroXlsxCifradoLoDice) {
+    const auto cifrado = prueba::EscribirCompuesto({{"EncryptionInfo", std::vector<std::byte>(224)},
+                                                    {"EncryptedPackage", std::vector<std::byte>(5000)}});
+    EXPECT_TRUE(PareceXls(cifrado));
+    const auto [numero, descripcion] = FalloDe(cifrado);
+    EXPECT_EQ(numero, fallo::archivoCifrado);
+    EXPECT_EQ(descripcion,
+              "es un libro cifrado (.xlsx con contraseña): ábralo con ella en la hoja de cálculo y "
+              "guárdelo sin contraseña");
+}
+
 TEST(LectorXls, UnaHojaDeExcel2A4LoDice) {
     using namespace std::string_view_literals;
     // A text, a whole number, a blank cell and a number as Excel 2.0 wrote them, and the end.

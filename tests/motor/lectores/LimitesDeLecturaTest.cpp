@@ -29,6 +29,17 @@ TEST(LimitesDeLectura, LosTextosVanEnProporcionAlTamano) {
     limites.contarCeldas(1);
 }
 
+TEST(LimitesDeLectura, CrecenConLoQueVaApareciendo) {
+    LimitesDeLectura limites{0};
+    limites.contarCeldas(1'000'000);
+    limites.contarTexto(64'000'000);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarCeldas(1); }));
+    limites.crecer(1000);
+    limites.contarCeldas(500);
+    limites.contarTexto(16'000);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarCeldas(1); }));
+}
+
 TEST(LimitesDeLectura, UnaCuentaInmensaNoDaLaVuelta) {
     LimitesDeLectura limites{1000};
     limites.contarCeldas(1);

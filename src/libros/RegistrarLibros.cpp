@@ -1,0 +1,12 @@
+#include "libros/RegistrarLibros.h"
+
+#include "libros/LectorDeLibros.h"
+#include "motor/FormatosDeArchivo.h"
+
+namespace varo {
+
+void RegistrarLibros() {
+    RegistrarFormato({".xlsx", PareceLibroComprimido, LeerLibroComprimido});
+}
+
+} // namespace varo
