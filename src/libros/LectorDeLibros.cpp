@@ -3,6 +3,7 @@
 #include "libros/ArchivoZip.h"
 #include "libros/ClaseDeComprimido.h"
 #include "libros/TablasDeLibro.h"
+#include "libros/ods/LectorOds.h"
 #include "libros/xlsx/LectorXlsx.h"
 #include "libros/xlsx/LibroXlsx.h"
 
@@ -11,6 +12,9 @@ namespace {
 
 std::vector<Tabla> LeerComprimido(Bytes bytes, const std::string& archivo, const Avance& avance) {
     const ArchivoZip comprimido{bytes};
+    if (EsOds(comprimido)) {
+        return LeerOds(comprimido, archivo, avance);
+    }
     const auto principal = PartePrincipal(comprimido);
     if (principal && !principal->ends_with(".bin")) {
         return LeerXlsx(comprimido, *principal, archivo, avance);

@@ -144,8 +144,10 @@ std::optional<ZonaEscrita> ZonaDeXlsx(std::string_view formula) {
     if (!una) {
         return std::nullopt;
     }
-    const bool celdaSola = formula.empty() && una->fila && una->columna;
-    const auto otra = celdaSola ? una : Tomar(formula, ':') ? TomarEsquina(formula) : std::nullopt;
+    auto otra = una->fila && una->columna ? una : std::nullopt;
+    if (Tomar(formula, ':')) {
+        otra = TomarEsquina(formula);
+    }
     const auto zona = otra && formula.empty() ? ZonaEntre(*una, *otra) : std::nullopt;
     return zona ? std::optional{ZonaEscrita{*hoja, *zona}} : std::nullopt;
 }
@@ -154,10 +156,10 @@ std::optional<ZonaEscrita> ZonaDeOds(std::string_view direccion) {
     Tomar(direccion, '$');
     const auto hoja = TomarHoja(direccion, '.');
     const auto una = hoja ? TomarEsquina(direccion) : std::nullopt;
-    if (!una || !una->fila || !una->columna) {
+    if (!una) {
         return std::nullopt;
     }
-    auto otra = una;
+    auto otra = una->fila && una->columna ? una : std::nullopt;
     if (Tomar(direccion, ':')) {
         if (!Tomar(direccion, '.')) {
             Tomar(direccion, '$');

@@ -34,7 +34,7 @@ struct ZonaEscrita {
 /// with the cell that uses it, for other workbooks and for anything else.
 std::optional<ZonaEscrita> ZonaDeXlsx(std::string_view formula);
 
-/// "$Hoja1.$A$1:.$C$9", "$'La hoja'.$B$2", with the sheet once more behind the colon or not.
+/// "$Hoja1.$A$1:.$C$9", "$'La hoja'.$B$2", "$Hoja1.$A:.$C", with the sheet once more behind the colon or not.
 std::optional<ZonaEscrita> ZonaDeOds(std::string_view direccion);
 
 } // namespace varo

@@ -6,7 +6,7 @@
 namespace varo {
 
 void RegistrarLibros() {
-    RegistrarFormato({".xlsx", PareceLibroComprimido, LeerLibroComprimido});
+    RegistrarFormato({".xlsx, .ods", PareceLibroComprimido, LeerLibroComprimido});
 }
 
 } // namespace varo

@@ -13,6 +13,8 @@ constexpr std::string_view blancos = " \t\r\n";
 constexpr double segundosPorDia = 86400;
 constexpr double segundosPorHora = 3600;
 constexpr double segundosPorMinuto = 60;
+constexpr double primerDia = -657434;       // 1 January 100
+constexpr double diaTrasElUltimo = 2958466; // 1 January 10000
 
 std::string_view SinBlancos(std::string_view texto) {
     texto.remove_prefix(std::min(texto.find_first_not_of(blancos), texto.size()));
@@ -88,13 +90,16 @@ private:
 /// The day as its serial; nothing where the calendar has none.
 std::optional<double> DiaDe(TextoPorTomar& texto) {
     using namespace std::chrono;
-    const auto cifras = texto.cifras();
-    const year ano{texto.entero(cifras == 0 ? 1 : cifras)};
+    constexpr std::size_t cifrasDeUnAno = 4;
+    constexpr std::size_t masCifras = 5; // what a serial past the year 9999 becomes
+    const int signo = texto.tomarSi('-') ? -1 : 1;
+    const auto cifras = std::clamp(texto.cifras(), cifrasDeUnAno, masCifras);
+    const int ano = signo * texto.entero(cifras);
     texto.tomar('-');
     const month mes{static_cast<unsigned>(texto.entero(2))};
     texto.tomar('-');
-    const year_month_day fecha{ano, mes, day{static_cast<unsigned>(texto.entero(2))}};
-    if (!texto.bien() || cifras != 4 || !fecha.ok()) {
+    const year_month_day fecha{year{ano}, mes, day{static_cast<unsigned>(texto.entero(2))}};
+    if (!texto.bien() || ano > static_cast<int>(year::max()) || !fecha.ok()) {
         return std::nullopt;
     }
     return (sys_days{fecha} - sys_days{1899y / December / 30}).count();
@@ -140,6 +145,14 @@ std::optional<double> SerieDeFecha(std::string_view texto) {
         return std::nullopt;
     }
     return *dia < 0 ? *dia - hora : *dia + hora; // in a serial below zero the hour counts away from zero
+}
+
+std::optional<Valor> FechaEscrita(std::string_view texto) {
+    const auto serie = SerieDeFecha(texto);
+    if (!serie) {
+        return std::nullopt;
+    }
+    return *serie > primerDia - 1 && *serie < diaTrasElUltimo ? Valor{Fecha{*serie}} : Valor{*serie};
 }
 
 std::optional<double> ParteDelDia(std::string_view texto) {

@@ -15,6 +15,9 @@ std::optional<double> NumeroEscrito(std::string_view texto);
 /// sheet. Nothing where the text is no date of the calendar.
 std::optional<double> SerieDeFecha(std::string_view texto);
 
+/// The same as a date; before the year 100 or past 9999 it is no date and becomes a number.
+std::optional<Valor> FechaEscrita(std::string_view texto);
+
 /// "10:30" or "T10:30:00.5" as a part of a day.
 std::optional<double> ParteDelDia(std::string_view texto);
 

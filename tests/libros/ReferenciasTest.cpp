@@ -56,9 +56,10 @@ TEST(ZonaDeXlsx, LeeRectangulosFijosDeUnaHoja) {
 TEST(ZonaDeOds, LeeRectangulosFijosDeUnaHoja) {
     EXPECT_EQ(Dicha(ZonaDeOds("$Hoja1.$A$1:.$C$9")), "Hoja1: A1 C9");
     EXPECT_EQ(Dicha(ZonaDeOds("Hoja1.$B$2")), "Hoja1: B2 B2");
+    EXPECT_EQ(Dicha(ZonaDeOds("$H.$A:.$C")), "H: A1 C1048576");
     EXPECT_EQ(Dicha(ZonaDeOds("$'La d''aquí'.$B$2:$'La d''aquí'.$C$3")), "La d'aquí: B2 C3");
     for (const std::string mala : {"", "$H", "$H.A1", "$H.$A$1:", "$H.$A$1:$B$2", "$H.$A$1:$Otra.$B$2",
-                                   "$H.$A:.$B", "$H.$B$2:.$A$1", "$'H.$A$1", "$H.$A$1 $H.$B$2"}) {
+                                   "$H.$A", "$H.$A:.$2", "$H.$B$2:.$A$1", "$'H.$A$1", "$H.$A$1 $H.$B$2"}) {
         EXPECT_EQ(Dicha(ZonaDeOds(mala)), "nada") << mala;
     }
 }

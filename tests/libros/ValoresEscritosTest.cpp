@@ -31,11 +31,18 @@ TEST(SerieDeFecha, CuentaLosDiasDesdeElFinalDe1899) {
     EXPECT_EQ(SerieDeFecha("2020-01-01T18:00"), 43831.75);
     EXPECT_EQ(SerieDeFecha("2020-01-01T12:00:00.000Z"), 43831.5);
     EXPECT_EQ(SerieDeFecha("2020-01-01T12:00:00+02:00"), 43831.5);
+    // What no calendar of ours has is a number all the same.
+    EXPECT_EQ(SerieDeFecha("10000-01-01"), 2958466.0);
+    EXPECT_EQ(SerieDeFecha("-0070-01-01"), -719526.0);
+    EXPECT_EQ(FechaEscrita("9999-12-31"), Valor{Fecha{2958465}});
+    EXPECT_EQ(FechaEscrita("10000-01-01"), Valor{2958466.0});
+    EXPECT_EQ(FechaEscrita("0099-12-31"), Valor{-657435.0});
+    EXPECT_EQ(FechaEscrita("0100-01-01"), Valor{Fecha{-657434}});
     // Below zero the hour of a serial counts away from zero.
     EXPECT_EQ(SerieDeFecha("1899-12-28T06:00:00"), -2.25);
     for (const std::string mala :
-         {"", "2020", "2020-1-1", "2020-02-30", "2019-02-29", "20-01-01", "12020-01-01", "2020-01-01T",
-          "2020-01-01T25:00", "2020-01-01x", "2020/01/01", "-2020-01-01"}) {
+         {"", "2020", "2020-1-1", "2020-02-30", "2019-02-29", "20-01-01", "120200-01-01", "99999-01-01",
+          "2020-01-01T", "2020-01-01T25:00", "2020-01-01x", "2020/01/01"}) {
         EXPECT_FALSE(SerieDeFecha(mala)) << mala;
     }
 }

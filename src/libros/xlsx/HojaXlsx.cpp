@@ -201,7 +201,7 @@ private:
         } else if (clase_ == ClaseEscrita::Verdad) {
             anadir({ValorDeCelda::Clase::Verdad, verdad() ? 1.0 : 0.0});
         } else if (clase_ == ClaseEscrita::Momento) {
-            anadir({ValorDeCelda::Clase::Momento, momento()});
+            anadir(ValorDeCelda{momento()});
         } else {
             anadir(numero());
         }
@@ -235,13 +235,15 @@ private:
         return EsVerdad(resultado_);
     }
 
-    [[nodiscard]] double momento() const {
-        const auto serie = SerieDeFecha(resultado_);
-        const auto leido = serie ? serie : ParteDelDia(resultado_);
-        if (!leido) {
+    [[nodiscard]] Valor momento() const {
+        if (const auto hora = ParteDelDia(resultado_)) {
+            return Fecha{*hora};
+        }
+        const auto fecha = FechaEscrita(resultado_);
+        if (!fecha) {
             danada("no lleva una fecha: " + resultado_);
         }
-        return *leido;
+        return *fecha;
     }
 
     /// What is no finite number shows as an error in a sheet, and is null like one.
