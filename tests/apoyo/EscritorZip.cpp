@@ -65,7 +65,9 @@ std::vector<std::byte> EscribirZip(const std::vector<ParteZip>& partes) {
         AnadirTexto(indice, "PK\1\2");
         AnadirU16(indice, 20);
         AnadirDatos(indice, parte);
-        AnadirEntero(indice, 0, 10); // no comment, one disk, no attributes
+        AnadirU32(indice, 0); // no comment, one disk
+        AnadirU16(indice, 0); // no attributes
+        AnadirU32(indice, 0);
         AnadirU32(indice, comienzo);
         AnadirTexto(indice, parte.nombre);
     }
