@@ -1,11 +1,9 @@
 // The golden plots: each folder is a plot, a job and its right answer, worked out apart from the program.
 #include "apoyo/CarpetaTemporal.h"
-#include "apoyo/EscritorMdb.h"
 #include "apoyo/Jornada.h"
 #include "apoyo/Lugares.h"
 #include "casos/Caso.h"
 #include "lote/recorrido/Recorrido.h"
-#include "motor/BaseDatos.h"
 
 #include <gtest/gtest.h>
 
@@ -136,19 +134,6 @@ void CorrerCaso(const Caso& caso) {
     CompararSalidas(caso, trabajo, carpeta.ruta());
 }
 
-/// The same job with its plot in a database.
-void CorrerDesdeUnaBaseDeDatos(const Caso& caso) {
-    const CarpetaTemporal carpeta;
-    const CarpetaTemporal resultados;
-    const auto base = carpeta / "parcela.mdb";
-    const Trabajo trabajo =
-        LeerTrabajo(caso.trabajo(), {.archivo = base, .hoja = {}, .salida = resultados.ruta()});
-    const auto libro = BaseDatos::abrir(caso.carpeta / "parcela.xls");
-    EscribirArchivoMdb(base, {{EnTablaMdb(libro.TableDefs()(trabajo.hoja))}});
-    CorrerTrabajo(trabajo);
-    CompararSalidas(caso, trabajo, resultados.ruta());
-}
-
 fs::path CasosPropios() {
     return DatosDePrueba() / "casos";
 }
@@ -168,15 +153,6 @@ TEST_P(Parcelas, DaSuRespuesta) {
 
 INSTANTIATE_TEST_SUITE_P(Casos, Parcelas, testing::ValuesIn(NombresDeCasos(CasosPropios())),
                          [](const auto& caso) { return caso.param; });
-
-TEST(ListaDeCasos, DesdeUnaBaseDeDatosLaRespuestaEsLaMisma) {
-    for (const std::string nombre :
-         {"todas_4r", "todas_2d_utm", "rm_cap_m", "extensa", "filas_vacias", "codigos_numero",
-          "datos_codigos_vacios", "cabecera_con_acento", "segunda_hoja", "apa_rm_dap_cm", "dr_func_ambas"}) {
-        SCOPED_TRACE(nombre);
-        CorrerDesdeUnaBaseDeDatos(LeerCaso(CasosPropios() / nombre));
-    }
-}
 
 TEST(ListaDeCasos, LasParcelasDeAlLadoDanSuRespuesta) {
     const fs::path compartidas = AlLado() / "casos";
