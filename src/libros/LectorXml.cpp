@@ -1,5 +1,6 @@
 #include "libros/LectorXml.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <exception>
@@ -13,7 +14,6 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr char separador = ' ';
 constexpr std::size_t masHondo = 200;
 /// A tag with its attributes. Parsers look at it again with each piece that they are given of it.
 constexpr std::size_t masLargo = std::size_t{1} << 20U;
@@ -54,7 +54,7 @@ struct Liberar {
 class AnalisisXml {
 public:
     AnalisisXml(const std::string& parte, OyenteXml& oyente)
-        : parte_{parte}, oyente_{oyente}, parser_{XML_ParserCreateNS(nullptr, separador)} {
+        : parte_{parte}, oyente_{oyente}, parser_{XML_ParserCreate(nullptr)} {
         if (!parser_) {
             throw std::bad_alloc{};
         }
@@ -107,11 +107,13 @@ private:
             if (++analisis.hondura_ > masHondo) {
                 analisis.danada("tiene elementos unos dentro de otros sin fin");
             }
-            analisis.oyente_.abrir(ElementoXml{ElementoXml::separar(nombre), atributos});
+            analisis.prefijos_.abrir(analisis.hondura_, atributos);
+            analisis.oyente_.abrir(ElementoXml{nombre, atributos, analisis.prefijos_});
         });
     }
     static void XMLCALL alCerrar(void* yo, const char* /*nombre*/) {
         guardando(yo, [](AnalisisXml& analisis) {
+            analisis.prefijos_.cerrar(analisis.hondura_);
             --analisis.hondura_;
             analisis.oyente_.cerrar();
         });
@@ -136,6 +138,7 @@ private:
     const std::string& parte_;
     OyenteXml& oyente_;
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, Liberar> parser_;
+    PrefijosXml prefijos_;
     std::exception_ptr fallo_;
     std::size_t recibidos_ = 0;
     std::size_t hondura_ = 0;
@@ -143,17 +146,64 @@ private:
 
 } // namespace
 
-NombreXml ElementoXml::separar(std::string_view escrito) {
-    const auto corte = escrito.rfind(separador);
-    if (corte == std::string_view::npos) {
-        return {EspacioXml::Ninguno, escrito};
+void PrefijosXml::abrir(std::size_t hondura, const char* const* atributos) {
+    constexpr std::string_view declaracion = "xmlns";
+    for (const char* const* par = atributos; *par != nullptr; par += 2) {
+        if (std::string_view nombre = par[0]; nombre.starts_with(declaracion)) {
+            nombre.remove_prefix(declaracion.size());
+            if (nombre.empty() || nombre.starts_with(':')) {
+                declarar(nombre.substr(nombre.empty() ? 0 : 1), par[1], hondura);
+            }
+        }
     }
-    return {EspacioDe(escrito.substr(0, corte)), escrito.substr(corte + 1)};
+}
+
+void PrefijosXml::declarar(std::string_view prefijo, std::string_view uri, std::size_t hondura) {
+    const auto espacio = EspacioDe(uri);
+    if (espacio != EspacioXml::Otro || prefijo.empty() || buscar(prefijo) != nullptr) {
+        declarados_.push_back({std::string{prefijo}, espacio, hondura});
+    }
+}
+
+void PrefijosXml::cerrar(std::size_t hondura) {
+    while (!declarados_.empty() && declarados_.back().hondura == hondura) {
+        declarados_.pop_back();
+    }
+}
+
+const PrefijosXml::Declarado* PrefijosXml::buscar(std::string_view prefijo) const {
+    const auto hallado =
+        std::find_if(declarados_.rbegin(), declarados_.rend(),
+                     [prefijo](const Declarado& declarado) { return declarado.prefijo == prefijo; });
+    return hallado == declarados_.rend() ? nullptr : &*hallado;
+}
+
+EspacioXml PrefijosXml::espacioDe(std::string_view prefijo) const {
+    if (prefijo == "xml") {
+        return EspacioXml::Xml;
+    }
+    const auto* const declarado = buscar(prefijo);
+    return declarado == nullptr ? EspacioXml::Otro : declarado->espacio;
+}
+
+NombreXml PrefijosXml::deElemento(std::string_view escrito) const {
+    if (escrito.find(':') != std::string_view::npos) {
+        return deAtributo(escrito);
+    }
+    const auto* const sinPrefijo = buscar({});
+    return {sinPrefijo == nullptr ? EspacioXml::Ninguno : sinPrefijo->espacio, escrito};
+}
+
+NombreXml PrefijosXml::deAtributo(std::string_view escrito) const {
+    const auto corte = escrito.find(':');
+    return corte == std::string_view::npos
+               ? NombreXml{EspacioXml::Ninguno, escrito}
+               : NombreXml{espacioDe(escrito.substr(0, corte)), escrito.substr(corte + 1)};
 }
 
 std::optional<std::string_view> ElementoXml::atributo(NombreXml buscado) const {
     for (const char* const* par = atributos_; *par != nullptr; par += 2) {
-        if (separar(par[0]) == buscado) {
+        if (prefijos_->deAtributo(par[0]) == buscado) {
             return par[1];
         }
     }

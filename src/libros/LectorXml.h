@@ -34,10 +34,37 @@ struct NombreXml {
     friend bool operator==(const NombreXml&, const NombreXml&) = default;
 };
 
+/// What the prefixes stand for where the reading is. The parser could tell it, and takes twice as long then.
+class PrefijosXml {
+public:
+    /// An element opens that stands so deep, with these attributes.
+    void abrir(std::size_t hondura, const char* const* atributos);
+    /// The element that stands so deep closes.
+    void cerrar(std::size_t hondura);
+
+    /// "table:name" or "name", which for an attribute is of no vocabulary.
+    [[nodiscard]] NombreXml deElemento(std::string_view escrito) const;
+    [[nodiscard]] NombreXml deAtributo(std::string_view escrito) const;
+
+private:
+    struct Declarado {
+        std::string prefijo; ///< empty for what has none
+        EspacioXml espacio = EspacioXml::Otro;
+        std::size_t hondura = 0;
+    };
+
+    [[nodiscard]] const Declarado* buscar(std::string_view prefijo) const;
+    void declarar(std::string_view prefijo, std::string_view uri, std::size_t hondura);
+    [[nodiscard]] EspacioXml espacioDe(std::string_view prefijo) const;
+
+    std::vector<Declarado> declarados_; ///< without those of other vocabularies, but where they hide one
+};
+
 /// An element that opens. It lives no longer than the call that tells it.
 class ElementoXml {
 public:
-    ElementoXml(NombreXml nombre, const char* const* atributos) : nombre_{nombre}, atributos_{atributos} {}
+    ElementoXml(std::string_view nombre, const char* const* atributos, const PrefijosXml& prefijos)
+        : nombre_{prefijos.deElemento(nombre)}, atributos_{atributos}, prefijos_{&prefijos} {}
 
     [[nodiscard]] const NombreXml& nombre() const { return nombre_; }
     [[nodiscard]] bool es(EspacioXml espacio, std::string_view nombre) const {
@@ -54,16 +81,14 @@ public:
     template <class Accion>
     void enCadaAtributo(Accion accion) const {
         for (const char* const* par = atributos_; *par != nullptr; par += 2) {
-            accion(separar(par[0]), std::string_view{par[1]});
+            accion(prefijos_->deAtributo(par[0]), std::string_view{par[1]});
         }
     }
-
-    /// "uri name" or "name".
-    static NombreXml separar(std::string_view escrito);
 
 private:
     NombreXml nombre_;
     const char* const* atributos_;
+    const PrefijosXml* prefijos_;
 };
 
 /// Hears a part. What it throws ends the reading.
