@@ -58,7 +58,72 @@ constexpr std::array<Remedio, 25> remedios{{
     {"key", "falta una clave o no está bien escrita; una con blancos o paréntesis va entre comillas"},
 }};
 
+/// Goes through a text of TOML from one sign to the next and passes over comments and quoted texts.
+class Signos {
+public:
+    explicit Signos(std::string_view texto) : texto_{texto} {}
+
+    /// The next sign, 0 at the end; the first quote of a quoted text stands for all of it.
+    char siguiente() {
+        if (texto_.starts_with('#')) {
+            texto_.remove_prefix(std::min(texto_.find('\n'), texto_.size()));
+        }
+        if (texto_.empty()) {
+            return '\0';
+        }
+        const char signo = texto_.front();
+        if (signo == '"' || signo == '\'') {
+            pasarTexto(signo);
+        } else {
+            pasar(1);
+        }
+        return signo;
+    }
+
+    [[nodiscard]] int linea() const { return linea_; }
+
+private:
+    void pasar(std::size_t cuantos) {
+        const auto pasado = texto_.substr(0, cuantos);
+        linea_ += static_cast<int>(std::ranges::count(pasado, '\n'));
+        texto_.remove_prefix(pasado.size());
+    }
+
+    /// A text between one quote ends with its line at the latest. One between three may end with quotes of
+    /// its own in front of them.
+    void pasarTexto(char comilla) {
+        const std::string tres(3, comilla);
+        const bool largo = texto_.starts_with(tres);
+        const std::string fin = largo ? tres : std::string{comilla};
+        pasar(fin.size());
+        while (!texto_.empty() && !texto_.starts_with(fin) && (largo || texto_.front() != '\n')) {
+            pasar(comilla == '"' && texto_.front() == '\\' ? 2 : 1);
+        }
+        if (texto_.starts_with(fin)) {
+            pasar(largo ? std::min(texto_.find_first_not_of(comilla), std::size_t{5}) : 1);
+        }
+    }
+
+    std::string_view texto_;
+    int linea_ = 1;
+};
+
 } // namespace
+
+std::optional<int> LineaDeClaveHonda(std::string_view texto) {
+    constexpr int puntosDeUnaClave = 15;
+    constexpr std::string_view otraClave = "\n=,{}[]";
+    Signos signos{texto};
+    int puntos = 0;
+    for (char signo = signos.siguiente(); signo != '\0'; signo = signos.siguiente()) {
+        if (otraClave.find(signo) != std::string_view::npos) {
+            puntos = 0;
+        } else if (signo == '.' && ++puntos > puntosDeUnaClave) {
+            return signos.linea();
+        }
+    }
+    return std::nullopt;
+}
 
 std::optional<int> LineaSinUtf8(std::string_view texto) {
     constexpr char32_t sustituto = U'\uFFFD';

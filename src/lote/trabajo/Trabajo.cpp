@@ -256,6 +256,11 @@ Trabajo InterpretarTrabajo(std::string_view texto, const fs::path& ruta, const C
     if (const auto linea = LineaSinUtf8(texto)) {
         throw ErrorTrabajo{ruta, {"", *linea}, "el trabajo no está en UTF-8: guárdelo en UTF-8"};
     }
+    if (const auto linea = LineaDeClaveHonda(texto)) {
+        throw ErrorTrabajo{ruta,
+                           {"", *linea},
+                           "una clave tiene demasiadas partes separadas por puntos: ninguna pasa de cinco"};
+    }
     try {
         const toml::table raiz = toml::parse(texto);
         return Interprete{raiz, ruta, cambios}.interpretar();

@@ -290,6 +290,41 @@ TEST(Trabajo, UnTextoQueNoEsUtf8DiceDondeYComoSeGuarda) {
         "t.toml: línea 2: el trabajo no está en UTF-8: guárdelo en UTF-8");
 }
 
+std::string Partes(int cuantas, const std::string& parte) {
+    std::string clave = parte;
+    for (int i = 1; i < cuantas; ++i) {
+        clave += "." + parte;
+    }
+    return clave;
+}
+
+TEST(Trabajo, UnaClaveDeMilesDePartesSeRechaza) {
+    const std::string dice =
+        "t.toml: línea 3: una clave tiene demasiadas partes separadas por puntos: ninguna pasa de cinco";
+    const auto honda = Partes(200'000, "a");
+    for (const auto& texto :
+         {"[opciones]\n\n" + honda + " = 1\n", "x = '''\n'''\n[" + honda + "]\n",
+          "\n\na = { b = 1, " + honda + " = 1 }\n", "\n\n" + Partes(17, " \"a.b\" ") + " = 1\n",
+          "a = \"\"\"\\\n\\\"\"\"\"\n" + honda + " = 1",
+          "\n\na = { b = \"\"\"x\"\"\"\", " + honda + " = 1 }\n"}) {
+        EXPECT_EQ(ErrorDe([&] { InterpretarTrabajo(texto, "t.toml"); }), dice) << texto.substr(0, 40);
+    }
+}
+
+TEST(Trabajo, LosPuntosDeUnTextoDeUnNumeroYDeUnComentarioNoSonPartes) {
+    const auto puntos = std::string(40, '.');
+    const auto trabajo =
+        InterpretarTrabajo("archivo = \"" + puntos + "\\\"" + puntos + "\" # " + puntos + "\nhoja = '" +
+                               puntos + "\\'\n[columnas] # '" + puntos + "\n[opciones]\nT = \"\"\"\n\"" +
+                               puntos + "\"\"\"\nL = [ { a = 1.5, b = " +
+                               "1.5, c = 1.5, d = 1.5, e = 1.5 }, { a = 1.5, b = 1.5, c = 1.5, d " +
+                               "= 1.5, e = 1.5 }, { a = 1.5, b = 1.5, c = 1.5, d = 1.5, e = 1.5 }, " +
+                               "{ a = 1.5, b = 1.5, c = 1.5, d = 1.5, e = 1.5 } ]\n",
+                           "t.toml");
+    EXPECT_EQ(trabajo.hoja, puntos + "\\");
+    EXPECT_EQ(trabajo.opciones.size(), 2U);
+}
+
 TEST(Trabajo, UnDispositivoYUnArchivoInmensoNoSonTrabajos) {
     const CarpetaTemporal carpeta;
     const auto inmenso = carpeta.ruta() / "inmenso.toml";
