@@ -14,6 +14,7 @@ namespace {
 using Contenido = PaginasMdb::Contenido;
 
 constexpr std::uint32_t paginaDelCatalogo = 2;
+constexpr std::uint32_t paginasEnUnaFila = 500; // of a map that is a row of bits
 
 void AnadirCeros(Contenido& bytes, std::size_t cuantos) {
     bytes.resize(bytes.size() + cuantos);
@@ -64,7 +65,8 @@ private:
     void escribirTabla(const TablaMdb& tabla, std::uint32_t pagina) {
         const auto deFilas = escribirFilas(tabla, pagina);
         const auto mapas = paginas_.nuevaDeFilas(pagina);
-        const auto usadas = paginas_.anadirFila(mapas, paginas_.mapa(deFilas, tabla.mapaEnPaginas));
+        const bool caben = deFilas.empty() || deFilas.back() - deFilas.front() < paginasEnUnaFila;
+        const auto usadas = paginas_.anadirFila(mapas, paginas_.mapa(deFilas, tabla.mapaEnPaginas || !caben));
         const auto libres = paginas_.anadirFila(mapas, paginas_.mapa({}, false));
         escribirDefinicion(pagina, definicion(tabla, usadas, libres));
     }

@@ -1,0 +1,1 @@
+SELECT a AS b, a + 1 AS [la suma] FROM [P$]

@@ -1,0 +1,1 @@
+SELECT 'D''Artagnan' FROM [P$]

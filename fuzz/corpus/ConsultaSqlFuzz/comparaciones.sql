@@ -1,0 +1,1 @@
+SELECT a <> 1, a <= 2, a >= 2, a < b, a > b, a = b FROM [P$]

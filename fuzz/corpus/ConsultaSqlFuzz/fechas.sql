@@ -1,0 +1,1 @@
+SELECT [N 1] FROM [P$] WHERE [N 1] >= 43831

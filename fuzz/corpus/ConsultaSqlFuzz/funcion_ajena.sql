@@ -1,0 +1,1 @@
+SELECT Sqr(a) FROM [P$]

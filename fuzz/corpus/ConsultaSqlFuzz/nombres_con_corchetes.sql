@@ -1,0 +1,1 @@
+SELECT [N 1], [ñ] FROM [P$]

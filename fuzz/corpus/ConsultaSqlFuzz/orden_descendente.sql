@@ -1,0 +1,1 @@
+SELECT b FROM [P$] ORDER BY a * -1 DESC

@@ -1,0 +1,1 @@
+SELECT x ^ 2 FROM Extremos

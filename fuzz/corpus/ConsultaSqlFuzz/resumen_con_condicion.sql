@@ -1,0 +1,1 @@
+SELECT Count(*) AS pies FROM [P$] WHERE b = 'Ps' OR b = 'ps'

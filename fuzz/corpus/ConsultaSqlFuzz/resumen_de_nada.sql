@@ -1,0 +1,1 @@
+SELECT Sum(a), Count(*) FROM [Vacía]

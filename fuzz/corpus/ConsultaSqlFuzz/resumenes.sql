@@ -1,0 +1,1 @@
+SELECT Sum(a), Avg(a), Max(a), Min(a), Count(a), Count(*) FROM [P$]

@@ -1,0 +1,1 @@
+SELECT a FROM [P$] WHERE a = 1 LIMIT 3

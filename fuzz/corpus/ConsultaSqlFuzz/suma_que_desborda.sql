@@ -1,0 +1,1 @@
+SELECT Sum(x) FROM Extremos WHERE x > 0 OR x < 0

@@ -1,0 +1,1 @@
+SELECT Sum(b) FROM [P$]

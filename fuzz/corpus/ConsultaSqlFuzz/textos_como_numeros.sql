@@ -1,0 +1,1 @@
+SELECT b + 1 FROM [P$] WHERE b = 12.5

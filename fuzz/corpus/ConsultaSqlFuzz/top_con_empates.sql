@@ -1,0 +1,1 @@
+SELECT TOP 2 a, b FROM [P$] ORDER BY a

@@ -1,0 +1,1 @@
+SELECT a FROM [P$] WHERE a = 1 AND b = 1 OR NOT (a > 2)

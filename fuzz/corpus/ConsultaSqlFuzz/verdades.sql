@@ -1,0 +1,1 @@
+SELECT [ñ] FROM [P$] WHERE [ñ]
