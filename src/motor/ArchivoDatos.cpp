@@ -17,8 +17,9 @@ namespace varo {
 
 namespace {
 
-/// Far beyond any plot: what is larger is some other kind of file, and is not read into memory.
-constexpr std::uintmax_t tamanoMaximo = std::uintmax_t{512} * 1024 * 1024;
+/// Far beyond any plot: what is larger is some other kind of file, and is not read into memory. Ten times as
+/// much and 64 MB, which is what reading takes at most, stay below 2 GB.
+constexpr std::uintmax_t tamanoMaximo = std::uintmax_t{192} * 1024 * 1024;
 
 std::string NombreDe(const std::filesystem::path& archivo) {
     const auto utf8 = archivo.u8string();

@@ -24,20 +24,20 @@ public:
     ~TextosGuardados() = default;
 
     SitioDeTexto guardar(std::string_view texto);
+    /// The same for a text that is new: nothing is remembered of it, which costs less.
+    SitioDeTexto anadir(std::string_view texto);
     /// The text of a place that `guardar` gave.
     [[nodiscard]] std::string_view operator[](SitioDeTexto sitio) const;
 
 private:
-    SitioDeTexto anadir(std::string_view texto);
-
     std::deque<std::string> bloques_;
     std::unordered_map<std::string_view, SitioDeTexto> largos_;
 };
 
-/// Texts by their number, from 0.
+/// Texts by their number, from 0; the files that have such lists have each text once in them.
 class ListaDeTextos {
 public:
-    void anadir(std::string_view texto) { sitios_.push_back(textos_.guardar(texto)); }
+    void anadir(std::string_view texto) { sitios_.push_back(textos_.anadir(texto)); }
     [[nodiscard]] std::size_t size() const { return sitios_.size(); }
     [[nodiscard]] std::string_view operator[](std::size_t numero) const { return textos_[sitios_[numero]]; }
 

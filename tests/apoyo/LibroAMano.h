@@ -13,7 +13,7 @@ public:
 
     /// A record of the whole workbook.
     LibroAMano& global(int tipo, const Contenido& contenido);
-    /// The table of shared texts, whose cells know them by their place; each one is in ASCII.
+    /// The table of shared texts, whose cells know them by their place; one byte a letter.
     LibroAMano& textos(const std::vector<std::string>& textos);
     /// A sheet with these records, made by AnadirRegistro.
     LibroAMano& hoja(std::string nombre, Contenido registros);

@@ -66,6 +66,7 @@ private:
         if (!vinculada && !paginas_.insert(pagina).second) {
             ArchivoDanado("dos tablas son la misma");
         }
+        limites_.contarTablas(1);
         tablas_.push_back({*texto, pagina, vinculada});
     }
 

@@ -128,7 +128,7 @@ private:
         if (numero >= libro_.textos.size()) {
             ArchivoDanado("una celda pide un texto que no hay");
         }
-        limites_.contarTexto(libro_.textos[numero].size());
+        limites_.contarTextoDeCelda(libro_.textos[numero].size());
         anadir(datos, ValorDeCelda{libro_.textos[numero]});
     }
 

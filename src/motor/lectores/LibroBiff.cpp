@@ -76,6 +76,9 @@ private:
     }
 
     void leerHoja(Bytes datos) {
+        if (libro_.hojas.size() == biff::cuantosPuedeHaber) {
+            ArchivoDanado("tiene demasiadas hojas");
+        }
         LectorContinuo nombre{{Trozo(datos, 6, datos.size() - 6)}};
         libro_.hojas.push_back(
             {libro_.cadenas.leerCorta(nombre), LeerU32(datos, 0), LeerU8(datos, 5) == hojaDeCalculo});

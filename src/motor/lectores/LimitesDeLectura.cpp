@@ -2,43 +2,57 @@
 
 #include "motor/lectores/Bytes.h"
 
+#include <algorithm>
 #include <string>
 
 namespace varo {
 namespace {
 
-// A dense table takes six bytes of file per cell or more, and a text that many cells share is rarely longer
-// than a note: the proportions leave room, and the fixed parts let a small file be sparse.
-constexpr std::size_t celdasDeTodoArchivo = 1'000'000;
-constexpr std::size_t bytesPorCelda = 2;
-constexpr std::size_t textoDeTodoArchivo = 64'000'000;
-constexpr std::size_t textoPorByte = 16;
+// All that reading holds stays below ten times the file and 64 MB: the file and the stream in it, one sheet
+// that is being read, and this. A dense table takes six bytes of file per cell or more; the fixed part lets a
+// small file be sparse.
+constexpr std::size_t memoriaDeTodoArchivo = 40'000'000;
+constexpr std::size_t memoriaPorByte = 5;
 
-void Gastar(std::size_t& queda, std::size_t gasto, const char* que) {
-    if (gasto > queda) {
-        ArchivoDanado(std::string{que} + " demasiado para su tamaño");
-    }
-    queda -= gasto;
-}
+constexpr std::size_t bytesDeCelda = 17;   // and a part of what its block takes
+constexpr std::size_t bytesDeTabla = 4096; // without its cells, or with the words of its defect
+constexpr std::size_t textoEnLaCelda = 8;
+constexpr std::size_t textoAparte = 24; // from here on it stands once
+constexpr std::size_t longitudDeTexto = 4;
 
 } // namespace
 
-LimitesDeLectura::LimitesDeLectura(std::size_t bytesDeArchivo)
-    : celdasQueQuedan_{celdasDeTodoArchivo}, textoQueQueda_{textoDeTodoArchivo} {
+LimitesDeLectura::LimitesDeLectura(std::size_t bytesDeArchivo) : quedan_{memoriaDeTodoArchivo} {
     crecer(bytesDeArchivo);
 }
 
 void LimitesDeLectura::crecer(std::size_t bytesDeArchivo) {
-    celdasQueQuedan_ += bytesDeArchivo / bytesPorCelda;
-    textoQueQueda_ += bytesDeArchivo * textoPorByte;
+    quedan_ += bytesDeArchivo * memoriaPorByte;
+}
+
+void LimitesDeLectura::contarTablas(std::size_t cuantas) {
+    gastar(cuantas, bytesDeTabla, "sus tablas ocupan");
 }
 
 void LimitesDeLectura::contarCeldas(std::size_t cuantas) {
-    Gastar(celdasQueQuedan_, cuantas, "sus tablas ocupan");
+    gastar(cuantas, bytesDeCelda, "sus tablas ocupan");
 }
 
 void LimitesDeLectura::contarTexto(std::size_t bytes) {
-    Gastar(textoQueQueda_, bytes, "sus textos ocupan");
+    gastar(bytes, 1, "sus textos ocupan");
+}
+
+void LimitesDeLectura::contarTextoDeCelda(std::size_t bytes) {
+    if (bytes > textoEnLaCelda) {
+        contarTexto(std::min(bytes, textoAparte) + longitudDeTexto);
+    }
+}
+
+void LimitesDeLectura::gastar(std::size_t cuantos, std::size_t bytesDeUno, const char* que) {
+    if (cuantos > quedan_ / bytesDeUno) {
+        ArchivoDanado(std::string{que} + " demasiado para su tamaño");
+    }
+    quedan_ -= cuantos * bytesDeUno;
 }
 
 } // namespace varo

@@ -1,12 +1,12 @@
-// How much a reader may make out of a file: in proportion to the file's size, so that a small hostile file
-// cannot fill the memory.
+// How much memory a reader may fill with what it makes out of a file: in proportion to the file's size, so
+// that a small hostile file cannot fill all of it.
 #pragma once
 
 #include <cstddef>
 
 namespace varo {
 
-/// Counts cells of tables and bytes of texts while a file is read; too many of them throw ErrorMotor.
+/// Counts the memory of tables, cells and texts while a file is read; too much of it throws ErrorMotor.
 class LimitesDeLectura {
 public:
     explicit LimitesDeLectura(std::size_t bytesDeArchivo);
@@ -15,12 +15,18 @@ public:
     void crecer(std::size_t bytesDeArchivo);
 
     /// Call before making them.
+    void contarTablas(std::size_t cuantas);
     void contarCeldas(std::size_t cuantas);
+    /// Texts that are kept as they are.
     void contarTexto(std::size_t bytes);
+    /// The text of a cell: a short one stands in the cell, and a long one once for all the cells that have
+    /// it.
+    void contarTextoDeCelda(std::size_t bytes);
 
 private:
-    std::size_t celdasQueQuedan_;
-    std::size_t textoQueQueda_;
+    void gastar(std::size_t cuantos, std::size_t bytesDeUno, const char* que);
+
+    std::size_t quedan_; // bytes
 };
 
 } // namespace varo

@@ -1,5 +1,7 @@
 #include "motor/lectores/NombresBiff.h"
 
+#include "motor/lectores/RegistrosBiff.h"
+
 #include <utility>
 
 namespace varo {
@@ -80,6 +82,9 @@ void NombresBiff::anadirLibroExterno(Bytes supBook) {
 
 void NombresBiff::anadirReferencias(LectorContinuo externSheet) {
     const std::size_t cuantas = externSheet.u16();
+    if (referencias_.size() + cuantas > biff::cuantosPuedeHaber) {
+        ArchivoDanado("tiene demasiadas referencias entre hojas");
+    }
     for (std::size_t i = 0; i < cuantas; ++i) {
         Referencia referencia;
         referencia.libro = externSheet.u16();
@@ -99,6 +104,9 @@ void NombresBiff::anadirNombre(LectorContinuo registro, const CadenasBiff& caden
     registro.saltar(4);
     if (deUnaHoja || (banderas & banderaPredefinido) != 0) {
         return;
+    }
+    if (nombres_.size() == biff::cuantosPuedeHaber) {
+        ArchivoDanado("tiene demasiados nombres");
     }
     Nombre nombre{cadenas.leer(registro, longitud), {}};
     while (nombre.formula.size() < bytesDeFormula) {

@@ -36,7 +36,13 @@ std::optional<Registro> Subflujo::siguiente() {
 }
 
 std::vector<Bytes> Subflujo::conContinuaciones(const Registro& registro) {
-    std::vector<Bytes> fragmentos{registro.datos};
+    std::size_t cuantos = 1;
+    for (auto lugar = lugar_; LeerU16(flujo_, lugar) == biff::continuacion; ++cuantos) {
+        lugar += 4U + LeerU16(flujo_, lugar + 2);
+    }
+    std::vector<Bytes> fragmentos;
+    fragmentos.reserve(cuantos);
+    fragmentos.push_back(registro.datos);
     while (LeerU16(flujo_, lugar_) == biff::continuacion) {
         fragmentos.push_back(leer().datos);
     }

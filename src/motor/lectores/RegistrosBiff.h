@@ -42,6 +42,9 @@ inline constexpr int version5 = 0x0500;
 inline constexpr int version8 = 0x0600;
 inline constexpr int globales = 0x0005;
 inline constexpr int hojaDeCalculo = 0x0010;
+
+/// Sheets, names and references between sheets are known by numbers of 16 bits.
+inline constexpr std::size_t cuantosPuedeHaber = 0xFFFF;
 } // namespace biff
 
 struct Registro {

@@ -24,7 +24,7 @@ void EnCadaCelda(const HojaDeCalculo& hoja, const ZonaDeHoja& zona, LimitesDeLec
             i = celdas.buscar(i, celdas.fila(i) + 1U, zona.primeraColumna);
         } else {
             const auto celda = celdas[i];
-            limites.contarTexto(celda.valor.texto().size());
+            limites.contarTextoDeCelda(celda.valor.texto().size());
             accion(celda.fila - zona.primeraFila, celda.columna - zona.primeraColumna, celda.valor);
             ++i;
         }
@@ -55,14 +55,12 @@ FilasDeTabla FilasDeZona(const HojaDeCalculo& hoja, ZonaDeHoja zona, LimitesDeLe
 } // namespace
 
 Tabla TablaDeHoja(const HojaDeCalculo& hoja, const std::string& nombre, LimitesDeLectura& limites) {
-    if (!hoja.zonaUsada) {
-        return {nombre, {}, {}};
-    }
-    return TablaDeZona(hoja, *hoja.zonaUsada, nombre, limites);
+    return TablaDeZona(hoja, hoja.zonaUsada.value_or(ZonaDeHoja{}), nombre, limites);
 }
 
 Tabla TablaDeZona(const HojaDeCalculo& hoja, const ZonaDeHoja& zona, const std::string& nombre,
                   LimitesDeLectura& limites) {
+    limites.contarTablas(1);
     Tabla tabla{nombre, {}, {}};
     if (!hoja.zonaUsada || zona.primeraFila > hoja.zonaUsada->ultimaFila ||
         zona.primeraColumna > hoja.zonaUsada->ultimaColumna) {

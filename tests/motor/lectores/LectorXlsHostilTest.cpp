@@ -1,8 +1,10 @@
 // Cut and mutated workbooks: whole tables or an error, never anything between.
 #include "apoyo/EscritorXls.h"
 #include "apoyo/Fallos.h"
+#include "apoyo/LibroAMano.h"
 #include "motor/lectores/ApoyoLectores.h"
 #include "motor/lectores/LectorXls.h"
+#include "motor/lectores/RegistrosBiff.h"
 
 #include <gtest/gtest.h>
 
@@ -96,6 +98,33 @@ TEST(LectorXlsHostil, UnLibroMutadoSeLeeEnteroODaError) {
     // Both happen: the mutations neither miss the file nor wreck it all.
     EXPECT_GT(leidos, 100U);
     EXPECT_GT(conError, 100U);
+}
+
+testing::AssertionResult EstaDanadoPorque(const std::string& motivo, const prueba::LibroAMano& libro) {
+    return prueba::FallaCon(fallo::archivoDanado, "el archivo está dañado (" + motivo + ")",
+                            [&] { LeerXls(libro.flujo(), "libro.xls"); });
+}
+
+TEST(LectorXlsHostil, LoQueSeConocePorUnNumeroDe16BitsNoPasaDe65535) {
+    constexpr int deMas = 0x10000;
+    prueba::LibroAMano hojas;
+    prueba::LibroAMano nombres;
+    const std::vector<std::byte> nombreVacio(15);
+    for (int i = 0; i < deMas; ++i) {
+        hojas.hoja("H", {});
+        nombres.global(biff::nombre, nombreVacio);
+    }
+    EXPECT_TRUE(EstaDanadoPorque("tiene demasiadas hojas", hojas));
+    EXPECT_TRUE(EstaDanadoPorque("tiene demasiados nombres", nombres));
+
+    prueba::LibroAMano referencias;
+    std::vector<std::byte> mil(2 + 6 * 1000);
+    mil[0] = std::byte{0xE8};
+    mil[1] = std::byte{0x03};
+    for (int i = 0; i < 66; ++i) {
+        referencias.global(biff::externSheet, mil);
+    }
+    EXPECT_TRUE(EstaDanadoPorque("tiene demasiadas referencias entre hojas", referencias));
 }
 
 } // namespace

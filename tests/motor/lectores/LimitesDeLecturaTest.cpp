@@ -14,29 +14,48 @@ using prueba::FallaCon;
 
 constexpr const char* celdasDeMas = "sus tablas ocupan demasiado para su tamaño";
 
+// A cell takes 17 bytes, and what is read of 1,000 bytes at most 40,005,000.
 TEST(LimitesDeLectura, LasCeldasVanEnProporcionAlTamano) {
     LimitesDeLectura limites{1000};
-    limites.contarCeldas(600'000);
-    limites.contarCeldas(400'500);
+    limites.contarCeldas(2'000'000);
+    limites.contarCeldas(353'235);
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarCeldas(1); }));
+    limites.crecer(4);
+    limites.contarCeldas(1);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarCeldas(1); }));
+}
+
+TEST(LimitesDeLectura, LasTablasCuestanAunqueNoTenganNada) {
+    LimitesDeLectura limites{1000};
+    limites.contarTablas(9766); // of 4,096 bytes
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarTablas(1); }));
+}
+
+TEST(LimitesDeLectura, ElTextoCortoDeUnaCeldaNoCuestaYElLargoSoloUnaVez) {
+    LimitesDeLectura limites{0};
+    limites.contarTexto(40'000'000 - 20 - 28 - 28);
+    limites.contarTextoDeCelda(8);
+    limites.contarTextoDeCelda(16);
+    limites.contarTextoDeCelda(24);
+    limites.contarTextoDeCelda(1'000'000'000);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "sus textos ocupan demasiado para su tamaño",
+                         [&] { limites.contarTextoDeCelda(9); }));
 }
 
 TEST(LimitesDeLectura, LosTextosVanEnProporcionAlTamano) {
     LimitesDeLectura limites{1000};
-    limites.contarTexto(64'016'000);
+    limites.contarTexto(40'005'000 - 17);
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, "sus textos ocupan demasiado para su tamaño",
-                         [&] { limites.contarTexto(1); }));
+                         [&] { limites.contarTexto(18); }));
     limites.contarCeldas(1);
 }
 
 TEST(LimitesDeLectura, CrecenConLoQueVaApareciendo) {
     LimitesDeLectura limites{0};
-    limites.contarCeldas(1'000'000);
-    limites.contarTexto(64'000'000);
+    limites.contarTexto(40'000'000);
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarCeldas(1); }));
     limites.crecer(1000);
-    limites.contarCeldas(500);
-    limites.contarTexto(16'000);
+    limites.contarCeldas(294); // of 17 bytes
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarCeldas(1); }));
 }
 
