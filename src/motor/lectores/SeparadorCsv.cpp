@@ -4,8 +4,8 @@
 #include "motor/lectores/NumerosCsv.h"
 
 #include <algorithm>
-#include <compare>
 #include <iterator>
+#include <utility>
 
 namespace varo {
 namespace {
@@ -13,7 +13,10 @@ namespace {
 struct Acierto {
     double filas = 0;   ///< share of the rows that have the cells of the first one
     double numeros = 0; ///< share of numbers among the cells
-    auto operator<=>(const Acierto&) const = default;
+
+    [[nodiscard]] bool mejorQue(const Acierto& otro) const {
+        return std::pair{filas, numeros} > std::pair{otro.filas, otro.numeros};
+    }
 };
 
 /// Nothing when it does not part the first row.
@@ -58,7 +61,7 @@ std::optional<char> SeparadorDe(std::string_view texto) {
     std::optional<Acierto> suyo;
     for (const char separador : {'\t', ';', ','}) {
         const auto acierto = Probar(texto, separador);
-        if (acierto && (!suyo || *acierto > *suyo)) {
+        if (acierto && (!suyo || acierto->mejorQue(*suyo))) {
             mejor = separador;
             suyo = acierto;
         }
