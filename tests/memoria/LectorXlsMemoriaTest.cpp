@@ -1,5 +1,6 @@
 // What it costs at most to read a workbook: ten times its size and 64 MB, whatever its bytes say.
 #include "apoyo/BytesDePrueba.h"
+#include "apoyo/EscritorXls.h"
 #include "apoyo/LibroAMano.h"
 #include "memoria/MemoriaContada.h"
 #include "memoria/MemoriaPermitida.h"
@@ -104,6 +105,18 @@ TEST(MemoriaDeLectorXls, MuchasHojasDeUnaCelda) {
         libro.hoja("H", celda);
     }
     EXPECT_TRUE(LibroCabe(libro.flujo()));
+}
+
+TEST(MemoriaDeLectorXls, MuchasHojasDanadas) {
+    Contenido sinCelda;
+    AnadirRegistro(sinCelda, biff::numero, {});
+    for (const int hojas : {9'000, 60'000}) {
+        LibroAMano libro;
+        for (int hoja = 0; hoja < hojas; ++hoja) {
+            libro.hoja("H", sinCelda);
+        }
+        EXPECT_TRUE(LibroCabe(libro.hoja("Buena", {}).flujo()));
+    }
 }
 
 /// A name in ASCII for the first columns of all the rows of the only sheet.

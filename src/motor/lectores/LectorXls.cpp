@@ -87,6 +87,8 @@ class TablasDelLibro {
 public:
     TablasDelLibro(Bytes flujo, const std::string& archivo, LimitesDeLectura& limites, const Avance& avance)
         : flujo_{flujo}, archivo_{archivo}, limites_{limites}, avance_{avance}, libro_{LeerLibro(flujo)} {
+        // All at once: a sheet that is too much for the memory is no damaged sheet among others.
+        limites.contarTablas(libro_.hojas.size() + libro_.nombres.size());
         for (std::size_t i = 0; i < libro_.nombres.size(); ++i) {
             nombresPorHoja_.emplace(libro_.nombres[i].hoja, i);
         }

@@ -14,7 +14,8 @@ public:
     /// More of the file is there than was known.
     void crecer(std::size_t bytesDeArchivo);
 
-    /// Call before making them.
+    /// Call before making them. Tables are counted all at once, so that what is too much for one of them is
+    /// no defect of that one.
     void contarTablas(std::size_t cuantas);
     void contarCeldas(std::size_t cuantas);
     /// Texts that are kept as they are.

@@ -60,7 +60,6 @@ Tabla TablaDeHoja(const HojaDeCalculo& hoja, const std::string& nombre, LimitesD
 
 Tabla TablaDeZona(const HojaDeCalculo& hoja, const ZonaDeHoja& zona, const std::string& nombre,
                   LimitesDeLectura& limites) {
-    limites.contarTablas(1);
     Tabla tabla{nombre, {}, {}};
     if (!hoja.zonaUsada || zona.primeraFila > hoja.zonaUsada->ultimaFila ||
         zona.primeraColumna > hoja.zonaUsada->ultimaColumna) {
