@@ -16,6 +16,7 @@ std::string DefectoConRemedio(const ErrorMotor& error) {
 TablasDeLibro::TablasDeLibro(std::string archivo, std::vector<ZonaConNombre> nombres,
                              LimitesDeLectura& limites)
     : archivo_{std::move(archivo)}, nombres_{std::move(nombres)}, limites_{limites} {
+    limites_.contarTablas(nombres_.size());
     for (std::size_t i = 0; i < nombres_.size(); ++i) {
         nombresPorHoja_.emplace(Minusculas(nombres_[i].zona.hoja), i);
     }
@@ -30,6 +31,7 @@ Tabla TablasDeLibro::conDefecto(const std::string& tabla, const std::string& hoj
 }
 
 void TablasDeLibro::anadirHoja(const std::string& nombre, const std::function<HojaDeCalculo()>& leer) {
+    limites_.contarTablas(1); // too many of them are no damaged sheet among others
     // Of two sheets with one name, the names belong to the first.
     const auto suyos = nombresPorHoja_.equal_range(Minusculas(nombre));
     const NombresPorHoja propios{suyos.first, suyos.second};

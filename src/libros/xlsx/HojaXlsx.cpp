@@ -219,7 +219,7 @@ private:
     }
 
     void anadirTexto(std::string_view texto) {
-        limites_.contarTexto(texto.size());
+        limites_.contarTextoDeCelda(texto.size());
         anadir(ValorDeCelda{texto});
     }
 
