@@ -2,10 +2,10 @@
 
 #include "libros/ArchivoZip.h"
 #include "libros/ClaseDeComprimido.h"
-#include "libros/TablasDeLibro.h"
 #include "libros/ods/LectorOds.h"
 #include "libros/xlsx/LectorXlsx.h"
 #include "libros/xlsx/LibroXlsx.h"
+#include "motor/lectores/TablasDeLibro.h"
 
 namespace varo {
 namespace {

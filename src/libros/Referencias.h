@@ -1,7 +1,7 @@
 // Cells, rectangles and sheets as workbooks spell them.
 #pragma once
 
-#include "motor/lectores/NombresBiff.h"
+#include "motor/lectores/TablasDeLibro.h"
 
 #include <cstddef>
 #include <optional>
@@ -23,12 +23,6 @@ struct SitioDeCelda {
 std::optional<SitioDeCelda> CeldaEscrita(std::string_view texto);
 
 std::string NombreDeCelda(const SitioDeCelda& celda);
-
-/// A rectangle of one sheet, which the workbook names.
-struct ZonaEscrita {
-    std::string hoja;
-    ZonaDeHoja zona;
-};
 
 /// "Hoja1!$A$1:$C$9", "'La hoja'!$B$2", whole columns "Hoja1!$A:$C" and whole rows. Nothing for what moves
 /// with the cell that uses it, for other workbooks and for anything else.

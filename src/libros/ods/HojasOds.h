@@ -3,9 +3,9 @@
 
 #include "basico/Avance.h"
 #include "libros/ArchivoZip.h"
-#include "libros/TablasDeLibro.h"
 #include "motor/lectores/HojaDeCalculo.h"
 #include "motor/lectores/LimitesDeLectura.h"
+#include "motor/lectores/TablasDeLibro.h"
 
 #include <optional>
 #include <string>

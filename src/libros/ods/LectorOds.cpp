@@ -2,8 +2,8 @@
 
 #include "libros/ClaseDeComprimido.h"
 #include "libros/LectorXml.h"
-#include "libros/TablasDeLibro.h"
 #include "libros/ods/HojasOds.h"
+#include "motor/lectores/TablasDeLibro.h"
 
 #include <utility>
 

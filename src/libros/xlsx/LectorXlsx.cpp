@@ -1,8 +1,8 @@
 #include "libros/xlsx/LectorXlsx.h"
 
-#include "libros/TablasDeLibro.h"
 #include "libros/xlsx/HojaXlsx.h"
 #include "libros/xlsx/LibroXlsx.h"
+#include "motor/lectores/TablasDeLibro.h"
 
 #include <set>
 

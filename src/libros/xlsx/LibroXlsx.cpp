@@ -3,6 +3,7 @@
 #include "basico/ErrorEjecucion.h"
 #include "libros/ClaseDeComprimido.h"
 #include "libros/LectorXml.h"
+#include "libros/Referencias.h"
 #include "libros/xlsx/RelacionesXlsx.h"
 #include "libros/xlsx/TextoXlsx.h"
 #include "motor/lectores/FechasBiff.h"

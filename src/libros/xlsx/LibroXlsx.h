@@ -2,8 +2,8 @@
 #pragma once
 
 #include "libros/ArchivoZip.h"
-#include "libros/TablasDeLibro.h"
 #include "motor/TextosGuardados.h"
+#include "motor/lectores/TablasDeLibro.h"
 
 #include <optional>
 #include <string>

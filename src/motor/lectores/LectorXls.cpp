@@ -5,12 +5,10 @@
 #include "motor/lectores/HojaBiff.h"
 #include "motor/lectores/LibroBiff.h"
 #include "motor/lectores/RegistrosBiff.h"
-#include "motor/lectores/TablasDeHoja.h"
+#include "motor/lectores/TablasDeLibro.h"
 
 #include <algorithm>
 #include <array>
-#include <map>
-#include <optional>
 #include <utility>
 
 namespace varo {
@@ -75,66 +73,13 @@ void ComprobarVersion(Bytes flujo) {
     }
 }
 
-/// A damaged workbook has a cure that its owner can try.
-std::string ConRemedio(const ErrorMotor& error) {
-    return error.numero() == fallo::archivoDanado
-               ? error.descripcion() + ": ábralo en la hoja de cálculo y guárdelo de nuevo, o tome otra copia"
-               : error.descripcion();
-}
-
-/// Makes the tables sheet by sheet: what is wrong with one leaves the others alone.
-class TablasDelLibro {
+/// Reads the sheets, and watches that they do not share bytes.
+class HojasDelLibro {
 public:
-    TablasDelLibro(Bytes flujo, const std::string& archivo, LimitesDeLectura& limites, const Avance& avance)
-        : flujo_{flujo}, archivo_{archivo}, limites_{limites}, avance_{avance}, libro_{LeerLibro(flujo)} {
-        // All at once: a sheet that is too much for the memory is no damaged sheet among others.
-        limites.contarTablas(libro_.hojas.size() + libro_.nombres.size());
-        for (std::size_t i = 0; i < libro_.nombres.size(); ++i) {
-            nombresPorHoja_.emplace(libro_.nombres[i].hoja, i);
-        }
-    }
+    HojasDelLibro(Bytes flujo, const LibroBiff& libro, LimitesDeLectura& limites, const Avance& avance)
+        : flujo_{flujo}, libro_{libro}, limites_{limites}, avance_{avance} {}
 
-    std::vector<Tabla> leer() {
-        for (std::size_t i = 0; i < libro_.hojas.size(); ++i) {
-            if (libro_.hojas[i].deCalculo) {
-                leerHoja(i);
-                comprobarQueNoSePisan();
-            }
-        }
-        if (primerFallo_ && std::ranges::all_of(tablas_, &esDefectuosa)) {
-            throw ErrorMotor{*primerFallo_};
-        }
-        for (auto& [lugar, tabla] : tablasDeNombres_) {
-            tablas_.push_back(std::move(tabla));
-        }
-        return std::move(tablas_);
-    }
-
-private:
-    static bool esDefectuosa(const Tabla& tabla) { return tabla.defecto.has_value(); }
-
-    void leerHoja(std::size_t i) {
-        const auto& [nombreDeHoja, comienzo, deCalculo] = libro_.hojas[i];
-        const auto [primero, fin] = nombresPorHoja_.equal_range(i);
-        try {
-            const auto hoja = celdas(comienzo);
-            Tabla tabla = TablaDeHoja(hoja, nombreDeHoja + "$", limites_);
-            for (auto lugar = primero; lugar != fin; ++lugar) {
-                const auto& nombre = libro_.nombres[lugar->second];
-                tablasDeNombres_[lugar->second] = TablaDeZona(hoja, nombre.zona, nombre.nombre, limites_);
-            }
-            tablas_.push_back(std::move(tabla));
-        } catch (const ErrorMotor& error) {
-            primerFallo_ = primerFallo_.value_or(error);
-            tablas_.push_back(defectuosa(nombreDeHoja + "$", nombreDeHoja, error));
-            for (auto lugar = primero; lugar != fin; ++lugar) {
-                tablasDeNombres_[lugar->second] =
-                    defectuosa(libro_.nombres[lugar->second].nombre, nombreDeHoja, error);
-            }
-        }
-    }
-
-    HojaDeCalculo celdas(std::size_t comienzo) {
+    HojaDeCalculo leer(std::size_t comienzo) {
         Subflujo registros{flujo_, comienzo};
         const AlSalir contar{[&] { recorridos_ += registros.leidos(); }};
         auto hoja = LeerHoja(registros, libro_, limites_, avance_);
@@ -142,8 +87,8 @@ private:
         return hoja;
     }
 
-    /// Sheets do not share bytes, and nobody knows which one a shared byte belongs to. A damaged one may run
-    /// on into others; many of them would take long.
+    /// Nobody knows which sheet a shared byte belongs to. A damaged one may run on into others; many of them
+    /// would take long.
     void comprobarQueNoSePisan() const {
         constexpr std::size_t vecesQueSeRecorre = 8;
         if (deHojas_ > flujo_.size() || recorridos_ / vecesQueSeRecorre > flujo_.size()) {
@@ -151,26 +96,39 @@ private:
         }
     }
 
-    [[nodiscard]] Tabla defectuosa(const std::string& nombre, const std::string& hoja,
-                                   const ErrorMotor& error) const {
-        Tabla tabla{nombre, {}, {}};
-        tabla.defecto.emplace(error.numero(), "No se puede leer la hoja «" + hoja + "» de «" + archivo_ +
-                                                  "»: " + ConRemedio(error));
-        return tabla;
-    }
-
+private:
     Bytes flujo_;
-    const std::string& archivo_;
+    const LibroBiff& libro_;
     LimitesDeLectura& limites_;
     const Avance& avance_;
-    LibroBiff libro_;
-    std::multimap<std::size_t, std::size_t> nombresPorHoja_;
-    std::vector<Tabla> tablas_;
-    std::map<std::size_t, Tabla> tablasDeNombres_;
-    std::optional<ErrorMotor> primerFallo_;
     std::size_t deHojas_ = 0;    ///< bytes of the sheets that were read whole
     std::size_t recorridos_ = 0; ///< bytes of all sheets
 };
+
+std::vector<ZonaConNombre> NombresDe(const LibroBiff& libro) {
+    std::vector<ZonaConNombre> nombres;
+    for (const auto& [nombre, hoja, zona] : libro.nombres) {
+        if (hoja < libro.hojas.size()) {
+            nombres.push_back({nombre, {libro.hojas[hoja].nombre, zona}});
+        }
+    }
+    return nombres;
+}
+
+std::vector<Tabla> TablasDelFlujo(Bytes flujo, const std::string& archivo, LimitesDeLectura& limites,
+                                  const Avance& avance) {
+    avance.empezar(flujo.size());
+    const auto libro = LeerLibro(flujo);
+    HojasDelLibro hojas{flujo, libro, limites, avance};
+    TablasDeLibro tablas{archivo, NombresDe(libro), limites};
+    for (const auto& hoja : libro.hojas) {
+        if (hoja.deCalculo) {
+            tablas.anadirHoja(hoja.nombre, [&] { return hojas.leer(hoja.comienzo); });
+            hojas.comprobarQueNoSePisan();
+        }
+    }
+    return tablas.acabar();
+}
 
 } // namespace
 
@@ -184,10 +142,9 @@ std::vector<Tabla> LeerXls(std::span<const std::byte> bytes, const std::string& 
         const auto flujo = FlujoDelLibro(bytes);
         ComprobarVersion(flujo);
         LimitesDeLectura limites{bytes.size()};
-        avance.empezar(flujo.size());
-        return TablasDelLibro{flujo, archivo, limites, avance}.leer();
+        return TablasDelFlujo(flujo, archivo, limites, avance);
     } catch (const ErrorMotor& error) {
-        throw ErrorMotor{error.numero(), "No se puede leer «" + archivo + "»: " + ConRemedio(error)};
+        throw ErrorMotor{error.numero(), "No se puede leer «" + archivo + "»: " + DefectoConRemedio(error)};
     }
 }
 

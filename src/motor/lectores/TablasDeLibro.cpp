@@ -1,8 +1,9 @@
-#include "libros/TablasDeLibro.h"
+#include "motor/lectores/TablasDeLibro.h"
 
 #include "basico/Texto.h"
 #include "motor/lectores/TablasDeHoja.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace varo {
@@ -45,6 +46,7 @@ void TablasDeLibro::anadirHoja(const std::string& nombre, const std::function<Ho
             tablasDeNombres_[lugar] = TablaDeZona(hoja, con.zona.zona, con.nombre, limites_);
         }
     } catch (const ErrorMotor& error) {
+        primerFallo_ = primerFallo_.value_or(error);
         tablas_.resize(cuantas);
         tablas_.push_back(conDefecto(nombre + "$", nombre, error));
         for (const auto& [_, lugar] : propios) {
@@ -54,6 +56,10 @@ void TablasDeLibro::anadirHoja(const std::string& nombre, const std::function<Ho
 }
 
 std::vector<Tabla> TablasDeLibro::acabar() {
+    if (primerFallo_ &&
+        std::ranges::all_of(tablas_, [](const Tabla& tabla) { return tabla.defecto.has_value(); })) {
+        throw ErrorMotor{*primerFallo_};
+    }
     for (auto& [_, tabla] : tablasDeNombres_) {
         tablas_.push_back(std::move(tabla));
     }

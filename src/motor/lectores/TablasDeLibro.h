@@ -1,7 +1,6 @@
 // The sheets of a workbook and the names over its rectangles, as tables.
 #pragma once
 
-#include "libros/Referencias.h"
 #include "motor/Tabla.h"
 #include "motor/lectores/HojaDeCalculo.h"
 #include "motor/lectores/LimitesDeLectura.h"
@@ -9,10 +8,17 @@
 #include <cstddef>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace varo {
+
+/// A rectangle of one sheet, which the workbook names.
+struct ZonaEscrita {
+    std::string hoja;
+    ZonaDeHoja zona;
+};
 
 struct ZonaConNombre {
     std::string nombre;
@@ -31,7 +37,8 @@ public:
 
     /// The next sheet of the workbook, which `leer` gives.
     void anadirHoja(const std::string& nombre, const std::function<HojaDeCalculo()>& leer);
-    /// The sheets, and behind them the names in their order.
+    /// The sheets, and behind them the names in their order. Where no sheet can be read it throws what was
+    /// wrong with the first.
     [[nodiscard]] std::vector<Tabla> acabar();
 
 private:
@@ -46,6 +53,7 @@ private:
     NombresPorHoja nombresPorHoja_;
     std::vector<Tabla> tablas_;
     std::map<std::size_t, Tabla> tablasDeNombres_;
+    std::optional<ErrorMotor> primerFallo_;
 };
 
 } // namespace varo
