@@ -164,8 +164,8 @@ private:
             }
             const auto veces = std::min(celda_.veces, columnasDeUnLibro - columna_);
             limites_.contarCeldas(veces);
-            limites_.contarTexto(valor->texto().size() * veces);
             for (std::size_t i = 0; i < veces; ++i) {
+                limites_.contarTextoDeCelda(valor->texto().size());
                 celdas().anadir(fila_, columna_ + i, *valor);
             }
         }
@@ -179,7 +179,7 @@ private:
         for (auto fila = fila_ + 1; fila < siguiente && fin > comienzoDeFila_; ++fila) {
             limites_.contarCeldas(fin - comienzoDeFila_);
             for (auto i = comienzoDeFila_; i < fin; ++i) {
-                limites_.contarTexto(celdas().valor(i).texto().size());
+                limites_.contarTextoDeCelda(celdas().valor(i).texto().size());
                 celdas().anadir(fila, celdas().columna(i), celdas().valor(i));
             }
         }

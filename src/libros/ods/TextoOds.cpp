@@ -33,7 +33,7 @@ bool TextoOds::escribirElemento(const ElementoXml& elemento) {
     if (elemento.es(EspacioXml::Texto, "s")) {
         const auto cuantos =
             EnteroEscrito(elemento.atributo({EspacioXml::Texto, "c"}).value_or("1")).value_or(1);
-        limites_.contarTexto(cuantos);
+        limites_.contarTexto(cuantos); // blanks that no byte of the file stands for
         texto_.append(cuantos, ' ');
     } else if (elemento.es(EspacioXml::Texto, "tab")) {
         texto_ += '\t';
