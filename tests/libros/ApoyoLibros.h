@@ -28,7 +28,8 @@ std::vector<ParteZip> Cambiada(std::vector<ParteZip> partes, const std::string& 
 /// Reading the whole workbook fails with this number and a message that names it and has the text in it.
 testing::AssertionResult NoSeLee(const std::vector<std::byte>& libro, int numero, std::string_view texto);
 
-/// The workbook has this table, and it says this number and this text when it is opened.
+/// The workbook has this table, and it says this number and this text when it is opened; or the workbook says
+/// them, where no sheet can be read.
 testing::AssertionResult TieneDefecto(const std::vector<std::byte>& libro, const std::string& tabla,
                                       int numero, std::string_view texto);
 

@@ -20,39 +20,47 @@ constexpr std::size_t textoEnLaCelda = 8;
 constexpr std::size_t textoAparte = 24; // from here on it stands once
 constexpr std::size_t longitudDeTexto = 4;
 
+// A text that many cells share is rarely longer than a note.
+constexpr std::size_t letrasDeTodoArchivo = 64'000'000;
+constexpr std::size_t letrasPorByte = 16;
+
 } // namespace
 
-LimitesDeLectura::LimitesDeLectura(std::size_t bytesDeArchivo) : quedan_{memoriaDeTodoArchivo} {
+LimitesDeLectura::LimitesDeLectura(std::size_t bytesDeArchivo)
+    : quedan_{memoriaDeTodoArchivo}, letras_{letrasDeTodoArchivo} {
     crecer(bytesDeArchivo);
 }
 
 void LimitesDeLectura::crecer(std::size_t bytesDeArchivo) {
     quedan_ += bytesDeArchivo * memoriaPorByte;
+    letras_ += bytesDeArchivo * letrasPorByte;
 }
 
 void LimitesDeLectura::contarTablas(std::size_t cuantas) {
-    gastar(cuantas, bytesDeTabla, "sus tablas ocupan");
+    gastar(quedan_, cuantas, bytesDeTabla, "sus tablas ocupan");
 }
 
 void LimitesDeLectura::contarCeldas(std::size_t cuantas) {
-    gastar(cuantas, bytesDeCelda, "sus tablas ocupan");
+    gastar(quedan_, cuantas, bytesDeCelda, "sus tablas ocupan");
 }
 
 void LimitesDeLectura::contarTexto(std::size_t bytes) {
-    gastar(bytes, 1, "sus textos ocupan");
+    gastar(quedan_, bytes, 1, "sus textos ocupan");
 }
 
 void LimitesDeLectura::contarTextoDeCelda(std::size_t bytes) {
+    gastar(letras_, bytes, 1, "sus textos ocupan");
     if (bytes > textoEnLaCelda) {
         contarTexto(std::min(bytes, textoAparte) + longitudDeTexto);
     }
 }
 
-void LimitesDeLectura::gastar(std::size_t cuantos, std::size_t bytesDeUno, const char* que) {
-    if (cuantos > quedan_ / bytesDeUno) {
+void LimitesDeLectura::gastar(std::size_t& quedan, std::size_t cuantos, std::size_t bytesDeUno,
+                              const char* que) {
+    if (cuantos > quedan / bytesDeUno) {
         ArchivoDanado(std::string{que} + " demasiado para su tamaño");
     }
-    quedan_ -= cuantos * bytesDeUno;
+    quedan -= cuantos * bytesDeUno;
 }
 
 } // namespace varo

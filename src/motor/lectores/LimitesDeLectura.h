@@ -21,13 +21,14 @@ public:
     /// Texts that are kept as they are.
     void contarTexto(std::size_t bytes);
     /// The text of a cell: a short one stands in the cell, and a long one once for all the cells that have
-    /// it.
+    /// it. What all cells show is bounded too, for whoever writes it out.
     void contarTextoDeCelda(std::size_t bytes);
 
 private:
-    void gastar(std::size_t cuantos, std::size_t bytesDeUno, const char* que);
+    static void gastar(std::size_t& quedan, std::size_t cuantos, std::size_t bytesDeUno, const char* que);
 
     std::size_t quedan_; // bytes
+    std::size_t letras_; // that cells may show
 };
 
 } // namespace varo

@@ -37,9 +37,17 @@ TEST(LimitesDeLectura, ElTextoCortoDeUnaCeldaNoCuestaYElLargoSoloUnaVez) {
     limites.contarTextoDeCelda(8);
     limites.contarTextoDeCelda(16);
     limites.contarTextoDeCelda(24);
-    limites.contarTextoDeCelda(1'000'000'000);
+    limites.contarTextoDeCelda(60'000'000);
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, "sus textos ocupan demasiado para su tamaño",
                          [&] { limites.contarTextoDeCelda(9); }));
+}
+
+TEST(LimitesDeLectura, LoQueLasCeldasMuestranTieneSuLimite) {
+    LimitesDeLectura limites{1000};
+    limites.contarTextoDeCelda(64'016'000 - 8);
+    limites.contarTextoDeCelda(8);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "sus textos ocupan demasiado para su tamaño",
+                         [&] { limites.contarTextoDeCelda(1); }));
 }
 
 TEST(LimitesDeLectura, LosTextosVanEnProporcionAlTamano) {
