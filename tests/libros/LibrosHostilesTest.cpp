@@ -278,8 +278,15 @@ TEST(LibrosHostiles, MuchasPartesConElMismoNombreSonLaPrimera) {
 }
 
 TEST(LibrosHostiles, MasHojasQueEnNingunLibroSeRechazan) {
-    EXPECT_TRUE(NoSeLee(EscribirOds(Repetida("<table:table table:name=\"H\"/>", 100'001)),
-                        fallo::archivoDanado, "tiene más hojas que ningún libro"));
+    EXPECT_TRUE(NoSeLee(EscribirOds(Repetida("<table:table table:name=\"H\"/>", 40'001)),
+                        fallo::archivoDanado, "sus tablas ocupan demasiado para su tamaño"));
+    EXPECT_TRUE(
+        NoSeLee(EscribirXlsx(LibroXlsxDePrueba{.hojas = std::vector<LibroXlsxDePrueba::Hoja>(40'001)}),
+                fallo::archivoDanado, "tiene más hojas que ningún libro"));
+    auto partes = PartesDe({.hojas = {{"H", ""}}});
+    partes[0].contenido.insert(partes[0].contenido.find("<Relationship "),
+                               Repetida("<Relationship Id=\"a\"/>", 100'001));
+    EXPECT_TRUE(NoSeLee(EscribirZip(partes), fallo::archivoDanado, "tiene más partes que ningún libro"));
 }
 
 } // namespace

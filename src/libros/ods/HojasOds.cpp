@@ -12,8 +12,6 @@
 namespace varo {
 namespace {
 
-constexpr std::size_t masHojas = 100'000;
-
 enum class SitioDeOds {
     Documento,
     Contenido,
@@ -125,9 +123,7 @@ private:
     }
 
     SitioXml empezarHoja(const ElementoXml& elemento) {
-        if (libro.hojas.size() == masHojas) {
-            ArchivoDanado("tiene más hojas que ningún libro");
-        }
+        limites_.contarTablas(1); // all of them are here before the first is a table
         libro.hojas.push_back(
             {std::string{elemento.atributo({EspacioXml::Tabla, "name"}).value_or("")}, {}, {}});
         fila_ = 0;

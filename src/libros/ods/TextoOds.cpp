@@ -1,8 +1,15 @@
 #include "libros/ods/TextoOds.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace varo {
+namespace {
+
+/// Far more than the memory.
+constexpr std::size_t masBlancos = std::size_t{1} << 40U;
+
+} // namespace
 
 void TextoOds::empezar() {
     texto_.clear();
@@ -33,7 +40,9 @@ bool TextoOds::escribirElemento(const ElementoXml& elemento) {
     if (elemento.es(EspacioXml::Texto, "s")) {
         const auto cuantos =
             EnteroEscrito(elemento.atributo({EspacioXml::Texto, "c"}).value_or("1")).value_or(1);
-        limites_.contarTexto(cuantos); // blanks that no byte of the file stands for
+        constexpr std::size_t mientrasCrece = 3;
+        limites_.contarTexto(mientrasCrece *
+                             std::min(cuantos, masBlancos)); // no byte of the file stands for them
         texto_.append(cuantos, ' ');
     } else if (elemento.es(EspacioXml::Texto, "tab")) {
         texto_ += '\t';

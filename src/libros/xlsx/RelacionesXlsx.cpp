@@ -3,10 +3,14 @@
 #include "libros/LectorXml.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace varo {
 namespace {
+
+/// Each one takes more room here than in the file.
+constexpr std::size_t masRelaciones = 100'000;
 
 enum class SitioDeRelacion { Documento, Relaciones, Relacion, Nada };
 
@@ -31,6 +35,9 @@ private:
     void anadir(const ElementoXml& relacion) {
         if (relacion.atributo("TargetMode") == "External") {
             return;
+        }
+        if (leidas.size() == masRelaciones) {
+            ArchivoDanado("tiene más partes que ningún libro");
         }
         const auto clase = relacion.atributo("Type").value_or("");
         leidas.push_back({std::string{relacion.atributo("Id").value_or("")},
