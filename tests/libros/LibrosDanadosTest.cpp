@@ -116,10 +116,10 @@ TEST(LibrosDanados, UnArchivoSinSuFinalSeDice) {
 TEST(LibrosDanados, UnByteCambiadoDeUnaParteSeNota) {
     auto bytes = EscribirZip(DosHojas());
     const std::string marca = "<c r=\"A2\">";
-    const auto celda =
-        std::ranges::search(bytes, marca, {}, {}, [](char c) { return static_cast<std::byte>(c); });
-    ASSERT_FALSE(celda.empty());
-    *(celda.begin() + 7) = std::byte{'3'}; // a well-formed sheet, but not the one that was written
+    const auto celda = std::search(bytes.begin(), bytes.end(), marca.begin(), marca.end(),
+                                   [](std::byte byte, char c) { return byte == static_cast<std::byte>(c); });
+    ASSERT_NE(celda, bytes.end());
+    *(celda + 7) = std::byte{'3'}; // a well-formed sheet, but not the one that was written
     EXPECT_TRUE(TieneDefecto(bytes, "Uno$", fallo::archivoDanado,
                              "su parte «xl/worksheets/sheet1.xml» no se puede descomprimir"));
 }

@@ -51,9 +51,7 @@ TEST(ParteDelDia, EsLaHoraSola) {
     EXPECT_EQ(ParteDelDia("06:00"), 0.25);
     EXPECT_EQ(ParteDelDia("T18:00:00"), 0.75);
     EXPECT_EQ(ParteDelDia("00:00:43.2"), 0.0005);
-    for (const std::string mala : {"", "6:00", "24:00", "06",
-                                   "06:00 "
-                                   "x"}) {
+    for (const std::string mala : {"", "6:00", "24:00", "06", "06:00 x"}) {
         EXPECT_FALSE(ParteDelDia(mala)) << mala;
     }
 }
