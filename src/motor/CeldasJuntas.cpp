@@ -17,7 +17,7 @@ using FilaYColumna = std::pair<std::size_t, std::size_t>;
 } // namespace
 
 ValorDeCelda CeldasJuntas::valor(std::size_t i) const {
-    const auto& celda = celdas_[i];
+    const auto& celda = (*celdas_)[i];
     switch (celda.clase) {
     case ValorDeCelda::Clase::Vacia:
         return {};
@@ -35,11 +35,14 @@ void CeldasJuntas::anadir(std::size_t fila, std::size_t columna, const ValorDeCe
     celda.fila = static_cast<std::uint32_t>(fila);
     celda.columna = static_cast<std::uint16_t>(columna);
     guardar(celda, valor);
-    celdas_.push_back(celda);
+    if (!celdas_) {
+        celdas_.emplace();
+    }
+    celdas_->push_back(celda);
 }
 
 void CeldasJuntas::cambiarUltima(const ValorDeCelda& valor) {
-    guardar(celdas_.back(), valor);
+    guardar(celdas_->back(), valor);
 }
 
 void CeldasJuntas::guardar(Guardada& celda, const ValorDeCelda& valor) {
@@ -66,18 +69,21 @@ void CeldasJuntas::ordenar() {
     const auto antes = [](const Guardada& a, const Guardada& b) {
         return FilaYColumna{a.fila, a.columna} < FilaYColumna{b.fila, b.columna};
     };
-    if (!std::is_sorted(celdas_.begin(), celdas_.end(), antes)) {
-        std::stable_sort(celdas_.begin(), celdas_.end(), antes);
+    if (celdas_ && !std::is_sorted(celdas_->begin(), celdas_->end(), antes)) {
+        std::stable_sort(celdas_->begin(), celdas_->end(), antes);
     }
 }
 
 std::size_t CeldasJuntas::buscar(std::size_t desde, std::size_t fila, std::size_t columna) const {
+    if (!celdas_) {
+        return 0;
+    }
     const auto hallada =
-        std::lower_bound(celdas_.begin() + static_cast<std::ptrdiff_t>(desde), celdas_.end(),
+        std::lower_bound(celdas_->begin() + static_cast<std::ptrdiff_t>(desde), celdas_->end(),
                          FilaYColumna{fila, columna}, [](const Guardada& celda, FilaYColumna sitio) {
                              return FilaYColumna{celda.fila, celda.columna} < sitio;
                          });
-    return static_cast<std::size_t>(hallada - celdas_.begin());
+    return static_cast<std::size_t>(hallada - celdas_->begin());
 }
 
 } // namespace varo

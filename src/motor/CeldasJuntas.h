@@ -10,6 +10,7 @@
 #include <deque>
 #include <iterator>
 #include <memory>
+#include <optional>
 
 namespace varo {
 
@@ -23,18 +24,16 @@ struct CeldaConSitio {
 /// Cells in the order they came in. A copy shares the long texts.
 class CeldasJuntas {
 public:
-    [[nodiscard]] std::size_t size() const { return celdas_.size(); }
-    [[nodiscard]] bool empty() const { return celdas_.empty(); }
-    [[nodiscard]] CeldaConSitio operator[](std::size_t i) const {
-        return {celdas_[i].fila, celdas_[i].columna, valor(i)};
-    }
-    [[nodiscard]] std::uint32_t fila(std::size_t i) const { return celdas_[i].fila; }
-    [[nodiscard]] std::uint16_t columna(std::size_t i) const { return celdas_[i].columna; }
+    [[nodiscard]] std::size_t size() const { return celdas_ ? celdas_->size() : 0; }
+    [[nodiscard]] bool empty() const { return size() == 0; }
+    [[nodiscard]] CeldaConSitio operator[](std::size_t i) const { return {fila(i), columna(i), valor(i)}; }
+    [[nodiscard]] std::uint32_t fila(std::size_t i) const { return (*celdas_)[i].fila; }
+    [[nodiscard]] std::uint16_t columna(std::size_t i) const { return (*celdas_)[i].columna; }
     [[nodiscard]] ValorDeCelda valor(std::size_t i) const;
 
     void anadir(std::size_t fila, std::size_t columna, const ValorDeCelda& valor);
     void cambiarUltima(const ValorDeCelda& valor);
-    void quitarUltima() { celdas_.pop_back(); }
+    void quitarUltima() { celdas_->pop_back(); }
 
     /// By rows and within a row by columns; those of one place keep their order.
     void ordenar();
@@ -53,8 +52,8 @@ private:
 
     void guardar(Guardada& celda, const ValorDeCelda& valor);
 
-    // A deque neither moves what it has nor keeps room for as much again.
-    std::deque<Guardada> celdas_;
+    // A deque neither moves what it has nor keeps room for as much again. An empty one takes half a kilobyte.
+    std::optional<std::deque<Guardada>> celdas_;
     std::shared_ptr<TextosGuardados> textos_;
 };
 

@@ -25,18 +25,21 @@ FilasDeTabla::FilasDeTabla(const std::vector<std::vector<Valor>>& filas) {
 
 FilaDeTabla FilasDeTabla::operator[](std::size_t fila) const {
     assert(fila < cuantas_);
+    if (!comienzos_) {
+        return {celdas_, 0, 0};
+    }
+    const auto& comienzos = *comienzos_;
     const auto enFila = [this](std::uint32_t comienzo) { return std::size_t{celdas_.fila(comienzo)}; };
     // Without empty rows a row stands at the place of its number.
     auto llena = static_cast<std::ptrdiff_t>(fila);
-    if (fila >= comienzos_.size() || enFila(comienzos_[fila]) != fila) {
-        llena = std::ranges::lower_bound(comienzos_, fila, {}, enFila) - comienzos_.begin();
+    if (fila >= comienzos.size() || enFila(comienzos[fila]) != fila) {
+        llena = std::ranges::lower_bound(comienzos, fila, {}, enFila) - comienzos.begin();
     }
     const auto lugar = static_cast<std::size_t>(llena);
-    if (lugar == comienzos_.size() || enFila(comienzos_[lugar]) != fila) {
+    if (lugar == comienzos.size() || enFila(comienzos[lugar]) != fila) {
         return {celdas_, 0, 0};
     }
-    return {celdas_, comienzos_[lugar],
-            lugar + 1 == comienzos_.size() ? celdas_.size() : comienzos_[lugar + 1]};
+    return {celdas_, comienzos[lugar], lugar + 1 == comienzos.size() ? celdas_.size() : comienzos[lugar + 1]};
 }
 
 void FilasDeTabla::alargar(std::size_t cuantas) {
@@ -57,15 +60,18 @@ void FilasDeTabla::poner(std::size_t fila, std::size_t columna, const ValorDeCel
     alargar(fila + 1);
     if (enUltima() && celdas_.columna(celdas_.size() - 1) == columna) {
         celdas_.quitarUltima();
-        if (comienzos_.back() == celdas_.size()) {
-            comienzos_.pop_back();
+        if (comienzos_->back() == celdas_.size()) {
+            comienzos_->pop_back();
         }
     }
     if (EsNulo(valor)) {
         return;
     }
+    if (!comienzos_) {
+        comienzos_.emplace();
+    }
     if (!enUltima()) {
-        comienzos_.push_back(static_cast<std::uint32_t>(celdas_.size()));
+        comienzos_->push_back(static_cast<std::uint32_t>(celdas_.size()));
     }
     celdas_.anadir(fila, columna, valor);
 }

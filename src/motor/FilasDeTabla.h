@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <vector>
 
 namespace varo {
@@ -43,7 +44,7 @@ public:
     [[nodiscard]] bool empty() const { return cuantas_ == 0; }
     [[nodiscard]] FilaDeTabla operator[](std::size_t fila) const;
     /// How many rows hold anything.
-    [[nodiscard]] std::size_t conContenido() const { return comienzos_.size(); }
+    [[nodiscard]] std::size_t conContenido() const { return comienzos_ ? comienzos_->size() : 0; }
 
     /// Adds empty rows behind the last one, up to so many in all.
     void alargar(std::size_t cuantas);
@@ -60,7 +61,7 @@ public:
 
 private:
     CeldasJuntas celdas_;
-    std::deque<std::uint32_t> comienzos_; // in celdas_, of each row that holds anything
+    std::optional<std::deque<std::uint32_t>> comienzos_; // in celdas_, of each row that holds anything
     std::size_t cuantas_ = 0;
 };
 

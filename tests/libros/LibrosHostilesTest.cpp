@@ -278,7 +278,7 @@ TEST(LibrosHostiles, MuchasPartesConElMismoNombreSonLaPrimera) {
 }
 
 TEST(LibrosHostiles, MasHojasQueEnNingunLibroSeRechazan) {
-    EXPECT_TRUE(NoSeLee(EscribirOds(Repetida("<table:table table:name=\"H\"/>", 40'001)),
+    EXPECT_TRUE(NoSeLee(EscribirOds(Repetida("<table:table table:name=\"H\"/>", 100'001)),
                         fallo::archivoDanado, "sus tablas ocupan demasiado para su tamaño"));
     EXPECT_TRUE(
         NoSeLee(EscribirXlsx(LibroXlsxDePrueba{.hojas = std::vector<LibroXlsxDePrueba::Hoja>(40'001)}),

@@ -96,6 +96,7 @@ std::vector<Tabla> LeerMdb(std::span<const std::byte> bytes, const std::string& 
             try {
                 tablas.push_back(lector.leer(entrada));
             } catch (const ErrorMotor& error) {
+                limites.contarDefecto();
                 tablas.push_back({.Name = entrada.nombre, .Fields = {}, .filas = {}});
                 tablas.back().defecto.emplace(error.numero(), "No se puede leer la tabla «" + entrada.nombre +
                                                                   "» de «" + archivo +

@@ -14,8 +14,9 @@ namespace {
 constexpr std::size_t memoriaDeTodoArchivo = 40'000'000;
 constexpr std::size_t memoriaPorByte = 5;
 
-constexpr std::size_t bytesDeCelda = 17;   // and a part of what its block takes
-constexpr std::size_t bytesDeTabla = 4096; // without its cells, or with the words of its defect
+constexpr std::size_t bytesDeCelda = 17;     // and a part of what its block takes
+constexpr std::size_t bytesDeTabla = 512;    // without its cells
+constexpr std::size_t bytesDeDefecto = 3584; // its words
 constexpr std::size_t textoEnLaCelda = 8;
 constexpr std::size_t textoAparte = 24; // from here on it stands once
 constexpr std::size_t longitudDeTexto = 4;
@@ -38,6 +39,10 @@ void LimitesDeLectura::crecer(std::size_t bytesDeArchivo) {
 
 void LimitesDeLectura::contarTablas(std::size_t cuantas) {
     gastar(quedan_, cuantas, bytesDeTabla, "sus tablas ocupan");
+}
+
+void LimitesDeLectura::contarDefecto() {
+    gastar(quedan_, 1, bytesDeDefecto, "lo dañado en él ocupa");
 }
 
 void LimitesDeLectura::contarCeldas(std::size_t cuantas) {

@@ -17,6 +17,8 @@ public:
     /// Call before making them. Tables are counted all at once, so that what is too much for one of them is
     /// no defect of that one.
     void contarTablas(std::size_t cuantas);
+    /// A table that cannot be read.
+    void contarDefecto();
     void contarCeldas(std::size_t cuantas);
     /// Texts that are kept as they are.
     void contarTexto(std::size_t bytes);

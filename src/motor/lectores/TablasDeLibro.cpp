@@ -47,9 +47,11 @@ void TablasDeLibro::anadirHoja(const std::string& nombre, const std::function<Ho
         }
     } catch (const ErrorMotor& error) {
         primerFallo_ = primerFallo_.value_or(error);
+        limites_.contarDefecto();
         tablas_.resize(cuantas);
         tablas_.push_back(conDefecto(nombre + "$", nombre, error));
         for (const auto& [_, lugar] : propios) {
+            limites_.contarDefecto();
             tablasDeNombres_[lugar] = conDefecto(nombres_[lugar].nombre, nombre, error);
         }
     }

@@ -27,8 +27,17 @@ TEST(LimitesDeLectura, LasCeldasVanEnProporcionAlTamano) {
 
 TEST(LimitesDeLectura, LasTablasCuestanAunqueNoTenganNada) {
     LimitesDeLectura limites{1000};
-    limites.contarTablas(9766); // of 4,096 bytes
+    limites.contarTablas(78'134); // of 512 bytes
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarTablas(1); }));
+}
+
+TEST(LimitesDeLectura, LasTablasDanadasCuestanMas) {
+    LimitesDeLectura limites{0};
+    for (int i = 0; i < 11'160; ++i) { // of 3,584 bytes
+        limites.contarDefecto();
+    }
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "lo dañado en él ocupa demasiado para su tamaño",
+                         [&] { limites.contarDefecto(); }));
 }
 
 TEST(LimitesDeLectura, ElTextoCortoDeUnaCeldaNoCuestaYElLargoSoloUnaVez) {
