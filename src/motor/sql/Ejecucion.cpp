@@ -99,7 +99,7 @@ void Proyectar(const Consulta& consulta, const Tabla& tabla, std::vector<Evaluad
         for (auto& evaluador : evaluadores) {
             nueva.push_back(evaluador.entero(tabla.filas[fila]));
         }
-        resultado.filas.anadir(std::move(nueva));
+        resultado.filas.anadir(nueva);
     });
 }
 
