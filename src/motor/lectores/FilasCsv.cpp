@@ -1,5 +1,7 @@
 #include "motor/lectores/FilasCsv.h"
 
+#include <algorithm>
+
 namespace varo {
 
 bool FilasCsv::siguiente() {
@@ -9,6 +11,7 @@ bool FilasCsv::siguiente() {
     ++numero_;
     celdas_.clear();
     compuestas_.clear();
+    celdasTragadas_ = 0;
     leerCelda();
     while (lugar_ < texto_.size() && texto_[lugar_] == separador_) {
         ++lugar_;
@@ -51,10 +54,26 @@ std::string_view FilasCsv::leerEntreComillas() {
     }
     const auto largo = lugar_ - 1 - dentro;
     const auto resto = leerSuelta();
+    mirarSusLineas(texto_.substr(dentro, largo), !resto.empty());
     if (esDelTexto && resto.empty()) {
         return texto_.substr(dentro, largo);
     }
     return compuestas_.emplace_back(junta.append(resto));
+}
+
+void FilasCsv::mirarSusLineas(std::string_view celda, bool sigue) {
+    if (celda.find_first_of("\r\n") == std::string_view::npos) {
+        return;
+    }
+    if (sigue) {
+        celdasTragadas_ = celdasDeUnaHoja; // what closes it opens another cell
+    }
+    while (!celda.empty()) {
+        const auto linea = celda.substr(0, celda.find_first_of("\r\n"));
+        const auto cuantas = 1 + static_cast<std::size_t>(std::ranges::count(linea, separador_));
+        celdasTragadas_ = std::max(celdasTragadas_, cuantas);
+        celda.remove_prefix(std::min(celda.size(), linea.size() + 1));
+    }
 }
 
 std::string_view FilasCsv::leerSuelta() {

@@ -31,10 +31,15 @@ public:
     [[nodiscard]] std::size_t leidos() const { return lugar_; }
     /// True when the quotes that the last cell opens are not closed: then it holds all the rest.
     [[nodiscard]] bool sinCerrar() const { return sinCerrar_; }
+    /// How many cells a line has that stands inside a quoted cell of several lines, at most; very many where
+    /// something stands behind such a cell. A note has few, and rows that a lost quote has swallowed have
+    /// theirs.
+    [[nodiscard]] std::size_t celdasTragadas() const { return celdasTragadas_; }
 
 private:
     void leerCelda();
     std::string_view leerEntreComillas();
+    void mirarSusLineas(std::string_view celda, bool sigue);
     /// As far as the cell ends, without blanks behind it.
     std::string_view leerSuelta();
     void pasarBlancos();
@@ -47,6 +52,7 @@ private:
     std::size_t lugar_ = 0;
     std::size_t numero_ = 0;
     bool sinCerrar_ = false;
+    std::size_t celdasTragadas_ = 0;
     std::vector<std::string_view> celdas_;
     std::deque<std::string> compuestas_; ///< the cells that do not stand in the text as they are
 };

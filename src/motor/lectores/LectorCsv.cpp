@@ -94,14 +94,27 @@ std::optional<char> SacarSeparadorDicho(std::string_view& texto) {
 char SeparadorHallado(std::string_view texto) {
     const auto separador = SeparadorDe(texto);
     if (!separador) {
-        NoEsUnaTabla(
-            "en su primera fila ninguna coma, punto y coma o tabulador separa los nombres de las "
-            "columnas. Guárdela desde la hoja de cálculo como CSV o como libro de Excel 97-2003 (.xls)");
+        NoEsUnaTabla("en su primera fila ninguna coma, punto y coma o tabulador separa los nombres de las "
+                     "columnas. Si encima de los nombres hay un título o comentarios, quítelos. Guárdela "
+                     "desde la hoja de cálculo como CSV o como libro de Excel 97-2003 (.xls)");
     }
     return *separador;
 }
 
-Tabla TablaDe(Bytes bytes, const Avance& avance) {
+/// Old field programs end a text with Ctrl-Z, and loggers fill their files up with nulls. In UTF-16 a null is
+/// half a letter.
+Bytes SinRellenoAlFinal(Bytes bytes) {
+    const bool puedeSerUtf16 = bytes.size() < 2 || bytes[0] == std::byte{0} || bytes[1] == std::byte{0} ||
+                               Lleva(bytes, 0, "\xFF\xFE") || Lleva(bytes, 0, "\xFE\xFF");
+    while (!puedeSerUtf16 && !bytes.empty() &&
+           (bytes.back() == std::byte{0} || bytes.back() == std::byte{0x1A})) {
+        bytes = bytes.first(bytes.size() - 1);
+    }
+    return bytes;
+}
+
+Tabla TablaDe(Bytes todos, const Avance& avance) {
+    const auto bytes = SinRellenoAlFinal(todos);
     if (bytes.size() > tamanoMaximo) {
         throw ErrorMotor{fallo::formatoNoReconocido,
                          "es demasiado grande para ser el inventario de una parcela"};

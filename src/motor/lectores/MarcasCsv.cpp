@@ -1,6 +1,7 @@
 #include "motor/lectores/MarcasCsv.h"
 
 #include "basico/ErrorEjecucion.h"
+#include "basico/Numeros.h"
 #include "basico/Texto.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ class Arbitro {
 public:
     Arbitro(const std::vector<IndiciosDeColumna>& columnas, const std::vector<std::string>& nombres,
             char separador)
-        : columnas_{columnas}, nombres_{nombres} {
+        : columnas_{columnas}, nombres_{nombres}, separador_{separador} {
         for (const auto& columna : columnas_) {
             for (std::size_t marca = 0; marca < letras.size(); ++marca) {
                 const bool laDice = columna.decimal().at(marca) && !columna.decimal().at(1 - marca);
@@ -62,6 +63,11 @@ public:
 
     [[nodiscard]] char marcaDe(std::size_t i) const {
         const auto& columna = columnas_[i];
+        if (columna.malEscrita() && !columna.esDeTextos()) {
+            noAdmitir(i, EnLaFila(*columna.malEscrita()) +
+                             ", que no es un número bien escrito: corríjalo. Si es un código, sepárelo con "
+                             "guiones");
+        }
         if (columna.sonCodigos()) {
             return marcaNinguna;
         }
@@ -89,6 +95,9 @@ private:
         const auto otra = 1 - marca;
         if (columna.decimal().at(otra)) {
             return dosMarcas(i, *columna.decimal().at(marca), *columna.decimal().at(otra));
+        }
+        if (columna.grupos().at(otra)) {
+            return dosMarcas(i, *columna.decimal().at(marca), *columna.grupos().at(otra));
         }
         if (columna.dudosa().at(otra) && !columna.agrupa(marca)) {
             return puedeSerDos(i, otra);
@@ -123,10 +132,23 @@ private:
         if (columna.dudosa().at(otra)) {
             return dosMarcas(i, *columna.dudosa().at(marca), *columna.dudosa().at(otra));
         }
-        const bool otrasDudan = !delArchivo_ && std::ranges::any_of(columnas_, [otra](const auto& vecina) {
-            return !vecina.esDeTextos() && (vecina.dudosa().at(otra) || vecina.grupos().at(otra));
+        const bool otrasDudan = std::ranges::any_of(columnas_, [&](const auto& vecina) {
+            return !vecina.esDeTextos() &&
+                   (vecina.grupos().at(otra) || (!delArchivo_ && vecina.dudosa().at(otra)));
         });
-        return otrasDudan || delArchivo_.value_or(marca) != marca ? puedeSerDos(i, marca) : letras.at(marca);
+        return otrasDudan || delArchivo_.value_or(marca) != marca || sonGruposTalVez(columna, marca)
+                   ? puedeSerDos(i, marca)
+                   : letras.at(marca);
+    }
+
+    /// What speaks for thousands where the file's mark does not speak against them.
+    [[nodiscard]] bool sonGruposTalVez(const IndiciosDeColumna& columna, std::size_t marca) const {
+        const bool esPunto = marca == 0;
+        const bool laPideElSeparador = separador_ == (esPunto ? ',' : ';');
+        const bool hayDeEstos = conDecimal_.at(marca) > 0;
+        const bool hayDeOtros = conDecimal_.at(1 - marca) > 0;
+        return !laPideElSeparador && ((columna.puedeAgrupar() && (!hayDeEstos || hayDeOtros)) ||
+                                      (esPunto && hayDeOtros) || (separador_ == ',' && !hayDeEstos));
     }
 
     /// Of a column of texts nothing is computed: what is in doubt stays as it is written.
@@ -159,21 +181,31 @@ private:
 
     const std::vector<IndiciosDeColumna>& columnas_;
     const std::vector<std::string>& nombres_;
+    char separador_;
     std::array<std::size_t, 2> conDecimal_{}; ///< how many columns have decimals with this mark alone
     std::optional<std::size_t> delArchivo_;   ///< the mark that most of them have
 };
 
 } // namespace
 
-void IndiciosDeColumna::mirar(std::string_view celda, std::size_t fila) {
+void IndiciosDeColumna::mirar(std::string_view escrita, std::size_t fila) {
     using Fuerza = HuellaDeMarca::Fuerza;
+    constexpr std::size_t cifrasDeUnGrupo = 3;
+    const auto celda = SinBlancosEnLosExtremos(escrita);
     const auto huella = HuellaDe(celda);
     const bool esNumero = huella.fuerza != Fuerza::Ninguna;
     numeros_ += esNumero ? 1 : 0;
     textos_ += esNumero || EsFaltaDeDato(celda) ? 0 : 1;
+    conMarca_ += esNumero && huella.fuerza != Fuerza::SinMarca ? 1 : 0;
     switch (huella.fuerza) {
     case Fuerza::Ninguna:
+        if (celda.find('.') != std::string_view::npos && EsNumerico(celda)) {
+            Anotar(malEscrita_, celda, fila);
+        }
+        return;
     case Fuerza::SinMarca:
+        conEnterosCortos_ = conEnterosCortos_ || huella.enteras.size() <= cifrasDeUnGrupo;
+        conEnterosLargos_ = conEnterosLargos_ || huella.enteras.size() > cifrasDeUnGrupo;
         return;
     case Fuerza::Decimal:
         Anotar(decimal_.at(huella.marca), celda, fila);

@@ -30,13 +30,19 @@ public:
     [[nodiscard]] const Pruebas& dudosa() const { return dudosa_; }
     /// True when the mark is decimal and a cell has groups of thousands too, or alone.
     [[nodiscard]] bool agrupa(std::size_t marca) const { return agrupa_.at(marca) || grupos_.at(marca); }
-    /// True when it counts on and past nine as codes do, 1.9 and 1.10, and as no measures do.
-    [[nodiscard]] bool sonCodigos() const { return pasaDeNueve_ && sube_; }
+    /// True when all its numbers have decimals and count on and past nine as codes do, 1.9 and 1.10, and as
+    /// no measures do.
+    [[nodiscard]] bool sonCodigos() const { return pasaDeNueve_ && sube_ && conMarca_ == numeros_; }
     /// True when most of its cells are no numbers.
     [[nodiscard]] bool esDeTextos() const { return textos_ > numeros_; }
     /// A cell with a zero at its end, in a column whose decimals are not equally many: a measure written by
     /// hand, or a code.
     [[nodiscard]] const std::optional<PruebaDeMarca>& ceroDeMas() const;
+    /// A cell that is no number and yet counts as one once its points are left out: 12..5
+    [[nodiscard]] const std::optional<PruebaDeMarca>& malEscrita() const { return malEscrita_; }
+    /// True when it has whole numbers below a thousand and none above that is written without groups: then
+    /// 1.234 may be the next of them.
+    [[nodiscard]] bool puedeAgrupar() const { return conEnterosCortos_ && !conEnterosLargos_; }
 
 private:
     void mirarDecimales(const HuellaDeMarca& huella, std::string_view celda, std::size_t fila);
@@ -46,7 +52,11 @@ private:
     Pruebas dudosa_;
     std::array<bool, 2> agrupa_{};
     std::optional<PruebaDeMarca> conCero_;
-    std::string enteras_; ///< of the last cell with decimals
+    std::optional<PruebaDeMarca> malEscrita_;
+    bool conEnterosCortos_ = false;
+    bool conEnterosLargos_ = false;
+    std::size_t conMarca_ = 0; ///< numbers with a point or a comma
+    std::string enteras_;      ///< of the last cell with decimals
     std::string decimales_;
     std::size_t menosDecimales_ = 0; ///< none seen yet
     std::size_t masDecimales_ = 0;

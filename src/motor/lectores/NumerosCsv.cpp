@@ -100,7 +100,7 @@ constexpr std::array monedas{"€"sv, "$"sv};
 
 /// Blanks that part nothing are among them.
 void QuitarBlancos(std::string_view& texto) {
-    constexpr std::array blancos{" "sv, "\u00A0"sv, "\u202F"sv};
+    constexpr std::array blancos{" "sv, "\t"sv, "\r"sv, "\n"sv, "\u00A0"sv, "\u202F"sv};
     for (bool quedan = true; quedan;) {
         quedan = false;
         for (const auto blanco : blancos) {
@@ -117,6 +117,7 @@ void QuitarBlancos(std::string_view& texto) {
 
 /// Takes one sign of a currency or of a percentage off.
 NumeroDesnudo Desnudar(std::string_view celda) {
+    QuitarBlancos(celda);
     NumeroDesnudo desnudo{celda};
     auto& numero = desnudo.numero;
     if (celda.ends_with('%')) {
@@ -149,6 +150,11 @@ bool EsCodigo(const Escritura& numero) {
 
 } // namespace
 
+std::string_view SinBlancosEnLosExtremos(std::string_view celda) {
+    QuitarBlancos(celda);
+    return celda;
+}
+
 std::optional<double> LeerNumeroCsv(std::string_view celda, char marca) {
     const auto [desnuda, esPorcentaje] = Desnudar(celda);
     if (!EmpiezaComoNumero(desnuda) || (marca == marcaNinguna && TieneMarcas(desnuda))) {
@@ -180,7 +186,7 @@ HuellaDeMarca HuellaDe(std::string_view celda) {
     using Fuerza = HuellaDeMarca::Fuerza;
     const auto conPunto = Descomponer(desnuda, '.');
     if (conPunto && !TieneMarcas(desnuda)) {
-        return {.fuerza = Fuerza::SinMarca};
+        return {.fuerza = Fuerza::SinMarca, .enteras = conPunto->enteras};
     }
     const auto conComa = Descomponer(desnuda, ',');
     if (!conPunto && !conComa) {

@@ -10,6 +10,9 @@ namespace varo {
 /// The decimal mark of a column whose points and commas are no marks: such cells stay texts.
 constexpr char marcaNinguna = '\0';
 
+/// The cell without the blanks at its ends, which programs put there to line their columns up.
+std::string_view SinBlancosEnLosExtremos(std::string_view celda);
+
 /// The number that a cell spells with this decimal mark, '.' or ','; the other mark may part the thousands. A
 /// sign of a currency may stand beside it, and "12,5 %" is 0.125. Nothing when it spells none, one that is
 /// too large, or somebody's code: a whole number of more digits than a number holds, or with a zero in front.

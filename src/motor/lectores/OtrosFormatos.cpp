@@ -45,7 +45,8 @@ constexpr std::array deBytes{
     FormatoAjeno{0, "\xFD\x37zXZ\0"sv, "un archivo comprimido (.xz)"sv, descomprimir},
     FormatoAjeno{0, "7z\xBC\xAF\x27\x1C"sv, "un archivo comprimido (.7z)"sv, descomprimir},
     FormatoAjeno{0, "Rar!\x1A\x07"sv, "un archivo comprimido (.rar)"sv, descomprimir},
-    FormatoAjeno{257, "ustar"sv, "un archivo de varios (.tar)"sv, descomprimir},
+    FormatoAjeno{257, "ustar\0"sv, "un archivo de varios (.tar)"sv, descomprimir},
+    FormatoAjeno{257, "ustar  \0"sv, "un archivo de varios (.tar)"sv, descomprimir},
     FormatoAjeno{0, "%PDF-"sv, "un documento PDF"sv, comoTabla},
     FormatoAjeno{0, "\x89PNG\r\n\x1A\n"sv, imagen, comoTabla},
     FormatoAjeno{0, "\xFF\xD8\xFF"sv, imagen, comoTabla},
@@ -87,7 +88,9 @@ bool EsDelFormato(Bytes bytes, const FormatoAjeno& formato) {
     const bool deMapaDeBits = formato.lugar == 6;
     const bool deWebp = formato.marca == "WEBP";
     return Lleva(bytes, formato.lugar, formato.marca) && (!deMapaDeBits || Lleva(bytes, 0, "BM")) &&
-           (!deWebp || Lleva(bytes, 0, "RIFF"));
+           (!deWebp || Lleva(bytes, 0, "RIFF")) &&
+           // A column may have the name that a table of Parquet begins and ends with.
+           (formato.marca != "PAR1" || Lleva(bytes, bytes.size() - formato.marca.size(), formato.marca));
 }
 
 /// A table of dBase: a version, a date, the lengths of its header and of a row, and two bytes that are null.

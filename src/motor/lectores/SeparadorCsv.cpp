@@ -15,7 +15,10 @@ struct Acierto {
     double numeros = 0; ///< share of numbers among the cells
 
     [[nodiscard]] bool mejorQue(const Acierto& otro) const {
-        return std::pair{filas, numeros} > std::pair{otro.filas, otro.numeros};
+        constexpr double casiTodas = 0.9; // one row of many may be wrong
+        return filas >= casiTodas && otro.filas >= casiTodas
+                   ? std::pair{numeros, filas} > std::pair{otro.numeros, otro.filas}
+                   : std::pair{filas, numeros} > std::pair{otro.filas, otro.numeros};
     }
 };
 

@@ -16,6 +16,8 @@ namespace {
 
 // The largest sheet that spreadsheets have.
 constexpr std::size_t filasMaximas = 1'048'576;
+/// A note of several lines may have a separator in one of them.
+constexpr std::size_t celdasDeUnaNota = 3;
 /// A table of 32,766 rows and 300 columns.
 constexpr std::size_t celdasMaximas = 10'000'000;
 
@@ -48,6 +50,15 @@ public:
     }
 
     [[nodiscard]] TrazaDeTabla traza(char separador) {
+        if (unaDeMas_ > 0 && unaDeMas_ * 10 >= cuantas_ * 9) {
+            NoSeAdmite(
+                "las filas tienen una celda más que la de los nombres: si es la primera columna la que no "
+                "tiene nombre, como en las tablas de R, ponga un separador delante del primer nombre; "
+                "si es la última, dele un nombre");
+        }
+        if (sonNumeros(nombres_)) {
+            NoSeAdmite("la primera fila lleva números: escriba encima los nombres de las columnas");
+        }
         if (buenas_ * 2 < cuantas_) {
             NoEsUnaTabla(
                 "la primera fila ha de llevar los nombres de las columnas, y las demás, tantas celdas "
@@ -69,10 +80,27 @@ public:
     }
 
 private:
+    /// True for two decimal numbers or nothing else but numbers.
+    static bool sonNumeros(const std::vector<std::string>& nombres) {
+        using Fuerza = HuellaDeMarca::Fuerza;
+        const auto con = [&](auto condicion) {
+            return static_cast<std::size_t>(std::ranges::count_if(
+                nombres, [&](const std::string& nombre) { return condicion(HuellaDe(nombre).fuerza); }));
+        };
+        const auto numeros = con([](Fuerza fuerza) { return fuerza != Fuerza::Ninguna; });
+        return con([](Fuerza fuerza) { return fuerza == Fuerza::Decimal; }) > 1 ||
+               (numeros > 0 && numeros == nombres.size());
+    }
+
     void comprobarTamano(const FilasCsv& filas) const {
         const auto fila = [&filas] { return "la fila " + std::to_string(filas.numero()); };
         if (filas.sinCerrar()) {
             ArchivoDanado(fila() + " abre unas comillas que nadie cierra: ciérrelas o quítelas");
+        }
+        if (!nombres_.empty() && filas.celdasTragadas() >= std::max(celdasDeUnaNota, nombres_.size())) {
+            ArchivoDanado(fila() +
+                          " tiene una celda entre comillas con otras filas dentro: cierre las comillas "
+                          "donde acaba la celda, o quítelas");
         }
         if (filas.numero() > filasMaximas || filas.celdas().size() > FilasCsv::celdasDeUnaHoja ||
             cuantasCeldas_ > celdasMaximas) {
@@ -92,6 +120,7 @@ private:
         }
         ++cuantas_;
         buenas_ += celdas.size() > 1 && llenas <= nombres_.size() ? 1 : 0;
+        unaDeMas_ += llenas == nombres_.size() + 1 ? 1 : 0;
         if (llenas > nombres_.size() && !larga_) {
             larga_ = {fila, llenas};
         }
@@ -102,6 +131,7 @@ private:
     std::vector<std::string> nombres_; ///< the row of names, empty ones too
     std::size_t cuantas_ = 0;          ///< rows that hold something
     std::size_t buenas_ = 0;           ///< those of them with cells enough and not too many
+    std::size_t unaDeMas_ = 0;         ///< those with one cell too many
     std::size_t cuantasCeldas_ = 0;
     std::optional<std::pair<std::size_t, std::size_t>> larga_; ///< the first row with too many, and how many
 };

@@ -162,7 +162,8 @@ bool EmpiezaConCifra(std::string_view celda) {
 
 } // namespace
 
-bool LlevaElMesDelante(std::string_view celda) {
+bool LlevaElMesDelante(std::string_view escrita) {
+    const auto celda = SinBlancosEnLosExtremos(escrita);
     if (celda.empty() || !EmpiezaConCifra(celda)) {
         return false;
     }
@@ -170,15 +171,17 @@ bool LlevaElMesDelante(std::string_view celda) {
     return ternas && ternas->partes[1] > 12 && ternas->partes[0] <= 12;
 }
 
-bool TieneValor(std::string_view celda) {
+bool TieneValor(std::string_view escrita) {
+    const auto celda = SinBlancosEnLosExtremos(escrita);
     return !celda.empty() && !EsError(celda);
 }
 
-ValorDeCelda LeerValorCsv(std::string_view celda, char marcaDecimal, bool diaAntesQueMes) {
+ValorDeCelda LeerValorCsv(std::string_view escrita, char marcaDecimal, bool diaAntesQueMes) {
     using Clase = ValorDeCelda::Clase;
-    if (!TieneValor(celda)) {
+    if (!TieneValor(escrita)) {
         return {};
     }
+    const auto celda = SinBlancosEnLosExtremos(escrita);
     if (const auto numero = LeerNumeroCsv(celda, marcaDecimal)) {
         return {Clase::Numero, *numero};
     }
@@ -188,7 +191,7 @@ ValorDeCelda LeerValorCsv(std::string_view celda, char marcaDecimal, bool diaAnt
     if (const auto verdad = LeerVerdad(celda)) {
         return {Clase::Verdad, *verdad ? 1.0 : 0.0};
     }
-    return ValorDeCelda{celda};
+    return ValorDeCelda{escrita}; // with its blanks: two codes may differ in nothing else
 }
 
 } // namespace varo

@@ -94,6 +94,11 @@ rc::Gen<std::string> UnTexto() {
                             for (const auto& letra : letras) {
                                 texto += letra;
                             }
+                            // Lines with separators would pass for rows that a lost quote has swallowed.
+                            if (texto.find('\n') != std::string::npos) {
+                                std::erase_if(texto,
+                                              [](char c) { return c == ',' || c == ';' || c == '\t'; });
+                            }
                             return texto;
                         });
 }

@@ -108,6 +108,53 @@ TEST(LectorCsvMarcas, UnNumeroQuePuedeSerDosSeRechaza) {
     EXPECT_TRUE(NoSeAdmite("2 la fila 3 tiene «1.234», y " + punto, "X;;Z\n12,5;1;1\n1,5;1.234;2\n"));
 }
 
+TEST(LectorCsvMarcas, UnMillarAlLadoDeCentenasSeRechaza) {
+    const std::string punto = "no se sabe si el punto separa decimales o millares";
+    const std::string coma = "no se sabe si la coma separa decimales o millares";
+    EXPECT_TRUE(NoSeAdmite("«CAP» la fila 3 tiene «1.234», y " + punto, "X;CAP\n12;987\n15;1.234\n"));
+    EXPECT_TRUE(NoSeAdmite("«CAP» la fila 3 tiene «1,234», y " + coma, "X,CAP\n12,987\n15,\"1,234\"\n"));
+    EXPECT_TRUE(NoSeAdmite("«CAP» la fila 3 tiene «1.234», y " + punto,
+                           "X;Y;CAP;Alt\n107.76;95.63;987;12,5\n69.39;12.46;1.234;13,1\n"));
+    // The other columns, or a whole number without groups, say that it is a decimal.
+    EXPECT_EQ((Renglones{"X | CAP", "1.5 | 9", "2.5 | 1.234"}), Leidas("X;CAP\n1.5;9\n2.5;1.234\n"));
+    EXPECT_EQ((Renglones{"X | CAP", "12 | 9", "15 | 1.234"}), Leidas("X,CAP\n12,9\n15,1.234\n"));
+    EXPECT_EQ((Renglones{"X | CAP", "12 | 9", "15 | 1.234"}), Leidas("X;CAP\n12;9\n15;1,234\n"));
+    EXPECT_EQ((Renglones{"X | CAP", "12 | 1250", "15 | 1.25"}), Leidas("X;CAP\n12;1250\n15;1.250\n"));
+}
+
+TEST(LectorCsvMarcas, UnaColumnaDeCodigosNoHaceDecimalesDeLosMillares) {
+    EXPECT_TRUE(NoSeAdmite("«X» la fila 2 tiene «431.250», y no se sabe",
+                           "Codigo;X;Y\n1.1;431.250;4.567.890\n1.2;431.251;4.567.891\n"));
+}
+
+TEST(LectorCsvMarcas, UnNumeroMalEscritoSeRechaza) {
+    EXPECT_TRUE(NoSeAdmite("«CAP» la fila 2 tiene «12..5», que no es un número bien escrito: corríjalo",
+                           "Arbol,CAP\n1,12..5\n2,40.1\n3,9\n"));
+    EXPECT_TRUE(NoSeAdmite("«CAP» la fila 3 tiene «1.23,5», que no es", "Arbol;CAP\n1;40,1\n2;1.23,5\n"));
+    // Codes and dates are texts.
+    EXPECT_EQ((Renglones{"Fecha | X", "'31.12.2025' | 1.5", "'1.2.3' | 2"}),
+              Leidas("Fecha,X\n31.12.2025,1.5\n1.2.3,2\n"));
+}
+
+TEST(LectorCsvMarcas, GruposDeOtraMarcaJuntoADecimalesSeRechazan) {
+    EXPECT_TRUE(NoSeAdmite("«X» unos números llevan punto y otros coma: la fila 2 tiene «12.5» y la fila 3 "
+                           "tiene «1.234.567»",
+                           "Id;X\n1;12.5\n2;1.234.567\n"));
+}
+
+TEST(LectorCsvMarcas, UnaMedidaSinDecimalesNoEsUnCodigo) {
+    EXPECT_EQ((Renglones{"CAP | X", "12 | 1.5", "1.9 | 2.5", "30 | 3.5", "1.1 | 4.5"}),
+              Leidas("CAP;X\n12;1.5\n1.9;2.5\n30;3.5\n1.10;4.5\n"));
+}
+
+TEST(LectorCsvMarcas, LosBlancosDentroDeLasComillasNoHacenTextos) {
+    EXPECT_EQ((Renglones{"id | x | dbh | dia", "1 | 107.766 | 4.7 | #46022", "2 | 69.399 | - | -"}),
+              Leidas("\"id\",\"x\",\"dbh\",\"dia\"\n\"1\",\"107.766\",\" 4.7\",\" 31/12/2025\"\n"
+                     "\"2\",\" 69.399\",\"  \",\" #N/A \"\n"));
+    EXPECT_EQ((Renglones{"x | y", "12.5 | 31.4", "2.5 | 3.5"}),
+              Leidas("x;y\n\"12.5\u00A0\";\u00A031.4\n\"\t2.5\";3.5\n"));
+}
+
 TEST(LectorCsvMarcas, LoDudosoSigueALaMayoriaDeLasColumnasSiDiceLoMismo) {
     EXPECT_EQ((Renglones{"Codigo | X | Y | Z", "1.1 | 107.766 | 1.5 | 2.5"}),
               Leidas("Codigo;X;Y;Z\n1.1;107,766;1,5;2,5\n"));

@@ -280,5 +280,44 @@ TEST(LectorCsv, UnaCeldaMuyLargaEsUnTexto) {
     EXPECT_EQ((Renglones{"a | b", "1 | '" + larga + "'"}), Leidas("a,b\n1," + larga + "\n"));
 }
 
+TEST(LectorCsv, UnasComillasPerdidasNoSeTraganFilas) {
+    const std::string tragadas = "tiene una celda entre comillas con otras filas dentro";
+    EXPECT_TRUE(NoSeLee(fallo::archivoDanado, "el archivo está dañado (la fila 3 " + tragadas,
+                        "Arbol;X;Y;Nota\n1;1,5;2,5;\n2;2,5;3,5;\"roto\n3;3,5;4,5;\n4;4,5;5,5;\"seco\"\n"
+                        "5;5,5;6,5;\n"));
+    EXPECT_TRUE(NoSeLee(fallo::archivoDanado, "el archivo está dañado (la fila 2 " + tragadas,
+                        "Arbol;X;Nota\n1;1,5;\"roto\n2;2,5;seco\"\n"));
+    // A note of several lines, with a separator in one of them.
+    EXPECT_EQ((Renglones{"X | Nota", "1.5 | 'roto;\nseco'"}), Leidas("X;Nota\n1,5;\"roto;\nseco\"\n"));
+}
+
+TEST(LectorCsv, UnaCeldaMasQueNombresDiceQueHacer) {
+    EXPECT_TRUE(NoSeLee(fallo::tablaNoAdmitida,
+                        "las filas tienen una celda más que la de los nombres: si es la primera columna",
+                        "\"x\"\t\"y\"\t\"dap\"\n\"1\"\t1.5\t2.5\t30\n\"2\"\t1.5\t2.5\t30\n"));
+}
+
+TEST(LectorCsv, SinNombresNoSePierdeElPrimerArbol) {
+    const std::string motivo = "la primera fila lleva números: escriba encima los nombres de las columnas";
+    EXPECT_TRUE(
+        NoSeLee(fallo::tablaNoAdmitida, motivo, "1,431250.5,4567890.25,PINO\n2,431251.5,4567891.25,PINO\n"));
+    EXPECT_TRUE(NoSeLee(fallo::tablaNoAdmitida, motivo, "1;2;3\n4;5;6\n"));
+}
+
+TEST(LectorCsv, ElRellenoAlFinalNoEsDelTexto) {
+    using namespace std::string_literals;
+    for (const auto& relleno : {"\x1A"s, "\0\0\0"s, "\x1A\0\0"s}) {
+        EXPECT_EQ((Renglones{"Arbol | X", "1 | 2.5"}), Leidas("Arbol;X\r\n1;2,5\r\n" + relleno));
+    }
+}
+
+TEST(LectorCsv, UnaFilaDemasiadoLargaNoCambiaElSeparador) {
+    std::string texto = "Arbol;X, m;Y, m;Notas\n1;12,5;7,25;\n2;3,5;4,5;seco; roto\n";
+    for (int i = 3; i < 40; ++i) {
+        texto += std::to_string(i) + ";3,5;4,5;x\n";
+    }
+    EXPECT_TRUE(NoSeLee(fallo::tablaNoAdmitida, "la fila 3 tiene 5 celdas, y la de los nombres, 4", texto));
+}
+
 } // namespace
 } // namespace varo

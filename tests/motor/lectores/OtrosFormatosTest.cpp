@@ -38,8 +38,10 @@ TEST(OtrosFormatos, LosComprimidosDicenCuales) {
     EXPECT_EQ("es un archivo comprimido (.xz)" + descomprimir, Archivo("\xFD\x37zXZ\0\0"sv));
     EXPECT_EQ("es un archivo comprimido (.7z)" + descomprimir, Archivo("7z\xBC\xAF\x27\x1C\0"sv));
     EXPECT_EQ("es un archivo comprimido (.rar)" + descomprimir, Archivo("Rar!\x1A\x07\x01\0"sv));
-    const auto tar = "parcela.csv" + std::string(246, '\0') + "ustar"; // the mark stands at 257
-    EXPECT_EQ("es un archivo de varios (.tar)" + descomprimir, Archivo(tar));
+    const auto tar = "parcela.csv" + std::string(246, '\0'); // the mark stands at 257
+    EXPECT_EQ("es un archivo de varios (.tar)" + descomprimir, Archivo(tar + std::string{"ustar\0", 6}));
+    EXPECT_EQ("es un archivo de varios (.tar)" + descomprimir, Archivo(tar + std::string{"ustar  \0", 8}));
+    EXPECT_EQ("nada", Archivo(std::string(257, 'a') + "ustar al muestreo")); // a word of a note
 }
 
 TEST(OtrosFormatos, LosDocumentosYLasImagenes) {
@@ -71,7 +73,7 @@ TEST(OtrosFormatos, LosDatosDeOtrosProgramas) {
     EXPECT_EQ("es un archivo de datos de Stata (.dta)" + comoCsv, Archivo("<stata_dta><header>"));
     EXPECT_EQ("es un archivo de datos de SAS (.sas7bdat)" + comoCsv,
               Archivo("\0\0\0\0\0\0\0\0\0\0\0\0\xC2\xEA\x81\x60\xB3\x14\x11\xCF\xBD\x92"sv));
-    EXPECT_EQ("es una tabla de Parquet (.parquet)" + comoCsv, Archivo("PAR1\x15\0"sv));
+    EXPECT_EQ("es una tabla de Parquet (.parquet)" + comoCsv, Archivo("PAR1\x15\0PAR1"sv));
     EXPECT_EQ("es una tabla de Arrow (.feather)" + comoCsv, Archivo("ARROW1\0\0"sv));
     EXPECT_EQ("es un archivo de datos HDF5" + comoCsv, Archivo("\x89HDF\r\n\x1A\n\0"sv));
 }
