@@ -15,6 +15,7 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::size_t masHondo = 200;
+constexpr std::size_t masPrefijos = 256;
 /// A tag with its attributes. Parsers look at it again with each piece that they are given of it.
 constexpr std::size_t masLargo = std::size_t{1} << 20U;
 
@@ -53,8 +54,8 @@ struct Liberar {
 /// The parser and what it calls. No exception passes through it: the first one waits until it has returned.
 class AnalisisXml {
 public:
-    AnalisisXml(const std::string& parte, OyenteXml& oyente)
-        : parte_{parte}, oyente_{oyente}, parser_{XML_ParserCreate(nullptr)} {
+    AnalisisXml(const std::string& parte, OyenteXml& oyente, TipoDeXml tipo)
+        : parte_{parte}, oyente_{oyente}, tipo_{tipo}, parser_{XML_ParserCreate(nullptr)} {
         if (!parser_) {
             throw std::bad_alloc{};
         }
@@ -107,7 +108,9 @@ private:
             if (++analisis.hondura_ > masHondo) {
                 analisis.danada("tiene elementos unos dentro de otros sin fin");
             }
-            analisis.prefijos_.abrir(analisis.hondura_, atributos);
+            if (!analisis.prefijos_.abrir(analisis.hondura_, atributos)) {
+                analisis.danada("declara demasiados prefijos");
+            }
             analisis.oyente_.abrir(ElementoXml{nombre, atributos, analisis.prefijos_});
         });
     }
@@ -124,9 +127,12 @@ private:
         });
     }
     static void XMLCALL alDeclarar(void* yo, const char* /*nombre*/, const char* /*sistema*/,
-                                   const char* /*publico*/, int /*propio*/) {
-        guardando(yo,
-                  [](AnalisisXml& analisis) { analisis.danada("declara un tipo de documento (DOCTYPE)"); });
+                                   const char* /*publico*/, int conContenido) {
+        guardando(yo, [conContenido](AnalisisXml& analisis) {
+            if (conContenido != 0 || analisis.tipo_ == TipoDeXml::SinNombrar) {
+                analisis.danada("declara un tipo de documento (DOCTYPE)");
+            }
+        });
     }
     static void XMLCALL alDeclararEntidad(void* yo, const char* /*nombre*/, int /*deParametro*/,
                                           const char* /*valor*/, int /*longitud*/, const char* /*base*/,
@@ -137,6 +143,7 @@ private:
 
     const std::string& parte_;
     OyenteXml& oyente_;
+    TipoDeXml tipo_;
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, Liberar> parser_;
     PrefijosXml prefijos_;
     std::exception_ptr fallo_;
@@ -146,9 +153,9 @@ private:
 
 } // namespace
 
-void PrefijosXml::abrir(std::size_t hondura, const char* const* atributos) {
+bool PrefijosXml::abrir(std::size_t hondura, const char* const* atributos) {
     constexpr std::string_view declaracion = "xmlns";
-    for (const char* const* par = atributos; *par != nullptr; par += 2) {
+    for (const char* const* par = atributos; *par != nullptr && declarados_.size() <= masPrefijos; par += 2) {
         if (std::string_view nombre = par[0]; nombre.starts_with(declaracion)) {
             nombre.remove_prefix(declaracion.size());
             if (nombre.empty() || nombre.starts_with(':')) {
@@ -156,6 +163,7 @@ void PrefijosXml::abrir(std::size_t hondura, const char* const* atributos) {
             }
         }
     }
+    return declarados_.size() <= masPrefijos;
 }
 
 void PrefijosXml::declarar(std::string_view prefijo, std::string_view uri, std::size_t hondura) {
@@ -211,8 +219,8 @@ std::optional<std::string_view> ElementoXml::atributo(NombreXml buscado) const {
 }
 
 void LeerXml(const ArchivoZip& archivo, const std::string& parte, OyenteXml& oyente,
-             const std::function<void(std::size_t)>& alLeer) {
-    AnalisisXml analisis{parte, oyente};
+             const std::function<void(std::size_t)>& alLeer, TipoDeXml tipo) {
+    AnalisisXml analisis{parte, oyente, tipo};
     archivo.leer(parte, [&](std::string_view trozo) {
         if (alLeer) {
             alLeer(trozo.size());

@@ -37,8 +37,9 @@ struct NombreXml {
 /// What the prefixes stand for where the reading is. The parser could tell it, and takes twice as long then.
 class PrefijosXml {
 public:
-    /// An element opens that stands so deep, with these attributes.
-    void abrir(std::size_t hondura, const char* const* atributos);
+    /// An element opens that stands so deep, with these attributes. False where more prefixes are declared
+    /// than in any workbook: each name is looked up among all of them.
+    [[nodiscard]] bool abrir(std::size_t hondura, const char* const* atributos);
     /// The element that stands so deep closes.
     void cerrar(std::size_t hondura);
 
@@ -141,10 +142,13 @@ private:
     std::vector<SitioXml> sitios_{SitioXml::Documento};
 };
 
+/// Whether a part may name the type of its document. One that says in its place what the type is may never.
+enum class TipoDeXml { SinNombrar, Nombrado };
+
 /// Reads a part whole and tells `alLeer` of the bytes before they are looked at. No XML, a declaration of a
-/// document type, which these files never have, elements that stand too deep or are too long: ErrorMotor.
+/// document type that the part may not have, elements that stand too deep or are too long: ErrorMotor.
 void LeerXml(const ArchivoZip& archivo, const std::string& parte, OyenteXml& oyente,
-             const std::function<void(std::size_t)>& alLeer = {});
+             const std::function<void(std::size_t)>& alLeer = {}, TipoDeXml tipo = TipoDeXml::SinNombrar);
 
 /// "1", "true" and "on".
 bool EsVerdad(std::optional<std::string_view> valor);

@@ -69,8 +69,8 @@ TEST(LectorOds, LasTablasDelEscritorSonLasDelXls) {
 
 TEST(LectorOds, LosTextosSonLosDeSusParrafos) {
     EXPECT_EQ(
-        (LineasDeTablas{"'dos líneas\ny otra'", "'a   b'", "' a '", "'tab\ty\nsalto'", "'negrita y enlace'",
-                        "'solo el texto'", "'base'", "'\n'"}),
+        (LineasDeTablas{"'dos líneas \n y otra'", "'a   b'", "' a '", "'tab\ty\nsalto'",
+                        "'negrita  y enlace'", "'solo el texto'", "'base'", "'\n'"}),
         DebajoDeX(Fila(Letras("<text:p>dos\n \t líneas </text:p><text:p> y otra</text:p>")) +
                   Fila(Letras("<text:p>a <text:s text:c=\"2\"/>b</text:p>")) +
                   Fila(Letras("<text:p><text:s/>a<text:s/></text:p>")) +
@@ -82,6 +82,38 @@ TEST(LectorOds, LosTextosSonLosDeSusParrafos) {
                   Fila(Letras("<text:p><text:ruby><text:ruby-base>base</text:ruby-base>"
                               "<text:ruby-text>encima</text:ruby-text></text:ruby></text:p>")) +
                   Fila(Letras("<text:p/><text:p/>"))));
+}
+
+TEST(LectorOds, LosBlancosDeUnParrafoCuentanYLosDelXmlSonUno) {
+    EXPECT_EQ(
+        (LineasDeTablas{"'Pp '", "' Pp'", "'a  b'", "'a b c'", "'a b'", "'a b'", "'a  b '", "''", "' '"}),
+        DebajoDeX(Fila(Letras("<text:p>Pp </text:p>")) + Fila(Letras("<text:p> Pp</text:p>")) +
+                  Fila(Letras("<text:p>a  b</text:p>")) +
+                  Fila(Letras("<text:p>\n    a\n    b\tc\n  </text:p>")) +
+                  Fila(Letras("<text:p>\n <text:span>a</text:span>\n <text:span>b</text:span>\n</text:p>")) +
+                  Fila(Letras("<text:p>a<text:span> \n</text:span> b</text:p>")) +
+                  Fila(Letras("<text:p>\na\n <text:s/>b<text:s/>\n</text:p>")) +
+                  Fila(Letras("<text:p> \n </text:p>")) + Fila(Letras("<text:p> </text:p>"))));
+}
+
+TEST(LectorOds, UnaFormulaSinResultadoEsNula) {
+    const std::string formula = R"(<table:table-cell table:formula="of:=1+1")";
+    EXPECT_EQ((LineasDeTablas{"-", "-", "-", "''", "1"}),
+              DebajoDeX(Fila(formula + R"( office:value-type="float"/>)") + Fila(formula + "/>") +
+                        Fila(formula + R"( office:value-type="boolean"></table:table-cell>)") +
+                        Fila(formula + R"( office:value-type="string"/>)") + Fila(Celda(uno))));
+    // What was never a formula is damaged all the same.
+    EXPECT_TRUE(TieneDefecto(EscribirOds(Tabla1(Fila(R"(<table:table-cell office:value-type="float"/>)"))),
+                             "H$", fallo::archivoDanado, "celda A1"));
+}
+
+TEST(LectorOds, UnaHoraSinFinEsNula) {
+    const std::string cifras(400, '9');
+    const auto hora = [](const std::string& cuanto) {
+        return Fila(Celda(R"(office:value-type="time" office:time-value=")" + cuanto + "\""));
+    };
+    EXPECT_EQ((LineasDeTablas{"-", "-", "#0.25"}),
+              DebajoDeX(hora("PT" + cifras + "H") + hora("-P" + cifras + "D") + hora("PT6H")));
 }
 
 TEST(LectorOds, LosErroresSonNulos) {
@@ -144,6 +176,14 @@ TEST(LectorOds, LasTablasQueNoSonHojasNoCuentan) {
                               Tabla1("<table:shapes>" + otra + "</table:shapes>" + cabecera +
                                      Fila("<table:table-cell " + uno + ">" + otra + "</table:table-cell>")) +
                               "<table:dde-links>" + otra + "</table:dde-links>")));
+}
+
+TEST(LectorOds, LoGuardadoDeOtrosLibrosNoSonHojas) {
+    EXPECT_EQ((LineasDeTablas{"[H$]", "X", "[It's #1$]", "X"}),
+              LineasDelLibro(EscribirOds(Tabla1(cabecera) +
+                                         "<table:table table:name=\"'file:///home/x/otra.ods'#Hoja1\">" +
+                                         cabecera + "</table:table><table:table table:name=\"It's #1\">" +
+                                         cabecera + "</table:table>")));
 }
 
 TEST(LectorOds, LosNombresDelLibroSonTablasDetrasDeLasHojas) {
@@ -209,6 +249,22 @@ TEST(LectorOds, UnLibroCifradoLoDice) {
     EXPECT_TRUE(NoSeLee(EscribirZip(partes), fallo::archivoCifrado, aviso));
     EXPECT_TRUE(NoSeLee(EscribirZip({{"mimetype", partes.front().contenido}, {"encrypted-package", "x"}}),
                         fallo::archivoCifrado, aviso));
+}
+
+TEST(LectorOds, ElManifiestoPuedeNombrarSuTipoDeDocumento) {
+    auto partes = PartesDeOds(Tabla1(cabecera));
+    const auto manifiesto = partes.back().contenido;
+    const auto con = [&](const std::string& declaracion) {
+        partes.back().contenido =
+            Reemplazar(manifiesto, "<manifest:manifest ", declaracion + "<manifest:manifest ");
+        return EscribirZip(partes);
+    };
+    const std::string nombre =
+        R"(<!DOCTYPE manifest:manifest PUBLIC "-//OpenOffice.org//DTD Manifest 1.0//EN" "Manifest.dtd")";
+    EXPECT_EQ((LineasDeTablas{"[H$]", "X"}), LineasDelLibro(con(nombre + ">")));
+    const std::string dicho = "su parte «META-INF/manifest.xml» declara un tipo de documento (DOCTYPE)";
+    EXPECT_TRUE(NoSeLee(con(nombre + " []>"), fallo::archivoDanado, dicho));
+    EXPECT_TRUE(NoSeLee(con(nombre + R"( [<!ENTITY a "b">]>)"), fallo::archivoDanado, dicho));
 }
 
 TEST(LectorOds, SeReconocePorSuClaseOPorSusPartes) {

@@ -231,6 +231,18 @@ TEST(LibrosHostiles, LoQueSeRepiteSinFinSeRechaza) {
     EXPECT_EQ(tablas.front().Fields.Count(), 16'384);
 }
 
+TEST(LibrosHostiles, LasColumnasQueSeRepitenNoDanLaVuelta) {
+    const auto libro = [](const std::string& veces) {
+        const std::string celda = R"(<table:table-cell office:value-type="float" office:value="1"/>)";
+        return EscribirOds("<table:table table:name=\"H\"><table:table-row>" + celda +
+                           "<table:table-cell table:number-columns-repeated=\"" + veces + "\"/>" + celda +
+                           "</table:table-row></table:table>");
+    };
+    EXPECT_TRUE(TieneDefecto(libro("18446744073709551615"), "H$", fallo::archivoDanado,
+                             "una celda está fuera de la hoja"));
+    EXPECT_EQ(LeerLibroComprimido(libro("0"), "libro").front().Fields.Count(), 3);
+}
+
 TEST(LibrosHostiles, UnaCeldaMasAllaDelBordeSeRechaza) {
     const auto libro = [](const std::string& antes, const std::string& delante) {
         return EscribirOds(
@@ -251,6 +263,22 @@ TEST(LibrosHostiles, LoQueEstaDemasiadoHondoSeRechaza) {
                              "tiene elementos unos dentro de otros sin fin"));
     EXPECT_TRUE(
         NoSeLee(EscribirOds(hondo), fallo::archivoDanado, "tiene elementos unos dentro de otros sin fin"));
+}
+
+TEST(LibrosHostiles, LosPrefijosSinFinSeRechazan) {
+    const auto conPrefijos = [](std::size_t cuantos) {
+        std::string fila = "<row";
+        for (std::size_t i = 0; i < cuantos; ++i) {
+            fila += " xmlns:p" + std::to_string(i) +
+                    "=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"";
+        }
+        LibroXlsxDePrueba libro;
+        libro.hojas = {{"H", fila + R"(><c t="str"><v>X</v></c></row>)"}};
+        return EscribirXlsx(libro);
+    };
+    EXPECT_EQ((LineasDeTablas{"[H$]", "X"}), LineasDelLibro(conPrefijos(200)));
+    EXPECT_TRUE(TieneDefecto(conPrefijos(10'000), "H$", fallo::archivoDanado,
+                             "su parte «xl/worksheets/sheet1.xml» declara demasiados prefijos, línea 1"));
 }
 
 TEST(LibrosHostiles, UnElementoSinFinSeRechaza) {

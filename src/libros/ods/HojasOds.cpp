@@ -27,9 +27,9 @@ enum class SitioDeOds {
     Nada
 };
 
-/// How many times a row or a cell stands there.
-std::size_t Veces(std::optional<std::string_view> escritas) {
-    return std::clamp(EnteroEscrito(escritas.value_or("1")).value_or(1), std::size_t{1}, filasDeUnLibro);
+/// LibreOffice keeps what it read in other workbooks in tables with such names as 'file:///home/x.ods'#Hoja1.
+bool EsDeOtroLibro(std::string_view tabla) {
+    return tabla.starts_with('\'') && tabla.find("'#") != std::string_view::npos;
 }
 
 class LectorDeHojasOds : public OyenteConSitios<SitioDeOds> {
@@ -123,9 +123,12 @@ private:
     }
 
     SitioXml empezarHoja(const ElementoXml& elemento) {
+        const auto nombre = elemento.atributo({EspacioXml::Tabla, "name"}).value_or("");
+        if (EsDeOtroLibro(nombre)) {
+            return SitioXml::Nada;
+        }
         limites_.contarTablas(1); // all of them are here before the first is a table
-        libro.hojas.push_back(
-            {std::string{elemento.atributo({EspacioXml::Tabla, "name"}).value_or("")}, {}, {}});
+        libro.hojas.push_back({std::string{nombre}, {}, {}});
         fila_ = 0;
         return SitioXml::Hoja;
     }
@@ -140,7 +143,8 @@ private:
     }
 
     SitioXml empezarFila(const ElementoXml& elemento) {
-        vecesLaFila_ = Veces(elemento.atributo({EspacioXml::Tabla, "number-rows-repeated"}));
+        vecesLaFila_ = VecesEscritas(
+            elemento.atributo({EspacioXml::Tabla, "number-rows-repeated"}).value_or("1"), filasDeUnLibro);
         columna_ = 0;
         comienzoDeFila_ = celdas().size();
         return SitioXml::Fila;

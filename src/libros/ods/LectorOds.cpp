@@ -37,7 +37,7 @@ protected:
 void ExigirSinCifrar(const ArchivoZip& comprimido) {
     LectorDeManifiesto lector;
     if (comprimido.tiene(manifiesto)) {
-        LeerXml(comprimido, manifiesto, lector);
+        LeerXml(comprimido, manifiesto, lector, {}, TipoDeXml::Nombrado); // OpenOffice.org 2 names it
     }
     if (lector.cifrado || comprimido.tiene("encrypted-package")) {
         throw ErrorMotor{fallo::archivoCifrado,

@@ -1,6 +1,7 @@
 #include "libros/ods/TextoOds.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace varo {
@@ -21,45 +22,56 @@ void TextoOds::abrirParrafo() {
         texto_ += '\n';
     }
     hay_ = true;
-    trasBlanco_ = true;
-    blancoAlFinal_ = false;
+    parrafo_ = texto_.size();
+    blancos_ = parrafo_;
+    sangrado_ = false;
 }
 
 void TextoOds::escribir(std::string_view trozo) {
     for (const char c : trozo) {
-        const bool blanco = c == ' ' || c == '\t' || c == '\n' || c == '\r';
-        if (!blanco || !trasBlanco_) {
-            texto_ += blanco ? ' ' : c;
-            blancoAlFinal_ = blanco;
+        const bool deSangria = c == '\t' || c == '\n' || c == '\r';
+        sangrado_ = sangrado_ || deSangria;
+        if (c == ' ' || deSangria) {
+            texto_ += ' ';
+        } else {
+            acabarBlancos(blancos_ == parrafo_);
+            texto_ += c;
+            blancos_ = texto_.size();
         }
-        trasBlanco_ = blanco;
+    }
+}
+
+void TextoOds::acabarBlancos(bool enUnExtremo) {
+    if (sangrado_) {
+        texto_.resize(blancos_);
+        texto_.append(enUnExtremo ? 0 : 1, ' ');
+        sangrado_ = false;
     }
 }
 
 bool TextoOds::escribirElemento(const ElementoXml& elemento) {
-    if (elemento.es(EspacioXml::Texto, "s")) {
+    constexpr std::array<std::string_view, 3> blancos{"s", "tab", "line-break"};
+    const auto [espacio, nombre] = elemento.nombre();
+    if (espacio != EspacioXml::Texto || std::ranges::find(blancos, nombre) == blancos.end()) {
+        return false;
+    }
+    acabarBlancos(blancos_ == parrafo_);
+    if (nombre == "s") {
         const auto cuantos =
             EnteroEscrito(elemento.atributo({EspacioXml::Texto, "c"}).value_or("1")).value_or(1);
         constexpr std::size_t mientrasCrece = 3;
         limites_.contarTexto(mientrasCrece *
                              std::min(cuantos, masBlancos)); // no byte of the file stands for them
         texto_.append(cuantos, ' ');
-    } else if (elemento.es(EspacioXml::Texto, "tab")) {
-        texto_ += '\t';
-    } else if (elemento.es(EspacioXml::Texto, "line-break")) {
-        texto_ += '\n';
     } else {
-        return false;
+        texto_ += nombre == "tab" ? '\t' : '\n';
     }
-    trasBlanco_ = false;
-    blancoAlFinal_ = false;
+    blancos_ = texto_.size();
     return true;
 }
 
 void TextoOds::cerrarParrafo() {
-    if (blancoAlFinal_) {
-        texto_.pop_back();
-    }
+    acabarBlancos(true);
 }
 
 } // namespace varo

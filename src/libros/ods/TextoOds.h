@@ -4,13 +4,15 @@
 #include "libros/LectorXml.h"
 #include "motor/lectores/LimitesDeLectura.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace varo {
 
-/// Paragraphs are parted by line feeds. Blanks, tabs and ends of lines in XML are one blank, and none at the
-/// ends of a paragraph; what counts is written as elements.
+/// Paragraphs are parted by line feeds. Blanks (character 32) count as they stand: spreadsheets write some
+/// so. Those among which a tab or an end of line stands are of XML that is indented: one blank, and none at
+/// the ends of a paragraph.
 class TextoOds {
 public:
     explicit TextoOds(LimitesDeLectura& limites) : limites_{limites} {}
@@ -26,11 +28,15 @@ public:
     [[nodiscard]] const std::string& texto() const { return texto_; }
 
 private:
+    /// What was written last is no blank of XML any more.
+    void acabarBlancos(bool enUnExtremo);
+
     std::string texto_;
     LimitesDeLectura& limites_;
     bool hay_ = false;
-    bool trasBlanco_ = true;     // a blank here is one too many
-    bool blancoAlFinal_ = false; // the last letter is one that the end of the paragraph takes away
+    std::size_t parrafo_ = 0; // where it begins
+    std::size_t blancos_ = 0; // where those begin that the text ends with now
+    bool sangrado_ = false;   // there is a tab or an end of line among them
 };
 
 } // namespace varo

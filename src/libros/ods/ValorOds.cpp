@@ -1,5 +1,6 @@
 #include "libros/ods/ValorOds.h"
 
+#include "libros/Referencias.h"
 #include "libros/ValoresEscritos.h"
 #include "motor/lectores/Bytes.h"
 #include "motor/lectores/FechasBiff.h"
@@ -54,7 +55,8 @@ ValorDeCelda ValorDeHora(const std::string& escrito) {
     if (!dias) {
         NoLleva("una hora", escrito);
     }
-    return ValorDeCelda{FechaDeSerie(*dias, false)};
+    // So is a time that has no end.
+    return std::isfinite(*dias) ? ValorDeCelda{FechaDeSerie(*dias, false)} : ValorDeCelda{};
 }
 
 ValorDeCelda ValorDeVerdad(const std::string& escrito) {
@@ -78,7 +80,16 @@ std::optional<ValorDeCelda> ValorDeTexto(const CeldaOds& celda,
     return std::nullopt;
 }
 
+/// Programs that do not compute write no result, or just its class.
+bool EstaPorCalcular(const CeldaOds& celda, bool hayParrafos) {
+    return celda.conFormula && celda.valor.empty() && !celda.texto && !hayParrafos && celda.clase != "string";
+}
+
 } // namespace
+
+std::size_t VecesEscritas(std::string_view escritas, std::size_t maximo) {
+    return std::clamp(EnteroEscrito(escritas).value_or(1), std::size_t{1}, maximo);
+}
 
 CeldaOds CeldaEscritaEnOds(const ElementoXml& elemento) {
     CeldaOds celda;
@@ -94,7 +105,7 @@ CeldaOds CeldaEscritaEnOds(const ElementoXml& elemento) {
         } else if (nombre == NombreXml{EspacioXml::Tabla, "formula"}) {
             celda.conFormula = true;
         } else if (nombre == NombreXml{EspacioXml::Tabla, "number-columns-repeated"}) {
-            celda.veces = EnteroEscrito(valor).value_or(1);
+            celda.veces = VecesEscritas(valor, columnasDeUnLibro);
         } else if (nombre == NombreXml{EspacioXml::Calc, "value-type"}) {
             celda.esError = valor == "error";
         }
@@ -103,7 +114,8 @@ CeldaOds CeldaEscritaEnOds(const ElementoXml& elemento) {
 }
 
 std::optional<ValorDeCelda> ValorDe(const CeldaOds& celda, const std::optional<std::string_view>& parrafos) {
-    if (celda.esError || (celda.conFormula && MuestraUnError(parrafos.value_or("")))) {
+    if (celda.esError || (celda.conFormula && MuestraUnError(parrafos.value_or(""))) ||
+        EstaPorCalcular(celda, parrafos.has_value())) {
         return ValorDeCelda{};
     }
     if (celda.clase == "float" || celda.clase == "percentage" || celda.clase == "currency") {

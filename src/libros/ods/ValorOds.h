@@ -21,6 +21,9 @@ struct CeldaOds {
     std::size_t veces = 1; ///< in as many columns
 };
 
+/// How many times a row or a cell stands there: once at least, and no more often than the sheet has places.
+std::size_t VecesEscritas(std::string_view escritas, std::size_t maximo);
+
 CeldaOds CeldaEscritaEnOds(const ElementoXml& elemento);
 
 /// The value of a cell with these paragraphs, if it has any; nothing where it holds nothing. Its text is that
