@@ -29,17 +29,20 @@ constexpr std::array<ClaseAjena, 6> declaradas{
      {"application/vnd.sun.xml.calc"sv, "una hoja de cálculo de OpenOffice 1 (.sxc)"sv},
      {"application/epub+zip"sv, "un libro electrónico (.epub)"sv}}};
 
-constexpr std::array<ClaseAjena, 4> conParte{
+constexpr std::array<ClaseAjena, 5> conParte{
     {{"xl/workbook.bin"sv, "un libro binario de Excel (.xlsb)"sv},
      {"word/document.xml"sv, "un documento de Word (.docx)"sv},
      {"ppt/presentation.xml"sv, "una presentación de PowerPoint (.pptx)"sv},
+     {"Index/Document.iwa"sv, "un documento de Numbers (.numbers)"sv},
      {"doc.kml"sv, "un mapa de Google Earth (.kmz)"sv}}};
 
 const auto* const consejo = ": guarde la hoja de cálculo como .xlsx, .ods o libro de Excel 97-2003 (.xls)";
 
+/// A Mac puts a file of its own beside each one, with the same ending.
 bool EsDeDatos(const std::string& nombre) {
     const auto pequeno = Minusculas(nombre);
-    return std::ranges::any_of(std::array{".xls"sv, ".xlsx"sv, ".ods"sv, ".csv"sv, ".mdb"sv, ".accdb"sv},
+    return !pequeno.starts_with("__macosx/") &&
+           std::ranges::any_of(std::array{".xls"sv, ".xlsx"sv, ".ods"sv, ".csv"sv, ".mdb"sv, ".accdb"sv},
                                [&](std::string_view extension) { return pequeno.ends_with(extension); });
 }
 

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace varo {
 namespace {
@@ -15,11 +16,6 @@ constexpr double segundosPorHora = 3600;
 constexpr double segundosPorMinuto = 60;
 constexpr double primerDia = -657434;       // 1 January 100
 constexpr double diaTrasElUltimo = 2958466; // 1 January 10000
-
-std::string_view SinBlancos(std::string_view texto) {
-    texto.remove_prefix(std::min(texto.find_first_not_of(blancos), texto.size()));
-    return texto.substr(0, texto.find_last_not_of(blancos) + 1);
-}
 
 bool EsCifra(char c) {
     return c >= '0' && c <= '9';
@@ -54,10 +50,12 @@ public:
         return valor;
     }
 
-    /// Digits with a point among them.
+    /// Digits with a point, or a comma, among them.
     double numero() {
-        const auto fin = std::ranges::find_if_not(queda_, [](char c) { return EsCifra(c) || c == '.'; });
-        const auto escrito = queda_.substr(0, static_cast<std::size_t>(fin - queda_.begin()));
+        const auto fin =
+            std::ranges::find_if_not(queda_, [](char c) { return EsCifra(c) || c == '.' || c == ','; });
+        std::string escrito{queda_.begin(), fin};
+        std::ranges::replace(escrito, ',', '.');
         const auto valor = NumeroEscrito(escrito);
         bien_ = bien_ && valor.has_value() && EsCifra(escrito.front());
         queda_.remove_prefix(escrito.size());
@@ -115,8 +113,13 @@ double HoraDe(TextoPorTomar& texto) {
 
 } // namespace
 
+std::string_view SinBlancosDeXml(std::string_view texto) {
+    texto.remove_prefix(std::min(texto.find_first_not_of(blancos), texto.size()));
+    return texto.substr(0, texto.find_last_not_of(blancos) + 1);
+}
+
 std::optional<double> NumeroEscrito(std::string_view texto) {
-    texto = SinBlancos(texto);
+    texto = SinBlancosDeXml(texto);
     const bool conMas = texto.starts_with('+');
     texto.remove_prefix(conMas ? 1 : 0);
     double numero = 0;
@@ -134,15 +137,18 @@ std::optional<double> NumeroEscrito(std::string_view texto) {
 }
 
 std::optional<double> SerieDeFecha(std::string_view texto) {
-    TextoPorTomar queda{SinBlancos(texto)};
+    TextoPorTomar queda{SinBlancosDeXml(texto)};
     const auto dia = DiaDe(queda);
     if (!dia) {
         return std::nullopt;
     }
     const double hora = queda.tomarSi('T') ? HoraDe(queda) : 0;
     queda.zona();
-    if (!queda.acabado() || hora >= 1) {
+    if (!queda.acabado() || hora > 1) {
         return std::nullopt;
+    }
+    if (hora >= 1) {
+        return *dia + 1;
     }
     return *dia < 0 ? *dia - hora : *dia + hora; // in a serial below zero the hour counts away from zero
 }
@@ -156,7 +162,7 @@ std::optional<Valor> FechaEscrita(std::string_view texto) {
 }
 
 std::optional<double> ParteDelDia(std::string_view texto) {
-    TextoPorTomar queda{SinBlancos(texto)};
+    TextoPorTomar queda{SinBlancosDeXml(texto)};
     queda.tomarSi('T');
     const double hora = HoraDe(queda);
     queda.zona();
@@ -164,13 +170,20 @@ std::optional<double> ParteDelDia(std::string_view texto) {
 }
 
 std::optional<double> DiasDeDuracion(std::string_view texto) {
-    TextoPorTomar queda{SinBlancos(texto)};
+    TextoPorTomar queda{SinBlancosDeXml(texto)};
     const double signo = queda.tomarSi('-') ? -1 : 1;
     queda.tomar('P');
     double dias = 0;
-    if (queda.cifras() > 0) {
+    while (queda.cifras() > 0) {
         dias = queda.numero();
-        queda.tomar('D');
+        const bool deAnosOMeses = queda.tomarSi('Y') || queda.tomarSi('M');
+        if (!deAnosOMeses) {
+            queda.tomar('D');
+            break;
+        }
+        if (dias > 0) {
+            return std::nullopt;
+        }
     }
     double segundos = 0;
     if (queda.tomarSi('T')) {

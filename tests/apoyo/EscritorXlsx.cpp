@@ -38,7 +38,8 @@ std::string Libro(const LibroXlsxDePrueba& libro) {
     }
     return Con("workbook",
                "<workbookPr " + libro.propiedades + "/><sheets>" + hojas + "</sheets>" +
-                   (libro.nombres.empty() ? "" : "<definedNames>" + libro.nombres + "</definedNames>"));
+                   (libro.nombres.empty() ? "" : "<definedNames>" + libro.nombres + "</definedNames>") +
+                   (libro.calculo.empty() ? "" : "<calcPr " + libro.calculo + "/>"));
 }
 
 std::string RelacionesDelLibro(const LibroXlsxDePrueba& libro) {

@@ -25,6 +25,7 @@ struct LibroXlsxDePrueba {
     std::string estilos = {};     ///< inside <styleSheet>
     std::string nombres = {};     ///< inside <definedNames>
     std::string propiedades = {}; ///< attributes of <workbookPr>
+    std::string calculo = {};     ///< attributes of <calcPr>
 };
 
 /// In the order of the package; the sheets are xl/worksheets/sheet1.xml and so on.

@@ -197,6 +197,45 @@ TEST(LectorXlsx, LoQueNoEsUnNumeroFinitoEsNulo) {
                             R"(<row><c><v>1E-999</v></c></row><row><c><v>+1</v></c></row>)"));
 }
 
+/// Zeros and what is like one, of formulas and not, in a workbook that says this of its calculation.
+LineasDeTablas LineasDeCeros(const std::string& calculo) {
+    LibroXlsxDePrueba libro;
+    libro.calculo = calculo;
+    libro.hojas = {{"H", R"(<row><c t="str"><v>X</v></c></row><row><c><f>A1</f><v>0</v></c></row>)"
+                         R"(<row><c t="n"><f>A1</f><v>0</v></c></row><row><c><v>0</v></c></row>)"
+                         R"(<row><c><f>A1</f><v>7</v></c></row><row><c><f>A1</f><v>0.0</v></c></row>)"
+                         R"(<row><c t="b"><f>A1</f><v>0</v></c></row>)"
+                         R"(<row><c t="str"><f>A1</f><v>0</v></c></row>)"}};
+    return LineasDelLibro(EscribirXlsx(libro));
+}
+
+TEST(LectorXlsx, ElCeroDeUnaFormulaQueEstaPorCalcularEsNulo) {
+    const LineasDeTablas calculado{"[H$]", "X", "0", "0", "0", "7", "0", "F", "'0'"};
+    const LineasDeTablas porCalcular{"[H$]", "X", "-", "-", "0", "7", "0", "F", "'0'"};
+    EXPECT_EQ(calculado, LineasDeCeros(""));
+    EXPECT_EQ(calculado, LineasDeCeros(R"(calcId="124519" fullCalcOnLoad="0")"));
+    EXPECT_EQ(porCalcular, LineasDeCeros(R"(calcId="124519" fullCalcOnLoad="1")"));
+    EXPECT_EQ(porCalcular, LineasDeCeros(R"(fullCalcOnLoad="true")"));
+}
+
+TEST(LectorXlsx, LosBlancosAlrededorDeUnValorNoSonSuyos) {
+    LibroXlsxDePrueba libro;
+    libro.textos = "<si><t>cero</t></si><si><t>uno</t></si>";
+    libro.hojas = {{"H", "<row><c t=\"str\"><v>X</v></c></row><row><c t=\"s\"><v>\n  1\n</v></c></row>"
+                         "<row><c t=\"b\"><v>\t1 </v></c></row><row><c><v> 2 </v></c></row>"
+                         "<row><c><v>\n </v></c></row><row><c><f>A1</f><v>\n </v></c></row>"
+                         "<row><c t=\"d\"><v> 2020-01-01 </v></c></row>"
+                         "<row><c t=\"str\"><v> y </v></c></row>"}};
+    EXPECT_EQ((LineasDeTablas{"[H$]", "X", "'uno'", "V", "2", "-", "-", "#43831", "' y '"}),
+              LineasDelLibro(EscribirXlsx(libro)));
+}
+
+TEST(LectorXlsx, VerdaderoYFalsoValenEnCualquierTamanoDeLetra) {
+    EXPECT_EQ((LineasDeTablas{"[H$]", "X", "V", "F", "V"}),
+              LineasDeFilas(R"(<row><c t="str"><v>X</v></c></row><row><c t="b"><v>TRUE</v></c></row>)"
+                            R"(<row><c t="b"><v>FALSE</v></c></row><row><c t="b"><v>True</v></c></row>)"));
+}
+
 TEST(LectorXlsx, LosNombresDelLibroSonTablasDetrasDeLasHojas) {
     LibroXlsxDePrueba libro;
     libro.hojas = {{"Uno", R"(<row r="1"><c r="A1" t="str"><v>A</v></c><c r="B1" t="str"><v>B</v></c></row>)"

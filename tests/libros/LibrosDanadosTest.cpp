@@ -81,7 +81,8 @@ TEST(LibrosDanados, UnaCeldaQueNoSeEntiendeSeDiceDondeEsta) {
     EXPECT_TRUE(
         FilaMala(R"(<row><c t="b"><v>2</v></c></row>)", "su celda A1 no es ni verdadera ni falsa: 2"));
     EXPECT_TRUE(FilaMala(R"(<row><c t="d"><v>ayer</v></c></row>)", "su celda A1 no lleva una fecha: ayer"));
-    EXPECT_TRUE(FilaMala(R"(<row><c t="x"/></row>)", "una celda es de una clase que no hay: x"));
+    EXPECT_TRUE(FilaMala(R"(<row><c t="x"/></row>)", "su celda A1 es de una clase que no hay: x"));
+    EXPECT_TRUE(FilaMala(R"(<row r="7"><c t="x" r="C7"/></row>)", "su celda C7 es de una clase que no hay"));
     EXPECT_TRUE(FilaMala(R"(<row r="0"/>)", "una fila no dice bien cuál es: 0"));
     EXPECT_TRUE(FilaMala(R"(<row r="uno"/>)", "una fila no dice bien cuál es: uno"));
     EXPECT_TRUE(FilaMala(R"(<row><c r="7A"/></row>)", "una celda no dice bien cuál es: 7A"));
@@ -139,6 +140,10 @@ TEST(LibrosDanados, LosComprimidosQueNoSonLibrosDicenQueSon) {
     EXPECT_TRUE(
         NoSeLee(de("a/Parcela 1.XLS", "x"), no,
                 "es un archivo comprimido (.zip): extraiga «a/Parcela 1.XLS», que va dentro, y ábralo"));
+    EXPECT_TRUE(NoSeLee(EscribirZip({{"__MACOSX/._Parcela.xls", "x"}, {"Parcela.xls", "x"}}), no,
+                        "extraiga «Parcela.xls», que va dentro"));
+    EXPECT_TRUE(NoSeLee(de("__MACOSX/._Parcela.xls", "x"), no, "no lleva dentro ninguna hoja de cálculo"));
+    EXPECT_TRUE(NoSeLee(de("Index/Document.iwa", "x"), no, "es un documento de Numbers (.numbers): guarde"));
     EXPECT_TRUE(NoSeLee(de("foto.jpg", "x"), no, "(.zip), y no lleva dentro ninguna hoja de cálculo"));
     EXPECT_TRUE(NoSeLee(EscribirZip({}), no, "(.zip), y no lleva dentro ninguna hoja de cálculo"));
 }

@@ -38,11 +38,15 @@ TEST(SerieDeFecha, CuentaLosDiasDesdeElFinalDe1899) {
     EXPECT_EQ(FechaEscrita("10000-01-01"), Valor{2958466.0});
     EXPECT_EQ(FechaEscrita("0099-12-31"), Valor{-657435.0});
     EXPECT_EQ(FechaEscrita("0100-01-01"), Valor{Fecha{-657434}});
+    // A leap second, and seconds that were rounded up, are the next day.
+    EXPECT_EQ(SerieDeFecha("2020-01-01T23:59:60"), 43832.0);
+    EXPECT_EQ(SerieDeFecha("1899-12-28T23:59:60"), -1.0);
+    EXPECT_EQ(SerieDeFecha("2020-01-01T00:00:43,2"), 43831.0005);
     // Below zero the hour of a serial counts away from zero.
     EXPECT_EQ(SerieDeFecha("1899-12-28T06:00:00"), -2.25);
     for (const std::string mala :
          {"", "2020", "2020-1-1", "2020-02-30", "2019-02-29", "20-01-01", "120200-01-01", "99999-01-01",
-          "2020-01-01T", "2020-01-01T25:00", "2020-01-01x", "2020/01/01"}) {
+          "2020-01-01T", "2020-01-01T25:00", "2020-01-01T23:59:61", "2020-01-01x", "2020/01/01"}) {
         EXPECT_FALSE(SerieDeFecha(mala)) << mala;
     }
 }
@@ -63,7 +67,11 @@ TEST(DiasDeDuracion, SumaDiasHorasMinutosYSegundos) {
     EXPECT_EQ(DiasDeDuracion("PT90M"), 0.0625);
     EXPECT_EQ(DiasDeDuracion("PT43.2S"), 0.0005);
     EXPECT_EQ(DiasDeDuracion("-PT12H"), -0.5);
-    for (const std::string mala : {"", "T1H", "P1", "PT1", "PT1X", "P1Y", "PT1H2", "PT1H x"}) {
+    EXPECT_EQ(DiasDeDuracion("PT43,2S"), 0.0005);
+    EXPECT_EQ(DiasDeDuracion("P0Y0M0DT12H0M0S"), 0.5);
+    EXPECT_EQ(DiasDeDuracion("P0Y1D"), 1.0);
+    for (const std::string mala :
+         {"", "T1H", "P1", "PT1", "PT1X", "P1Y", "P1M", "P0Y1M", "P0X", "P1D0Y", "PT1H2", "PT1H x"}) {
         EXPECT_FALSE(DiasDeDuracion(mala)) << mala;
     }
 }

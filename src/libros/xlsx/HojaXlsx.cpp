@@ -1,5 +1,6 @@
 #include "libros/xlsx/HojaXlsx.h"
 
+#include "basico/Texto.h"
 #include "libros/LectorXml.h"
 #include "libros/Referencias.h"
 #include "libros/ValoresEscritos.h"
@@ -28,6 +29,14 @@ constexpr std::array<std::pair<std::string_view, ClaseEscrita>, 7> clases{
      {"b"sv, ClaseEscrita::Verdad},
      {"e"sv, ClaseEscrita::Error},
      {"d"sv, ClaseEscrita::Momento}}};
+
+/// Those at the ends, which XML that is indented has around values.
+void QuitarBlancos(std::string& texto) {
+    const auto limpio = SinBlancosDeXml(texto);
+    if (limpio.size() != texto.size()) {
+        texto = std::string{limpio};
+    }
+}
 
 class LectorDeHojaXlsx : public OyenteConSitios<SitioDeHoja> {
 public:
@@ -99,23 +108,24 @@ private:
     }
 
     SitioXml empezarCelda(const ElementoXml& celda) {
-        clase_ = ClaseEscrita::Numero;
         estilo_ = 0;
         tieneFormula_ = false;
         tieneResultado_ = false;
         tieneTexto_ = false;
         resultado_.clear();
         std::optional<std::string_view> sitio;
+        std::optional<std::string_view> clase;
         celda.enCadaAtributo([&](const NombreXml& nombre, std::string_view valor) {
             if (nombre == NombreXml{EspacioXml::Ninguno, "r"}) {
                 sitio = valor;
             } else if (nombre == NombreXml{EspacioXml::Ninguno, "s"}) {
                 estilo_ = EnteroEscrito(valor).value_or(0);
             } else if (nombre == NombreXml{EspacioXml::Ninguno, "t"}) {
-                clase_ = claseDe(valor);
+                clase = valor;
             }
         });
         situar(sitio);
+        clase_ = clase ? claseDe(*clase) : ClaseEscrita::Numero;
         return SitioXml::Celda;
     }
 
@@ -138,13 +148,13 @@ private:
         ArchivoDanado("su celda " + NombreDeCelda(celda_) + " " + que);
     }
 
-    static ClaseEscrita claseDe(std::string_view escrita) {
+    [[nodiscard]] ClaseEscrita claseDe(std::string_view escrita) const {
         for (const auto& [nombre, clase] : clases) {
             if (nombre == escrita) {
                 return clase;
             }
         }
-        ArchivoDanado("una celda es de una clase que no hay: " + std::string{escrita});
+        danada("es de una clase que no hay: " + std::string{escrita});
     }
 
     SitioXml enLaCelda(std::string_view nombre) {
@@ -170,6 +180,9 @@ private:
     }
 
     void acabarCelda() {
+        if (clase_ != ClaseEscrita::Formula) {
+            QuitarBlancos(resultado_);
+        }
         switch (clase_) {
         case ClaseEscrita::Compartido:
             anadirCompartido();
@@ -194,7 +207,7 @@ private:
 
     /// A cell without content is none, but a formula is one before it is computed.
     void anadirEscrito() {
-        if (resultado_.empty()) {
+        if (resultado_.empty() || esCeroPorCalcular()) {
             if (tieneFormula_) {
                 anadir({});
             }
@@ -205,6 +218,11 @@ private:
         } else {
             anadir(numero());
         }
+    }
+
+    /// What programs that do not compute write as the result of any formula.
+    [[nodiscard]] bool esCeroPorCalcular() const {
+        return libro_.porCalcular && tieneFormula_ && clase_ == ClaseEscrita::Numero && resultado_ == "0";
     }
 
     void anadirCompartido() {
@@ -229,10 +247,11 @@ private:
     }
 
     [[nodiscard]] bool verdad() const {
-        if (!EsVerdad(resultado_) && resultado_ != "0" && resultado_ != "false") {
+        const auto escrita = Minusculas(resultado_);
+        if (!EsVerdad(escrita) && escrita != "0" && escrita != "false") {
             danada("no es ni verdadera ni falsa: " + resultado_);
         }
-        return EsVerdad(resultado_);
+        return EsVerdad(escrita);
     }
 
     [[nodiscard]] Valor momento() const {

@@ -74,6 +74,8 @@ private:
     SitioXml enElLibro(std::string_view nombre, const ElementoXml& elemento) {
         if (nombre == "workbookPr") {
             libro_.calendario1904 = EsVerdad(elemento.atributo("date1904"));
+        } else if (nombre == "calcPr") {
+            libro_.porCalcular = EsVerdad(elemento.atributo("fullCalcOnLoad"));
         }
         return nombre == "sheets"         ? SitioXml::Hojas
                : nombre == "definedNames" ? SitioXml::Nombres

@@ -21,6 +21,7 @@ struct LibroXlsx {
     std::vector<Hoja> hojas;
     std::vector<ZonaConNombre> nombres;
     bool calendario1904 = false;
+    bool porCalcular = false; ///< the results of formulas hold nothing yet: programs wrote them as zeros
     ListaDeTextos textos;
     /// By the style of a cell: whether its numbers are dates.
     std::vector<bool> estiloEsFecha;
