@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace varo::prueba {
 namespace {
@@ -15,15 +14,6 @@ namespace {
 testing::AssertionResult TextoCabe(const std::string& texto) {
     return CabeEnLaMemoria(texto.size(),
                            [&] { return LeerCsv(std::as_bytes(std::span{texto}), "t.csv", "t"); });
-}
-
-std::string Repetido(std::string_view trozo, std::size_t veces) {
-    std::string texto;
-    texto.reserve(trozo.size() * veces);
-    for (; veces > 0; --veces) {
-        texto += trozo;
-    }
-    return texto;
 }
 
 TEST(MemoriaDeLectorCsv, MuchasCifrasSueltas) {

@@ -8,7 +8,6 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 
 namespace varo::prueba {
 namespace {
@@ -16,15 +15,6 @@ namespace {
 /// The parts are stored as they are, so that the file is as long as what it unpacks to.
 testing::AssertionResult Cabe(const std::vector<std::byte>& libro) {
     return CabeEnLaMemoria(libro.size(), [&] { return LeerLibroComprimido(libro, "libro"); });
-}
-
-std::string Repetido(std::string_view trozo, std::size_t veces) {
-    std::string texto;
-    texto.reserve(trozo.size() * veces);
-    for (; veces > 0; --veces) {
-        texto += trozo;
-    }
-    return texto;
 }
 
 testing::AssertionResult FilasCaben(const std::string& filas) {

@@ -31,4 +31,13 @@ testing::AssertionResult CabeEnLaMemoria(std::size_t tamano,
            << dicho;
 }
 
+std::string Repetido(std::string_view trozo, std::size_t veces) {
+    std::string texto;
+    texto.reserve(trozo.size() * veces);
+    for (; veces > 0; --veces) {
+        texto += trozo;
+    }
+    return texto;
+}
+
 } // namespace varo::prueba

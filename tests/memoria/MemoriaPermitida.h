@@ -7,6 +7,8 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace varo::prueba {
@@ -14,5 +16,8 @@ namespace varo::prueba {
 /// Reads a file of this size, which may fault, and says whether file and reader together have held at most
 /// ten times the size and 64 MB.
 testing::AssertionResult CabeEnLaMemoria(std::size_t tamano, const std::function<std::vector<Tabla>()>& leer);
+
+/// The piece so many times.
+std::string Repetido(std::string_view trozo, std::size_t veces);
 
 } // namespace varo::prueba
