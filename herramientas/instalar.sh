@@ -4,7 +4,7 @@
 set -euo pipefail
 
 declare -rA paquetes=(
-    [construir]="g++ cmake ninja-build ccache libcli11-dev libtomlplusplus-dev libzip-dev libexpat1-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core fonts-liberation"
+    [construir]="g++ cmake ninja-build ccache libcli11-dev libtomlplusplus-dev libzip-dev libxml2-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core fonts-liberation"
     [medir]="libbenchmark-dev"
     [probar]="libgtest-dev librapidcheck-dev binutils locales xvfb xauth xdotool openbox fonts-dejavu-extra mdbtools"
     [revisar]="clang libclang-rt-14-dev clang-format-14 clang-tidy-14 lld python3"

@@ -12,7 +12,7 @@ namespace {
 // A sheet that is full of numbers unpacks to some ten times its size, one full of formatted blanks to fifty.
 constexpr std::size_t minimoDesempaquetado = std::size_t{64} << 20U;
 constexpr std::size_t vecesDesempaquetado = 100;
-constexpr std::size_t maximoDesempaquetado = std::size_t{512} << 20U;
+constexpr std::size_t maximoDesempaquetado = std::size_t{1024} << 20U;
 
 std::size_t LoQueSeDesempaqueta(std::size_t empaquetado) {
     return std::min(maximoDesempaquetado, std::max(minimoDesempaquetado, vecesDesempaquetado * empaquetado));

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstddef>
 #include <exception>
-#include <expat.h>
+#include <libxml/parser.h>
 #include <memory>
 #include <new>
-#include <type_traits>
 
 namespace varo {
 namespace {
@@ -16,8 +16,9 @@ using namespace std::string_view_literals;
 
 constexpr std::size_t masHondo = 200;
 constexpr std::size_t masPrefijos = 256;
-/// A tag with its attributes. Parsers look at it again with each piece that they are given of it.
-constexpr std::size_t masLargo = std::size_t{1} << 20U;
+// The parser compares each attribute of an element with all the others before it tells them.
+constexpr int masAtributos = 1000;
+constexpr std::size_t masLargo = std::size_t{256} << 10U; // a tag with its attributes
 
 struct Vocabulario {
     std::string_view uri;
@@ -48,45 +49,79 @@ EspacioXml EspacioDe(std::string_view uri) {
 }
 
 struct Liberar {
-    void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+    void operator()(xmlParserCtxt* parser) const { xmlFreeParserCtxt(parser); }
+};
+
+std::string_view Texto(const xmlChar* texto) {
+    return reinterpret_cast<const char*>(texto);
+}
+
+std::string_view Texto(const xmlChar* texto, const xmlChar* fin) {
+    return {reinterpret_cast<const char*>(texto), static_cast<std::size_t>(fin - texto)};
+}
+
+/// What the addresses of vocabularies stand for. The parser gives equal texts the same pointer.
+class EspaciosVistos {
+public:
+    EspacioXml de(const xmlChar* uri) {
+        const auto visto = std::ranges::find(vistos_, uri, &Visto::uri);
+        if (visto != vistos_.end()) {
+            return visto->espacio;
+        }
+        const auto espacio = EspacioDe(Texto(uri));
+        if (espacio != EspacioXml::Otro) { // of those there may be any number
+            vistos_.push_back({uri, espacio});
+        }
+        return espacio;
+    }
+
+private:
+    struct Visto {
+        const xmlChar* uri;
+        EspacioXml espacio;
+    };
+    std::vector<Visto> vistos_;
 };
 
 /// The parser and what it calls. No exception passes through it: the first one waits until it has returned.
 class AnalisisXml {
 public:
     AnalisisXml(const std::string& parte, OyenteXml& oyente, TipoDeXml tipo)
-        : parte_{parte}, oyente_{oyente}, tipo_{tipo}, parser_{XML_ParserCreate(nullptr)} {
-        if (!parser_) {
+        : parte_{parte}, oyente_{oyente}, tipo_{tipo} {
+        xmlSAXHandler avisos{};
+        avisos.initialized = XML_SAX2_MAGIC;
+        avisos.startElementNs = alAbrir;
+        avisos.endElementNs = alCerrar;
+        avisos.characters = alEscribir;
+        avisos.ignorableWhitespace = alEscribir;
+        avisos.cdataBlock = alEscribir;
+        avisos.internalSubset = alDeclarar;
+        avisos.serror = alFallar;
+        parser_.reset(xmlCreatePushParserCtxt(&avisos, this, nullptr, 0, nullptr));
+        // Meant: without this option "&amp;" in an attribute becomes "&#38;". Entities that a part declares
+        // are never replaced, because a part that declares any is refused.
+        if (!parser_ || xmlCtxtUseOptions(parser_.get(), XML_PARSE_NOENT | XML_PARSE_NONET) != 0) {
             throw std::bad_alloc{};
         }
-        XML_SetUserData(parser_.get(), this);
-        XML_SetElementHandler(parser_.get(), alAbrir, alCerrar);
-        XML_SetCharacterDataHandler(parser_.get(), alEscribir);
-        XML_SetStartDoctypeDeclHandler(parser_.get(), alDeclarar);
-        XML_SetEntityDeclHandler(parser_.get(), alDeclararEntidad);
     }
 
     void recibir(std::string_view trozo, bool ultimo) {
-        recibidos_ += trozo.size();
-        const auto estado = XML_Parse(parser_.get(), trozo.data(), static_cast<int>(trozo.size()),
-                                      ultimo ? XML_TRUE : XML_FALSE);
+        xmlParseChunk(parser_.get(), trozo.data(), static_cast<int>(trozo.size()), ultimo ? 1 : 0);
         if (fallo_) {
             std::rethrow_exception(fallo_);
         }
-        if (estado == XML_STATUS_ERROR) {
+        if (parser_->wellFormed == 0) {
             danada("no está bien escrita");
         }
-        const auto mirados = XML_GetCurrentByteIndex(parser_.get());
-        if (mirados >= 0 && recibidos_ - static_cast<std::size_t>(mirados) > masLargo) {
+        if (Texto(parser_->input->cur, parser_->input->end).size() > masLargo) {
             danada("tiene un elemento demasiado largo");
         }
     }
 
 private:
     [[noreturn]] void danada(const std::string& que) const {
-        ArchivoDanado("su parte «" + parte_ + "» " + que + ", línea " +
-                      std::to_string(XML_GetCurrentLineNumber(parser_.get())) + ", carácter " +
-                      std::to_string(XML_GetCurrentColumnNumber(parser_.get()) + 1));
+        ArchivoDanado("su parte «" + parte_ + "» " + que + ", línea " + std::to_string(parser_->input->line) +
+                      ", carácter " + std::to_string(parser_->input->col));
     }
 
     template <class Acto>
@@ -99,123 +134,99 @@ private:
             acto(analisis);
         } catch (...) {
             analisis.fallo_ = std::current_exception();
-            XML_StopParser(analisis.parser_.get(), XML_FALSE);
+            xmlStopParser(analisis.parser_.get());
         }
     }
 
-    static void XMLCALL alAbrir(void* yo, const char* nombre, const char** atributos) {
+    /// The attributes are five pointers each: name, prefix, vocabulary, and where the value begins and ends.
+    static void alAbrir(void* yo, const xmlChar* nombre, const xmlChar* prefijo, const xmlChar* uri,
+                        int declarados, const xmlChar** /*prefijos*/, int cuantos, int /*supuestos*/,
+                        const xmlChar** atributos) {
         guardando(yo, [&](AnalisisXml& analisis) {
-            if (++analisis.hondura_ > masHondo) {
-                analisis.danada("tiene elementos unos dentro de otros sin fin");
+            analisis.entrar(static_cast<std::size_t>(declarados));
+            if (cuantos > masAtributos) {
+                analisis.danada("tiene un elemento con demasiados atributos");
             }
-            if (!analisis.prefijos_.abrir(analisis.hondura_, atributos)) {
-                analisis.danada("declara demasiados prefijos");
+            analisis.atributos_.clear();
+            for (const auto* const* par = atributos; par != atributos + std::ptrdiff_t{5} * cuantos;
+                 par += 5) {
+                analisis.atributos_.push_back(
+                    {analisis.nombreDe(par[0], par[1], par[2]), Texto(par[3], par[4])});
             }
-            analisis.oyente_.abrir(ElementoXml{nombre, atributos, analisis.prefijos_});
+            analisis.oyente_.abrir(ElementoXml{analisis.nombreDe(nombre, prefijo, uri), analisis.atributos_});
         });
     }
-    static void XMLCALL alCerrar(void* yo, const char* /*nombre*/) {
+    static void alCerrar(void* yo, const xmlChar* /*nombre*/, const xmlChar* /*prefijo*/,
+                         const xmlChar* /*uri*/) {
         guardando(yo, [](AnalisisXml& analisis) {
-            analisis.prefijos_.cerrar(analisis.hondura_);
-            --analisis.hondura_;
+            analisis.declarados_.pop_back();
             analisis.oyente_.cerrar();
         });
     }
-    static void XMLCALL alEscribir(void* yo, const char* texto, int cuantos) {
-        guardando(yo, [&](AnalisisXml& analisis) {
-            analisis.oyente_.texto({texto, static_cast<std::size_t>(cuantos)});
-        });
+    static void alEscribir(void* yo, const xmlChar* texto, int cuantos) {
+        guardando(yo, [&](AnalisisXml& analisis) { analisis.oyente_.texto(Texto(texto, texto + cuantos)); });
     }
-    static void XMLCALL alDeclarar(void* yo, const char* /*nombre*/, const char* /*sistema*/,
-                                   const char* /*publico*/, int conContenido) {
-        guardando(yo, [conContenido](AnalisisXml& analisis) {
-            if (conContenido != 0 || analisis.tipo_ == TipoDeXml::SinNombrar) {
+    static void alDeclarar(void* yo, const xmlChar* /*nombre*/, const xmlChar* /*publico*/,
+                           const xmlChar* /*sistema*/) {
+        guardando(yo, [](AnalisisXml& analisis) {
+            auto& parser = *analisis.parser_;
+            const bool conContenido = *parser.input->cur == '[';
+            if (conContenido || analisis.tipo_ == TipoDeXml::SinNombrar) {
                 analisis.danada("declara un tipo de documento (DOCTYPE)");
             }
+            parser.hasExternalSubset = 0; // it is not read, so an entity that it declares is unknown
         });
     }
-    static void XMLCALL alDeclararEntidad(void* yo, const char* /*nombre*/, int /*deParametro*/,
-                                          const char* /*valor*/, int /*longitud*/, const char* /*base*/,
-                                          const char* /*sistema*/, const char* /*publico*/,
-                                          const char* /*notacion*/) {
-        guardando(yo, [](AnalisisXml& analisis) { analisis.danada("declara entidades"); });
+
+    static void alFallar(void* yo, xmlErrorPtr error) {
+        auto& analisis = *static_cast<AnalisisXml*>(yo);
+        if (error->level != XML_ERR_FATAL || analisis.fallo_) {
+            return;
+        }
+        try {
+            if (error->code == XML_ERR_NO_MEMORY) {
+                throw std::bad_alloc{};
+            }
+            analisis.danada("no está bien escrita");
+        } catch (...) {
+            analisis.fallo_ = std::current_exception();
+        }
+    }
+
+    /// An element opens that declares so many prefixes.
+    void entrar(std::size_t declarados) {
+        const auto todos = declarados + (declarados_.empty() ? 0 : declarados_.back());
+        if (declarados_.size() == masHondo) {
+            danada("tiene elementos unos dentro de otros sin fin");
+        }
+        if (todos > masPrefijos) {
+            danada("declara demasiados prefijos");
+        }
+        declarados_.push_back(todos);
+    }
+
+    NombreXml nombreDe(const xmlChar* nombre, const xmlChar* prefijo, const xmlChar* uri) {
+        return {uri != nullptr       ? espacios_.de(uri)
+                : prefijo != nullptr ? EspacioXml::Otro
+                                     : EspacioXml::Ninguno,
+                Texto(nombre)};
     }
 
     const std::string& parte_;
     OyenteXml& oyente_;
     TipoDeXml tipo_;
-    std::unique_ptr<std::remove_pointer_t<XML_Parser>, Liberar> parser_;
-    PrefijosXml prefijos_;
+    std::unique_ptr<xmlParserCtxt, Liberar> parser_;
+    EspaciosVistos espacios_;
+    std::vector<AtributoXml> atributos_;  // of the element that opens
+    std::vector<std::size_t> declarados_; // prefixes, by depth: there and above
     std::exception_ptr fallo_;
-    std::size_t recibidos_ = 0;
-    std::size_t hondura_ = 0;
 };
 
 } // namespace
 
-bool PrefijosXml::abrir(std::size_t hondura, const char* const* atributos) {
-    constexpr std::string_view declaracion = "xmlns";
-    for (const char* const* par = atributos; *par != nullptr && declarados_.size() <= masPrefijos; par += 2) {
-        if (std::string_view nombre = par[0]; nombre.starts_with(declaracion)) {
-            nombre.remove_prefix(declaracion.size());
-            if (nombre.empty() || nombre.starts_with(':')) {
-                declarar(nombre.substr(nombre.empty() ? 0 : 1), par[1], hondura);
-            }
-        }
-    }
-    return declarados_.size() <= masPrefijos;
-}
-
-void PrefijosXml::declarar(std::string_view prefijo, std::string_view uri, std::size_t hondura) {
-    const auto espacio = EspacioDe(uri);
-    if (espacio != EspacioXml::Otro || prefijo.empty() || buscar(prefijo) != nullptr) {
-        declarados_.push_back({std::string{prefijo}, espacio, hondura});
-    }
-}
-
-void PrefijosXml::cerrar(std::size_t hondura) {
-    while (!declarados_.empty() && declarados_.back().hondura == hondura) {
-        declarados_.pop_back();
-    }
-}
-
-const PrefijosXml::Declarado* PrefijosXml::buscar(std::string_view prefijo) const {
-    const auto hallado =
-        std::find_if(declarados_.rbegin(), declarados_.rend(),
-                     [prefijo](const Declarado& declarado) { return declarado.prefijo == prefijo; });
-    return hallado == declarados_.rend() ? nullptr : &*hallado;
-}
-
-EspacioXml PrefijosXml::espacioDe(std::string_view prefijo) const {
-    if (prefijo == "xml") {
-        return EspacioXml::Xml;
-    }
-    const auto* const declarado = buscar(prefijo);
-    return declarado == nullptr ? EspacioXml::Otro : declarado->espacio;
-}
-
-NombreXml PrefijosXml::deElemento(std::string_view escrito) const {
-    if (escrito.find(':') != std::string_view::npos) {
-        return deAtributo(escrito);
-    }
-    const auto* const sinPrefijo = buscar({});
-    return {sinPrefijo == nullptr ? EspacioXml::Ninguno : sinPrefijo->espacio, escrito};
-}
-
-NombreXml PrefijosXml::deAtributo(std::string_view escrito) const {
-    const auto corte = escrito.find(':');
-    return corte == std::string_view::npos
-               ? NombreXml{EspacioXml::Ninguno, escrito}
-               : NombreXml{espacioDe(escrito.substr(0, corte)), escrito.substr(corte + 1)};
-}
-
 std::optional<std::string_view> ElementoXml::atributo(NombreXml buscado) const {
-    for (const char* const* par = atributos_; *par != nullptr; par += 2) {
-        if (prefijos_->deAtributo(par[0]) == buscado) {
-            return par[1];
-        }
-    }
-    return std::nullopt;
+    const auto hallado = std::ranges::find(atributos_, buscado, &AtributoXml::nombre);
+    return hallado == atributos_.end() ? std::nullopt : std::optional{hallado->valor};
 }
 
 void LeerXml(const ArchivoZip& archivo, const std::string& parte, OyenteXml& oyente,

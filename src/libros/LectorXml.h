@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,43 +35,22 @@ struct NombreXml {
     friend bool operator==(const NombreXml&, const NombreXml&) = default;
 };
 
-/// What the prefixes stand for where the reading is. The parser could tell it, and takes twice as long then.
-class PrefijosXml {
-public:
-    /// An element opens that stands so deep, with these attributes. False where more prefixes are declared
-    /// than in any workbook: each name is looked up among all of them.
-    [[nodiscard]] bool abrir(std::size_t hondura, const char* const* atributos);
-    /// The element that stands so deep closes.
-    void cerrar(std::size_t hondura);
-
-    /// "table:name" or "name", which for an attribute is of no vocabulary.
-    [[nodiscard]] NombreXml deElemento(std::string_view escrito) const;
-    [[nodiscard]] NombreXml deAtributo(std::string_view escrito) const;
-
-private:
-    struct Declarado {
-        std::string prefijo; ///< empty for what has none
-        EspacioXml espacio = EspacioXml::Otro;
-        std::size_t hondura = 0;
-    };
-
-    [[nodiscard]] const Declarado* buscar(std::string_view prefijo) const;
-    void declarar(std::string_view prefijo, std::string_view uri, std::size_t hondura);
-    [[nodiscard]] EspacioXml espacioDe(std::string_view prefijo) const;
-
-    std::vector<Declarado> declarados_; ///< without those of other vocabularies, but where they hide one
+struct AtributoXml {
+    NombreXml nombre;
+    std::string_view valor;
 };
 
 /// An element that opens. It lives no longer than the call that tells it.
 class ElementoXml {
 public:
-    ElementoXml(std::string_view nombre, const char* const* atributos, const PrefijosXml& prefijos)
-        : nombre_{prefijos.deElemento(nombre)}, atributos_{atributos}, prefijos_{&prefijos} {}
+    ElementoXml(NombreXml nombre, std::span<const AtributoXml> atributos)
+        : nombre_{nombre}, atributos_{atributos} {}
 
     [[nodiscard]] const NombreXml& nombre() const { return nombre_; }
     [[nodiscard]] bool es(EspacioXml espacio, std::string_view nombre) const {
         return nombre_ == NombreXml{espacio, nombre};
     }
+    [[nodiscard]] std::span<const AtributoXml> atributos() const { return atributos_; }
     /// Nothing where the element has none with that name.
     [[nodiscard]] std::optional<std::string_view> atributo(NombreXml buscado) const;
     /// One that has no vocabulary.
@@ -78,18 +58,9 @@ public:
         return atributo({EspacioXml::Ninguno, nombre});
     }
 
-    /// Calls `accion(NombreXml, std::string_view value)` for each of them.
-    template <class Accion>
-    void enCadaAtributo(Accion accion) const {
-        for (const char* const* par = atributos_; *par != nullptr; par += 2) {
-            accion(prefijos_->deAtributo(par[0]), std::string_view{par[1]});
-        }
-    }
-
 private:
     NombreXml nombre_;
-    const char* const* atributos_;
-    const PrefijosXml* prefijos_;
+    std::span<const AtributoXml> atributos_;
 };
 
 /// Hears a part. What it throws ends the reading.

@@ -277,8 +277,25 @@ TEST(LibrosHostiles, LosPrefijosSinFinSeRechazan) {
         return EscribirXlsx(libro);
     };
     EXPECT_EQ((LineasDeTablas{"[H$]", "X"}), LineasDelLibro(conPrefijos(200)));
-    EXPECT_TRUE(TieneDefecto(conPrefijos(10'000), "H$", fallo::archivoDanado,
+    EXPECT_TRUE(TieneDefecto(conPrefijos(2'500), "H$", fallo::archivoDanado,
                              "su parte «xl/worksheets/sheet1.xml» declara demasiados prefijos, línea 1"));
+}
+
+TEST(LibrosHostiles, LosAtributosSinFinSeRechazan) {
+    const auto conAtributos = [](std::size_t cuantos) {
+        std::string fila = "<row";
+        for (std::size_t i = 0; i < cuantos; ++i) {
+            fila += " a" + std::to_string(i) + "=\"\"";
+        }
+        LibroXlsxDePrueba libro;
+        libro.hojas = {{"H", fila + R"(><c t="str"><v>X</v></c></row>)"}};
+        return EscribirXlsx(libro);
+    };
+    EXPECT_EQ((LineasDeTablas{"[H$]", "X"}), LineasDelLibro(conAtributos(1'000)));
+    EXPECT_TRUE(TieneDefecto(conAtributos(1'001), "H$", fallo::archivoDanado,
+                             "tiene un elemento con demasiados atributos, línea 1"));
+    EXPECT_TRUE(TieneDefecto(conAtributos(20'000), "H$", fallo::archivoDanado,
+                             "tiene un elemento con demasiados atributos, línea 1"));
 }
 
 TEST(LibrosHostiles, UnElementoSinFinSeRechaza) {

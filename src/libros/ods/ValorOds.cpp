@@ -93,7 +93,7 @@ std::size_t VecesEscritas(std::string_view escritas, std::size_t maximo) {
 
 CeldaOds CeldaEscritaEnOds(const ElementoXml& elemento) {
     CeldaOds celda;
-    elemento.enCadaAtributo([&](const NombreXml& nombre, std::string_view valor) {
+    for (const auto& [nombre, valor] : elemento.atributos()) {
         if (nombre.espacio == EspacioXml::Oficina) {
             if (nombre.nombre == "value-type") {
                 celda.clase = valor;
@@ -109,7 +109,7 @@ CeldaOds CeldaEscritaEnOds(const ElementoXml& elemento) {
         } else if (nombre == NombreXml{EspacioXml::Calc, "value-type"}) {
             celda.esError = valor == "error";
         }
-    });
+    }
     return celda;
 }
 

@@ -115,7 +115,7 @@ private:
         resultado_.clear();
         std::optional<std::string_view> sitio;
         std::optional<std::string_view> clase;
-        celda.enCadaAtributo([&](const NombreXml& nombre, std::string_view valor) {
+        for (const auto& [nombre, valor] : celda.atributos()) {
             if (nombre == NombreXml{EspacioXml::Ninguno, "r"}) {
                 sitio = valor;
             } else if (nombre == NombreXml{EspacioXml::Ninguno, "s"}) {
@@ -123,7 +123,7 @@ private:
             } else if (nombre == NombreXml{EspacioXml::Ninguno, "t"}) {
                 clase = valor;
             }
-        });
+        }
         situar(sitio);
         clase_ = clase ? claseDe(*clase) : ClaseEscrita::Numero;
         return SitioXml::Celda;

@@ -13,6 +13,8 @@ namespace {
 // small file be sparse.
 constexpr std::size_t memoriaDeTodoArchivo = 40'000'000;
 constexpr std::size_t memoriaPorByte = 5;
+// What is packed may be longer. All that is read stays below 2 GB then.
+constexpr std::size_t bytesQueCuentan = std::size_t{192} << 20U;
 
 constexpr std::size_t bytesDeCelda = 17;     // and a part of what its block takes
 constexpr std::size_t bytesDeTabla = 512;    // without its cells
@@ -28,13 +30,15 @@ constexpr std::size_t letrasPorByte = 16;
 } // namespace
 
 LimitesDeLectura::LimitesDeLectura(std::size_t bytesDeArchivo)
-    : quedan_{memoriaDeTodoArchivo}, letras_{letrasDeTodoArchivo} {
+    : quedan_{memoriaDeTodoArchivo}, letras_{letrasDeTodoArchivo}, porContar_{bytesQueCuentan} {
     crecer(bytesDeArchivo);
 }
 
 void LimitesDeLectura::crecer(std::size_t bytesDeArchivo) {
-    quedan_ += bytesDeArchivo * memoriaPorByte;
-    letras_ += bytesDeArchivo * letrasPorByte;
+    const auto cuentan = std::min(bytesDeArchivo, porContar_);
+    porContar_ -= cuentan;
+    quedan_ += cuentan * memoriaPorByte;
+    letras_ += cuentan * letrasPorByte;
 }
 
 void LimitesDeLectura::contarTablas(std::size_t cuantas) {

@@ -11,7 +11,7 @@ class LimitesDeLectura {
 public:
     explicit LimitesDeLectura(std::size_t bytesDeArchivo);
 
-    /// More of the file is there than was known.
+    /// More of the file is there than was known. What is more than any plot has does not count.
     void crecer(std::size_t bytesDeArchivo);
 
     /// Call before making them. Tables are counted all at once, so that what is too much for one of them is
@@ -29,8 +29,9 @@ public:
 private:
     static void gastar(std::size_t& quedan, std::size_t cuantos, std::size_t bytesDeUno, const char* que);
 
-    std::size_t quedan_; // bytes
-    std::size_t letras_; // that cells may show
+    std::size_t quedan_;    // bytes
+    std::size_t letras_;    // that cells may show
+    std::size_t porContar_; // bytes of the file that may still let them grow
 };
 
 } // namespace varo

@@ -76,6 +76,17 @@ TEST(LimitesDeLectura, CrecenConLoQueVaApareciendo) {
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, celdasDeMas, [&] { limites.contarCeldas(1); }));
 }
 
+TEST(LimitesDeLectura, LoQueEsMasQueCualquierParcelaNoLosHaceCrecer) {
+    constexpr std::size_t megabyte = 1024 * 1024;
+    LimitesDeLectura limites{100 * megabyte};
+    limites.crecer(92 * megabyte);
+    limites.crecer(1);
+    limites.crecer(1000 * megabyte);
+    limites.contarTexto(40'000'000 + 5 * 192 * megabyte);
+    EXPECT_TRUE(FallaCon(fallo::archivoDanado, "sus textos ocupan demasiado para su tamaño",
+                         [&] { limites.contarTexto(1); }));
+}
+
 TEST(LimitesDeLectura, UnaCuentaInmensaNoDaLaVuelta) {
     LimitesDeLectura limites{1000};
     limites.contarCeldas(1);
