@@ -31,7 +31,7 @@ std::string Numero(int fila, int columna) {
     return std::to_string(centesimas / 100) + "." + std::to_string(100 + centesimas % 100).substr(1);
 }
 
-/// The header and the rows, by cells. `enCelda` gets whether a text stands there, and it.
+/// The header and the rows, by cells. `enCelda` gets whether a text stands there, it, and where.
 template <class EnCelda>
 std::string Filas(const std::string& abrir, const std::string& cerrar, EnCelda enCelda) {
     std::string todas;
@@ -39,7 +39,8 @@ std::string Filas(const std::string& abrir, const std::string& cerrar, EnCelda e
         todas += abrir;
         for (int columna = 0; columna < columnas; ++columna) {
             const bool esTexto = fila == 0 || columna == 0;
-            todas += enCelda(esTexto, esTexto ? Texto(fila, columna) : Numero(fila, columna), fila, columna);
+            const varo::SitioDeCelda sitio{static_cast<std::size_t>(fila), static_cast<std::size_t>(columna)};
+            todas += enCelda(esTexto, esTexto ? Texto(fila, columna) : Numero(fila, columna), sitio);
         }
         todas += cerrar;
     }
@@ -51,11 +52,11 @@ std::vector<std::byte> ParcelaXlsx() {
     varo::prueba::LibroXlsxDePrueba libro;
     libro.estilos = R"(<cellXfs count="1"><xf numFmtId="0"/></cellXfs>)";
     int textos = 0;
-    const auto enCelda = [&](bool esTexto, const std::string& valor, std::size_t fila, std::size_t columna) {
+    const auto enCelda = [&](bool esTexto, const std::string& valor, const varo::SitioDeCelda& sitio) {
         if (esTexto) {
             libro.textos += "<si><t xml:space=\"preserve\">" + valor + "</t></si>";
         }
-        return "<c r=\"" + varo::NombreDeCelda({fila, columna}) + R"(" s="0" t=")" +
+        return "<c r=\"" + varo::NombreDeCelda(sitio) + R"(" s="0" t=")" +
                (esTexto ? R"(s"><v>)" + std::to_string(textos++) : R"(n"><v>)" + valor) + "</v></c>";
     };
     libro.hojas = {
@@ -65,13 +66,11 @@ std::vector<std::byte> ParcelaXlsx() {
 }
 
 std::vector<std::byte> ParcelaOds() {
-    const auto enCelda = [](bool esTexto, const std::string& valor, int, int) {
-        return (esTexto
-                    ? std::
-                          string{R"(<table:table-cell table:style-name="ce1" office:value-type="string" calcext:value-type="string">)"}
-                    : R"(<table:table-cell table:style-name="ce1" office:value-type="float" office:value=")" +
-                          valor + R"(" calcext:value-type="float">)") +
-               "<text:p>" + valor + "</text:p></table:table-cell>";
+    const auto enCelda = [](bool esTexto, const std::string& valor, const varo::SitioDeCelda&) {
+        const std::string clase = esTexto ? "string" : "float";
+        return R"(<table:table-cell table:style-name="ce1" office:value-type=")" + clase +
+               (esTexto ? "" : R"(" office:value=")" + valor) + R"(" calcext:value-type=")" + clase +
+               R"("><text:p>)" + valor + "</text:p></table:table-cell>";
     };
     return varo::prueba::EscribirOds(
         R"(<table:table table:name="Parcela">)" +

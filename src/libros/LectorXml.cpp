@@ -139,7 +139,7 @@ private:
     }
 
     /// The attributes are five pointers each: name, prefix, vocabulary, and where the value begins and ends.
-    static void alAbrir(void* yo, const xmlChar* nombre, const xmlChar* prefijo, const xmlChar* uri,
+    static void alAbrir(void* yo, const xmlChar* nombre, const xmlChar* /*prefijo*/, const xmlChar* uri,
                         int declarados, const xmlChar** /*prefijos*/, int cuantos, int /*supuestos*/,
                         const xmlChar** atributos) {
         guardando(yo, [&](AnalisisXml& analisis) {
@@ -150,10 +150,9 @@ private:
             analisis.atributos_.clear();
             for (const auto* const* par = atributos; par != atributos + std::ptrdiff_t{5} * cuantos;
                  par += 5) {
-                analisis.atributos_.push_back(
-                    {analisis.nombreDe(par[0], par[1], par[2]), Texto(par[3], par[4])});
+                analisis.atributos_.push_back({analisis.nombreDe(par[0], par[2]), Texto(par[3], par[4])});
             }
-            analisis.oyente_.abrir(ElementoXml{analisis.nombreDe(nombre, prefijo, uri), analisis.atributos_});
+            analisis.oyente_.abrir(ElementoXml{analisis.nombreDe(nombre, uri), analisis.atributos_});
         });
     }
     static void alCerrar(void* yo, const xmlChar* /*nombre*/, const xmlChar* /*prefijo*/,
@@ -178,9 +177,11 @@ private:
         });
     }
 
+    /// A name whose prefix nobody declares is a fault: its element would be lost.
     static void alFallar(void* yo, xmlErrorPtr error) {
         auto& analisis = *static_cast<AnalisisXml*>(yo);
-        if (error->level != XML_ERR_FATAL || analisis.fallo_) {
+        const bool esAviso = error->level < XML_ERR_ERROR || error->code == XML_WAR_NS_URI;
+        if (esAviso || analisis.fallo_) {
             return;
         }
         try {
@@ -205,11 +206,8 @@ private:
         declarados_.push_back(todos);
     }
 
-    NombreXml nombreDe(const xmlChar* nombre, const xmlChar* prefijo, const xmlChar* uri) {
-        return {uri != nullptr       ? espacios_.de(uri)
-                : prefijo != nullptr ? EspacioXml::Otro
-                                     : EspacioXml::Ninguno,
-                Texto(nombre)};
+    NombreXml nombreDe(const xmlChar* nombre, const xmlChar* uri) {
+        return {uri == nullptr ? EspacioXml::Ninguno : espacios_.de(uri), Texto(nombre)};
     }
 
     const std::string& parte_;

@@ -85,8 +85,15 @@ TEST(LectorXml, UnPrefijoValeDentroDeSuElemento) {
               Oido("<a xmlns='" + deHoja + "'><b xmlns=''><c/></b><d/></a>"));
 }
 
-TEST(LectorXml, UnPrefijoQueNadieDeclaraEsDeOtroVocabulario) {
-    EXPECT_EQ("[a][otro:b otro:c=1][/][/]", Oido("<a><p:b p:c='1'/></a>"));
+TEST(LectorXml, LosNombresMalEscritosYLosPrefijosQueNadieDeclaraNoSePierden) {
+    const std::string abre = "<a xmlns:p='" + deTabla + "'>";
+    for (const std::string mal :
+         {"<q:b/>", "<b q:c='1'/>", "<p:9/>", "<b p:9='1'/>", "<p:b:c/>", "<:b/>", "<p:/>",
+          "<b p:c='1' p:c='2'/>", "<b xmlns:q=''/>", "<b xmlns:xml='urn:x'/>"}) {
+        EXPECT_TRUE(EstaMalEscrita(abre + mal + "</a>")) << mal;
+    }
+    // What says nothing of the names is no reason to lose a sheet.
+    EXPECT_EQ("[a xml:lang=?][/]", Oido("<a xml:lang='?' xmlns:b='no es una URI'/>"));
 }
 
 TEST(LectorXml, LasReferenciasSonLetras) {
