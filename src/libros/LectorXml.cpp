@@ -7,6 +7,7 @@
 #include <exception>
 #include <libxml/parser.h>
 #include <memory>
+#include <mutex>
 #include <new>
 
 namespace varo {
@@ -88,6 +89,8 @@ class AnalisisXml {
 public:
     AnalisisXml(const std::string& parte, OyenteXml& oyente, TipoDeXml tipo)
         : parte_{parte}, oyente_{oyente}, tipo_{tipo} {
+        static std::once_flag preparado;
+        std::call_once(preparado, xmlInitParser); // which is not safe with several threads
         xmlSAXHandler avisos{};
         avisos.initialized = XML_SAX2_MAGIC;
         avisos.startElementNs = alAbrir;
