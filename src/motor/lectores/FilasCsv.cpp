@@ -12,6 +12,8 @@ bool FilasCsv::siguiente() {
     celdas_.clear();
     compuestas_.clear();
     celdasTragadas_ = 0;
+    cierraEnMedio_ = false;
+    deVariasLineas_.clear();
     leerCelda();
     while (lugar_ < texto_.size() && texto_[lugar_] == separador_) {
         ++lugar_;
@@ -62,18 +64,33 @@ std::string_view FilasCsv::leerEntreComillas() {
 }
 
 void FilasCsv::mirarSusLineas(std::string_view celda, bool sigue) {
-    if (celda.find_first_of("\r\n") == std::string_view::npos) {
+    constexpr std::string_view fines = "\r\n";
+    const auto finDeLaPrimera = celda.find_first_of(fines);
+    if (finDeLaPrimera == std::string_view::npos) {
+        cierraEnMedio_ = cierraEnMedio_ || (sigue && celdasDe(celda) > 1);
         return;
     }
+    deVariasLineas_.push_back({celdas_.size(), celdasDe(celda.substr(0, finDeLaPrimera)),
+                               celdasDe(celda.substr(celda.find_last_of(fines) + 1))});
     if (sigue) {
         celdasTragadas_ = celdasDeUnaHoja; // what closes it opens another cell
     }
     while (!celda.empty()) {
-        const auto linea = celda.substr(0, celda.find_first_of("\r\n"));
-        const auto cuantas = 1 + static_cast<std::size_t>(std::ranges::count(linea, separador_));
-        celdasTragadas_ = std::max(celdasTragadas_, cuantas);
+        const auto linea = celda.substr(0, celda.find_first_of(fines));
+        celdasTragadas_ = std::max(celdasTragadas_, celdasDe(linea));
         celda.remove_prefix(std::min(celda.size(), linea.size() + 1));
     }
+}
+
+std::size_t FilasCsv::celdasDe(std::string_view linea) const {
+    return 1 + static_cast<std::size_t>(std::ranges::count(linea, separador_));
+}
+
+bool FilasCsv::juntaFilas(std::size_t celdasDeUna) const {
+    return std::ranges::any_of(deVariasLineas_, [&](const DeVariasLineas& celda) {
+        const auto detras = celdas_.size() - celda.antes - 1;
+        return celda.antes + celda.enLaPrimera >= celdasDeUna && celda.enLaUltima + detras >= celdasDeUna;
+    });
 }
 
 std::string_view FilasCsv::leerSuelta() {

@@ -35,11 +35,25 @@ public:
     /// something stands behind such a cell. A note has few, and rows that a lost quote has swallowed have
     /// theirs.
     [[nodiscard]] std::size_t celdasTragadas() const { return celdasTragadas_; }
+    /// True when the first line of a quoted cell, with the cells before it, and its last one, with those
+    /// behind it, have so many cells or more each: two rows that a lost quote has joined in their middles.
+    [[nodiscard]] bool juntaFilas(std::size_t celdasDeUna) const;
+    /// True when something stands behind the closing quote of a cell that holds a separator: then it is not
+    /// where the cell ends.
+    [[nodiscard]] bool cierraEnMedio() const { return cierraEnMedio_; }
 
 private:
+    /// A quoted cell of several lines.
+    struct DeVariasLineas {
+        std::size_t antes = 0; ///< cells of its row
+        std::size_t enLaPrimera = 0;
+        std::size_t enLaUltima = 0;
+    };
+
     void leerCelda();
     std::string_view leerEntreComillas();
     void mirarSusLineas(std::string_view celda, bool sigue);
+    [[nodiscard]] std::size_t celdasDe(std::string_view linea) const;
     /// As far as the cell ends, without blanks behind it.
     std::string_view leerSuelta();
     void pasarBlancos();
@@ -52,7 +66,9 @@ private:
     std::size_t lugar_ = 0;
     std::size_t numero_ = 0;
     bool sinCerrar_ = false;
+    bool cierraEnMedio_ = false;
     std::size_t celdasTragadas_ = 0;
+    std::vector<DeVariasLineas> deVariasLineas_;
     std::vector<std::string_view> celdas_;
     std::deque<std::string> compuestas_; ///< the cells that do not stand in the text as they are
 };

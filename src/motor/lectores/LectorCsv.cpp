@@ -79,6 +79,10 @@ std::optional<char> SacarSeparadorDicho(std::string_view& texto) {
     constexpr std::string_view clave = "sep=";
     auto linea = texto.substr(0, texto.find_first_of("\r\n"));
     const auto largo = linea.size();
+    while (linea.size() > clave.size() + 1 &&
+           (linea.ends_with(' ') || linea.ends_with(linea[clave.size()]))) {
+        linea.remove_suffix(1);
+    }
     if (linea.size() > 2 && linea.starts_with('"') && linea.ends_with('"')) {
         linea = linea.substr(1, linea.size() - 2);
     }
@@ -102,7 +106,7 @@ char SeparadorHallado(std::string_view texto) {
 }
 
 /// Old field programs end a text with Ctrl-Z, and loggers fill their files up with nulls. In UTF-16 a null is
-/// half a letter.
+/// half a letter, and who reads its letters takes them off.
 Bytes SinRellenoAlFinal(Bytes bytes) {
     const bool puedeSerUtf16 = bytes.size() < 2 || bytes[0] == std::byte{0} || bytes[1] == std::byte{0} ||
                                Lleva(bytes, 0, "\xFF\xFE") || Lleva(bytes, 0, "\xFE\xFF");

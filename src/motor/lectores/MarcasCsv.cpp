@@ -25,6 +25,11 @@ bool SonNuevesYDiez(std::string_view antes, std::string_view ahora) {
            ahora.find_first_not_of('0', 1) == std::string_view::npos;
 }
 
+/// "8" and "10", where 9 is missing: as decimals of the same whole number the second would be less.
+bool SaltanElDiez(std::string_view antes, std::string_view ahora) {
+    return antes.size() < ahora.size() && ahora < antes;
+}
+
 /// As whole numbers.
 std::strong_ordering Comparar(std::string_view una, std::string_view otra) {
     const auto largo = una.size() <=> otra.size();
@@ -33,8 +38,10 @@ std::strong_ordering Comparar(std::string_view una, std::string_view otra) {
 
 /// What people write where nothing was measured: it does not make a column one of texts.
 bool EsFaltaDeDato(std::string_view celda) {
-    constexpr std::array<std::string_view, 8> faltas{"NA", "N/A", "NaN", "ND", "nd", "s/d", "-", "?"};
-    return std::ranges::find(faltas, celda) != faltas.end();
+    constexpr std::array<std::string_view, 15> faltas{"na",  "n/a",  "n.a.", "nan", "nd", "n/d", "n.d.", "sd",
+                                                      "s/d", "s.d.", "null", "-",   "--", ".",   "?"};
+    constexpr std::size_t masLarga = 4;
+    return celda.size() <= masLarga && std::ranges::find(faltas, Minusculas(celda)) != faltas.end();
 }
 
 std::string EnLaFila(const PruebaDeMarca& prueba) {
@@ -50,7 +57,9 @@ public:
         for (const auto& columna : columnas_) {
             for (std::size_t marca = 0; marca < letras.size(); ++marca) {
                 const bool laDice = columna.decimal().at(marca) && !columna.decimal().at(1 - marca);
-                conDecimal_.at(marca) += laDice && !columna.sonCodigos() && !columna.esDeTextos() ? 1 : 0;
+                conDecimal_.at(marca) +=
+                    laDice && columna.conDecimales() && !columna.sonCodigos() && !columna.esDeTextos() ? 1
+                                                                                                       : 0;
             }
         }
         const auto [punto, coma] = conDecimal_;
@@ -118,6 +127,9 @@ private:
 
     [[nodiscard]] char deGrupos(std::size_t i, std::size_t marca) const {
         const auto& columna = columnas_[i];
+        if (conDecimal_.at(1 - marca) > 0 && columna.dudosa().at(marca)) {
+            return dosMarcas(i, *columna.grupos().at(marca), *columna.dudosa().at(marca));
+        }
         if (conDecimal_.at(1 - marca) > 0 || (columna.esDeTextos() && delArchivo_ != marca)) {
             return marcaNinguna;
         }
@@ -232,6 +244,7 @@ void IndiciosDeColumna::mirarDecimales(const HuellaDeMarca& huella, std::string_
         const auto enteras = Comparar(huella.enteras, enteras_);
         const auto decimales = Comparar(huella.decimales, decimales_);
         pasaDeNueve_ = pasaDeNueve_ || (std::is_eq(enteras) && SonNuevesYDiez(decimales_, huella.decimales));
+        saltaElDiez_ = saltaElDiez_ || (std::is_eq(enteras) && SaltanElDiez(decimales_, huella.decimales));
         sube_ = std::is_gt(std::is_eq(enteras) ? decimales : enteras);
         enteras_ = huella.enteras;
         decimales_ = huella.decimales;

@@ -31,8 +31,13 @@ public:
     /// True when the mark is decimal and a cell has groups of thousands too, or alone.
     [[nodiscard]] bool agrupa(std::size_t marca) const { return agrupa_.at(marca) || grupos_.at(marca); }
     /// True when all its numbers have decimals and count on and past nine as codes do, 1.9 and 1.10, and as
-    /// no measures do.
-    [[nodiscard]] bool sonCodigos() const { return pasaDeNueve_ && sube_ && conMarca_ == numeros_; }
+    /// no measures do; where there is no nine, 1.8 and 1.10, they must be several.
+    [[nodiscard]] bool sonCodigos() const {
+        constexpr std::size_t noEsPorAzar = 5;
+        return (pasaDeNueve_ || (saltaElDiez_ && numeros_ >= noEsPorAzar)) && sube_ && conMarca_ == numeros_;
+    }
+    /// True when a number has digits behind its mark, which an ordinal, 1., has not.
+    [[nodiscard]] bool conDecimales() const { return masDecimales_ > 0; }
     /// True when most of its cells are no numbers.
     [[nodiscard]] bool esDeTextos() const { return textos_ > numeros_; }
     /// A cell with a zero at its end, in a column whose decimals are not equally many: a measure written by
@@ -61,6 +66,7 @@ private:
     std::size_t menosDecimales_ = 0; ///< none seen yet
     std::size_t masDecimales_ = 0;
     bool pasaDeNueve_ = false;
+    bool saltaElDiez_ = false;
     bool sube_ = true; ///< as pairs of whole numbers
     std::size_t numeros_ = 0;
     std::size_t textos_ = 0;

@@ -12,7 +12,7 @@ namespace {
 
 struct Acierto {
     double filas = 0;   ///< share of the rows that have the cells of the first one
-    double numeros = 0; ///< share of numbers among the cells
+    double numeros = 0; ///< in a row
 
     [[nodiscard]] bool mejorQue(const Acierto& otro) const {
         constexpr double casiTodas = 0.9; // one row of many may be wrong
@@ -29,7 +29,6 @@ std::optional<Acierto> Probar(std::string_view texto, char separador) {
     std::size_t cabecera = 0;
     double miradas = 0;
     double buenas = 0;
-    double celdas = 0;
     double numeros = 0;
     while (miradas < filasMiradas && filas.siguiente()) {
         const auto llenas = CeldasConAlgo(filas.celdas());
@@ -42,20 +41,20 @@ std::optional<Acierto> Probar(std::string_view texto, char separador) {
         }
         ++miradas;
         buenas += filas.celdas().size() > 1 && llenas <= cabecera ? 1 : 0;
-        celdas += static_cast<double>(llenas);
         numeros += static_cast<double>(std::ranges::count_if(filas.celdas(), PareceNumeroCsv));
     }
     if (cabecera < 2) {
         return std::nullopt;
     }
-    return miradas == 0 ? Acierto{} : Acierto{buenas / miradas, numeros / celdas};
+    return miradas == 0 ? Acierto{} : Acierto{buenas / miradas, numeros / miradas};
 }
 
 } // namespace
 
 std::size_t CeldasConAlgo(const std::vector<std::string_view>& celdas) {
-    const auto ultima =
-        std::find_if(celdas.rbegin(), celdas.rend(), [](std::string_view celda) { return !celda.empty(); });
+    const auto ultima = std::find_if(celdas.rbegin(), celdas.rend(), [](std::string_view celda) {
+        return !SinBlancosEnLosExtremos(celda).empty();
+    });
     return static_cast<std::size_t>(std::distance(ultima, celdas.rend()));
 }
 

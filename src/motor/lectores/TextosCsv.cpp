@@ -91,6 +91,9 @@ std::string DeParesDeBytes(Bytes bytes, std::endian orden) {
         unidades += static_cast<char16_t>(orden == std::endian::little ? segundo << 8U | primero
                                                                        : primero << 8U | segundo);
     }
+    while (unidades.ends_with(u'\0') || unidades.ends_with(u'\x1A')) { // what fills a file up
+        unidades.pop_back();
+    }
     return DeUtf16(unidades);
 }
 

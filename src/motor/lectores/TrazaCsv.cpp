@@ -54,7 +54,7 @@ public:
             NoSeAdmite(
                 "las filas tienen una celda más que la de los nombres: si es la primera columna la que no "
                 "tiene nombre, como en las tablas de R, ponga un separador delante del primer nombre; "
-                "si es la última, dele un nombre");
+                "si es la última, dele un nombre. Si la primera fila es un título, quítelo");
         }
         if (sonNumeros(nombres_)) {
             NoSeAdmite("la primera fila lleva números: escriba encima los nombres de las columnas");
@@ -80,16 +80,18 @@ public:
     }
 
 private:
-    /// True for two decimal numbers or nothing else but numbers.
+    /// True for two decimal numbers, for one among more numbers than texts, and for nothing else but numbers.
     static bool sonNumeros(const std::vector<std::string>& nombres) {
         using Fuerza = HuellaDeMarca::Fuerza;
         const auto con = [&](auto condicion) {
             return static_cast<std::size_t>(std::ranges::count_if(
                 nombres, [&](const std::string& nombre) { return condicion(HuellaDe(nombre).fuerza); }));
         };
+        const auto llenos = CeldasConAlgo({nombres.begin(), nombres.end()});
         const auto numeros = con([](Fuerza fuerza) { return fuerza != Fuerza::Ninguna; });
-        return con([](Fuerza fuerza) { return fuerza == Fuerza::Decimal; }) > 1 ||
-               (numeros > 0 && numeros == nombres.size());
+        const auto decimales =
+            con([](Fuerza fuerza) { return fuerza == Fuerza::Decimal || fuerza == Fuerza::Dudosa; });
+        return decimales > 1 || (decimales > 0 && 2 * numeros > llenos) || (numeros > 0 && numeros == llenos);
     }
 
     void comprobarTamano(const FilasCsv& filas) const {
@@ -97,7 +99,13 @@ private:
         if (filas.sinCerrar()) {
             ArchivoDanado(fila() + " abre unas comillas que nadie cierra: ciérrelas o quítelas");
         }
-        if (!nombres_.empty() && filas.celdasTragadas() >= std::max(celdasDeUnaNota, nombres_.size())) {
+        if (filas.cierraEnMedio()) {
+            ArchivoDanado(fila() + " cierra unas comillas en medio de una celda: ciérrelas donde acaba la "
+                                   "celda, o quítelas");
+        }
+        const auto deUnaFila = nombres_.empty() ? filas.celdas().size() : nombres_.size();
+        if (filas.celdasTragadas() >= std::max(celdasDeUnaNota, deUnaFila) ||
+            (deUnaFila > 1 && filas.juntaFilas(deUnaFila))) {
             ArchivoDanado(fila() +
                           " tiene una celda entre comillas con otras filas dentro: cierre las comillas "
                           "donde acaba la celda, o quítelas");

@@ -14,10 +14,10 @@ namespace varo {
 namespace {
 
 /// The errors of Excel and LibreOffice in Spanish and English.
-constexpr std::array<std::string_view, 22> errores{
-    "#¡DIV/0!", "#¡NULO!", "#¡NUM!",   "#¡REF!",  "#¡VALOR!",          "#¿NOMBRE?", "#N/A",    "#N/D",
-    "#DIV/0!",  "#NULL!",  "#NUM!",    "#REF!",   "#VALUE!",           "#NAME?",    "#SPILL!", "#CALC!",
-    "#VALOR!",  "#NULO!",  "#NOMBRE?", "#¡CALC!", "#¡DESBORDAMIENTO!", "#N/DISP"};
+constexpr std::array<std::string_view, 23> errores{
+    "#¡DIV/0!", "#¡NULO!", "#¡NUM!",   "#¡REF!",  "#¡VALOR!",          "#¿NOMBRE?", "#N/A",      "#N/D",
+    "#DIV/0!",  "#NULL!",  "#NUM!",    "#REF!",   "#VALUE!",           "#NAME?",    "#SPILL!",   "#CALC!",
+    "#VALOR!",  "#NULO!",  "#NOMBRE?", "#¡CALC!", "#¡DESBORDAMIENTO!", "#N/DISP",   "#¡DERRAME!"};
 
 /// Takes a whole number of so many digits at least and at most off the front.
 std::optional<int> Sacar(std::string_view& texto, std::size_t menos, std::size_t mas) {
@@ -69,9 +69,10 @@ std::optional<Ternas> ConElAnoDetras(std::string_view celda) {
     return SacarTernas(celda, conBarras ? '/' : '-', {1, 1, 4}, {2, 2, 4});
 }
 
-/// 2025-12-31
+/// 2025-12-31 or 2025/12/31
 std::optional<Ternas> ConElAnoDelante(std::string_view celda) {
-    return SacarTernas(celda, '-', {4, 2, 2}, {4, 2, 2});
+    const bool conBarras = celda.find('/') != std::string_view::npos;
+    return SacarTernas(celda, conBarras ? '/' : '-', {4, 2, 2}, {4, 2, 2});
 }
 
 /// Days since 30 December 1899. Spreadsheets have dates from 1900 on.
@@ -107,12 +108,21 @@ std::optional<double> Hora(std::string_view texto, bool conSegundos) {
     return texto.empty() ? std::optional{segundos / segundosPorDia} : std::nullopt;
 }
 
-/// "" or " 9:05" or "T09:05:30", as a part of a day.
+/// "" or " 9:05" or "T09:05:30" or "T09:05:30.000Z", as a part of a day.
 std::optional<double> HoraDetras(std::string_view texto) {
     if (texto.empty()) {
         return 0;
     }
-    return SacarLetra(texto, ' ') || SacarLetra(texto, 'T') ? Hora(texto, false) : std::nullopt;
+    if (!SacarLetra(texto, ' ') && !SacarLetra(texto, 'T')) {
+        return std::nullopt;
+    }
+    if (texto.ends_with('Z')) {
+        texto.remove_suffix(1);
+    }
+    const auto punto = texto.find('.');
+    const bool conCeros = punto != std::string_view::npos && punto + 1 < texto.size() &&
+                          texto.find_first_not_of('0', punto + 1) == std::string_view::npos;
+    return Hora(texto.substr(0, conCeros ? punto : texto.size()), conCeros);
 }
 
 /// The serial of a date.
@@ -168,7 +178,8 @@ bool LlevaElMesDelante(std::string_view escrita) {
         return false;
     }
     const auto ternas = ConElAnoDetras(celda);
-    return ternas && ternas->partes[1] > 12 && ternas->partes[0] <= 12;
+    return ternas && ternas->partes[1] > 12 && ternas->partes[0] <= 12 &&
+           Serie(ternas->partes[2], ternas->partes[0], ternas->partes[1]);
 }
 
 bool TieneValor(std::string_view escrita) {

@@ -63,11 +63,36 @@ TEST(LectorCsvMarcas, LosCodigosQueCuentanPasadoElNueveSonTextos) {
     // In a file of points too: 1.10 is not the first tree again.
     EXPECT_EQ((Renglones{"Codigo | X", "'1.99' | 1.5", "'1.100' | 2.5"}),
               Leidas("Codigo,X\n1.99,1.5\n1.100,2.5\n"));
+    // The ninth tree is missing.
+    EXPECT_EQ(
+        (Renglones{"Codigo | X", "'1.1' | 1.5", "'1.7' | 2.5", "'1.8' | 3.5", "'1.10' | 4.5", "'2.1' | 5.5"}),
+        Leidas("Codigo,X\n1.1,1.5\n1.7,2.5\n1.8,3.5\n1.10,4.5\n2.1,5.5\n"));
+    EXPECT_EQ((Renglones{"DAP | X", "3.8 | 1", "3.15 | 2", "4.2 | 3"}),
+              Leidas("DAP,X\n3.8,1\n3.15,2\n4.2,3\n"));
     // These do not count on.
     EXPECT_EQ((Renglones{"DAP | X", "1.9 | 1", "1.1 | 2", "1.2 | 3"}),
               Leidas("DAP,X\n1.9,1\n1.10,2\n1.2,3\n"));
     EXPECT_EQ((Renglones{"DAP | X", "3.2 | 1", "1.9 | 2", "1.1 | 3"}),
               Leidas("DAP,X\n3.2,1\n1.9,2\n1.10,3\n"));
+}
+
+TEST(LectorCsvMarcas, UnOrdinalNoHaceDecimalesDeLosMillares) {
+    EXPECT_TRUE(
+        NoSeAdmite("«CAP» la fila 3 tiene «1.234», y no se sabe si el punto", "N;CAP\n1.;987\n2.;1.234\n"));
+    EXPECT_EQ((Renglones{"N | CAP", "1 | 12.5", "2 | 13.5"}), Leidas("N;CAP\n1.;12,5\n2.;13,5\n"));
+}
+
+TEST(LectorCsvMarcas, GruposDeMillaresYUnNumeroQuePuedeSerDosSeRechazan) {
+    EXPECT_TRUE(NoSeAdmite("«Y» unos números llevan punto y otros coma: la fila 2 tiene "
+                           "«4.567.890» y la fila 3 tiene «1,234»",
+                           "N,Y\n1.5,4.567.890\n2.5,\"1,234\"\n"));
+}
+
+TEST(LectorCsvMarcas, LasPalabrasDeLoQueFaltaNoHacenTextosDeUnaColumna) {
+    for (const std::string falta : {"n/d", "NULL", "n/a", "S/D", "nan", "--", ".", "NA"}) {
+        EXPECT_EQ((Renglones{"Alt | X", "'" + falta + "' | 1.5", "'" + falta + "' | 2.5", "12.5 | 3.5"}),
+                  Leidas("Alt;X\n" + falta + ";1,5\n" + falta + ";2,5\n12.5;3,5\n"));
+    }
 }
 
 TEST(LectorCsvMarcas, UnCodigoQueSePierdeComoNumeroSeRechaza) {

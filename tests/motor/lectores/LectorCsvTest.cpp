@@ -163,8 +163,8 @@ TEST(LectorCsv, ElSeparadorEsElQueDaLasMismasCeldasEnCadaFila) {
 
 TEST(LectorCsv, LoQueNoEsUnNumeroEsUnTexto) {
     EXPECT_EQ((Renglones{"a | b", "1.5 | '1.101.102'", "'12 m' | 'NA'", "'1E400' | '1234567890123456'",
-                         "'-' | '1.2.3'", "'1,2,3' | '.'", "'12:30' | '1e'"}),
-              Leidas("a;b\n1.5;1.101.102\n12 m;NA\n1E400;1234567890123456\n-;1.2.3\n1,2,3;.\n12:30;1e\n"));
+                         "'-' | '1.2.3'", "'1,2,3' | 'x.'", "'12:30' | '1e'"}),
+              Leidas("a;b\n1.5;1.101.102\n12 m;NA\n1E400;1234567890123456\n-;1.2.3\n1,2,3;x.\n12:30;1e\n"));
 }
 
 TEST(LectorCsv, LosImportesYLosPorcentajesSonLosNumerosDeSuCelda) {
@@ -214,6 +214,17 @@ TEST(LectorCsv, LasFechasSonFechas) {
                          "'30/02/2025' | '2025-13-01'", "'1/1/25' | '2025-01-01 25:00'", "#46022 | #45813"}),
               Leidas("a;b\n31/12/2025;2025-12-31\n31/12/2025 12:00;2025-12-31T06:00:00\n1/1/1900;31/12/1899\n"
                      "30/02/2025;2025-13-01\n1/1/25;2025-01-01 25:00\n31-12-2025;5/6/2025\n"));
+}
+
+TEST(LectorCsv, LasFechasDeOtrosProgramasSonFechas) {
+    EXPECT_EQ((Renglones{"a | b", "#46022 | #46022.25", "#46022.5 | #46022.25",
+                         "#46022.25 | '2025-12-31T06:00:00.5'", "'2025/13/31' | '2025-12-31T06:00:00+02'"}),
+              Leidas("a;b\n2025/12/31;2025-12-31T06:00:00Z\n2025/12/31 12:00:00;2025-12-31 06:00:00.000\n"
+                     "2025-12-31T06:00:00.000Z;2025-12-31T06:00:00.5\n2025/13/31;2025-12-31T06:00:00+02\n"));
+}
+
+TEST(LectorCsv, UnCodigoDeTresPartesNoEsUnaFechaConElMesPorDelante) {
+    EXPECT_EQ((Renglones{"a | b", "'1-15-0003' | #46022"}), Leidas("a;b\n1-15-0003;31/12/2025\n"));
 }
 
 TEST(LectorCsv, UnaHoraConSusSegundosEsUnaHoraYSinEllosPuedeSerUnCodigo) {
@@ -291,6 +302,50 @@ TEST(LectorCsv, UnasComillasPerdidasNoSeTraganFilas) {
     EXPECT_EQ((Renglones{"X | Nota", "1.5 | 'roto;\nseco'"}), Leidas("X;Nota\n1,5;\"roto;\nseco\"\n"));
 }
 
+TEST(LectorCsv, UnasComillasEnMedioDeLaFilaNoJuntanDosFilas) {
+    const std::string tragadas = "tiene una celda entre comillas con otras filas dentro";
+    const std::string nombres = "Arbol;Especie;X;Y\n1;PINO;1,5;2,5\n";
+    // The sign for "the same as above".
+    EXPECT_TRUE(NoSeLee(fallo::archivoDanado, "el archivo está dañado (la fila 3 " + tragadas,
+                        nombres + "2;\";3,5;4,5\n3;\";5,5;6,5\n4;ROBLE;7,5;8,5\n"));
+    EXPECT_TRUE(NoSeLee(fallo::archivoDanado, "el archivo está dañado (la fila 3 " + tragadas,
+                        nombres + "2;\"PINO;3,5;4,5\r\n3;PINO\";5,5;6,5\r\n"));
+    for (const std::string arboles : {"1;1,5;2,5;a\"\n", "1;1,5;2,5;a\n2;2,5;3,5;b\"\n"}) {
+        EXPECT_TRUE(NoSeLee(fallo::archivoDanado, "el archivo está dañado (la fila 1 " + tragadas,
+                            "Arbol;X;Y;\"Nota\n" + arboles + "3;3,5;4,5;c\n"));
+    }
+    // Names and notes of several lines are none.
+    EXPECT_EQ((Renglones{"X\n(m) | Nota | Y", "1.5 | 'roto;\nseco, hendido' | 2.5", "1.5 | '\n;' | -"}),
+              Leidas("\"X\n(m)\";Nota;Y\n1,5;\"roto;\nseco, hendido\";2,5\n1,5;\"\n;\"\n"));
+}
+
+TEST(LectorCsv, UnasComillasQueSeCierranEnMedioDeUnaCeldaSeRechazan) {
+    const std::string motivo =
+        "cierra unas comillas en medio de una celda: ciérrelas donde acaba la celda, o "
+        "quítelas";
+    const std::string nombres =
+        "\"Arbol\",\"Especie\",\"X\",\"Y\",\"CAP\"\n\"1\",\"PINO\",\"1.5\",\"2.5\",\"30\"\n";
+    EXPECT_TRUE(NoSeLee(fallo::archivoDanado, "el archivo está dañado (la fila 3 " + motivo,
+                        nombres + "\"2\",\"PINO,\"3.5\",\"4.5\",\"31\"\n"));
+    EXPECT_TRUE(NoSeLee(fallo::archivoDanado, "el archivo está dañado (la fila 3 " + motivo,
+                        nombres + "2,PINO,\"3,5,\"4,5\",31\n"));
+    EXPECT_EQ((Renglones{"X | Nota", "1.5 | 'el alto de allí'"}),
+              Leidas("X;Nota\n1,5;\"el alto\" de allí\n"));
+}
+
+TEST(LectorCsv, ElSeparadorEsElQueDaMasNumerosEnCadaFila) {
+    EXPECT_EQ(
+        (Renglones{"Parcela | Arbol | Especie | Estado | X | DAP, cm",
+                   "'P1' | 'A1' | 'PINO' | 'vivo' | 12 | 30.1", "'P1' | 'A2' | 'PINO' | 'vivo' | 14 | 28"}),
+        Leidas("Parcela;Arbol;Especie;Estado;X;DAP, cm\nP1;A1;PINO;vivo;12;30,1\nP1;A2;PINO;vivo;14;28,0\n"));
+}
+
+TEST(LectorCsv, UnaCeldaQueNoMuestraNadaNoHaceLargaUnaFila) {
+    EXPECT_EQ((Renglones{"Arbol | X", "1 | 2.5"}), Leidas("Arbol;X\n1;2,5;\" \"\n"));
+    EXPECT_EQ((Renglones{"Arbol | X", "1 | 2.5"}), Leidas("Arbol;X\n1;2,5;\u00A0\n"));
+    EXPECT_EQ((Renglones{"Arbol | X", "1 | 2.5"}), Leidas("\" \";\" \"\nArbol;X\n1;2,5\n"));
+}
+
 TEST(LectorCsv, UnaCeldaMasQueNombresDiceQueHacer) {
     EXPECT_TRUE(NoSeLee(fallo::tablaNoAdmitida,
                         "las filas tienen una celda más que la de los nombres: si es la primera columna",
@@ -301,13 +356,24 @@ TEST(LectorCsv, SinNombresNoSePierdeElPrimerArbol) {
     const std::string motivo = "la primera fila lleva números: escriba encima los nombres de las columnas";
     EXPECT_TRUE(
         NoSeLee(fallo::tablaNoAdmitida, motivo, "1,431250.5,4567890.25,PINO\n2,431251.5,4567891.25,PINO\n"));
-    EXPECT_TRUE(NoSeLee(fallo::tablaNoAdmitida, motivo, "1;2;3\n4;5;6\n"));
+    for (const std::string filas :
+         {"1;2;3\n4;5;6\n", "1;2;3;\n4;5;6;\n", "1;PINO;107.766;95.633\n2;PINO;95.250;1.125\n",
+          "1;PINO;431250;4567890;31,4\n2;PINO;431251;4567891;30,2\n"}) {
+        EXPECT_TRUE(NoSeLee(fallo::tablaNoAdmitida, motivo, filas)) << filas;
+    }
+    // Names that are years or classes.
+    EXPECT_EQ((Renglones{"F1 | 0 | 1 | 2", "0 | 5 | 6 | 7"}), Leidas(",0,1,2\n0,5,6,7\n"));
+    EXPECT_EQ((Renglones{"Arbol | X | 12,5", "1 | 2.5 | 3"}), Leidas("Arbol;X;12,5\n1;2,5;3\n"));
 }
 
 TEST(LectorCsv, ElRellenoAlFinalNoEsDelTexto) {
     using namespace std::string_literals;
     for (const auto& relleno : {"\x1A"s, "\0\0\0"s, "\x1A\0\0"s}) {
         EXPECT_EQ((Renglones{"Arbol | X", "1 | 2.5"}), Leidas("Arbol;X\r\n1;2,5\r\n" + relleno));
+        for (const bool bajoPrimero : {true, false}) {
+            EXPECT_EQ((Renglones{"Arbol | X", "1 | 2.5"}),
+                      Leidas(EnUtf16("\uFEFFArbol;X\r\n1;2,5\r\n" + relleno, bajoPrimero)));
+        }
     }
 }
 
