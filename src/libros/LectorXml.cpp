@@ -18,8 +18,11 @@ using namespace std::string_view_literals;
 constexpr std::size_t masHondo = 200;
 constexpr std::size_t masPrefijos = 256;
 // The parser compares each attribute of an element with all the others before it tells them.
-constexpr int masAtributos = 1000;
-constexpr std::size_t masLargo = std::size_t{256} << 10U; // a tag with its attributes
+constexpr std::size_t masAtributos = 256;
+constexpr std::size_t largoSinDudas = std::size_t{64} << 10U;
+// And it finds names in lists that do not grow with them. A workbook has some hundreds.
+constexpr int masNombres = 20'000;
+constexpr std::size_t masLargo = std::size_t{1} << 20U; // a tag with its attributes
 
 struct Vocabulario {
     std::string_view uri;
@@ -61,6 +64,10 @@ std::string_view Texto(const xmlChar* texto, const xmlChar* fin) {
     return {reinterpret_cast<const char*>(texto), static_cast<std::size_t>(fin - texto)};
 }
 
+/// Where the parser would write on the terminal what it does not tell its own: bytes that are no letters.
+void Callar(void* /*nadie*/, const char* /*formato*/, ...) {
+} // NOLINT(cert-dcl50-cpp): as the parser calls it
+
 /// What the addresses of vocabularies stand for. The parser gives equal texts the same pointer.
 class EspaciosVistos {
 public:
@@ -91,13 +98,14 @@ public:
         : parte_{parte}, oyente_{oyente}, tipo_{tipo} {
         static std::once_flag preparado;
         std::call_once(preparado, xmlInitParser); // which is not safe with several threads
+        xmlSetGenericErrorFunc(nullptr, Callar);  // of this thread
         xmlSAXHandler avisos{};
         avisos.initialized = XML_SAX2_MAGIC;
         avisos.startElementNs = alAbrir;
         avisos.endElementNs = alCerrar;
         avisos.characters = alEscribir;
         avisos.ignorableWhitespace = alEscribir;
-        avisos.cdataBlock = alEscribir;
+        avisos.cdataBlock = alEscribirComoEsta;
         avisos.internalSubset = alDeclarar;
         avisos.serror = alFallar;
         parser_.reset(xmlCreatePushParserCtxt(&avisos, this, nullptr, 0, nullptr));
@@ -113,11 +121,20 @@ public:
         if (fallo_) {
             std::rethrow_exception(fallo_);
         }
-        if (parser_->wellFormed == 0) {
+        // Bytes that are no letters stop the parser, and it does not say that they are a fault.
+        if (parser_->wellFormed == 0 || parser_->disableSAX != 0) {
             danada("no está bien escrita");
         }
-        if (Texto(parser_->input->cur, parser_->input->end).size() > masLargo) {
+        if (xmlDictSize(parser_->dict) > masNombres) {
+            danada("usa demasiados nombres distintos");
+        }
+        const auto porMirar = Texto(parser_->input->cur, parser_->input->end);
+        if (porMirar.size() > masLargo) {
             danada("tiene un elemento demasiado largo");
+        }
+        if (porMirar.size() > largoSinDudas &&
+            static_cast<std::size_t>(std::ranges::count(porMirar, '=')) > 16 * masAtributos) {
+            danada("tiene un elemento con demasiados atributos");
         }
     }
 
@@ -146,8 +163,9 @@ private:
                         int declarados, const xmlChar** /*prefijos*/, int cuantos, int /*supuestos*/,
                         const xmlChar** atributos) {
         guardando(yo, [&](AnalisisXml& analisis) {
+            analisis.trasRetorno_ = false;
             analisis.entrar(static_cast<std::size_t>(declarados));
-            if (cuantos > masAtributos) {
+            if (static_cast<std::size_t>(cuantos) > masAtributos) {
                 analisis.danada("tiene un elemento con demasiados atributos");
             }
             analisis.atributos_.clear();
@@ -161,12 +179,26 @@ private:
     static void alCerrar(void* yo, const xmlChar* /*nombre*/, const xmlChar* /*prefijo*/,
                          const xmlChar* /*uri*/) {
         guardando(yo, [](AnalisisXml& analisis) {
+            analisis.trasRetorno_ = false;
             analisis.declarados_.pop_back();
             analisis.oyente_.cerrar();
         });
     }
     static void alEscribir(void* yo, const xmlChar* texto, int cuantos) {
         guardando(yo, [&](AnalisisXml& analisis) { analisis.oyente_.texto(Texto(texto, texto + cuantos)); });
+    }
+    /// What stands between <![CDATA[ and ]]>. Its ends of lines come as they are written.
+    static void alEscribirComoEsta(void* yo, const xmlChar* texto, int cuantos) {
+        guardando(yo, [&](AnalisisXml& analisis) {
+            std::string igualado;
+            for (const char c : Texto(texto, texto + cuantos)) {
+                if (c != '\n' || !analisis.trasRetorno_) {
+                    igualado += c == '\r' ? '\n' : c;
+                }
+                analisis.trasRetorno_ = c == '\r';
+            }
+            analisis.oyente_.texto(igualado);
+        });
     }
     static void alDeclarar(void* yo, const xmlChar* /*nombre*/, const xmlChar* /*publico*/,
                            const xmlChar* /*sistema*/) {
@@ -220,6 +252,7 @@ private:
     EspaciosVistos espacios_;
     std::vector<AtributoXml> atributos_;  // of the element that opens
     std::vector<std::size_t> declarados_; // prefixes, by depth: there and above
+    bool trasRetorno_ = false;            // the last character was one
     std::exception_ptr fallo_;
 };
 

@@ -106,6 +106,18 @@ TEST(LectorXml, LasReferenciasSonLetras) {
 TEST(LectorXml, LosBlancosSeOyen) {
     EXPECT_EQ("[a] \n [b] [/]\n[/]", Oido("<a> \r\n <b> </b>\r</a>"));
     EXPECT_EQ("[a b=1  2][/]", Oido("<a b='1\n\t2'/>"));
+    EXPECT_EQ("[a]1\n2\n\n3\n4\n\n[/]", Oido("<a><![CDATA[1\r\n2\r\r\n3\n4\r]]>\n</a>"));
+    // They come in pieces, and one is cut between the two.
+    for (const std::string delante : {"", "x"}) {
+        std::string escrito;
+        std::string esperado;
+        for (int i = 0; i < 100'000; ++i) {
+            escrito += "\r\n";
+            esperado += '\n';
+        }
+        EXPECT_TRUE("[a]" + delante + esperado + "[/]" ==
+                    Oido("<a><![CDATA[" + delante + escrito + "]]></a>"));
+    }
 }
 
 TEST(LectorXml, LoQueNoSonElementosNiTextosNoSeOye) {
@@ -147,6 +159,34 @@ TEST(LectorXml, LoQueNoEstaBienEscritoDiceDonde) {
           "<a b='<'/>", "<a>&#0;</a>", "<a>\x01</a>", "<a>]]></a>", "<a><!-- -- --></a>", "<1/>",
           "<a>&amp</a>", "<![CDATA[x]]>", "<a><![CDATA[x</a>"}) {
         EXPECT_TRUE(EstaMalEscrita(mal));
+    }
+}
+
+TEST(LectorXml, LosBytesQueNoSonLetrasNoAcabanLaLecturaEnSilencio) {
+    const std::string letras = "<b>0123456789</b>";
+    std::string muchas;
+    for (int i = 0; i < 30'000; ++i) {
+        muchas += letras;
+    }
+    struct Rota {
+        std::string tabla;
+        std::string bytes;
+    };
+    for (const auto& [tabla, bytes] :
+         {Rota{"windows-1252", "\x81"}, Rota{"GBK", "\x81 "}, Rota{"UTF-8", "\xF1"}, Rota{"us-ascii", "\xF1"},
+          Rota{"Shift_JIS", "\x82 "}}) {
+        const auto cabecera = "<?xml version='1.0' encoding='" + tabla + "'?><a>";
+        for (const auto& mal : {bytes + letras, letras + bytes, bytes + muchas, muchas + bytes,
+                                muchas + bytes + muchas, "<!--" + bytes + "-->" + muchas}) {
+            EXPECT_TRUE(EstaMalEscrita(cabecera + mal + "</a>")) << tabla << ' ' << mal.size();
+        }
+        EXPECT_NO_THROW(Oido(cabecera + muchas + "</a>")) << tabla;
+    }
+    // Half of a letter of two units.
+    for (const auto& despues : {letras, muchas}) {
+        auto utf16 = EnUtf16("<?xml version='1.0' encoding='UTF-16'?><a>" + muchas + "?" + despues + "</a>");
+        utf16.replace(utf16.find('?', 100), 2, std::string{"\x00\xD8", 2});
+        EXPECT_TRUE(EstaMalEscrita(utf16));
     }
 }
 

@@ -291,11 +291,34 @@ TEST(LibrosHostiles, LosAtributosSinFinSeRechazan) {
         libro.hojas = {{"H", fila + R"(><c t="str"><v>X</v></c></row>)"}};
         return EscribirXlsx(libro);
     };
-    EXPECT_EQ((LineasDeTablas{"[H$]", "X"}), LineasDelLibro(conAtributos(1'000)));
-    EXPECT_TRUE(TieneDefecto(conAtributos(1'001), "H$", fallo::archivoDanado,
+    EXPECT_EQ((LineasDeTablas{"[H$]", "X"}), LineasDelLibro(conAtributos(256)));
+    EXPECT_TRUE(TieneDefecto(conAtributos(257), "H$", fallo::archivoDanado,
                              "tiene un elemento con demasiados atributos, línea 1"));
-    EXPECT_TRUE(TieneDefecto(conAtributos(20'000), "H$", fallo::archivoDanado,
-                             "tiene un elemento con demasiados atributos, línea 1"));
+    for (const auto cuantos :
+         {std::size_t{20'000}, std::size_t{100'000}}) { // compared with each other they would take minutes
+        EXPECT_TRUE(TieneDefecto(conAtributos(cuantos), "H$", fallo::archivoDanado,
+                                 "tiene un elemento con demasiados atributos, línea 1"));
+    }
+}
+
+TEST(LibrosHostiles, LosNombresSinFinSeRechazan) {
+    std::string distintos;
+    for (std::size_t i = 0; i < 500'000; ++i) {
+        distintos += "<a" + std::to_string(i) + "/>";
+    }
+    LibroXlsxDePrueba libro;
+    libro.hojas = {{"H", distintos}};
+    EXPECT_TRUE(TieneDefecto(EscribirXlsx(libro), "H$", fallo::archivoDanado,
+                             "usa demasiados nombres distintos, línea 1"));
+}
+
+TEST(LibrosHostiles, UnAtributoLargoSeLee) {
+    // So a conditional format looks over thousands of cells that do not touch.
+    const auto celda =
+        R"(<table:table-row><table:table-cell office:value-type="float" office:value="1" office:zonas=")" +
+        Repetida("Hoja1.A1 ", 80'000) + R"("/></table:table-row>)";
+    EXPECT_EQ((LineasDeTablas{"[H$]", "1"}),
+              LineasDelLibro(EscribirOds("<table:table table:name=\"H\">" + celda + "</table:table>")));
 }
 
 TEST(LibrosHostiles, UnElementoSinFinSeRechaza) {

@@ -98,7 +98,8 @@ std::string DeParesDeBytes(Bytes bytes, std::endian orden) {
 }
 
 [[noreturn]] void LetraQueNoEsDeTexto(std::string_view texto, std::size_t lugar) {
-    const auto lineas = std::ranges::count(texto.substr(0, lugar), '\n');
+    const auto fines = [antes = texto.substr(0, lugar)](char fin) { return std::ranges::count(antes, fin); };
+    const auto lineas = std::max(fines('\n'), fines('\r')); // CR LF, LF or CR
     ArchivoDanado("la línea " + std::to_string(lineas + 1) +
                   " tiene un carácter que no es de un texto, el de código " +
                   std::to_string(static_cast<unsigned char>(texto[lugar])) +

@@ -166,6 +166,16 @@ bool EsError(std::string_view celda) {
     return celda.starts_with('#') && std::ranges::find(errores, celda) != errores.end();
 }
 
+/// ="007", a formula that keeps a code from becoming a number: what it shows.
+std::optional<std::string_view> TextoDeFormula(std::string_view celda) {
+    constexpr std::string_view abre = "=\"";
+    if (celda.size() <= abre.size() || !celda.starts_with(abre) || !celda.ends_with('"')) {
+        return std::nullopt;
+    }
+    celda = celda.substr(abre.size(), celda.size() - abre.size() - 1);
+    return celda.find('"') == std::string_view::npos ? std::optional{celda} : std::nullopt;
+}
+
 bool EmpiezaConCifra(std::string_view celda) {
     return celda[0] >= '0' && celda[0] <= '9';
 }
@@ -201,6 +211,9 @@ ValorDeCelda LeerValorCsv(std::string_view escrita, char marcaDecimal, bool diaA
     }
     if (const auto verdad = LeerVerdad(celda)) {
         return {Clase::Verdad, *verdad ? 1.0 : 0.0};
+    }
+    if (const auto deFormula = TextoDeFormula(celda)) {
+        return ValorDeCelda{*deFormula};
     }
     return ValorDeCelda{escrita}; // with its blanks: two codes may differ in nothing else
 }

@@ -92,6 +92,8 @@ TEST(LectorCsv, LasLetrasRotasDicenSuLinea) {
                         "el archivo está dañado (la línea 3 tiene un carácter que no es de un texto, el de "
                         "código 241",
                         "Año,Árbol\n1,ñandú\n1,\xF1\n"));
+    EXPECT_TRUE(NoSeLee(fallo::archivoDanado, "el archivo está dañado (la línea 902 tiene un carácter",
+                        "a;b\r" + Reemplazar(std::string(900, 'x'), "x", "1;1234,5\r") + "1;\x01\r"));
     const auto larga = "a,b\n" + std::string(5000, '1') + ",2\n1,\x01\n";
     EXPECT_TRUE(NoSeLee(fallo::archivoDanado,
                         "el archivo está dañado (la línea 3 tiene un carácter que no es de un texto, el de "
@@ -191,8 +193,14 @@ TEST(LectorCsv, UnNumeroConUnCeroDelanteEsUnCodigo) {
               Leidas("a;b\n007;00,5\n0;-07\n00;0,00\n"));
 }
 
+TEST(LectorCsv, UnaFormulaQueGuardaUnCodigoEsElCodigo) {
+    EXPECT_EQ((Renglones{"a | b | c", "'007' | '1.10' | '=\"a'", "'' | '=1+1' | '=\"a\"&\"b\"'"}),
+              Leidas("a;b;c\n=\"007\";\"=\"\"1.10\"\"\";=\"a\n=\"\";=1+1;=\"a\"&\"b\"\n"));
+}
+
 TEST(LectorCsv, UnaPrimeraLineaPuedeDecirElSeparador) {
-    for (const std::string linea : {"sep=,\n", "SEP=,\r\n", "\"sep=,\"\r\n", "\xEF\xBB\xBFsep=,\r"}) {
+    for (const std::string linea :
+         {"sep=,\n", "SEP=,\r\n", "sep=, \n", "sep=,,,\n", "\"sep=,\"\r\n", "\xEF\xBB\xBFsep=,\r"}) {
         const auto leida = Leida(linea + "a;1,b\n1.5,x\n");
         EXPECT_EQ((Renglones{"[parcela$]", "a;1 | b", "1.5 | 'x'"}), prueba::Lineas(leida)) << linea;
         EXPECT_EQ(2, leida.numeroDeFila(0)); // no spreadsheet shows that line
