@@ -77,12 +77,12 @@ TEST(LimitesDeLectura, CrecenConLoQueVaApareciendo) {
 }
 
 TEST(LimitesDeLectura, LoQueEsMasQueCualquierParcelaNoLosHaceCrecer) {
-    constexpr std::size_t megabyte = 1024 * 1024;
+    constexpr std::size_t megabyte = std::size_t{1} << 20U;
     LimitesDeLectura limites{100 * megabyte};
     limites.crecer(92 * megabyte);
     limites.crecer(1);
     limites.crecer(1000 * megabyte);
-    limites.contarTexto(40'000'000 + 5 * 192 * megabyte);
+    limites.contarTexto(40'000'000 + std::size_t{5} * 192 * megabyte);
     EXPECT_TRUE(FallaCon(fallo::archivoDanado, "sus textos ocupan demasiado para su tamaño",
                          [&] { limites.contarTexto(1); }));
 }
