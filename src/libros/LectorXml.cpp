@@ -65,8 +65,7 @@ std::string_view Texto(const xmlChar* texto, const xmlChar* fin) {
 }
 
 /// Where the parser would write on the terminal what it does not tell its own: bytes that are no letters.
-void Callar(void* /*nadie*/, const char* /*formato*/, ...) {
-} // NOLINT(cert-dcl50-cpp): as the parser calls it
+void Callar(void* /*nadie*/, const char* /*formato*/, ...) {}
 
 /// What the addresses of vocabularies stand for. The parser gives equal texts the same pointer.
 class EspaciosVistos {
