@@ -19,7 +19,9 @@ constexpr std::size_t masHondo = 200;
 constexpr std::size_t masPrefijos = 256;
 // The parser compares each attribute of an element with all the others before it tells them.
 constexpr std::size_t masAtributos = 256;
+// Of a tag that is longer than this the signs of its attributes are counted before all of it has come.
 constexpr std::size_t largoSinDudas = std::size_t{64} << 10U;
+constexpr std::size_t masSignos = 4096; // values may have some too
 // And it finds names in lists that do not grow with them. A workbook has some hundreds.
 constexpr int masNombres = 20'000;
 constexpr std::size_t masLargo = std::size_t{1} << 20U; // a tag with its attributes
@@ -132,7 +134,7 @@ public:
             danada("tiene un elemento demasiado largo");
         }
         if (porMirar.size() > largoSinDudas &&
-            static_cast<std::size_t>(std::ranges::count(porMirar, '=')) > 16 * masAtributos) {
+            static_cast<std::size_t>(std::ranges::count(porMirar, '=')) > masSignos) {
             danada("tiene un elemento con demasiados atributos");
         }
     }
@@ -184,7 +186,10 @@ private:
         });
     }
     static void alEscribir(void* yo, const xmlChar* texto, int cuantos) {
-        guardando(yo, [&](AnalisisXml& analisis) { analisis.oyente_.texto(Texto(texto, texto + cuantos)); });
+        guardando(yo, [&](AnalisisXml& analisis) {
+            analisis.trasRetorno_ = false;
+            analisis.oyente_.texto(Texto(texto, texto + cuantos));
+        });
     }
     /// What stands between <![CDATA[ and ]]>. Its ends of lines come as they are written.
     static void alEscribirComoEsta(void* yo, const xmlChar* texto, int cuantos) {

@@ -107,6 +107,7 @@ TEST(LectorXml, LosBlancosSeOyen) {
     EXPECT_EQ("[a] \n [b] [/]\n[/]", Oido("<a> \r\n <b> </b>\r</a>"));
     EXPECT_EQ("[a b=1  2][/]", Oido("<a b='1\n\t2'/>"));
     EXPECT_EQ("[a]1\n2\n\n3\n4\n\n[/]", Oido("<a><![CDATA[1\r\n2\r\r\n3\n4\r]]>\n</a>"));
+    EXPECT_EQ("[a]\nx\n[/]", Oido("<a><![CDATA[\r]]>x<![CDATA[\n]]></a>"));
     // They come in pieces, and one is cut between the two.
     for (const std::string delante : {"", "x"}) {
         std::string escrito;
